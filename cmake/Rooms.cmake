@@ -1,0 +1,24 @@
+# SPDX-FileCopyrightText: 2026 The Kalvenor authors
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# kalvenor_room(NAME SOURCES a.cpp … [LINK kalvenor_x Qt6::Core …])
+# One folder, one static library kalvenor_NAME. Includes are written from src/: "platform/basic/text.h".
+function(kalvenor_room NAME)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  add_library(kalvenor_${NAME} STATIC ${ARG_SOURCES})
+  target_include_directories(kalvenor_${NAME} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(kalvenor_${NAME} PUBLIC ${ARG_LINK} PRIVATE kalvenor_options)
+endfunction()
+
+# kalvenor_test(NAME LABEL unit|gui|arch|oracle SOURCES a_test.cpp … LINK kalvenor_x …)
+# One executable of GoogleTest cases; every case becomes a ctest entry.
+function(kalvenor_test NAME)
+  cmake_parse_arguments(ARG "" "LABEL" "SOURCES;LINK" ${ARGN})
+  add_executable(${NAME} ${ARG_SOURCES})
+  target_include_directories(${NAME} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_compile_definitions(${NAME} PRIVATE
+    KALVENOR_SOURCE_DIR="${PROJECT_SOURCE_DIR}" KALVENOR_BINARY_DIR="${PROJECT_BINARY_DIR}")
+  target_link_libraries(${NAME} PRIVATE ${ARG_LINK} GTest::gtest GTest::gtest_main kalvenor_options)
+  gtest_discover_tests(${NAME} DISCOVERY_TIMEOUT 60
+    PROPERTIES LABELS ${ARG_LABEL} TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+endfunction()

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+#include <QStringView>
+
+// The single-byte code pages of Windows, 1250 to 1258. Tables from the Unicode Consortium's mappings
+// (unicode.org/Public/MAPPINGS/VENDORS/MICSFT/WINDOWS); a byte they leave undefined maps to the same code point.
+namespace kalvenor {
+
+bool isKnownCodePage(int codePage);
+/// An unknown code page is read as 1252.
+QString decodeCodePage(QByteArrayView bytes, int codePage);
+/// Characters the code page lacks become "?".
+QByteArray encodeCodePage(QStringView text, int codePage);
+
+inline QString decodeAnsi(QByteArrayView bytes) { return decodeCodePage(bytes, 1252); }
+inline QByteArray encodeAnsi(QStringView text) { return encodeCodePage(text, 1252); }
+
+} // namespace kalvenor

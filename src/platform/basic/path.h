@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringView>
+
+// Paths are held in Windows notation and become native when a file is touched.
+namespace kalvenor {
+
+/// Drive letter (upper case) to native folder, e.g. 'C' → "/media/windows".
+using DriveMap = QMap<QChar, QString>;
+
+/// The native path of a Windows path text. Backslashes become slashes; a text beginning with one backslash and no
+/// drive letter is a native absolute path; "X:\…" starts at the mapped folder (unmapped: on Windows as it stands,
+/// elsewhere below no folder, so that it is never found). Each component is taken exactly where it exists, else
+/// without regard to case; a component that does not exist stays as written, so new files get the wished name.
+QString nativePath(const QString &windowsPath, const DriveMap &drives = {});
+
+/// The Windows notation of a native path (slashes become backslashes; a mapped folder becomes its drive).
+QString windowsPath(const QString &nativePath, const DriveMap &drives = {});
+
+/// Dir(path): the file's own name where a normal (not hidden) file is there, else "". Wildcards * and ? in the last
+/// component give the first match by name; case is ignored; folders are left out.
+QString directoryListing(const QString &windowsPath, const DriveMap &drives = {});
+
+} // namespace kalvenor

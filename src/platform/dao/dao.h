@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+#include "platform/basic/progress.h"
+#include "platform/dao/recordset.h"
+#include <QString>
+
+// The database objects the program works with: an engine with workspaces, a workspace with databases, a database with
+// recordsets. Whoever holds an object keeps it alive; once closed, every use throws Error(ObjectClosed).
+namespace kalvenor::dao {
+
+/// What an UPDATE did.
+struct Execution {
+    qint64 matched = 0;                ///< rows the statement selected
+    std::vector<qint32> changedKeys{}; ///< `Counter` of the rows whose mark really changed, in file order
+};
+
+class Database : public std::enable_shared_from_this<Database> {
+public:
+    struct Private;
+    explicit Database(std::unique_ptr<Private> priv);
+    ~Database();
+
+    const QString &file() const;
+    bool isOpen() const;
+    /// User tables by name, in catalogue order.
+    QStringList tableNames();
+    /// A table-type recordset, on the first row. The name counts without case, trailing blanks count.
+    /// Throws TableNotFound, Damaged.
+    std::shared_ptr<Recordset> openTable(const QString &name);
+    /// A query recordset (a keyset: row numbers, no values copied), on the first row. The SQL text is executed as it
+    /// stands, one SELECT only. Throws InvalidSql, InvalidPattern, Refused, Cancelled.
+    std::shared_ptr<Recordset> openQuery(const QString &sql, const Progress &progress = {});
+    /// Executes one UPDATE that sets `Markierung`. Throws as openQuery, and as jet::MarkWriter::write.
+    Execution execute(const QString &sql, const Progress &progress = {});
+
+    /// Reads the file anew where another program changed it. True where it did. Open recordsets keep their state.
+    bool refresh();
+    /// Counts up with each reload; a model compares it to know that its rows are old.
+    quint64 generation() const;
+    /// What damage was passed over so far, a line each.
+    QStringList warnings() const;
+
+    const std::vector<std::shared_ptr<Recordset>> &recordsets() const;
+    /// Closes its recordsets, last first, and itself.
+    void close();
+
+private:
+    friend class Recordset;
+    std::unique_ptr<Private> d;
+};
+
+class Workspace {
+public:
+    /// Opens a file (native path), shared. Throws FileNotFound, FileUnreadable, NotADatabase, Damaged.
+    std::shared_ptr<Database> openDatabase(const QString &file);
+    const std::vector<std::shared_ptr<Database>> &databases() const { return m_databases; }
+    /// Closes its databases, last first.
+    void close();
+
+private:
+    friend class Database;
+    std::vector<std::shared_ptr<Database>> m_databases;
+};
+
+class Engine {
+public:
+    Engine();
+    /// Workspace 0, the default one, always exists.
+    Workspace &workspace(int index);
+    int workspaceCount() const { return static_cast<int>(m_workspaces.size()); }
+    int createWorkspace();
+    /// Closes the workspace and, unless it is workspace 0, drops it.
+    void closeWorkspace(int index);
+
+private:
+    std::vector<std::unique_ptr<Workspace>> m_workspaces;
+};
+
+} // namespace kalvenor::dao

@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <QString>
+#include <QVariant>
+
+namespace kalvenor::dao {
+
+class Database;
+
+/// A cursor over the rows of a table or of a query's result.
+class Recordset {
+public:
+    struct Private;
+    explicit Recordset(std::unique_ptr<Private> priv);
+    ~Recordset();
+
+    bool isOpen() const;
+    void close();
+
+    // Moving. Rows count from 0.
+    qint64 recordCount() const;
+    bool eof() const;
+    void moveFirst();
+    void moveNext();
+    void moveTo(qint64 position);
+    qint64 position() const;
+
+    // Table type only.
+    /// Throws IndexNotFound; the name counts without case.
+    void setIndex(const QString &name);
+    /// Seek with the comparison "=" on a one-column unique or plain index over a Long column. noMatch() says whether
+    /// nothing was found; the current row is then none.
+    void seekEqual(qint32 key);
+    bool noMatch() const;
+    /// Edit, set, Update of one field: only `Markierung` can be set. Update writes at once to the file.
+    /// Throws NoCurrentRow, Refused, and as jet::MarkWriter::write.
+    void edit();
+    void setValue(const QString &field, bool value);
+    /// True where the mark really changed.
+    bool update();
+
+    // Fields. The name counts without case. Throws ColumnNotFound.
+    QStringList fieldNames() const;
+    int fieldIndex(const QString &name) const;
+    // Values of the current row; null gives nothing. Throws NoCurrentRow.
+    QVariant value(int field) const;
+    QVariant value(const QString &name) const { return value(fieldIndex(name)); }
+    std::optional<double> number(int field) const;
+    std::optional<qint32> integer(int field) const;
+    bool boolean(int field) const;
+    /// Null gives the empty text.
+    QString text(int field) const;
+
+private:
+    friend class Database;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace kalvenor::dao

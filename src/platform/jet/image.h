@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+#include <span>
+#include <vector>
+#include "platform/jet/format.h"
+#include <QByteArray>
+#include <QString>
+
+namespace kalvenor::jet {
+
+/// What tells whether a file was changed by another program: size, time and the 512 commit-counter bytes.
+struct Stamp {
+    qint64 size = -1;
+    qint64 modifiedNs = 0;
+    QByteArray counters;
+    bool operator==(const Stamp &) const = default;
+};
+
+/// A whole database file in memory, its pages decoded. Every access is checked; the bytes never change but for mark
+/// bits that were written to the file as well.
+class Image {
+public:
+    /// Reads the file (native path) and reads it again, a few times, while its stamp moves.
+    /// Throws Error: FileNotFound, FileUnreadable, NotADatabase, Damaged, ChangedElsewhere.
+    static std::shared_ptr<Image> load(const QString &file);
+    /// The stamp the file has now; throws FileNotFound or FileUnreadable.
+    static Stamp stampOf(const QString &file);
+
+    const QString &file() const { return m_file; }
+    Version version() const { return m_version; }
+    std::uint32_t pageSize() const { return m_pageSize; }
+    std::uint32_t pageCount() const { return m_pageCount; }
+    int codePage() const { return m_codePage; }
+    /// The decoded page, or an empty span for a page the file does not have.
+    std::span<const std::uint8_t> page(std::uint32_t number) const;
+
+    const Stamp &stamp() const { return m_stamp; }
+    void setStamp(const Stamp &stamp) { m_stamp = stamp; }
+    std::uint32_t encodingKey() const { return m_encodingKey; }
+    /// Takes over one byte that was written to the file. The plain byte, and its place in the file.
+    void patch(std::size_t offset, std::uint8_t plain) { m_bytes[offset] = plain; }
+
+private:
+    QString m_file;
+    Version m_version = Version::Jet4;
+    std::uint32_t m_pageSize = 4096;
+    std::uint32_t m_pageCount = 0;
+    int m_codePage = 1252;
+    std::uint32_t m_encodingKey = 0; ///< 0: plain pages
+    Stamp m_stamp;
+    std::vector<std::uint8_t> m_bytes;
+};
+
+} // namespace kalvenor::jet

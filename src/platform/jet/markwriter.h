@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+#include <span>
+#include <vector>
+#include "platform/basic/progress.h"
+#include "platform/jet/database.h"
+
+namespace kalvenor::jet {
+
+struct Mark {
+    std::uint32_t row = 0; ///< row of the table
+    bool on = false;
+};
+
+/// Sets values of one Yes/No column, each by the change of one bit in one byte of the file. Nothing else of the file
+/// is ever written, and nothing at all before every guard has passed for the page at hand.
+class MarkWriter {
+public:
+    /// Checks what can be checked without a row: the column is Yes/No, not calculated, under no index, and the key
+    /// column is Long. Throws ColumnNotFound or NotMarkable.
+    MarkWriter(std::shared_ptr<Database> database, std::shared_ptr<const Table> table, int markColumn, int keyColumn);
+
+    /// Writes the marks in file order, one sync at the end, and returns the rows whose bit changed. Before the first
+    /// write all rows are checked against the state in memory (NotMarkable: key not unique, row older than the column);
+    /// each page is read again from the file and compared before its first byte is written. Throws ReadOnly,
+    /// NotMarkable, ChangedElsewhere, WriteFailed, Cancelled; the text says how many rows were changed before.
+    /// The image takes over every bit written, and the file's new stamp.
+    std::vector<std::uint32_t> write(std::span<const Mark> marks, const Progress &progress = {});
+
+private:
+    std::shared_ptr<Database> m_database;
+    std::shared_ptr<const Table> m_table;
+    int m_markColumn;
+    int m_keyColumn;
+};
+
+} // namespace kalvenor::jet

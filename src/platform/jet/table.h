@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <vector>
+#include "platform/jet/format.h"
+#include "platform/jet/image.h"
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+namespace kalvenor::jet {
+
+/// Where a record lies. The first place is the row's identity, the record is where an overflow pointer leads.
+struct RowPlace {
+    std::uint32_t firstPage = 0;
+    std::uint32_t recordPage = 0;
+    std::uint16_t recordStart = 0; ///< in the record's page
+    std::uint16_t recordLength = 0;
+    std::uint8_t firstSlot = 0;
+    std::uint8_t recordSlot = 0;
+};
+
+/// A read-only column view over the image; no row is copied. Rows count from 0 in page order, columns from 0 in the
+/// order of their numbers. Values that the damage of a file makes unreadable are null and noted in warnings().
+class Table {
+public:
+    /// Reads the definition at `definitionPage` and locates all rows. Throws Error(Damaged).
+    static std::shared_ptr<const Table> read(std::shared_ptr<const Image> image, const QString &name,
+                                             std::uint32_t definitionPage);
+
+    const QString &name() const { return m_name; }
+    const Image &image() const { return *m_image; }
+    std::uint32_t definitionPage() const { return m_definitionPage; }
+    const std::vector<Column> &columns() const { return m_columns; }
+    const std::vector<Index> &indexes() const { return m_indexes; }
+    /// Numbers of the columns that any physical index holds, also where no logical index names it.
+    bool isIndexed(std::uint16_t columnNumber) const;
+    /// Without regard to case; -1 where there is none.
+    int columnOf(QStringView name) const;
+
+    std::uint32_t rowCount() const { return static_cast<std::uint32_t>(m_rows.size()); }
+    const RowPlace &place(std::uint32_t row) const { return m_rows[row]; }
+    std::span<const std::uint8_t> record(std::uint32_t row) const;
+
+    // Values. A column of another type than asked for gives nothing.
+    bool isNull(std::uint32_t row, int column) const;
+    bool boolean(std::uint32_t row, int column) const;
+    /// Byte, Integer, Long.
+    std::optional<std::int32_t> integer(std::uint32_t row, int column) const;
+    /// All number types and DateTime (its serial).
+    std::optional<double> number(std::uint32_t row, int column) const;
+    /// Text and Memo. The view is valid until the buffer's next use; a null value has isNull().
+    QStringView text(std::uint32_t row, int column, QString &buffer) const;
+    QString text(std::uint32_t row, int column) const;
+    /// Binary, Ole.
+    QByteArray bytes(std::uint32_t row, int column) const;
+    /// Any type: bool, int, double, QString, QByteArray, QUuid; Money and Numeric as exact decimal text; invalid = null.
+    QVariant value(std::uint32_t row, int column) const;
+
+    /// What was skipped while rows were located, one line each naming the page (at most some dozens are kept).
+    const QStringList &warnings() const { return m_warnings; }
+
+private:
+    friend class TableReader;
+    std::shared_ptr<const Image> m_image;
+    QString m_name;
+    std::uint32_t m_definitionPage = 0;
+    std::vector<Column> m_columns;
+    std::vector<Index> m_indexes;
+    std::vector<std::uint16_t> m_indexedColumns;
+    std::vector<RowPlace> m_rows;
+    QStringList m_warnings;
+};
+
+} // namespace kalvenor::jet
