@@ -13,7 +13,7 @@ Error::Error(ErrorKind kind, QString place, QString text)
 
 QString Error::message() const
 {
-    return m_place.isEmpty() ? m_text : m_place + u": " + m_text;
+    return m_place.isEmpty() ? m_text : m_place + QStringLiteral(": ") + m_text;
 }
 
 int Error::number() const
