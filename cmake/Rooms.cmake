@@ -11,7 +11,11 @@ function(kalvenor_room NAME)
 endfunction()
 
 # kalvenor_test(NAME LABEL unit|gui|arch|oracle SOURCES a_test.cpp … LINK kalvenor_x …)
-# One executable of GoogleTest cases; every case becomes a ctest entry.
+# One executable of GoogleTest cases; every case becomes a ctest entry. The cost makes ctest begin with the units.
+set(kalvenor_cost_unit 4)
+set(kalvenor_cost_arch 3)
+set(kalvenor_cost_gui 2)
+set(kalvenor_cost_oracle 1)
 function(kalvenor_test NAME)
   cmake_parse_arguments(ARG "" "LABEL" "SOURCES;LINK" ${ARGN})
   add_executable(${NAME} ${ARG_SOURCES})
@@ -20,5 +24,5 @@ function(kalvenor_test NAME)
     KALVENOR_SOURCE_DIR="${PROJECT_SOURCE_DIR}" KALVENOR_BINARY_DIR="${PROJECT_BINARY_DIR}")
   target_link_libraries(${NAME} PRIVATE ${ARG_LINK} GTest::gtest GTest::gtest_main kalvenor_options)
   gtest_discover_tests(${NAME} DISCOVERY_TIMEOUT 60
-    PROPERTIES LABELS ${ARG_LABEL} TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+    PROPERTIES LABELS ${ARG_LABEL} COST ${kalvenor_cost_${ARG_LABEL}} TIMEOUT 300 ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
 endfunction()
