@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/basic/path.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QStringList>
+
+namespace kalvenor {
+
+namespace {
+
+#ifdef Q_OS_WIN
+constexpr bool OnWindows = true;
+#else
+constexpr bool OnWindows = false;
+#endif
+
+// Nothing lies below a device, so a path from here is never found and never made.
+QString nowhere()
+{
+    return QStringLiteral("/dev/null/");
+}
+
+QString withEndSlash(const QString &folder)
+{
+    return folder.isEmpty() || folder.endsWith(u'/') ? folder : folder + u'/';
+}
+
+bool hasDrive(QStringView path)
+{
+    return path.size() >= 2 && path[1] == u':' && path[0].unicode() < 128 && path[0].isLetter();
+}
+
+bool exists(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.exists() || info.isSymLink();
+}
+
+// The entry of `folder` (with end slash, "" = current) that is `name` but for case, else "".
+QString findIgnoringCase(const QString &folder, const QString &name, bool mustBeFolder)
+{
+    QDir::Filters filters = QDir::AllDirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
+    if (!mustBeFolder)
+        filters |= QDir::Files;
+    const QStringList entries = QDir(folder.isEmpty() ? QStringLiteral(".") : folder).entryList(filters, QDir::Name);
+    for (const QString &entry : entries) {
+        if (entry.compare(name, Qt::CaseInsensitive) == 0)
+            return entry;
+    }
+    return {};
+}
+
+QString resolveCase(const QString &start, const QString &rest)
+{
+    if (OnWindows || exists(start + rest))
+        return start + rest;
+    const QStringList parts = rest.split(u'/', Qt::SkipEmptyParts);
+    QString found = start;
+    for (qsizetype i = 0; i < parts.size(); ++i) {
+        const bool last = i + 1 == parts.size();
+        QString part = parts[i];
+        if (!exists(found + part)) {
+            const QString other = findIgnoringCase(found, part, !last);
+            if (!other.isEmpty())
+                part = other;
+        }
+        found += last ? part : part + u'/';
+    }
+    return rest.endsWith(u'/') ? withEndSlash(found) : found;
+}
+
+// * and ? as the command line of Windows knows them.
+bool matches(QStringView name, QStringView pattern)
+{
+    qsizetype n = 0;
+    qsizetype p = 0;
+    qsizetype star = -1;
+    qsizetype resume = 0;
+    while (n < name.size()) {
+        if (p < pattern.size() && pattern[p] == u'*') {
+            star = p++;
+            resume = n;
+        } else if (p < pattern.size() && (pattern[p] == u'?' || pattern[p].toCaseFolded() == name[n].toCaseFolded())) {
+            ++p;
+            ++n;
+        } else if (star >= 0) {
+            p = star + 1;
+            n = ++resume;
+        } else {
+            return false;
+        }
+    }
+    while (p < pattern.size() && pattern[p] == u'*')
+        ++p;
+    return p == pattern.size();
+}
+
+} // namespace
+
+QString nativePath(const QString &windowsPath, const DriveMap &drives)
+{
+    QString path = windowsPath;
+    path.replace(u'\\', u'/');
+    if (path.startsWith(QLatin1String("//")))
+        return path;
+    if (hasDrive(path)) {
+        const auto folder = drives.constFind(path[0].toUpper());
+        if (folder == drives.constEnd())
+            return OnWindows ? path : nowhere() + path;
+        qsizetype from = 2;
+        while (from < path.size() && path[from] == u'/')
+            ++from;
+        return from == path.size() ? *folder : resolveCase(withEndSlash(*folder), path.mid(from));
+    }
+    if (path.startsWith(u'/'))
+        return resolveCase(QStringLiteral("/"), path.mid(1));
+    return resolveCase({}, path);
+}
+
+QString windowsPath(const QString &nativePath, const DriveMap &drives)
+{
+    QString path = nativePath;
+    if (!OnWindows && path.startsWith(nowhere()) && hasDrive(QStringView(path).mid(nowhere().size())))
+        path.remove(0, nowhere().size());
+    qsizetype longest = 0;
+    QChar drive;
+    for (auto mapped = drives.begin(); mapped != drives.end(); ++mapped) {
+        const QString folder = withEndSlash(mapped.value());
+        if (folder.size() > longest && withEndSlash(path).startsWith(folder)) {
+            longest = folder.size();
+            drive = mapped.key();
+        }
+    }
+    if (longest > 0)
+        path = drive + QStringLiteral(":/") + path.mid(longest);
+    return path.replace(u'/', u'\\');
+}
+
+QString directoryListing(const QString &windowsPath, const DriveMap &drives)
+{
+    if (windowsPath.isEmpty())
+        return {};
+    const qsizetype cut = qMax(windowsPath.lastIndexOf(u'\\'), windowsPath.lastIndexOf(u'/')) + 1;
+    QString pattern = windowsPath.mid(cut);
+    if (pattern.isEmpty() || pattern == QLatin1String("*.*"))
+        pattern = QStringLiteral("*");
+    if (!OnWindows && !pattern.contains(u'*') && !pattern.contains(u'?')) {
+        const QFileInfo file(nativePath(windowsPath, drives));
+        return file.isFile() && !file.isHidden() ? file.fileName() : QString();
+    }
+    const QString folder = cut == 0 ? QStringLiteral(".") : nativePath(windowsPath.left(cut), drives);
+    const QStringList names = QDir(folder).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
+    for (const QString &name : names) {
+        if (matches(name, pattern))
+            return name;
+    }
+    return {};
+}
+
+} // namespace kalvenor
