@@ -1,0 +1,320 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/check.h"
+
+#include <algorithm>
+#include <unordered_set>
+#include "data/datenbankmodul.h"
+#include "host/host.h"
+#include "platform/desktop/terminal.h"
+#include "platform/jet/database.h"
+#include "platform/jet/markwriter.h"
+#include <QFileInfo>
+
+namespace kalvenor::app {
+
+namespace {
+
+using jet::ColumnType;
+
+struct NeededColumn {
+    QString name;
+    std::vector<ColumnType> types; ///< empty: any
+};
+
+const std::vector<ColumnType> Numbers{ColumnType::Byte,  ColumnType::Integer, ColumnType::Long,
+                                      ColumnType::Float, ColumnType::Double,  ColumnType::DateTime};
+const std::vector<ColumnType> Texts{ColumnType::Text, ColumnType::Memo};
+
+std::vector<NeededColumn> personColumns()
+{
+    return {{QStringLiteral("Counter"), {ColumnType::Long}},
+            {QStringLiteral("Listname"), Texts},
+            {QStringLiteral("Markierung"), {ColumnType::Boolean}},
+            {QStringLiteral("Geburtsdatum"), Numbers},
+            {QStringLiteral("Geburt_XX"), Texts},
+            {QStringLiteral("Sterbedatum"), Numbers},
+            {QStringLiteral("sterbe_XX"), Texts},
+            {QStringLiteral("geaendert"), Numbers},
+            {QStringLiteral("Geschlecht"), Texts},
+            {QStringLiteral("Vater"), {ColumnType::Long}},
+            {QStringLiteral("Mutter"), {ColumnType::Long}},
+            {QStringLiteral("vnamen"), Texts},
+            {QStringLiteral("nnamen"), Texts}};
+}
+
+std::vector<NeededColumn> eventColumns()
+{
+    return {{QStringLiteral("Index"), Numbers},
+            {QStringLiteral("txtzeichen"), Texts},
+            {QStringLiteral("Art"), Texts},
+            {QStringLiteral("Icon_Druck"), {}}};
+}
+
+class Checker {
+public:
+    explicit Checker(const QString &programFolder) : m_host(programFolder, m_desktop)
+    {
+        m_host.Hostverzeichnis = host::uebergeordnetesverzeichnis(m_host.programFolder());
+    }
+    CheckResult run();
+
+private:
+    using Table = std::shared_ptr<const jet::Table>;
+
+    void ok(const QString &line) { m_result.good << QStringLiteral("ok       ") + line; }
+    void note(const QString &line) { m_result.notes << QStringLiteral("note     ") + line; }
+    void missing(const QString &line) { m_result.problems << QStringLiteral("missing  ") + line; }
+    void damaged(const QString &line) { m_result.problems << QStringLiteral("damaged  ") + line; }
+    void locked(const QString &line) { m_result.problems << QStringLiteral("locked   ") + line; }
+    void report(const Error &error);
+
+    bool checkFolders();
+    void checkOutputFolder();
+    void checkLanguageDatabase(const QString &file, bool holdsOurTexts);
+    void checkFamilyDatabase();
+    void checkSideDatabase(data::HostDatabase side);
+    void checkPersonTable(const std::shared_ptr<jet::Database> &database, const Table &persons);
+    void checkTables(const std::shared_ptr<jet::Database> &database, data::HostDatabase which);
+    std::shared_ptr<jet::Database> open(const QString &path);
+    Table table(jet::Database &database, const QString &name);
+    bool hasColumns(const jet::Table &table, const std::vector<NeededColumn> &columns);
+    bool hasCounterIndex(const jet::Table &table);
+
+    TerminalDesktop m_desktop;
+    host::Host m_host;
+    CheckResult m_result;
+};
+
+void Checker::report(const Error &error)
+{
+    switch (error.kind()) {
+    case ErrorKind::FileNotFound:
+    case ErrorKind::TableNotFound:
+    case ErrorKind::ColumnNotFound:
+        return missing(error.message());
+    case ErrorKind::FileUnreadable:
+    case ErrorKind::ReadOnly:
+    case ErrorKind::NotMarkable:
+        return locked(error.message());
+    default:
+        return damaged(error.message());
+    }
+}
+
+CheckResult Checker::run()
+{
+    if (!checkFolders())
+        return m_result;
+    checkLanguageDatabase(m_host.Hostverzeichnis + u"\\ADD-IN-LANGUAGE.MDB", true);
+    checkLanguageDatabase(m_host.Hostverzeichnis + u"\\language.mdb", false);
+    checkFamilyDatabase();
+    for (const auto side : {data::HostDatabase::Events, data::HostDatabase::History, data::HostDatabase::Names,
+                            data::HostDatabase::Places})
+        checkSideDatabase(side);
+    checkOutputFolder();
+    return m_result;
+}
+
+bool Checker::checkFolders()
+{
+    const QString program = m_host.native(m_host.programFolder());
+    if (!QFileInfo(program).isDir()) {
+        missing(program + u": the program's folder is not there");
+        return false;
+    }
+    if (QFileInfo(program).isWritable())
+        ok(program + u": program folder, writable");
+    else
+        locked(program + u": the program's folder is read-only; print settings cannot be kept in it");
+
+    const QString settings = m_host.hostSettingsFile();
+    if (m_host.dir(settings).isEmpty()) {
+        missing(m_host.native(settings) + u": the host's settings file is not there, so no family database is known");
+        return true;
+    }
+    const auto setting = [&](const char *section, const char *key, const QString &fallback) {
+        return m_host.inilesen(settings, QLatin1String(section), QLatin1String(key), fallback);
+    };
+    m_host.Sprache = setting("Ansicht", "Sprache", QStringLiteral("Deutsch"));
+    m_host.Familienpfad = setting("QV-Files", "0", {});
+    ok(QStringLiteral("%1: host settings, language \"%2\"").arg(m_host.native(settings), m_host.Sprache));
+    return true;
+}
+
+void Checker::checkOutputFolder()
+{
+    const QString folder = m_host.native(m_host.inilesen(m_host.hostSettingsFile(), QStringLiteral("Verzeichnisse"),
+                                                         QStringLiteral("Prints"), m_host.Hostverzeichnis + u"\\Ausdrucke"));
+    if (!QFileInfo(folder).isDir())
+        missing(folder + u": the output folder is not there");
+    else if (!QFileInfo(folder).isWritable())
+        locked(folder + u": the output folder is read-only");
+    else
+        ok(folder + u": output folder, writable");
+}
+
+std::shared_ptr<jet::Database> Checker::open(const QString &path)
+{
+    try {
+        auto database = jet::Database::open(m_host.native(path));
+        for (const QString &warning : database->warnings())
+            damaged(warning);
+        return database;
+    } catch (const Error &error) {
+        report(error);
+        return nullptr;
+    }
+}
+
+Checker::Table Checker::table(jet::Database &database, const QString &name)
+{
+    try {
+        Table found = database.table(name);
+        for (const QString &warning : found->warnings())
+            damaged(warning);
+        return found;
+    } catch (const Error &error) {
+        report(error);
+        return nullptr;
+    }
+}
+
+bool Checker::hasColumns(const jet::Table &table, const std::vector<NeededColumn> &columns)
+{
+    bool complete = true;
+    for (const NeededColumn &needed : columns) {
+        const QString place = QStringLiteral("%1, table \"%2\"").arg(table.image().file(), table.name());
+        const int column = table.columnOf(needed.name);
+        if (column < 0) {
+            missing(QStringLiteral("%1: there is no column \"%2\"").arg(place, needed.name));
+            complete = false;
+        } else if (const auto type = table.columns()[static_cast<std::size_t>(column)].type;
+                   !needed.types.empty() && std::find(needed.types.begin(), needed.types.end(), type) == needed.types.end()) {
+            damaged(QStringLiteral("%1: the column \"%2\" has a type that cannot be used").arg(place, needed.name));
+            complete = false;
+        }
+    }
+    return complete;
+}
+
+bool Checker::hasCounterIndex(const jet::Table &table)
+{
+    const bool there = std::any_of(table.indexes().begin(), table.indexes().end(), [](const jet::Index &index) {
+        return index.name.compare(u"Counter", Qt::CaseInsensitive) == 0;
+    });
+    if (!there)
+        missing(QStringLiteral("%1, table \"%2\": there is no index \"Counter\"").arg(table.image().file(), table.name()));
+    return there;
+}
+
+void Checker::checkLanguageDatabase(const QString &file, bool holdsOurTexts)
+{
+    const auto database = open(file);
+    if (!database)
+        return;
+    const Table languages = table(*database, QStringLiteral("Languages"));
+    if (!languages)
+        return;
+    bool sound = hasColumns(*languages, {{QStringLiteral("Counter"), Numbers}}) && hasCounterIndex(*languages);
+    // The host's own language database is only opened at the end; its columns are the host's affair.
+    if (holdsOurTexts)
+        sound = hasColumns(*languages, {{m_host.Sprache, Texts}}) && sound;
+    if (sound)
+        ok(QStringLiteral("%1: %2 texts").arg(database->file()).arg(languages->rowCount()));
+}
+
+void Checker::checkFamilyDatabase()
+{
+    if (m_host.Familienpfad.isEmpty()) {
+        missing(m_host.native(m_host.hostSettingsFile()) +
+                u": no family database is named (section QV-Files, key 0); open one in the host program");
+        return;
+    }
+    const auto database = open(m_host.Familienpfad);
+    if (!database)
+        return;
+    checkTables(database, data::HostDatabase::Family);
+    const QString lockFile = database->file().left(database->file().lastIndexOf(u'.')) + u".ldb";
+    if (QFileInfo::exists(lockFile))
+        note(lockFile + u": the family database is open in another program, or was not closed cleanly");
+}
+
+void Checker::checkSideDatabase(data::HostDatabase side)
+{
+    const auto database = open(m_host.Hostverzeichnis + data::sideDatabaseFile(side));
+    if (database)
+        checkTables(database, side);
+}
+
+void Checker::checkTables(const std::shared_ptr<jet::Database> &database, data::HostDatabase which)
+{
+    int sound = 0;
+    int needed = 0;
+    for (const data::HostTable &entry : data::hostTables(m_host.Sprache)) {
+        if (entry.database != which)
+            continue;
+        ++needed;
+        const Table found = table(*database, entry.name);
+        if (!found)
+            continue;
+        ++sound;
+        if (which == data::HostDatabase::Family && entry.name == u"Daten")
+            checkPersonTable(database, found);
+        if (which == data::HostDatabase::Events && entry.name == m_host.Sprache)
+            hasColumns(*found, eventColumns());
+    }
+    if (sound == needed)
+        ok(QStringLiteral("%1: %2").arg(database->file(), needed == 0 ? QStringLiteral("readable")
+                                                                      : QStringLiteral("all %1 tables").arg(needed)));
+}
+
+void Checker::checkPersonTable(const std::shared_ptr<jet::Database> &database, const Table &persons)
+{
+    const bool complete = hasColumns(*persons, personColumns());
+    if (!hasCounterIndex(*persons) || !complete)
+        return;
+    const int counter = persons->columnOf(u"Counter");
+    const int mark = persons->columnOf(u"Markierung");
+    std::unordered_set<qint32> counters;
+    counters.reserve(persons->rowCount());
+    quint32 marked = 0;
+    quint32 without = 0;
+    for (quint32 row = 0; row < persons->rowCount(); ++row) {
+        const auto value = persons->integer(row, counter);
+        without += value ? 0 : 1;
+        if (value && !counters.insert(*value).second)
+            damaged(QStringLiteral("%1: two persons have the Counter %2").arg(database->file()).arg(*value));
+        marked += persons->boolean(row, mark) ? 1 : 0;
+    }
+    if (without > 0)
+        damaged(QStringLiteral("%1: %2 persons have no Counter").arg(database->file()).arg(without));
+    ok(QStringLiteral("%1: %2 persons, %3 of them marked").arg(database->file()).arg(persons->rowCount()).arg(marked));
+    try {
+        const jet::MarkWriter writer(database, persons, mark, counter);
+        if (QFileInfo(database->file()).isWritable())
+            ok(database->file() + u": writable, persons can be marked");
+        else
+            locked(database->file() + u": the family database is read-only; no person can be marked in it");
+    } catch (const Error &error) {
+        report(error);
+    }
+}
+
+} // namespace
+
+CheckResult checkInstallation(const QString &programFolder)
+{
+    return Checker(programFolder).run();
+}
+
+int runCheck(const QString &programFolder)
+{
+    const CheckResult result = checkInstallation(programFolder);
+    for (const QString &line : result.good + result.notes + result.problems)
+        writeOutput((line + u'\n').toUtf8());
+    flushOutput();
+    return result.problems.isEmpty() ? 0 : 1;
+}
+
+} // namespace kalvenor::app

@@ -1,0 +1,23 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace kalvenor::app {
+
+/// What a look at an installation found, a line each.
+struct CheckResult {
+    QStringList good;     ///< "ok       …"
+    QStringList notes;    ///< "note     …", nothing wrong
+    QStringList problems; ///< "missing  …", "damaged  …", "locked   …": each keeps something from working
+};
+
+/// Looks at everything the program needs of an installation and goes on behind each problem. Changes nothing.
+CheckResult checkInstallation(const QString &programFolder);
+
+/// The command: prints the lines, problems last. 0 where there is no problem, else 1.
+int runCheck(const QString &programFolder);
+
+} // namespace kalvenor::app

@@ -1,0 +1,229 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/commandline.h"
+
+#include <CLI/CLI.hpp>
+#include <limits>
+#include <map>
+#include <memory>
+#include "app/check.h"
+#include "app/commands.h"
+#include "platform/basic/path.h"
+#include "platform/desktop/terminal.h"
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+
+namespace kalvenor::app {
+
+namespace {
+
+constexpr int Failed = 1;
+constexpr int WrongUsage = 2;
+
+/// The words of the command line as CLI11 leaves them.
+struct Words {
+    std::string program;
+    std::string sex = "mw";
+    std::string format = "text";
+    std::string list = "unmarked";
+    std::string folder;
+    std::string title;
+    std::string output;
+    std::vector<qint32> counters;
+    bool all = false;
+    int persons = 2000;
+    quint32 seed = 1;
+    qint64 limit = -1;
+};
+
+QString toText(const std::string &word)
+{
+    return QString::fromLocal8Bit(word.data(), static_cast<qsizetype>(word.size()));
+}
+
+QString absoluteNative(const std::string &word)
+{
+    return QDir::cleanPath(QDir::current().absoluteFilePath(toText(word)));
+}
+
+QString programFolder(const Words &words)
+{
+    return windowsPath(words.program.empty() ? QCoreApplication::applicationDirPath() : absoluteNative(words.program));
+}
+
+Format formatOf(const Words &words)
+{
+    return words.format == "tsv" ? Format::Tsv : words.format == "json" ? Format::Json : Format::Text;
+}
+
+statistics::GeschlechtAlter sexOf(const Words &words)
+{
+    const bool men = words.sex.find('m') != std::string::npos;
+    const bool women = words.sex.find('w') != std::string::npos;
+    return {men, women, men, women};
+}
+
+/// The commands and their options. Everything lives as long as the parser.
+class Parser {
+public:
+    Parser();
+    CLI::App app{"Age statistics for a family database", "kalvenor"};
+    Words words;
+    CLI::App *demo, *check, *list, *mark, *unmark, *ages, *report;
+
+private:
+    CLI::App *command(const char *name, const char *what);
+    void addSex(CLI::App *to);
+    void addFormat(CLI::App *to);
+    CLI::App *addMarkCommand(const char *name, const char *what);
+};
+
+CLI::App *Parser::command(const char *name, const char *what)
+{
+    CLI::App *sub = app.add_subcommand(name, what);
+    sub->add_option("--program", words.program, "The program's folder; its parent is the host folder")
+        ->type_name("DIR");
+    return sub;
+}
+
+void Parser::addSex(CLI::App *to)
+{
+    to->add_option("--sex", words.sex, "Whom to list: m men, w women, mw both")
+        ->check(CLI::IsMember({"m", "w", "mw"}))
+        ->type_name("m|w|mw");
+}
+
+void Parser::addFormat(CLI::App *to)
+{
+    to->add_option("--format", words.format, "How the result is written")
+        ->check(CLI::IsMember({"text", "tsv", "json"}))
+        ->type_name("text|tsv|json");
+}
+
+CLI::App *Parser::addMarkCommand(const char *name, const char *what)
+{
+    CLI::App *sub = command(name, what);
+    CLI::Option *all = sub->add_flag("--all", words.all, "All persons of the list");
+    sub->add_option("--counter", words.counters, "These persons, by their Counter")
+        ->delimiter(',')
+        ->type_name("N[,N…]")
+        ->excludes(all);
+    return sub;
+}
+
+Parser::Parser()
+{
+    app.set_version_flag("--version", KALVENOR_VERSION);
+    app.require_subcommand(0, 1);
+
+    demo = app.add_subcommand("demo", "Makes a demonstration host installation");
+    demo->add_option("DIR", words.folder, "Where; DIR/QV becomes the host folder")->required()->type_name("");
+    demo->add_option("--persons", words.persons, "How many persons")->check(CLI::Range(1, 2'000'000))->type_name("N");
+    demo->add_option("--seed", words.seed, "Another seed makes other families")->type_name("S");
+
+    check = command("check", "Says what of the installation is there, readable and writable");
+    list = command("list", "Lists the unmarked or the marked persons");
+    list->add_option("--list", words.list, "Which list")
+        ->check(CLI::IsMember({"unmarked", "marked"}))
+        ->type_name("unmarked|marked");
+    list->add_option("--limit", words.limit, "No more than the first N persons")
+        ->check(CLI::Range(qint64{0}, std::numeric_limits<qint64>::max()))
+        ->type_name("N");
+    addFormat(list);
+    mark = addMarkCommand("mark", "Marks persons and prints how many rows changed");
+    unmark = addMarkCommand("unmark", "Takes marks away and prints how many rows changed");
+    ages = command("ages", "Writes the age list of the marked persons");
+    addSex(ages);
+    addFormat(ages);
+    report = command("report", "Writes the report of the marked persons");
+    report->add_option("--title", words.title, "The report's title")->type_name("T");
+    addSex(report);
+    report->add_option("--output", words.output, "The file to write, ending in .pdf")->required()->type_name("F.pdf");
+}
+
+int wrongUsage(const QString &line)
+{
+    writeError(line);
+    return WrongUsage;
+}
+
+int runMarkWords(const Words &words, bool mark)
+{
+    if (!words.all && words.counters.empty())
+        return wrongUsage(QStringLiteral("say whom: --all, or --counter N[,N…]"));
+    return runMark(programFolder(words), {mark, words.all, words.counters});
+}
+
+int runReportWords(const Words &words)
+{
+    const QString output = absoluteNative(words.output);
+    const QString ending = QFileInfo(output).suffix().toLower();
+    if (ending == u"rtf" || ending == u"html")
+        return wrongUsage(QStringLiteral("a report as .%1 cannot be written yet; use a file name ending in .pdf").arg(ending));
+    if (ending != u"pdf")
+        return wrongUsage(QStringLiteral("the report's file name must end in .pdf: %1").arg(output));
+    return runReport(programFolder(words), {toText(words.title), sexOf(words), output});
+}
+
+int dispatch(const Parser &parser)
+{
+    const Words &words = parser.words;
+    if (parser.demo->parsed())
+        return runDemo({absoluteNative(words.folder), words.persons, words.seed});
+    if (parser.check->parsed())
+        return runCheck(programFolder(words));
+    if (parser.list->parsed()) {
+        const auto list = words.list == "marked" ? selection::PersonList::Marked : selection::PersonList::Unmarked;
+        return runList(programFolder(words), {list, formatOf(words), words.limit});
+    }
+    if (parser.mark->parsed())
+        return runMarkWords(words, true);
+    if (parser.unmark->parsed())
+        return runMarkWords(words, false);
+    if (parser.ages->parsed())
+        return runAges(programFolder(words), {sexOf(words), formatOf(words)});
+    if (parser.report->parsed())
+        return runReportWords(words);
+    return wrongUsage(QStringLiteral("this version has no window yet; name a command, --help lists them"));
+}
+
+/// Fonts and pages need a GUI application, which a command runs without a desktop; all else starts faster without.
+std::unique_ptr<QCoreApplication> makeApplication(const Parser &parser, int &argc, char **argv)
+{
+    if (!parser.report->parsed())
+        return std::make_unique<QCoreApplication>(argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+} // namespace
+
+int runCommandLine(int argc, char **argv)
+{
+    Parser parser;
+    try {
+        parser.app.parse(argc, argv);
+    } catch (const CLI::Success &asked) {
+        return parser.app.exit(asked);
+    } catch (const CLI::ParseError &error) {
+        // CLI11 may break a complaint over lines; here it is one line that helps.
+        QString complaint = QString::fromStdString(error.what()).simplified();
+        return wrongUsage(complaint + u" (kalvenor --help lists commands and options)");
+    }
+
+    const auto application = makeApplication(parser, argc, argv);
+    catchInterrupt();
+    try {
+        return dispatch(parser);
+    } catch (const Error &error) {
+        TerminalDesktop().runtimeError(error);
+    } catch (const std::bad_alloc &) {
+        writeError(QStringLiteral("there is not enough memory for this"));
+    }
+    return Failed;
+}
+
+} // namespace kalvenor::app

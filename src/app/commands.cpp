@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/commands.h"
+
+#include "app/program.h"
+#include "demo/demohost.h"
+#include "platform/desktop/terminal.h"
+#include "report/agelistreport.h"
+#include "selection/marking.h"
+
+namespace kalvenor::app {
+
+namespace {
+
+constexpr int Done = 0;
+constexpr int Failed = 1;
+
+/// A started program; `ready` is false where start-up ended it with its own message.
+struct StartedProgram {
+    explicit StartedProgram(const QString &programFolder) : program(programFolder, desktop), ready(program.Main()) {}
+    TerminalDesktop desktop;
+    Program program;
+    bool ready;
+};
+
+void printLine(const QString &line)
+{
+    writeOutput((line + u'\n').toUtf8());
+    flushOutput();
+}
+
+QString numbers(const std::vector<qint32> &counters)
+{
+    QStringList texts;
+    for (const qint32 counter : counters)
+        texts << QString::number(counter);
+    return texts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+int runDemo(const DemoCommand &command)
+{
+    TerminalProgress terminal(QStringLiteral("making persons"));
+    const demo::DemoHost made = demo::makeDemoHost({command.folder, command.persons, command.seed}, terminal.progress());
+    printLine(QStringLiteral("host folder:     %1\nprogram folder:  %2\nfamily database: %3\npersons:         %4")
+                  .arg(made.hostFolder, made.programFolder, made.familyDatabase)
+                  .arg(made.persons));
+    return Done;
+}
+
+int runList(const QString &programFolder, const ListCommand &command)
+{
+    StartedProgram started(programFolder);
+    if (!started.ready)
+        return Failed;
+    TerminalProgress terminal(QStringLiteral("reading persons"));
+    const auto persons = started.program.databases.Familiendatenbank->openQuery(
+        selection::plainListQuery(command.list), terminal.progress());
+    const int counter = persons->fieldIndex(QStringLiteral("Counter"));
+    const int listname = persons->fieldIndex(QStringLiteral("Listname"));
+    ListOutput output(command.format, "listname");
+    for (qint64 written = 0; !persons->eof() && written != command.limit; persons->moveNext(), ++written)
+        output.add(persons->integer(counter).value_or(0), persons->text(listname));
+    output.finish();
+    return Done;
+}
+
+int runMark(const QString &programFolder, const MarkCommand &command)
+{
+    StartedProgram started(programFolder);
+    if (!started.ready)
+        return Failed;
+    data::Datenbankmodul &databases = started.program.databases;
+    TerminalProgress terminal(command.mark ? QStringLiteral("marking") : QStringLiteral("unmarking"));
+    std::size_t changed = 0;
+    if (command.all) {
+        const auto from = command.mark ? selection::PersonList::Unmarked : selection::PersonList::Marked;
+        changed = databases.Familiendatenbank
+                      ->execute(selection::markAllStatement(from, selection::plainListQuery(from)), terminal.progress())
+                      .changedKeys.size();
+    } else {
+        const auto unknown = selection::unknownPersons(databases, command.counters);
+        if (!unknown.empty()) {
+            writeError(QStringLiteral("%1: no person with Counter %2; nothing was changed")
+                           .arg(started.program.host.Familienpfad, numbers(unknown)));
+            return Failed;
+        }
+        changed = selection::markPersons(databases, command.counters, command.mark, terminal.progress()).size();
+    }
+    printLine(QStringLiteral("%1 rows changed").arg(changed));
+    return Done;
+}
+
+int runAges(const QString &programFolder, const AgesCommand &command)
+{
+    StartedProgram started(programFolder);
+    if (!started.ready)
+        return Failed;
+    TerminalProgress terminal(QStringLiteral("computing ages"));
+    statistics::Altersliste list;
+    statistics::alterslistenausgabe(started.program.databases, command.sex, list, terminal.progress());
+    ListOutput output(command.format, "line");
+    for (const statistics::Alterszeile &line : list)
+        output.add(line.Counter, line.text);
+    output.finish();
+    return Done;
+}
+
+int runReport(const QString &programFolder, const ReportCommand &command)
+{
+    StartedProgram started(programFolder);
+    if (!started.ready)
+        return Failed;
+    TerminalProgress terminal(QStringLiteral("composing the report"));
+    statistics::Altersliste list;
+    statistics::alterslistenausgabe(started.program.databases, command.sex, list, terminal.progress());
+    const int pages = report::writeAgeListReport(command.title, list, started.program.language, command.output,
+                                                 terminal.progress());
+    printLine(QStringLiteral("%1: %2 persons on %3 pages").arg(command.output).arg(list.size()).arg(pages));
+    return Done;
+}
+
+} // namespace kalvenor::app

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vector>
+#include "app/listoutput.h"
+#include "selection/listquery.h"
+#include "statistics/altersliste.h"
+#include <QString>
+
+// One function a command. Results go to stdout, progress and messages to stderr; the value is the exit code.
+// Errors of the engine go to the caller.
+namespace kalvenor::app {
+
+struct DemoCommand {
+    QString folder;
+    int persons = 2000;
+    quint32 seed = 1;
+};
+
+struct ListCommand {
+    selection::PersonList list = selection::PersonList::Unmarked;
+    Format format = Format::Text;
+    qint64 limit = -1; ///< -1: all
+};
+
+struct MarkCommand {
+    bool mark = true; ///< false: unmark
+    bool all = false;
+    std::vector<qint32> counters;
+};
+
+struct AgesCommand {
+    statistics::GeschlechtAlter sex{1, 1, 1, 1};
+    Format format = Format::Text;
+};
+
+struct ReportCommand {
+    QString title;
+    statistics::GeschlechtAlter sex{1, 1, 1, 1};
+    QString output; ///< native path
+};
+
+int runDemo(const DemoCommand &command);
+int runList(const QString &programFolder, const ListCommand &command);
+int runMark(const QString &programFolder, const MarkCommand &command);
+int runAges(const QString &programFolder, const AgesCommand &command);
+int runReport(const QString &programFolder, const ReportCommand &command);
+
+} // namespace kalvenor::app

@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/host.h"
+
+#include <utility>
+#include "platform/basic/codepage.h"
+#include "platform/basic/number.h"
+#include "platform/basic/text.h"
+#include "platform/profile/profile.h"
+
+namespace kalvenor::host {
+
+namespace {
+
+constexpr int ProfileBufferSize = 256;
+
+DriveMap readDrives(const QString &ownSettingsFile)
+{
+    DriveMap drives;
+    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+        const QByteArray folder =
+            getPrivateProfileString("Laufwerke", QByteArray(1, letter), {}, ProfileBufferSize, nativePath(ownSettingsFile));
+        if (!folder.isEmpty())
+            drives.insert(QLatin1Char(letter), decodeAnsi(folder));
+    }
+    return drives;
+}
+
+} // namespace
+
+QString uebergeordnetesverzeichnis(const QString &path)
+{
+    return leftPart(path, path.lastIndexOf(u'\\'));
+}
+
+Host::Host(QString programFolder, Desktop &desktop)
+    : m_programFolder(std::move(programFolder)), m_desktop(desktop), m_drives(readDrives(ownSettingsFile()))
+{
+}
+
+QString Host::inilesen(const QString &file, const QString &section, const QString &key, const QString &fallback) const
+{
+    QByteArray value = getPrivateProfileString(encodeAnsi(section), encodeAnsi(key), encodeAnsi(fallback),
+                                               ProfileBufferSize, native(file));
+    const qsizetype end = value.indexOf('\0');
+    if (end >= 0)
+        value.truncate(end);
+    return decodeAnsi(value);
+}
+
+bool Host::inischreiben(const QString &file, const QString &section, const QString &key, const QString &value) const
+{
+    return writePrivateProfileString(encodeAnsi(section), encodeAnsi(key), encodeAnsi(value), native(file));
+}
+
+bool Host::staysOnTop() const
+{
+    // A text that holds a number is compared as a number: "1", " 1" and "1.0" are equal to 1.
+    bool isNumber = false;
+    const double value = trimBlanks(AddInonTop).toDouble(&isNumber);
+    return isNumber && value == 1;
+}
+
+bool Host::fensteroben(QWindow *form, int onTop, bool activate) const
+{
+    if (!staysOnTop())
+        return false;
+    const StackPlace place = onTop == -1 ? StackPlace::TopMost : onTop == 0 ? StackPlace::NotTopMost : StackPlace::Top;
+    return m_desktop.setStackPlace(form, place, activate);
+}
+
+} // namespace kalvenor::host

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/basic/path.h"
+#include "platform/desktop/desktop.h"
+#include <QPointer>
+#include <QString>
+
+namespace kalvenor::host {
+
+/// The folder above: the characters before the last backslash ("C:\" gives "C:"). A path without a backslash throws
+/// Error(InvalidProcedureCall); callers hold full paths.
+QString uebergeordnetesverzeichnis(const QString &path);
+
+/// The program-wide state that comes from the host program, and the access to profile files. One object for the life of
+/// the process. All paths are in Windows notation.
+class Host {
+public:
+    /// `programFolder` is the program's own folder; its drive letters are mapped by `Kalvenor.ini` there, section
+    /// "Laufwerke" (C=/media/windows).
+    Host(QString programFolder, Desktop &desktop);
+
+    QString Hostverzeichnis; ///< the host program's folder, without a trailing backslash
+    QString Sprache;         ///< name of the interface language: a column of the texts, a table of the event kinds
+    qint16 Kurzhilfe = 1;    ///< 1: short help is shown
+    QString AddInonTop;      ///< as read; "1": windows stay on top
+    QString Familienpfad;    ///< the host's current family database; empty where none is named
+    QPointer<QObject> Hauptform; ///< the main window once it was made
+
+    const QString &programFolder() const { return m_programFolder; }
+    QString hostSettingsFile() const { return Hostverzeichnis + u"\\programm.ini"; }
+    QString ownSettingsFile() const { return m_programFolder + u"\\Kalvenor.ini"; }
+    Desktop &desktop() const { return m_desktop; }
+
+    /// One value of a profile file, at most 255 characters, up to its first NUL; a missing file, section or key gives
+    /// the default. Never fails.
+    QString inilesen(const QString &file, const QString &section, const QString &key, const QString &fallback) const;
+    /// Writes one value. As with the platform's own function nothing is reported on failure; the result says whether
+    /// it was written, for callers that want to know.
+    bool inischreiben(const QString &file, const QString &section, const QString &key, const QString &value) const;
+
+    /// Only when `AddInonTop` equals 1: puts the window on top of all others (`onTop` -1), back among them (0), or
+    /// before its equals (any other value), keeping place and size. True when the window's place was changed.
+    bool fensteroben(QWindow *form, int onTop, bool activate) const;
+    bool staysOnTop() const;
+
+    /// The native path for a path text, with the drive letters of this installation.
+    QString native(const QString &path) const { return nativePath(path, m_drives); }
+    /// The file's own name where exactly that file is there, else "".
+    QString dir(const QString &path) const { return directoryListing(path, m_drives); }
+
+private:
+    QString m_programFolder;
+    Desktop &m_desktop;
+    DriveMap m_drives;
+};
+
+} // namespace kalvenor::host

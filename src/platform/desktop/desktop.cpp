@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/desktop/desktop.h"
+
+#include "platform/desktop/terminal.h"
+#include <QWindow>
+
+namespace kalvenor {
+
+bool Desktop::setStackPlace(QWindow *window, StackPlace place, bool activate)
+{
+    if (window == nullptr)
+        return false;
+    switch (place) {
+    case StackPlace::TopMost:
+        window->setFlag(Qt::WindowStaysOnTopHint, true);
+        break;
+    case StackPlace::NotTopMost:
+        window->setFlag(Qt::WindowStaysOnTopHint, false);
+        break;
+    case StackPlace::Top:
+        window->raise();
+        break;
+    }
+    if (activate)
+        window->requestActivate();
+    return true;
+}
+
+int TerminalDesktop::messageBox(const QString &text, int, const QString &title)
+{
+    writeError(title.isEmpty() ? text : title + u": " + text);
+    return ResultOk;
+}
+
+void TerminalDesktop::runtimeError(const Error &error)
+{
+    writeError(QStringLiteral("run-time error %1: %2").arg(error.number()).arg(error.message()));
+}
+
+} // namespace kalvenor

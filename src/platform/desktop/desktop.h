@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/basic/error.h"
+#include <QString>
+
+class QWindow;
+
+namespace kalvenor {
+
+/// Mouse pointers by the numbers of the classic runtime.
+enum class Pointer { Default = 0, Hourglass = 11, Custom = 99 };
+
+/// Message box styles and results by the numbers of the classic runtime.
+inline constexpr int MessageCritical = 16;
+inline constexpr int ResultOk = 1;
+
+/// Where a window is put in the stack.
+enum class StackPlace { TopMost, NotTopMost, Top };
+
+/// The desktop as far as the program speaks to it: one seam, so that a terminal or a test can stand in its place.
+class Desktop {
+public:
+    virtual ~Desktop() = default;
+
+    /// Shows a message and waits for the answer (a result number, 1 = OK).
+    virtual int messageBox(const QString &text, int style, const QString &title) = 0;
+    /// The report of an error that nothing in the program caught; the program ends after it.
+    virtual void runtimeError(const Error &error) = 0;
+    virtual void setPointer(Pointer pointer) = 0;
+    /// Puts the window in its place without moving or resizing it. False where there is no window or it was refused.
+    virtual bool setStackPlace(QWindow *window, StackPlace place, bool activate);
+};
+
+/// The desktop of a command: messages go to stderr, answers are OK.
+class TerminalDesktop : public Desktop {
+public:
+    int messageBox(const QString &text, int style, const QString &title) override;
+    void runtimeError(const Error &error) override;
+    void setPointer(Pointer) override {}
+};
+
+} // namespace kalvenor

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "selection/listquery.h"
+
+#include "platform/basic/text.h"
+
+namespace kalvenor::selection {
+
+QString plainListQuery(PersonList list)
+{
+    return list == PersonList::Unmarked
+        ? QStringLiteral("SELECT * FROM Daten WHERE Markierung = 0 ORDER BY Listname;")
+        : QStringLiteral("SELECT * FROM Daten WHERE Markierung = -1 ORDER BY Listname;");
+}
+
+QString wherePart(const QString &listQuery)
+{
+    const qsizetype where = listQuery.indexOf(u"WHERE");
+    // A name pattern may hold the word, so the last one is the query's own.
+    const qsizetype order = listQuery.lastIndexOf(u"ORDER");
+    if (where < 0 || order < where)
+        return {};
+    return listQuery.mid(where, order - where);
+}
+
+QString markAllStatement(PersonList from, const QString &listQuery)
+{
+    const QString set = from == PersonList::Unmarked ? QStringLiteral("Update Daten SET Markierung = -1 ")
+                                                     : QStringLiteral("Update Daten SET Markierung = 0 ");
+    const QString where = wherePart(listQuery);
+    return trimBlanks(where).isEmpty() ? set + u';' : set + where;
+}
+
+} // namespace kalvenor::selection

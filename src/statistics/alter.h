@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+#include <QString>
+#include <QStringView>
+
+// The age rules of all statistics. A year is always 365 days.
+namespace kalvenor::statistics {
+
+/// Days from birth to death, where both are known (not null, not the unknown day) and death lies after birth.
+std::optional<double> lebenstage(std::optional<double> geburtsdatum, std::optional<double> sterbedatum);
+
+/// Whole tenths of years, rounded down, in years: 3652 days are 10 years, 3653 too, 3700 are 10.1.
+double altersjahre(double days);
+
+/// Always 7 characters: the age right-aligned in 5, without a zero before the point, then two blanks ("   .5  ").
+QString alterstext(double days);
+
+/// The line of the age list: age text, the first 42 characters of the list name, a blank, and the list name from its
+/// 51st character on (43 to 50 are left out).
+QString alterszeile(double days, QStringView listname);
+
+} // namespace kalvenor::statistics
