@@ -3,8 +3,8 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 #include <QStringView>
+#include <vector>
 
 namespace kalvenor::jet {
 
@@ -22,14 +22,16 @@ private:
         std::uint32_t last;
     };
     struct Token {
-        enum class Kind : std::uint8_t { Character, AnyOne, AnyRun, Digit, List, NotInList } kind;
-        std::uint32_t identity = 0;    ///< Character
-        std::uint32_t firstRange = 0;  ///< List: into m_ranges
+        enum class Kind : std::uint8_t { Character, AnyOne, AnyRun, Digit, List, NotInList };
+        Kind kind = Kind::AnyOne;
+        std::uint32_t identity = 0;   ///< Character
+        std::uint32_t firstRange = 0; ///< List: into m_ranges
         std::uint32_t rangeCount = 0;
     };
+    void addList(QStringView pattern, QStringView list);
     bool matchesOne(const Token &token, char16_t unit) const;
     std::vector<Token> m_tokens;
-    std::vector<Range> m_ranges;
+    std::vector<Range> m_ranges; ///< by generalRank
 };
 
 } // namespace kalvenor::jet

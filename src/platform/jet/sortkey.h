@@ -3,16 +3,16 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 #include <QByteArray>
 #include <QStringView>
+#include <vector>
 
 // Jet's "General" sort order (Jet 4): texts compare by keys; case and trailing blanks play no role.
 namespace kalvenor::jet {
 
 /// What a character without a code adds to a key.
 enum class Unlisted {
-    Kept, ///< its UTF-16 unit behind 7E, so that e.g. Greek names stay apart (for lists and comparisons)
+    Kept,    ///< its UTF-16 unit behind 7E, so that e.g. Greek names stay apart (for lists and comparisons)
     Refused, ///< Error(InvalidProcedureCall) naming the character (for an index that is written)
 };
 
