@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/host.h"
+
+#include <gtest/gtest.h>
+#include "support/fakedesktop.h"
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace kalvenor;
+using host::Host;
+using host::uebergeordnetesverzeichnis;
+
+TEST(Uebergeordnetesverzeichnis, CutsAtTheLastBackslash)
+{
+    EXPECT_EQ(uebergeordnetesverzeichnis("C:\\QV\\Kalvenor"), "C:\\QV");
+    EXPECT_EQ(uebergeordnetesverzeichnis("C:\\"), "C:");
+    EXPECT_EQ(uebergeordnetesverzeichnis("\\home\\a.b\\QV"), "\\home\\a.b");
+    EXPECT_EQ(uebergeordnetesverzeichnis("\\Kalvenor"), "");
+    try {
+        uebergeordnetesverzeichnis("Kalvenor");
+        FAIL() << "a path without a backslash has no parent";
+    } catch (const Error &error) {
+        EXPECT_EQ(error.kind(), ErrorKind::InvalidProcedureCall);
+    }
+}
+
+class HostTest : public testing::Test {
+protected:
+    void write(const QString &name, const QByteArray &content)
+    {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+    QString path(const QString &name) const { return windowsPath(folder.filePath(name)); }
+    QTemporaryDir folder;
+    test::FakeDesktop desktop;
+};
+
+TEST_F(HostTest, ReadsSettings)
+{
+    write("programm.ini", "[Ansicht]\r\nSprache=English\r\nLang=" + QByteArray(400, 'x') +
+                              "\r\nNul=ab" + QByteArray(1, '\0') + "cd\r\nUmlaut=M\xfcnchen\r\nLeer=\r\n");
+    const Host host(path("Kalvenor"), desktop);
+    const QString file = path("programm.ini");
+    EXPECT_EQ(host.inilesen(file, "ANSICHT", "sprache", "Deutsch"), "English");
+    EXPECT_EQ(host.inilesen(file, "Ansicht", "Lang", "").size(), 255);
+    EXPECT_EQ(host.inilesen(file, "Ansicht", "Nul", ""), "ab");
+    EXPECT_EQ(host.inilesen(file, "Ansicht", "Umlaut", ""), QStringLiteral("München"));
+    EXPECT_EQ(host.inilesen(file, "Ansicht", "Leer", "Vorgabe"), "");
+    EXPECT_EQ(host.inilesen(file, "Ansicht", "Fehlt", "Vorgabe"), "Vorgabe");
+    EXPECT_EQ(host.inilesen(path("fehlt.ini"), "Ansicht", "Sprache", "Deutsch"), "Deutsch");
+    EXPECT_EQ(host.inilesen(path("PROGRAMM.INI"), "Ansicht", "Sprache", "Deutsch"), "English");
+}
+
+TEST_F(HostTest, WritesSettingsAndIsSilentWhereItCannot)
+{
+    const Host host(path("Kalvenor"), desktop);
+    EXPECT_TRUE(host.inischreiben(path("neu.ini"), "Titel", "Fontname", QStringLiteral("Größe")));
+    EXPECT_EQ(host.inilesen(path("neu.ini"), "Titel", "Fontname", ""), QStringLiteral("Größe"));
+    EXPECT_FALSE(host.inischreiben(path("fehlt\\neu.ini"), "Titel", "Fontname", "Arial"));
+}
+
+TEST_F(HostTest, MapsDriveLetters)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkpath("Kalvenor"));
+    ASSERT_TRUE(QDir(folder.path()).mkpath("windows/QV"));
+    write("Kalvenor/Kalvenor.ini", "[Laufwerke]\r\nc=" + folder.filePath("windows").toUtf8() + "\r\n");
+    write("windows/QV/Familie.MDB", "x");
+    const Host host(path("Kalvenor"), desktop);
+    EXPECT_EQ(host.native("C:\\qv\\familie.mdb"), folder.filePath("windows/QV/Familie.MDB"));
+    EXPECT_EQ(host.dir("c:\\QV\\FAMILIE.mdb"), "Familie.MDB");
+    EXPECT_EQ(host.dir("D:\\QV\\Familie.mdb"), "");
+}
+
+TEST_F(HostTest, PutsWindowsOnTopOnlyWhereTheSettingIsOne)
+{
+    Host host(path("Kalvenor"), desktop);
+    for (const QString off : {"0", "", "ja", "2", "10"}) {
+        host.AddInonTop = off;
+        EXPECT_FALSE(host.fensteroben(nullptr, -1, true)) << off.toStdString();
+    }
+    EXPECT_TRUE(desktop.placements.empty());
+
+    host.AddInonTop = "1";
+    for (const int onTop : {-1, 0, 1})
+        EXPECT_TRUE(host.fensteroben(nullptr, onTop, onTop != 0));
+    ASSERT_EQ(desktop.placements.size(), 3U);
+    EXPECT_EQ(desktop.placements[0].place, StackPlace::TopMost);
+    EXPECT_EQ(desktop.placements[1].place, StackPlace::NotTopMost);
+    EXPECT_FALSE(desktop.placements[1].activate);
+    EXPECT_EQ(desktop.placements[2].place, StackPlace::Top);
+}

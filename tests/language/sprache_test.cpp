@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "language/sprache.h"
+
+#include <gtest/gtest.h>
+#include "platform/jet/creator.h"
+#include "support/startedprogram.h"
+
+using namespace kalvenor;
+
+namespace {
+
+void writeTexts(const QString &file)
+{
+    using jet::ColumnType;
+    jet::Creator creator;
+    auto &languages = creator.addTable("Languages", {{.name = "Counter"},
+                                                     {.name = "Deutsch", .type = ColumnType::Text},
+                                                     {.name = "English", .type = ColumnType::Text}},
+                                       {{.name = "Counter", .columns = {"Counter"}}});
+    languages.addRow({1, QString("Datei öffnen"), QString("Open file")});
+    languages.addRow({2, QString("in #PROGNAME# und #APPNAME##PROGNAME# #progname#"), QString("#")});
+    languages.addRow({3, {}, QString("Only English")});
+    languages.addRow({-4, QString("negativ"), QString("negative")});
+    creator.write(file);
+}
+
+} // namespace
+
+TEST(Sprachtext, LooksUpByIdentifierAndLanguage)
+{
+    QTemporaryDir folder;
+    writeTexts(folder.filePath("ADD-IN-LANGUAGE.MDB"));
+    test::FakeDesktop desktop;
+    host::Host host(windowsPath(folder.filePath("Kalvenor")), desktop);
+    dao::Engine engine;
+    language::Sprachmodul texts(host, engine);
+    host.Sprache = "Deutsch";
+    EXPECT_EQ(texts.text(1), "????") << "nothing is open yet";
+
+    texts.spracheoeffnen(windowsPath(folder.filePath("ADD-IN-LANGUAGE.MDB")));
+    const struct {
+        QString language;
+        qint16 id;
+        QString text;
+    } rows[] = {
+        {"Deutsch", 1, "Datei öffnen"}, {"deutsch", 1, "Datei öffnen"}, {"English", 1, "Open file"},
+        {"Suomi", 1, "????"},           {"Deutsch", 99, "????"},        {"Deutsch", 2, "in  und  #progname#"},
+        {"English", 2, "#"},            {"English", 3, "Only English"}, {"Deutsch", -4, "negativ"},
+    };
+    for (const auto &row : rows) {
+        host.Sprache = row.language;
+        EXPECT_EQ(texts.text(row.id), row.text) << row.language.toStdString() << row.id;
+    }
+    host.Sprache = "Deutsch";
+    EXPECT_TRUE(texts.sprachtext(3).isNull());
+}
+
+TEST(Datenbankenschliessen, ClosesAllAndOpensTheHostsOwnTexts)
+{
+    test::StartedProgram started;
+    app::Program &program = started.program;
+    program.engine.createWorkspace();
+    const auto family = program.databases.Familiendatenbank;
+    const auto persons = program.databases.Datentabelle;
+
+    program.language.datenbankenschliessen("bleibt");
+    EXPECT_FALSE(family->isOpen());
+    EXPECT_FALSE(persons->isOpen());
+    EXPECT_EQ(program.engine.workspaceCount(), 1);
+    EXPECT_TRUE(program.engine.workspace(0).databases().empty());
+    EXPECT_EQ(program.language.text(100), "????") << "its database is closed as well";
+
+    program.language.datenbankenschliessen("");
+    ASSERT_EQ(program.engine.workspace(0).databases().size(), 1U);
+    EXPECT_TRUE(program.engine.workspace(0).databases()[0]->file().endsWith("/language.mdb"));
+}

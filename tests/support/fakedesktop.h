@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <vector>
+#include "platform/desktop/desktop.h"
+
+namespace kalvenor::test {
+
+/// A desktop that remembers what it was told and answers OK.
+class FakeDesktop : public Desktop {
+public:
+    struct Message {
+        QString text;
+        int style;
+        QString title;
+    };
+    struct Placement {
+        StackPlace place;
+        bool activate;
+    };
+
+    int messageBox(const QString &text, int style, const QString &title) override
+    {
+        messages.push_back({text, style, title});
+        return ResultOk;
+    }
+    void runtimeError(const Error &error) override { errors.push_back(error.message()); }
+    void setPointer(Pointer pointer) override { pointers.push_back(pointer); }
+    bool setStackPlace(QWindow *, StackPlace place, bool activate) override
+    {
+        placements.push_back({place, activate});
+        return true;
+    }
+
+    std::vector<Message> messages;
+    std::vector<QString> errors;
+    std::vector<Pointer> pointers;
+    std::vector<Placement> placements;
+};
+
+} // namespace kalvenor::test
