@@ -106,8 +106,8 @@ CheckResult Checker::run()
 {
     if (!checkFolders())
         return m_result;
-    checkLanguageDatabase(m_host.Hostverzeichnis + u"\\ADD-IN-LANGUAGE.MDB", true);
-    checkLanguageDatabase(m_host.Hostverzeichnis + u"\\language.mdb", false);
+    checkLanguageDatabase(m_host.Hostverzeichnis + QStringLiteral("\\ADD-IN-LANGUAGE.MDB"), true);
+    checkLanguageDatabase(m_host.Hostverzeichnis + QStringLiteral("\\language.mdb"), false);
     checkFamilyDatabase();
     for (const auto side : {data::HostDatabase::Events, data::HostDatabase::History, data::HostDatabase::Names,
                             data::HostDatabase::Places})
@@ -120,17 +120,17 @@ bool Checker::checkFolders()
 {
     const QString program = m_host.native(m_host.programFolder());
     if (!QFileInfo(program).isDir()) {
-        missing(program + u": the program's folder is not there");
+        missing(program + QStringLiteral(": the program's folder is not there"));
         return false;
     }
     if (QFileInfo(program).isWritable())
-        ok(program + u": program folder, writable");
+        ok(program + QStringLiteral(": program folder, writable"));
     else
-        locked(program + u": the program's folder is read-only; print settings cannot be kept in it");
+        locked(program + QStringLiteral(": the program's folder is read-only; print settings cannot be kept in it"));
 
     const QString settings = m_host.hostSettingsFile();
     if (m_host.dir(settings).isEmpty()) {
-        missing(m_host.native(settings) + u": the host's settings file is not there, so no family database is known");
+        missing(m_host.native(settings) + QStringLiteral(": the host's settings file is not there, so no family database is known"));
         return true;
     }
     const auto setting = [&](const char *section, const char *key, const QString &fallback) {
@@ -145,13 +145,13 @@ bool Checker::checkFolders()
 void Checker::checkOutputFolder()
 {
     const QString folder = m_host.native(m_host.inilesen(m_host.hostSettingsFile(), QStringLiteral("Verzeichnisse"),
-                                                         QStringLiteral("Prints"), m_host.Hostverzeichnis + u"\\Ausdrucke"));
+                                                         QStringLiteral("Prints"), m_host.Hostverzeichnis + QStringLiteral("\\Ausdrucke")));
     if (!QFileInfo(folder).isDir())
-        missing(folder + u": the output folder is not there");
+        missing(folder + QStringLiteral(": the output folder is not there"));
     else if (!QFileInfo(folder).isWritable())
-        locked(folder + u": the output folder is read-only");
+        locked(folder + QStringLiteral(": the output folder is read-only"));
     else
-        ok(folder + u": output folder, writable");
+        ok(folder + QStringLiteral(": output folder, writable"));
 }
 
 std::shared_ptr<jet::Database> Checker::open(const QString &path)
@@ -228,16 +228,16 @@ void Checker::checkFamilyDatabase()
 {
     if (m_host.Familienpfad.isEmpty()) {
         missing(m_host.native(m_host.hostSettingsFile()) +
-                u": no family database is named (section QV-Files, key 0); open one in the host program");
+                QStringLiteral(": no family database is named (section QV-Files, key 0); open one in the host program"));
         return;
     }
     const auto database = open(m_host.Familienpfad);
     if (!database)
         return;
     checkTables(database, data::HostDatabase::Family);
-    const QString lockFile = database->file().left(database->file().lastIndexOf(u'.')) + u".ldb";
+    const QString lockFile = database->file().left(database->file().lastIndexOf(u'.')) + QStringLiteral(".ldb");
     if (QFileInfo::exists(lockFile))
-        note(lockFile + u": the family database is open in another program, or was not closed cleanly");
+        note(lockFile + QStringLiteral(": the family database is open in another program, or was not closed cleanly"));
 }
 
 void Checker::checkSideDatabase(data::HostDatabase side)
@@ -293,9 +293,9 @@ void Checker::checkPersonTable(const std::shared_ptr<jet::Database> &database, c
     try {
         const jet::MarkWriter writer(database, persons, mark, counter);
         if (QFileInfo(database->file()).isWritable())
-            ok(database->file() + u": writable, persons can be marked");
+            ok(database->file() + QStringLiteral(": writable, persons can be marked"));
         else
-            locked(database->file() + u": the family database is read-only; no person can be marked in it");
+            locked(database->file() + QStringLiteral(": the family database is read-only; no person can be marked in it"));
     } catch (const Error &error) {
         report(error);
     }

@@ -211,7 +211,7 @@ int runCommandLine(int argc, char **argv)
     } catch (const CLI::ParseError &error) {
         // CLI11 may break a complaint over lines; here it is one line that helps.
         QString complaint = QString::fromStdString(error.what()).simplified();
-        return wrongUsage(complaint + u" (kalvenor --help lists commands and options)");
+        return wrongUsage(complaint + QStringLiteral(" (kalvenor --help lists commands and options)"));
     }
 
     const auto application = makeApplication(parser, argc, argv);

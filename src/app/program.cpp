@@ -29,7 +29,7 @@ bool Program::Main(const ShowMainWindow &showMainWindow)
     host.Sprache = host.inilesen(settings, view, QStringLiteral("Sprache"), QStringLiteral("Deutsch"));
     host.Kurzhilfe =
         toInteger16(leadingNumber(host.inilesen(settings, view, QStringLiteral("Kurzhilfe"), QStringLiteral("1"))));
-    language.spracheoeffnen(host.Hostverzeichnis + u"\\ADD-IN-LANGUAGE.MDB");
+    language.spracheoeffnen(host.Hostverzeichnis + QStringLiteral("\\ADD-IN-LANGUAGE.MDB"));
     host.Familienpfad = host.inilesen(settings, QStringLiteral("QV-Files"), QStringLiteral("0"), {});
     if (host.Familienpfad.isEmpty() || host.dir(host.Familienpfad).isEmpty()) {
         // AddInonTop is read later, so this changes nothing yet.
