@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <memory>
-#include <span>
-#include <vector>
 #include "platform/jet/format.h"
+#include "platform/jet/textcodec.h"
+#include <memory>
 #include <QByteArray>
 #include <QString>
+#include <span>
 
 namespace kalvenor::jet {
 
@@ -26,6 +26,8 @@ public:
     /// Reads the file (native path) and reads it again, a few times, while its stamp moves.
     /// Throws Error: FileNotFound, FileUnreadable, NotADatabase, Damaged, ChangedElsewhere.
     static std::shared_ptr<Image> load(const QString &file);
+    /// A file's bytes that are already in memory; `name` stands in error texts. Throws as load.
+    static std::shared_ptr<Image> fromBytes(const QString &name, std::span<const std::uint8_t> bytes);
     /// The stamp the file has now; throws FileNotFound or FileUnreadable.
     static Stamp stampOf(const QString &file);
 
@@ -35,15 +37,34 @@ public:
     std::uint32_t pageCount() const { return m_pageCount; }
     int codePage() const { return m_codePage; }
     /// The decoded page, or an empty span for a page the file does not have.
-    std::span<const std::uint8_t> page(std::uint32_t number) const;
+    std::span<const std::uint8_t> page(std::uint32_t number) const
+    {
+        if (number >= m_pageCount)
+            return {};
+        return {m_bytes.get() + std::size_t{number} * m_pageSize, m_pageSize};
+    }
+    /// Stored text in this file's version and code page.
+    void decodeText(std::span<const std::uint8_t> bytes, QString &into) const
+    {
+        if (m_version == Version::Jet4)
+            decodeText4(bytes, into);
+        else
+            decodeText3(bytes, m_characters, into);
+    }
 
     const Stamp &stamp() const { return m_stamp; }
     void setStamp(const Stamp &stamp) { m_stamp = stamp; }
     std::uint32_t encodingKey() const { return m_encodingKey; }
     /// Takes over one byte that was written to the file. The plain byte, and its place in the file.
-    void patch(std::size_t offset, std::uint8_t plain) { m_bytes[offset] = plain; }
+    void patch(std::size_t offset, std::uint8_t plain)
+    {
+        if (offset < std::size_t{m_pageCount} * m_pageSize)
+            m_bytes[offset] = plain;
+    }
 
 private:
+    void takeBytes(std::unique_ptr<std::uint8_t[]> bytes, std::size_t size);
+
     QString m_file;
     Version m_version = Version::Jet4;
     std::uint32_t m_pageSize = 4096;
@@ -51,7 +72,8 @@ private:
     int m_codePage = 1252;
     std::uint32_t m_encodingKey = 0; ///< 0: plain pages
     Stamp m_stamp;
-    std::vector<std::uint8_t> m_bytes;
+    ByteCharacters m_characters{};
+    std::unique_ptr<std::uint8_t[]> m_bytes; ///< as many as the file has; not a vector, which would zero them first
 };
 
 } // namespace kalvenor::jet

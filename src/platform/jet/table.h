@@ -2,14 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <memory>
-#include <optional>
-#include <vector>
 #include "platform/jet/format.h"
 #include "platform/jet/image.h"
+#include "platform/jet/record.h"
+#include <memory>
+#include <mutex>
+#include <optional>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
+#include <vector>
 
 namespace kalvenor::jet {
 
@@ -43,7 +45,12 @@ public:
 
     std::uint32_t rowCount() const { return static_cast<std::uint32_t>(m_rows.size()); }
     const RowPlace &place(std::uint32_t row) const { return m_rows[row]; }
-    std::span<const std::uint8_t> record(std::uint32_t row) const;
+    std::span<const std::uint8_t> record(std::uint32_t row) const
+    {
+        const RowPlace &place = m_rows[row];
+        return m_image->page(place.recordPage).subspan(place.recordStart, place.recordLength);
+    }
+    const RecordLayout &layout() const { return m_layout; }
 
     // Values. A column of another type than asked for gives nothing.
     bool isNull(std::uint32_t row, int column) const;
@@ -57,22 +64,35 @@ public:
     QString text(std::uint32_t row, int column) const;
     /// Binary, Ole.
     QByteArray bytes(std::uint32_t row, int column) const;
-    /// Any type: bool, int, double, QString, QByteArray, QUuid; Money and Numeric as exact decimal text; invalid = null.
+    /// Any type: bool, int, double, QString, QByteArray, QUuid; Money and Numeric as exact decimal text; invalid =
+    /// null.
     QVariant value(std::uint32_t row, int column) const;
 
-    /// What was skipped while rows were located, one line each naming the page (at most some dozens are kept).
-    const QStringList &warnings() const { return m_warnings; }
+    /// What damage was passed over while rows were located and values read, one line each naming the page (at most
+    /// some dozens are kept).
+    QStringList warnings() const;
 
 private:
     friend class TableReader;
+    using Field = std::optional<std::span<const std::uint8_t>>;
+
+    /// The value's bytes, nothing for null and for what cannot be read; not for Yes/No.
+    Field field(std::uint32_t row, int column) const;
+    /// Text, Memo, Binary and Ole: their own bytes.
+    Field content(std::uint32_t row, int column, std::vector<std::uint8_t> &scratch) const;
+    void warn(const QString &warning) const;
+    void warnAt(std::uint32_t row, int column, const QString &problem) const;
+
     std::shared_ptr<const Image> m_image;
     QString m_name;
     std::uint32_t m_definitionPage = 0;
     std::vector<Column> m_columns;
     std::vector<Index> m_indexes;
     std::vector<std::uint16_t> m_indexedColumns;
+    RecordLayout m_layout;
     std::vector<RowPlace> m_rows;
-    QStringList m_warnings;
+    mutable std::mutex m_warningsGuard; ///< values may be read from several threads
+    mutable QStringList m_warnings;
 };
 
 } // namespace kalvenor::jet
