@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/print/pageflow.h"
+
+#include "platform/basic/error.h"
+
+#include <utility>
+
+namespace kalvenor {
+
+PageFlow::PageFlow(double top, double bottom) : m_top(top), m_bottom(bottom), m_y(top), m_pages(1)
+{
+}
+
+void PageFlow::add(Strip strip)
+{
+    if (strip.height > m_bottom - m_top)
+        throw Error(ErrorKind::InvalidProcedureCall, QStringLiteral("page layout"),
+                    QStringLiteral("A line of text is higher than the page between its margins. "
+                                   "Choose a smaller font or smaller margins."));
+    const bool complete = !strip.keepWithNext;
+    m_group.push_back(std::move(strip));
+    if (complete)
+        placeGroup();
+}
+
+void PageFlow::setHeading(std::vector<Strip> heading)
+{
+    double height = 0;
+    for (const Strip &strip : heading)
+        height += strip.spaceBefore + strip.height;
+    if (height > (m_bottom - m_top) / 2)
+        heading.clear();
+    m_heading = std::move(heading);
+}
+
+void PageFlow::breakPage()
+{
+    placeGroup();
+    newPage();
+}
+
+std::vector<Page> PageFlow::take()
+{
+    placeGroup();
+    return std::exchange(m_pages, std::vector<Page>(1));
+}
+
+void PageFlow::placeGroup()
+{
+    double height = 0;
+    for (const Strip &strip : m_group)
+        height += (&strip == &m_group.front() && m_pageIsBare ? 0 : strip.spaceBefore) + strip.height;
+    if (!m_pageIsBare && m_y + height > m_bottom)
+        newPage();
+    for (Strip &strip : m_group)
+        place(std::move(strip));
+    m_group.clear();
+}
+
+void PageFlow::place(Strip &&strip)
+{
+    // Reached within a group only where the group is higher than a page.
+    if (!m_pageIsBare && m_y + strip.spaceBefore + strip.height > m_bottom)
+        newPage();
+    if (!m_pageIsBare)
+        m_y += strip.spaceBefore;
+    Page &page = m_pages.back();
+    for (PlacedGround &ground : strip.grounds) {
+        ground.area.translate(0, m_y);
+        page.grounds.push_back(std::move(ground));
+    }
+    for (PlacedText &text : strip.texts) {
+        text.baseline += static_cast<float>(m_y);
+        page.texts.push_back(std::move(text));
+    }
+    m_y += strip.height;
+    m_pageIsBare = false;
+}
+
+void PageFlow::newPage()
+{
+    m_pages.emplace_back();
+    m_y = m_top;
+    m_pageIsBare = true;
+    for (const Strip &strip : m_heading)
+        place(Strip(strip));
+    m_pageIsBare = true;
+}
+
+} // namespace kalvenor

@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/print/pdfwriter.h"
+
+#include "platform/basic/error.h"
+#include "platform/print/pagepainter.h"
+
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+
+namespace kalvenor {
+namespace {
+
+[[noreturn]] void fail(const QString &path, const QString &what, const QString &reason)
+{
+    throw Error(
+        ErrorKind::WriteFailed, path,
+        u"%1 (%2). Choose another folder or name, or make room on the disk; an older file there is unchanged."_qs.arg(
+            what, reason));
+}
+
+} // namespace
+
+void writePdf(const PageLayout &layout, const QString &title, const QString &path, const Progress &progress)
+{
+    QSaveFile file(path); // leaves nothing behind unless it is committed
+    if (!file.open(QIODevice::WriteOnly))
+        fail(path, QStringLiteral("The PDF file cannot be written"), file.errorString());
+
+    QPdfWriter writer(&file);
+    writer.setTitle(title);
+    writer.setCreator(QStringLiteral("Kalvenor " KALVENOR_VERSION));
+    writer.setResolution(1440); // twips
+    QSizeF points = layout.paperSize() / 20;
+    const bool landscape = points.width() > points.height();
+    if (landscape)
+        points.transpose();
+    writer.setPageLayout(QPageLayout(QPageSize(points, QPageSize::Point, {}, QPageSize::FuzzyMatch),
+                                     landscape ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF()));
+
+    QPainter painter(&writer);
+    PagePainter pages(layout);
+    const auto total = static_cast<qint64>(layout.pages().size());
+    qint64 done = 0;
+    for (const Page &page : layout.pages()) {
+        if (done > 0)
+            writer.newPage();
+        pages.paint(painter, page);
+        ++done;
+        if (file.error() != QFileDevice::NoError)
+            break;
+        if (progress && !progress(done, total))
+            throw Error(ErrorKind::Cancelled, path, QStringLiteral("Stopped by the user; nothing was written."));
+    }
+    painter.end();
+    if (file.error() != QFileDevice::NoError || !file.commit())
+        fail(path, QStringLiteral("Writing the PDF file failed"), file.errorString());
+}
+
+} // namespace kalvenor

@@ -1,0 +1,118 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/print/printdocument.h"
+
+#include "platform/basic/error.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kalvenor {
+namespace {
+
+[[noreturn]] void refuse(const QString &text)
+{
+    throw Error(ErrorKind::InvalidProcedureCall, QStringLiteral("print document"), text);
+}
+
+std::optional<Alignment> alignmentOf(QChar sign)
+{
+    switch (sign.unicode()) {
+    case u'<':
+        return Alignment::Left;
+    case u'^':
+        return Alignment::Centre;
+    case u'>':
+        return Alignment::Right;
+    case u'=':
+        return Alignment::Justified;
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+std::vector<Column> columnsFromFormat(QStringView format)
+{
+    std::vector<Column> columns;
+    for (QStringView part : format.split(u'|')) {
+        part = part.trimmed();
+        Column column;
+        if (const auto alignment = part.isEmpty() ? std::nullopt : alignmentOf(part.front())) {
+            column.alignment = *alignment;
+            part = part.mid(1);
+        }
+        bool isNumber = false;
+        column.width = part.toInt(&isNumber);
+        if (!isNumber || column.width < 0)
+            refuse(u"\"%1\" is not a column format such as \"<4000|>900\"."_qs.arg(format));
+        columns.push_back(column);
+    }
+    return columns;
+}
+
+std::array<QString, 3> runningTextParts(QStringView text, int pageNumber)
+{
+    std::array<QString, 3> parts;
+    for (std::size_t i = 0; i < 2; ++i) {
+        const qsizetype bar = text.indexOf(u'|');
+        parts[i] = text.left(bar < 0 ? text.size() : bar).toString();
+        text = bar < 0 ? QStringView() : text.mid(bar + 1);
+    }
+    parts[2] = text.toString();
+    for (QString &part : parts)
+        part.replace(QLatin1String("%d"), QString::number(pageNumber));
+    return parts;
+}
+
+StyleId PrintDocument::addStyle(const TextStyle &style)
+{
+    const auto found = std::find(m_styles.begin(), m_styles.end(), style);
+    if (found != m_styles.end())
+        return static_cast<StyleId>(found - m_styles.begin());
+    if (!(style.pointSize > 0 && style.pointSize <= 1000))
+        refuse(u"A font size of %1 points cannot be printed; sizes go from above 0 to 1000."_qs.arg(style.pointSize));
+    m_styles.push_back(style);
+    return static_cast<StyleId>(m_styles.size() - 1);
+}
+
+void PrintDocument::add(Block block)
+{
+    if (const auto *paragraph = std::get_if<Paragraph>(&block)) {
+        checkStyle(paragraph->style);
+        if (paragraph->spaceBefore < 0 || paragraph->spaceAfter < 0)
+            refuse(QStringLiteral("The space around a paragraph cannot be negative."));
+        m_columns = 0;
+    } else if (const auto *table = std::get_if<TableStart>(&block)) {
+        if (table->columns.empty())
+            refuse(QStringLiteral("A table needs at least one column."));
+        if (table->rowSpacing < 0 || std::any_of(table->columns.begin(), table->columns.end(),
+                                                 [](const Column &column) { return column.width < 0; }))
+            refuse(QStringLiteral("Column widths and row spacing cannot be negative."));
+        for (const auto &row : table->heading)
+            checkCells(row, table->columns.size());
+        m_columns = table->columns.size();
+    } else if (const auto *row = std::get_if<TableRow>(&block)) {
+        if (m_columns == 0)
+            refuse(QStringLiteral("A table row stands outside a table."));
+        checkCells(row->cells, m_columns);
+    }
+    m_blocks.push_back(std::move(block));
+}
+
+void PrintDocument::checkCells(const std::vector<Cell> &cells, std::size_t columns) const
+{
+    if (cells.size() > columns)
+        refuse(u"A row of %1 cells does not fit a table of %2 columns."_qs.arg(cells.size()).arg(columns));
+    for (const Cell &cell : cells)
+        checkStyle(cell.style);
+}
+
+void PrintDocument::checkStyle(StyleId style) const
+{
+    if (style < 0 || static_cast<std::size_t>(style) >= m_styles.size())
+        refuse(u"There is no text style %1."_qs.arg(style));
+}
+
+} // namespace kalvenor

@@ -1,0 +1,137 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <optional>
+#include <QColor>
+#include <QString>
+#include <QStringView>
+#include <variant>
+#include <vector>
+
+// What is to be printed, as a sequence of blocks that knows nothing of pages. All lengths are twips (1/1440 inch).
+namespace kalvenor {
+
+using Twips = int;
+
+/// How a text looks. An invalid colour means black text and no background.
+struct TextStyle {
+    QString family = QStringLiteral("Arial");
+    double pointSize = 10;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    bool strikeOut = false;
+    QColor color = {};
+    QColor background = {};
+
+    bool operator==(const TextStyle &) const = default;
+};
+
+/// Names a style of one document.
+using StyleId = int;
+
+enum class Alignment { Left, Centre, Right, Justified };
+
+/// What happens to a text that is wider than its column.
+enum class Overflow {
+    Wrap,  ///< goes on in a further line, at a blank where there is one, else between two characters
+    Elide, ///< stays one line, ends in "…"
+};
+
+struct Column {
+    Alignment alignment = Alignment::Left;
+    /// 0 takes an equal share of what the other columns leave of the line.
+    Twips width = 0;
+    Overflow overflow = Overflow::Wrap;
+
+    bool operator==(const Column &) const = default;
+};
+
+/// Columns from a format text such as "<4000|^1200|>900": alignment sign (< left, ^ centre, > right, = justified,
+/// left without one) and width. Throws Error(InvalidProcedureCall) for anything else.
+std::vector<Column> columnsFromFormat(QStringView format);
+
+struct Cell {
+    QString text;
+    StyleId style = 0;
+    std::optional<Alignment> alignment = {}; ///< instead of the column's
+};
+
+/// Line ends inside the text begin new lines.
+struct Paragraph {
+    QString text;
+    StyleId style = 0;
+    Alignment alignment = Alignment::Left;
+    Twips spaceBefore = 0; ///< left out at the top of a page
+    Twips spaceAfter = 0;
+    bool keepWithNext = false; ///< a heading: never the last line of a page
+};
+
+/// Begins a table. The rows that follow belong to it, until a paragraph or another table. Columns wider in sum than
+/// the line are narrowed in proportion. The heading rows stand here and again on each page the table goes on to.
+struct TableStart {
+    std::vector<Column> columns;
+    std::vector<std::vector<Cell>> heading = {};
+    Twips rowSpacing = 0; ///< between two rows
+};
+
+/// Missing cells are empty; more cells than columns are an error. A row is kept on one page where it fits on one.
+struct TableRow {
+    std::vector<Cell> cells;
+};
+
+struct PageBreak {};
+
+using Block = std::variant<Paragraph, TableStart, TableRow, PageBreak>;
+
+/// The paper stands upright in these sizes; landscape turns it. Margins are those of the page as it is read.
+struct PageSetup {
+    Twips paperWidth = 11906; // A4
+    Twips paperHeight = 16838;
+    bool landscape = false;
+    Twips left = 1440;
+    Twips top = 1440;
+    Twips right = 1080;
+    Twips bottom = 1080;
+    /// From the paper's edge to the header's top and the footer's bottom. Where they reach into the text, it gives way.
+    Twips headerDistance = 567;
+    Twips footerDistance = 567;
+};
+
+/// "left|centre|right"; "%d" is the page number.
+struct RunningText {
+    QString text;
+    StyleId style = 0;
+};
+
+/// The three parts of a running text for one page. Bars behind the second belong to the right part.
+std::array<QString, 3> runningTextParts(QStringView text, int pageNumber);
+
+class PrintDocument {
+public:
+    QString title;
+    PageSetup page;
+    RunningText header;
+    RunningText footer;
+
+    /// Equal styles share an id. Style 0 is always there: the default TextStyle.
+    StyleId addStyle(const TextStyle &style);
+    const std::vector<TextStyle> &styles() const { return m_styles; }
+
+    /// Throws Error(InvalidProcedureCall) where a block cannot stand: a row outside a table, too many cells, a style
+    /// that is none, a negative length.
+    void add(Block block);
+    const std::vector<Block> &blocks() const { return m_blocks; }
+
+private:
+    void checkCells(const std::vector<Cell> &cells, std::size_t columns) const;
+    void checkStyle(StyleId style) const;
+
+    std::vector<TextStyle> m_styles{TextStyle()};
+    std::vector<Block> m_blocks;
+    std::size_t m_columns = 0; ///< of the open table, 0 outside
+};
+
+} // namespace kalvenor
