@@ -17,7 +17,13 @@ QString decodeCodePage(QByteArrayView bytes, int codePage);
 /// Characters the code page lacks become "?".
 QByteArray encodeCodePage(QStringView text, int codePage);
 
-inline QString decodeAnsi(QByteArrayView bytes) { return decodeCodePage(bytes, 1252); }
-inline QByteArray encodeAnsi(QStringView text) { return encodeCodePage(text, 1252); }
+inline QString decodeAnsi(QByteArrayView bytes)
+{
+    return decodeCodePage(bytes, 1252);
+}
+inline QByteArray encodeAnsi(QStringView text)
+{
+    return encodeCodePage(text, 1252);
+}
 
 } // namespace kalvenor

@@ -22,9 +22,13 @@ DateOrder systemDateOrder();
 /// Day number of a date of the (proleptic) Gregorian calendar, nothing where there is no such day.
 std::optional<qint64> dayNumber(int year, int month, int day);
 
-/// Reads a date text (CDate), nothing where it is not one (IsDate). A text that is a time of day alone gives its fraction.
+/// Reads a date text (CDate), nothing where it is not one (IsDate). A text that is a time of day alone gives its
+/// fraction.
 std::optional<double> dateFromText(QStringView text, DateOrder order);
-inline bool isDate(QStringView text, DateOrder order) { return dateFromText(text, order).has_value(); }
+inline bool isDate(QStringView text, DateOrder order)
+{
+    return dateFromText(text, order).has_value();
+}
 
 /// The date as the system writes it (CStr): "31.12.1997" or "12/31/1997".
 QString dateText(double serial, DateOrder order);

@@ -67,8 +67,13 @@ int digitValue(char lower)
     return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : 16;
 }
 
+struct ReadNumber {
+    double value = 0;
+    bool complete = false; // no digits are missing
+};
+
 // Behind "&". A value of up to 16 (32) bits is a signed integer of that size, unless "&" behind it asks for 32 bits.
-double readBased(Cursor &at)
+ReadNumber readBased(Cursor &at)
 {
     int base = 0;
     if (at.take('h'))
@@ -76,8 +81,9 @@ double readBased(Cursor &at)
     else if (at.take('o'))
         base = 8;
     else
-        return 0;
+        return {};
     double value = 0;
+    const bool complete = digitValue(at.peekLower()) < base;
     while (digitValue(at.peekLower()) < base) {
         value = value * base + digitValue(at.peekLower());
         at.next();
@@ -85,22 +91,17 @@ double readBased(Cursor &at)
     const bool asLong = at.take('&');
     if (!asLong)
         at.take('%');
-    if (value <= 0xFFFF)
-        return asLong || value <= 0x7FFF ? value : value - 0x10000;
-    if (value <= 0xFFFFFFFF)
-        return value <= 0x7FFFFFFF ? value : value - 4294967296.0;
-    return value;
+    if (!asLong && value > 0x7FFF && value <= 0xFFFF)
+        value -= 0x10000;
+    else if (value > 0x7FFFFFFF && value <= 0xFFFFFFFF)
+        value -= 4294967296.0;
+    return {value, complete};
 }
-
-struct ReadNumber {
-    double value = 0;
-    bool found = false;
-};
 
 ReadNumber readNumber(Cursor &at)
 {
     if (at.take('&'))
-        return {readBased(at), true};
+        return readBased(at);
     QByteArray number = at.takeSign();
     const QByteArray whole = at.takeDigits();
     QByteArray fraction;
@@ -109,14 +110,22 @@ ReadNumber readNumber(Cursor &at)
     if (whole.isEmpty() && fraction.isEmpty())
         return {};
     number += whole + '.' + fraction + '0';
+    bool complete = true;
+    QByteArray exponentSign;
     if (at.take('e') || at.take('d')) {
-        const QByteArray sign = at.takeSign();
+        exponentSign = at.takeSign();
         const QByteArray exponent = at.takeDigits();
-        if (!exponent.isEmpty())
-            number += 'e' + sign + exponent;
+        complete = !exponent.isEmpty();
+        number += 'e' + exponentSign + (complete ? exponent : "0");
     }
-    // Beyond the range this is infinity, below it 0.
-    return {number.toDouble(), true};
+    bool inRange = false;
+    const double value = number.toDouble(&inRange);
+    if (inRange)
+        return {value, complete};
+    if (!exponentSign.isEmpty())
+        return {0, complete};
+    const double infinity = std::numeric_limits<double>::infinity();
+    return {number.startsWith('-') ? -infinity : infinity, complete};
 }
 
 template <typename Integer>
@@ -197,7 +206,7 @@ qint16 textToInteger16(QStringView text)
     const QByteArray whole = asciiOnly(trimBlanks(text));
     Cursor at(whole);
     const ReadNumber number = readNumber(at);
-    if (!number.found || !at.atEnd())
+    if (!number.complete || !at.atEnd())
         throw Error(ErrorKind::TypeMismatch, {}, QStringLiteral("\"%1\" is not a number").arg(text));
     return toInteger16(number.value);
 }

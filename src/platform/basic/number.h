@@ -9,7 +9,8 @@
 namespace kalvenor {
 
 /// Leading-number read (Val): blanks, tabs and line ends anywhere are skipped, "." is the only decimal point,
-/// E e D d start an exponent, &H and &O read hexadecimal and octal. No number gives 0; never fails.
+/// E e D d start an exponent, &H and &O read hexadecimal and octal. No number gives 0, one beyond the range infinity;
+/// never fails.
 double leadingNumber(QStringView text);
 
 /// Number to text with a sign position (Str): " 12.3", "-.5", 15 significant digits.

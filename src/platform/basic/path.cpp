@@ -61,7 +61,7 @@ QString resolveCase(const QString &start, const QString &rest)
     for (qsizetype i = 0; i < parts.size(); ++i) {
         const bool last = i + 1 == parts.size();
         QString part = parts[i];
-        if (!exists(found + part)) {
+        if (last ? !exists(found + part) : !QFileInfo(found + part).isDir()) {
             const QString other = findIgnoringCase(found, part, !last);
             if (!other.isEmpty())
                 part = other;

@@ -12,7 +12,8 @@ namespace kalvenor {
 QString leftPart(QStringView text, qsizetype length);
 /// The last `length` units. Throws like leftPart.
 QString rightPart(QStringView text, qsizetype length);
-/// From unit `start` (1 = first) to the end or `length` units. Past the end gives "". Throws for start < 1 or length < 0.
+/// From unit `start` (1 = first) to the end or `length` units. Past the end gives "". Throws for start < 1 or length <
+/// 0.
 QString midPart(QStringView text, qsizetype start);
 QString midPart(QStringView text, qsizetype start, qsizetype length);
 /// Without blanks (U+0020 only) at both ends.

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/basic/path.h"
+
+#include <gtest/gtest.h>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace kalvenor;
+
+namespace {
+
+class Paths : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(QDir(root()).mkpath(QStringLiteral("Daten/QV")));
+        for (const char *name : {"Daten/Familie.MDB", "Daten/b.txt", "Daten/A.TXT", "Daten/.geheim", "Daten/[x].txt",
+                                 "Daten/QV/x", "daten"}) {
+            QFile file(root() + u'/' + QString::fromLatin1(name));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << name;
+        }
+    }
+    QString root() const { return m_folder.path(); }
+    QString windowsRoot() const { return root().replace(u'/', u'\\'); }
+
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+TEST_F(Paths, Native)
+{
+    const DriveMap drives = {{u'C', root()}, {u'D', root() + QStringLiteral("/Daten/")}};
+    const struct {
+        QString text;
+        QString native;
+    } rows[] = {
+        {{}, {}},
+        {windowsRoot() + "\\Daten\\Familie.MDB", root() + "/Daten/Familie.MDB"},
+        {windowsRoot() + "\\DATEN\\familie.mdb", root() + "/Daten/Familie.MDB"},
+        {root() + "/dATEN/qv/X", root() + "/Daten/QV/x"},
+        {windowsRoot() + "\\daten", root() + "/daten"},
+        {windowsRoot() + "\\DATEN\\Neu.ini", root() + "/Daten/Neu.ini"},
+        {windowsRoot() + "\\Daten\\NEU\\qv\\x", root() + "/Daten/NEU/qv/x"},
+        {windowsRoot() + "\\DATEN\\qv\\..\\b.TXT", root() + "/Daten/QV/../b.txt"},
+        {"c:\\daten\\QV\\x", root() + "/Daten/QV/x"},
+        {"D:familie.mdb", root() + "/Daten/Familie.MDB"},
+        {"C:\\", root()},
+        {"C:", root()},
+        {"\\\\server\\Share\\x", "//server/Share/x"},
+        {"gibt\\es\\nicht", "gibt/es/nicht"},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(nativePath(row.text, drives).toStdString(), row.native.toStdString());
+
+    const QString unmapped = nativePath(QStringLiteral("X:\\a\\b.txt"), drives);
+    EXPECT_FALSE(QFile(unmapped).open(QIODevice::ReadWrite)) << "it must not come to be in the current folder";
+    EXPECT_EQ(windowsPath(unmapped), QStringLiteral("X:\\a\\b.txt"));
+}
+
+TEST_F(Paths, Windows)
+{
+    const DriveMap drives = {{u'C', QStringLiteral("/media/win")}, {u'D', QStringLiteral("/media/win/Data/")}};
+    const struct {
+        const char *native;
+        const char *text;
+    } rows[] = {
+        {"/media/win/x/y", "C:\\x\\y"},
+        {"/media/win/Data/x", "D:\\x"},
+        {"/media/win", "C:\\"},
+        {"/media/window", "\\media\\window"},
+        {"a/b", "a\\b"},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(windowsPath(row.native, drives).toStdString(), row.text);
+}
+
+TEST_F(Paths, DirectoryListing)
+{
+    const struct {
+        const char *pattern;
+        const char *name;
+    } rows[] = {
+        {"\\Daten\\Familie.MDB", "Familie.MDB"},
+        {"\\daten\\FAMILIE.mdb", "Familie.MDB"},
+        {"\\Daten\\fehlt.mdb", ""},
+        {"\\Daten\\QV", ""},
+        {"\\Daten\\Q*", ""},
+        {"\\Daten\\.geheim", ""},
+        {"\\Daten\\*heim", ""},
+        {"\\Daten\\*.txt", "[x].txt"},
+        {"\\Daten\\?.TXT", "A.TXT"},
+        {"\\Daten\\b.*", "b.txt"},
+        {"\\Daten\\f*l*.m?b", "Familie.MDB"},
+        {"\\Daten\\[x].*", "[x].txt"},
+        {"\\Daten\\[b].txt", ""},
+        {"\\Daten\\QV\\", "x"},
+        {"\\Daten\\QV\\*.*", "x"},
+        {"\\Fehlt\\*.*", ""},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(directoryListing(windowsRoot() + row.pattern).toStdString(), row.name) << row.pattern;
+    EXPECT_EQ(directoryListing({}), QString());
+}
