@@ -42,7 +42,7 @@ QString numbers(const std::vector<qint32> &counters)
 int runDemo(const DemoCommand &command)
 {
     TerminalProgress terminal(QStringLiteral("making persons"));
-    const demo::DemoHost made = demo::makeDemoHost({command.folder, command.persons, command.seed}, terminal.progress());
+    const DemoHost made = makeDemoHost({command.folder, command.persons, command.seed}, terminal.progress());
     printLine(QStringLiteral("host folder:     %1\nprogram folder:  %2\nfamily database: %3\npersons:         %4")
                   .arg(made.hostFolder, made.programFolder, made.familyDatabase)
                   .arg(made.persons));

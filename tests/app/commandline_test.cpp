@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The program as a person or a script runs it.
+#include <gtest/gtest.h>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+namespace {
+
+struct Outcome {
+    int exitCode;
+    QString out;
+    QString err;
+};
+
+Outcome run(const QStringList &arguments)
+{
+    QProcess process;
+    process.start(KALVENOR_PROGRAM, arguments);
+    process.waitForFinished(120'000);
+    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+            QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
+}
+
+/// One demonstration host for all cases of this file; each case leaves every person unmarked.
+class CommandLine : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        folder = new QTemporaryDir;
+        const Outcome made = run({"demo", folder->path(), "--persons", "400", "--seed", "5"});
+        ASSERT_EQ(made.exitCode, 0) << made.err.toStdString();
+    }
+    static void TearDownTestSuite() { delete folder; }
+
+    static Outcome onDemo(QStringList arguments)
+    {
+        arguments.insert(1, "--program");
+        arguments.insert(2, folder->filePath("QV/Kalvenor"));
+        return run(arguments);
+    }
+    static QByteArray familyBytes()
+    {
+        QFile file(folder->filePath("QV/Daten/Familie.mdb"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+    static qsizetype lineCount(const QString &text) { return text.count('\n'); }
+    static QTemporaryDir *folder;
+};
+
+QTemporaryDir *CommandLine::folder = nullptr;
+
+} // namespace
+
+TEST_F(CommandLine, RefusesWrongUsageInOneLineThatHelps)
+{
+    const struct {
+        QStringList arguments;
+        QString named;
+    } rows[] = {
+        {{"list", "--list", "all"}, "--list"},
+        {{"list", "--format", "xml"}, "--format"},
+        {{"list", "--colour"}, "--colour"},
+        {{"ages", "--sex", "x"}, "--sex"},
+        {{"mark"}, "--counter"},
+        {{"mark", "--all", "--counter", "1"}, "--all"},
+        {{"mark", "--counter", "1,zwei"}, "zwei"},
+        {{"report"}, "--output"},
+        {{"report", "--output", "x.doc"}, ".pdf"},
+        {{"report", "--output", "x.rtf"}, ".rtf"},
+        {{"demo"}, "DIR"},
+        {{"demo", "x", "--persons", "0"}, "--persons"},
+        {{"statistics"}, "statistics"},
+        {{}, "--help"},
+    };
+    for (const auto &row : rows) {
+        const Outcome outcome = run(row.arguments);
+        EXPECT_EQ(outcome.exitCode, 2) << row.arguments.join(' ').toStdString();
+        EXPECT_EQ(lineCount(outcome.err), 1) << outcome.err.toStdString();
+        EXPECT_TRUE(outcome.err.contains(row.named)) << outcome.err.toStdString();
+        EXPECT_TRUE(outcome.out.isEmpty());
+    }
+    EXPECT_EQ(run({"--help"}).exitCode, 0);
+}
+
+TEST_F(CommandLine, ChecksTheDemonstrationHost)
+{
+    const Outcome outcome = onDemo({"check"});
+    EXPECT_EQ(outcome.exitCode, 0) << outcome.out.toStdString();
+    EXPECT_EQ(run({"check", "--program", folder->filePath("nirgends/Kalvenor")}).exitCode, 1);
+}
+
+TEST_F(CommandLine, MarksAndListsPersons)
+{
+    const QByteArray before = familyBytes();
+    const Outcome unmarked = onDemo({"list", "--format", "tsv"});
+    ASSERT_EQ(unmarked.exitCode, 0) << unmarked.err.toStdString();
+    ASSERT_EQ(lineCount(unmarked.out), 400);
+    const QString first = unmarked.out.section('\t', 0, 0);
+    const QString tenth = unmarked.out.section('\n', 9, 9).section('\t', 0, 0);
+
+    EXPECT_EQ(onDemo({"mark", "--counter", first + "," + tenth}).out, "2 rows changed\n");
+    EXPECT_EQ(onDemo({"mark", "--counter", first}).out, "0 rows changed\n");
+    EXPECT_EQ(onDemo({"list", "--list", "marked", "--format", "tsv"}).out,
+              unmarked.out.section('\n', 0, 0) + '\n' + unmarked.out.section('\n', 9, 9) + '\n');
+    EXPECT_EQ(lineCount(onDemo({"list", "--limit", "7"}).out), 7);
+
+    const Outcome unknown = onDemo({"mark", "--counter", first + ",99999999"});
+    EXPECT_EQ(unknown.exitCode, 1);
+    EXPECT_TRUE(unknown.err.contains("99999999"));
+
+    EXPECT_EQ(onDemo({"mark", "--all"}).out, "398 rows changed\n");
+    EXPECT_EQ(onDemo({"list", "--format", "json"}).out, "[]\n");
+    EXPECT_EQ(onDemo({"unmark", "--all"}).out, "400 rows changed\n");
+    EXPECT_TRUE(familyBytes() == before) << "unmarking does not restore the file";
+}
+
+TEST_F(CommandLine, WritesAgesAndReport)
+{
+    ASSERT_EQ(onDemo({"mark", "--all"}).exitCode, 0);
+    const Outcome all = onDemo({"ages"});
+    const Outcome men = onDemo({"ages", "--sex", "m", "--format", "tsv"});
+    const Outcome women = onDemo({"ages", "--sex", "w", "--format", "tsv"});
+    EXPECT_GT(lineCount(men.out), 50);
+    EXPECT_GT(lineCount(women.out), 50);
+    EXPECT_EQ(lineCount(all.out), lineCount(men.out) + lineCount(women.out));
+    const QRegularExpression shape("^[ 0-9]{3}\\.[0-9]  \\S");
+    for (const QString &line : all.out.chopped(1).split('\n'))
+        EXPECT_TRUE(shape.match(line).hasMatch()) << line.toStdString();
+
+    const QString pdf = folder->filePath("Bericht.pdf");
+    const Outcome report = onDemo({"report", "--title", "Lebensalter der Müllers", "--output", pdf});
+    EXPECT_EQ(report.exitCode, 0) << report.err.toStdString();
+    QFile file(pdf);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.read(5) == "%PDF-");
+    if (!QStandardPaths::findExecutable("pdftotext").isEmpty()) {
+        QProcess reader;
+        reader.start("pdftotext", {"-layout", pdf, "-"});
+        reader.waitForFinished();
+        const QString text = QString::fromUtf8(reader.readAllStandardOutput());
+        EXPECT_TRUE(text.contains("Lebensalter der Müllers"));
+        EXPECT_TRUE(text.contains("- 2 -"));
+        EXPECT_TRUE(text.contains(all.out.section('\n', 0, 0).mid(7, 20).trimmed()));
+    }
+    const Outcome refused = onDemo({"report", "--output", folder->filePath("fehlt/Bericht.pdf")});
+    EXPECT_EQ(refused.exitCode, 1);
+    EXPECT_TRUE(refused.err.contains("fehlt")) << refused.err.toStdString();
+    ASSERT_EQ(onDemo({"unmark", "--all"}).exitCode, 0);
+}
+
+TEST_F(CommandLine, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
+{
+    const QString family = folder->filePath("QV/Daten/Familie.mdb");
+    ASSERT_TRUE(QFile::rename(family, family + ".weg"));
+    const Outcome outcome = onDemo({"ages"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_TRUE(outcome.out.isEmpty());
+    EXPECT_EQ(lineCount(outcome.err), 1) << outcome.err.toStdString();
+    EXPECT_FALSE(outcome.err.contains("????"));
+    ASSERT_TRUE(QFile::rename(family + ".weg", family));
+}

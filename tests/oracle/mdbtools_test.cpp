@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What mdb-export of mdbtools reads from a database equals what we read.
+#include <cmath>
+#include <gtest/gtest.h>
+#include "demo/demohost.h"
+#include "platform/jet/database.h"
+#include <QDir>
+#include <QDirIterator>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+using namespace kalvenor;
+using jet::ColumnType;
+
+namespace {
+
+using Rows = std::vector<QStringList>;
+const QString NullText = QStringLiteral("\\N");
+
+QByteArray mdbExport(const QString &file, const QString &table)
+{
+    QProcess process;
+    process.start("mdb-export", {"-0", NullText, "-b", "hex", "-D", "%Y-%m-%d %H:%M:%S", "-T", "%Y-%m-%d %H:%M:%S", file,
+                                 table});
+    process.waitForFinished(60'000);
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    return process.readAllStandardOutput();
+}
+
+/// Comma-separated values with doubled quotes; line ends inside quotes belong to the value. A quoted text that reads
+/// like the null word keeps one quote before it, to stay apart.
+Rows parseCsv(const QString &csv)
+{
+    Rows rows;
+    QStringList row;
+    qsizetype at = 0;
+    while (at < csv.size()) {
+        QString field;
+        if (csv[at] == u'"') {
+            for (++at; at < csv.size(); ++at) {
+                if (csv[at] != u'"')
+                    field += csv[at];
+                else if (at + 1 < csv.size() && csv[at + 1] == u'"')
+                    field += csv[at++];
+                else
+                    break;
+            }
+            ++at;
+        } else {
+            while (at < csv.size() && csv[at] != u',' && csv[at] != u'\n')
+                field += csv[at++];
+        }
+        row << field;
+        if (at >= csv.size() || csv[at] == u'\n') {
+            rows.push_back(row);
+            row.clear();
+        }
+        ++at;
+    }
+    return rows;
+}
+
+QString serialText(double serial)
+{
+    const double days = std::floor(serial);
+    const double fraction = serial < 0 ? std::ceil(serial) - serial : serial - days;
+    const QDate date = QDate(1899, 12, 30).addDays(static_cast<qint64>(serial < 0 ? std::ceil(serial) : days));
+    return QDateTime(date, QTime(0, 0).addMSecs(static_cast<int>(std::lround(fraction * 86400) * 1000)))
+        .toString("yyyy-MM-dd HH:mm:ss");
+}
+
+/// True where the exported field shows our value.
+bool isSame(const QString &theirs, const jet::Table &table, quint32 row, int column)
+{
+    const jet::Column &definition = table.columns()[static_cast<std::size_t>(column)];
+    if (definition.type == ColumnType::Boolean)
+        return theirs == (table.boolean(row, column) ? "1" : "0");
+    if (table.isNull(row, column))
+        return theirs == NullText;
+    switch (definition.type) {
+    case ColumnType::Text:
+    case ColumnType::Memo:
+        return theirs == table.text(row, column);
+    case ColumnType::Binary:
+    case ColumnType::Ole:
+        return theirs.compare(QLatin1String(table.bytes(row, column).toHex()), Qt::CaseInsensitive) == 0;
+    case ColumnType::DateTime:
+        return theirs == serialText(*table.number(row, column));
+    case ColumnType::Guid:
+        return theirs.contains(table.value(row, column).toUuid().toString(QUuid::WithoutBraces), Qt::CaseInsensitive);
+    default:
+        return std::abs(theirs.toDouble() - *table.number(row, column)) <= 1e-6 * std::abs(*table.number(row, column));
+    }
+}
+
+/// Compares one table row by row; mdb-export writes columns in their display order.
+void compareTable(jet::Database &database, const QString &name)
+{
+    const auto table = database.table(name);
+    const Rows theirs = parseCsv(QString::fromUtf8(mdbExport(database.file(), name)));
+    ASSERT_FALSE(theirs.empty());
+    ASSERT_EQ(theirs.front().size(), static_cast<qsizetype>(table->columns().size()));
+    ASSERT_EQ(theirs.size() - 1, table->rowCount());
+    int differences = 0;
+    for (qsizetype field = 0; field < theirs.front().size(); ++field) {
+        const int column = table->columnOf(theirs.front()[field]);
+        ASSERT_GE(column, 0) << theirs.front()[field].toStdString();
+        for (quint32 row = 0; row < table->rowCount() && differences < 5; ++row) {
+            const QString &text = theirs[row + 1].value(field);
+            if (!isSame(text, *table, row, column)) {
+                ++differences;
+                ADD_FAILURE() << name.toStdString() << " row " << row << ", column "
+                              << theirs.front()[field].toStdString() << ": mdb-export has \"" << text.toStdString()
+                              << "\", we have \"" << table->value(row, column).toString().toStdString() << '"';
+            }
+        }
+    }
+}
+
+void compareFile(const QString &file, const QStringList &except = {})
+{
+    const auto database = jet::Database::open(file);
+    for (const auto &entry : database->entries()) {
+        if (entry.system || except.contains(entry.name))
+            continue;
+        SCOPED_TRACE((QFileInfo(file).fileName() + ", table " + entry.name).toStdString());
+        compareTable(*database, entry.name);
+    }
+}
+
+class Mdbtools : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (QStandardPaths::findExecutable("mdb-export").isEmpty())
+            GTEST_SKIP() << "mdb-export is not installed";
+    }
+};
+
+} // namespace
+
+TEST_F(Mdbtools, ReadsTheDemonstrationHostAsWeDo)
+{
+    QTemporaryDir folder;
+    const DemoHost host = makeDemoHost({.folder = folder.path(), .persons = 1500, .seed = 3});
+    QDirIterator files(host.hostFolder, {"*.mdb", "*.MDB"}, QDir::Files, QDirIterator::Subdirectories);
+    int compared = 0;
+    while (files.hasNext()) {
+        compareFile(files.next());
+        ++compared;
+    }
+    EXPECT_EQ(compared, 7) << "family, four side databases, two language databases";
+}
+
+TEST_F(Mdbtools, ReadsFilesOfOtherMakersAsWeDo)
+{
+    const QDir samples(KALVENOR_SOURCE_DIR "/../shared/jet-samples");
+    if (!samples.exists())
+        GTEST_SKIP() << "no sample files";
+    for (const QString &file : samples.entryList({"*.mdb"}, QDir::Files))
+        compareFile(samples.filePath(file));
+}
