@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "demo/calendar.h"
+
+#include <algorithm>
+
+namespace kalvenor::demo {
+
+namespace {
+
+constexpr int firstYear = 1400;
+constexpr int lastYear = 2150;
+
+constexpr bool isLeap(int year)
+{
+    return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+}
+
+/// Day numbers of 1 January of each year.
+constexpr auto yearStarts = [] {
+    std::array<int, lastYear - firstYear + 2> starts{};
+    starts[1900 - firstYear] = 2;
+    for (int year = 1901; year <= lastYear + 1; ++year)
+        starts[std::size_t(year - firstYear)] =
+            starts[std::size_t(year - firstYear - 1)] + (isLeap(year - 1) ? 366 : 365);
+    for (int year = 1899; year >= firstYear; --year)
+        starts[std::size_t(year - firstYear)] = starts[std::size_t(year - firstYear + 1)] - (isLeap(year) ? 366 : 365);
+    return starts;
+}();
+
+constexpr std::array<int, 13> monthStarts = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365};
+
+/// Days of the year before the month (1 to 13).
+constexpr int monthStart(int year, int month)
+{
+    return monthStarts[std::size_t(month - 1)] + (month > 2 && isLeap(year) ? 1 : 0);
+}
+
+} // namespace
+
+int dayOf(int year, int month, int day)
+{
+    return yearStarts[std::size_t(year - firstYear)] + monthStart(year, month) + day - 1;
+}
+
+int yearOf(int day)
+{
+    const auto next = std::upper_bound(yearStarts.begin(), yearStarts.end(), day);
+    return firstYear + static_cast<int>(next - yearStarts.begin()) - 1;
+}
+
+Date dateOf(int day)
+{
+    const int year = yearOf(day);
+    const int inYear = day - dayOf(year);
+    int month = 12;
+    while (monthStart(year, month) > inYear)
+        --month;
+    return {year, month, inYear - monthStart(year, month) + 1};
+}
+
+QString dateText(int day)
+{
+    const Date date = dateOf(day);
+    return QStringLiteral("%1.%2.%3")
+        .arg(date.day, 2, 10, QChar(u'0'))
+        .arg(date.month, 2, 10, QChar(u'0'))
+        .arg(date.year);
+}
+
+} // namespace kalvenor::demo
