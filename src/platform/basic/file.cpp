@@ -340,6 +340,11 @@ bool replaceFileSafely(const QString &nativeFile, QByteArrayView content, QStrin
     };
     if (nativeFile.isEmpty())
         return fail(QStringLiteral("no file name was given"));
+    // A rename would replace even a file that may not be written.
+    QString reason;
+    const FileFault fault = File::open(nativeFile, File::Mode::ReadWrite, &reason).fault();
+    if (fault != FileFault::None && fault != FileFault::NotFound)
+        return fail(reason);
     QSaveFile file(nativeFile);
     if (!file.open(QIODevice::WriteOnly))
         return fail(file.errorString());

@@ -16,13 +16,15 @@ using DriveMap = QMap<QChar, QString>;
 /// drive letter is a native absolute path; "X:\…" starts at the mapped folder (unmapped: on Windows as it stands,
 /// elsewhere below no folder, so that it is never found). Each component is taken exactly where it exists, else
 /// without regard to case; a component that does not exist stays as written, so new files get the wished name.
+/// A share ("\\server\…") only gets its slashes turned.
 QString nativePath(const QString &windowsPath, const DriveMap &drives = {});
 
 /// The Windows notation of a native path (slashes become backslashes; a mapped folder becomes its drive).
 QString windowsPath(const QString &nativePath, const DriveMap &drives = {});
 
 /// Dir(path): the file's own name where a normal (not hidden) file is there, else "". Wildcards * and ? in the last
-/// component give the first match by name; case is ignored; folders are left out.
+/// component give the first match by name; case is ignored; folders are left out. A path that ends in a separator lists
+/// its folder.
 QString directoryListing(const QString &windowsPath, const DriveMap &drives = {});
 
 } // namespace kalvenor

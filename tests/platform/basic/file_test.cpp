@@ -142,6 +142,15 @@ TEST_F(Files, Replace)
     EXPECT_TRUE(replaceFileSafely(path("link"), "through", &why));
     EXPECT_TRUE(QFileInfo(path("link")).isSymLink());
     EXPECT_EQ(get("a"), "through");
+
+    {
+        put("readonly", "old");
+        ASSERT_EQ(::chmod(QFile::encodeName(path("readonly")).constData(), 0444), 0);
+        ASSERT_EQ(::chmod(QFile::encodeName(m_folder.path()).constData(), 0777), 0);
+        const AsNobody nobody;
+        EXPECT_FALSE(replaceFileSafely(path("readonly"), "new", &why));
+        EXPECT_EQ(get("readonly"), "old");
+    }
 #endif
 
     EXPECT_FALSE(replaceFileSafely(path("nofolder/a"), "x", &why));
