@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/jet/format.h"
 #include <memory>
+#include <QByteArray>
+#include <QString>
 #include <span>
 #include <string>
 #include <variant>
 #include <vector>
-#include "platform/jet/format.h"
-#include <QByteArray>
-#include <QString>
 
 // Makes new Jet 4 databases. Write-once: collect tables and rows, then write all pages. Deterministic: the same input
 // gives the same bytes.
@@ -31,7 +31,8 @@ struct NewIndex {
     bool primary = false;
 };
 
-/// Null, Yes/No, any whole or floating number (Money and DateTime too), text, bytes (Binary, Ole, Guid).
+/// Null (Yes/No: no), Yes/No, a number (a DateTime is its serial), text, bytes. Money and Numeric also take a decimal
+/// text such as "-12.5"; a Guid is its 16 bytes in the order of RFC 4122, as QUuid::toRfc4122 gives them.
 using NewValue = std::variant<std::monostate, bool, std::int32_t, double, QString, QByteArray>;
 
 class Creator {
@@ -48,7 +49,8 @@ public:
     Table &addTable(const QString &name, const std::vector<NewColumn> &columns,
                     const std::vector<NewIndex> &indexes = {});
 
-    /// Writes the file (native path) beside its place and renames it there; an existing file is replaced.
+    /// Writes the file (native path) beside its place and renames it there; an existing file is replaced. Nothing can
+    /// be added afterwards, but the same database can be written again.
     /// `encodingKey` other than 0 makes the pages encoded. Throws WriteFailed, or InvalidProcedureCall for a duplicate
     /// key of a unique index or a file that would grow beyond 2 GiB.
     void write(const QString &file, std::uint32_t encodingKey = 0);
@@ -60,8 +62,8 @@ private:
 
 class Creator::Table {
 public:
-    /// Values in column order, one for each column. Throws Error(InvalidProcedureCall) for a value that does not fit its column or a
-    /// record that is too long.
+    /// Values in column order, one for each column. Throws Error(InvalidProcedureCall) for a value that does not fit
+    /// its column or a record that is too long.
     void addRow(std::span<const NewValue> values);
     void addRow(std::initializer_list<NewValue> values) { addRow(std::span(values.begin(), values.size())); }
     std::uint32_t rowCount() const;

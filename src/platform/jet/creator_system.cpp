@@ -1,0 +1,241 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/jet/creator_system.h"
+
+#include "platform/jet/encoding.h"
+#include "platform/jet/sortkey.h"
+#include <algorithm>
+#include <cstring>
+
+namespace kalvenor::jet::creating {
+
+namespace {
+
+// Date, header word and SIDs belong together: SIDs are masked by a value that goes with them, and how is not known.
+// They are those of an empty database that the format's own library made.
+constexpr double creationDate = 42329.94480300926;
+constexpr std::uint32_t headerWord = 0x261c;
+const char *const engineSid = "\x65\x89";
+const char *const adminsSid = "\x64\x8b";
+const char *const usersSid = "\x65\x8b";
+const char *const creatorOwnerSid = "\x65\x8e";
+
+constexpr std::int32_t rootContainer = 0x0f000000;
+constexpr std::int32_t tablesContainer = 0x0f000001;
+constexpr std::int32_t databasesContainer = 0x0f000002;
+constexpr std::int32_t relationshipsContainer = 0x0f000003;
+constexpr std::int32_t databaseObject = 0x10000000;
+constexpr std::int32_t systemObject = INT32_MIN; ///< flag 0x80000000
+
+constexpr std::int32_t typeTable = 1;
+constexpr std::int32_t typeDatabase = 2;
+constexpr std::int32_t typeContainer = 3;
+
+enum Place : std::size_t { objects, accessRights, queries, relationships };
+constexpr std::int32_t firstDefinition = 2;
+
+Column systemColumn(const char *name, ColumnType type, std::uint16_t length, bool sid = false)
+{
+    Column column;
+    column.name = QLatin1String(name);
+    column.type = type;
+    column.length = length;
+    const bool isVariable = type == ColumnType::Text || type == ColumnType::Binary || isLongValue(type);
+    column.flags = static_cast<std::uint8_t>(ColumnFlag::systemColumn | nullable | (isVariable ? 0 : fixedLength) |
+                                             (sid ? ownerColumn : 0));
+    return column;
+}
+
+Column longColumn(const char *name)
+{
+    return systemColumn(name, ColumnType::Long, 4);
+}
+
+Column textColumn(const char *name)
+{
+    return systemColumn(name, ColumnType::Text, 510);
+}
+
+IndexSpec index(const char *name, std::vector<std::uint16_t> columns, unsigned flags)
+{
+    return {QLatin1String(name), std::move(columns), static_cast<std::uint8_t>(alwaysSet | flags), false};
+}
+
+TableSpec systemTable(const char *name, std::vector<Column> columns, std::vector<IndexSpec> indexes)
+{
+    TableSpec spec;
+    spec.name = QLatin1String(name);
+    spec.system = true;
+    spec.columns = std::move(columns);
+    spec.indexes = std::move(indexes);
+    layOut(spec);
+    return spec;
+}
+
+std::vector<TableSpec> systemTableSpecs()
+{
+    using enum ColumnType;
+    const auto ole = [](const char *name) {
+        return systemColumn(name, Ole, 0);
+    };
+    std::vector<TableSpec> specs;
+    specs.push_back(systemTable(
+        "MSysObjects",
+        {longColumn("Id"), longColumn("ParentId"), textColumn("Name"), systemColumn("Type", Integer, 2),
+         systemColumn("DateCreate", DateTime, 8), systemColumn("DateUpdate", DateTime, 8),
+         systemColumn("Owner", Binary, 510, true), longColumn("Flags"), systemColumn("Database", Memo, 0),
+         systemColumn("Connect", Memo, 0), textColumn("ForeignName"), systemColumn("RmtInfoShort", Binary, 510),
+         ole("RmtInfoLong"), ole("Lv"), ole("LvProp"), ole("LvModule"), ole("LvExtra")},
+        {index("ParentIdName", {1, 2}, uniqueKeys), index("Id", {0}, uniqueKeys)}));
+    specs.push_back(systemTable("MSysACEs",
+                                {longColumn("ObjectId"), systemColumn("SID", Binary, 510, true), longColumn("ACM"),
+                                 systemColumn("FInheritable", Boolean, 1)},
+                                {index("ObjectId", {0}, requiresValues)}));
+    specs.push_back(
+        systemTable("MSysQueries",
+                    {longColumn("ObjectId"), systemColumn("Attribute", Byte, 1), systemColumn("Order", Binary, 510),
+                     textColumn("Name1"), textColumn("Name2"), systemColumn("Expression", Memo, 0),
+                     systemColumn("Flag", Integer, 2), longColumn("LvExtra")},
+                    {index("ObjectIdAttribute", {0, 1, 2}, uniqueKeys)}));
+    specs.push_back(systemTable("MSysRelationships",
+                                {textColumn("szRelationship"), longColumn("grbit"), longColumn("ccolumn"),
+                                 longColumn("icolumn"), textColumn("szObject"), textColumn("szColumn"),
+                                 textColumn("szReferencedObject"), textColumn("szReferencedColumn")},
+                                {index("szRelationship", {0}, ignoresNulls), index("szObject", {4}, ignoresNulls),
+                                 index("szReferencedObject", {6}, ignoresNulls)}));
+    return specs;
+}
+
+void addObject(TableBuilder &table, std::int32_t id, std::int32_t parent, const QString &name, std::int32_t type,
+               const char *owner, std::int32_t flags)
+{
+    std::vector<NewValue> row(table.spec().columns.size());
+    row[0] = id;
+    row[1] = parent;
+    row[2] = name;
+    row[3] = type;
+    row[4] = creationDate;
+    row[5] = creationDate;
+    row[6] = QByteArray(owner);
+    row[7] = flags;
+    table.addRow(row);
+}
+
+struct AccessRight {
+    std::int32_t object;
+    const char *sid;
+    std::int32_t rights;
+    bool inheritable;
+};
+
+void addAccessRight(TableBuilder &table, const AccessRight &right)
+{
+    const NewValue row[] = {right.object, QByteArray(right.sid), right.rights, right.inheritable};
+    table.addRow(row);
+}
+
+} // namespace
+
+SystemTables::SystemTables(PageStore &store) : m_store(store)
+{
+    store.add(); // header
+    store.add(); // global maps
+    for (TableSpec &spec : systemTableSpecs())
+        m_tables.push_back(std::make_unique<TableBuilder>(store, std::move(spec)));
+    for (const auto &table : m_tables)
+        table->reserveMaps();
+}
+
+bool SystemTables::hasName(QStringView name) const
+{
+    // The containers' names have another parent, the database's too.
+    return std::any_of(m_tables.begin(), m_tables.end(),
+                       [name](const auto &table) { return compareGeneral(table->spec().name, name) == 0; });
+}
+
+void SystemTables::addRows(const std::vector<const TableBuilder *> &userTables)
+{
+    TableBuilder &catalogue = *m_tables[objects];
+    for (const auto &[id, name] : {std::pair(tablesContainer, "Tables"), std::pair(databasesContainer, "Databases"),
+                                   std::pair(relationshipsContainer, "Relationships")})
+        addObject(catalogue, id, rootContainer, QLatin1String(name), typeContainer, engineSid, systemObject);
+    addObject(catalogue, databaseObject, databasesContainer, QStringLiteral("MSysDb"), typeDatabase, adminsSid,
+              systemObject);
+    for (const auto &table : m_tables) {
+        addObject(catalogue, static_cast<std::int32_t>(table->definitionPage()), tablesContainer, table->spec().name,
+                  typeTable, engineSid, systemObject);
+    }
+
+    constexpr auto page = [](Place place) {
+        return firstDefinition + static_cast<std::int32_t>(place);
+    };
+    const AccessRight rights[] = {
+        {page(objects), adminsSid, 0x60000, false},
+        {page(accessRights), adminsSid, 0x60000, false},
+        {page(queries), adminsSid, 0x60000, false},
+        {page(relationships), adminsSid, 0xe0000, false},
+        {page(queries), usersSid, 0x14, false},
+        {page(relationships), usersSid, 0x14, false},
+        {page(objects), usersSid, 0x14, false},
+        {tablesContainer, creatorOwnerSid, 0xf00fe, true},
+        {tablesContainer, adminsSid, 0x60001, false},
+        {tablesContainer, usersSid, 0xffeff, true},
+        {relationshipsContainer, creatorOwnerSid, 0xf00fe, true},
+        {relationshipsContainer, adminsSid, 0x60001, false},
+        {relationshipsContainer, usersSid, 0xfffff, true},
+        {databasesContainer, adminsSid, 0x60000, false},
+        {databaseObject, adminsSid, 0x6000e, false},
+        {databaseObject, usersSid, 14, false},
+    };
+    TableBuilder &access = *m_tables[accessRights];
+    for (const AccessRight &right : rights)
+        addAccessRight(access, right);
+    for (const TableBuilder *table : userTables) {
+        const auto id = static_cast<std::int32_t>(table->definitionPage());
+        addObject(catalogue, id, tablesContainer, table->spec().name, typeTable, adminsSid, 0);
+        addAccessRight(access, {id, adminsSid, 0xfffff, false});
+        addAccessRight(access, {id, usersSid, 0xfffff, false});
+    }
+    for (const auto &table : m_tables)
+        table->sortIndexes();
+}
+
+void SystemTables::finish()
+{
+    for (const auto &table : m_tables)
+        table->finish();
+}
+
+void fillHeaderPage(std::uint8_t *page, std::uint32_t encodingKey)
+{
+    constexpr std::uint32_t codePage = 1252;
+    constexpr std::uint32_t general = 0x0409;
+    constexpr std::uint32_t firstCounter = 0x0101;
+    constexpr std::uint16_t unusedCounter = 0x0100;
+    constexpr std::size_t counters = 0xe00;
+
+    std::memset(page, 0, pageSize);
+    put(page, std::uint32_t{0x100});
+    std::memcpy(page + 4, "Standard Jet DB", 15);
+    put(page + 0x14, std::uint32_t{1});
+    put(page + 0x18, std::uint32_t{0x100});
+    put(page + 0x1c, std::uint32_t{0x101});
+    for (std::uint32_t table = 0; table < 4; ++table)
+        put(page + 0x20 + 4 * table, 2 + table);
+    put(page + 0x3c, static_cast<std::uint16_t>(codePage));
+    put(page + 0x3e, encodingKey);
+    // An empty password is the date word, ten times.
+    for (std::uint32_t i = 0; i < 10; ++i)
+        put(page + 0x42 + 4 * i, static_cast<std::uint32_t>(creationDate));
+    put(page + 0x6a, headerWord);
+    put(page + 0x6e, general);
+    put(page + 0x72, creationDate);
+    put(page + 0x98, std::uint32_t{0x654});
+    std::memcpy(page + 0x9c, "4.0", 4);
+    put(page + counters, static_cast<std::uint16_t>(firstCounter));
+    for (std::size_t at = counters + 2; at < pageSize; at += 2)
+        put(page + at, unusedCounter);
+    maskHeader({page, pageSize}, true);
+}
+
+} // namespace kalvenor::jet::creating
