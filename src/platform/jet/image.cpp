@@ -67,7 +67,9 @@ void checkHeader(const QString &name, std::span<const std::uint8_t> head)
                          .arg(head[0x14]));
 }
 
-Stamp stampOfOpen(const QString &name, const File &file)
+} // namespace
+
+Stamp Image::stampOf(const QString &name, const File &file)
 {
     Stamp stamp;
     stamp.size = file.size();
@@ -84,11 +86,9 @@ Stamp stampOfOpen(const QString &name, const File &file)
     return stamp;
 }
 
-} // namespace
-
 Stamp Image::stampOf(const QString &file)
 {
-    return stampOfOpen(file, openForReading(file));
+    return stampOf(file, openForReading(file));
 }
 
 std::shared_ptr<Image> Image::load(const QString &name)
@@ -97,7 +97,7 @@ std::shared_ptr<Image> Image::load(const QString &name)
         if (attempt > 0)
             std::this_thread::sleep_for(std::chrono::milliseconds(40 * attempt));
         const File file = openForReading(name);
-        const Stamp before = stampOfOpen(name, file);
+        const Stamp before = stampOf(name, file);
         if (before.size > LargestFile)
             notADatabase(name, QStringLiteral("it is larger than the 2 GiB such a file can have"));
         std::array<std::uint8_t, HeaderRoom> head{};
@@ -111,7 +111,7 @@ std::shared_ptr<Image> Image::load(const QString &name)
             throw Error(ErrorKind::FileUnreadable, name,
                         QStringLiteral("There is not enough memory for %1 MB.").arg(size >> 20));
         const bool complete = file.readAt(0, {bytes.get(), size});
-        const Stamp after = stampOfOpen(name, file);
+        const Stamp after = stampOf(name, file);
         if (after != before)
             continue;
         if (!complete)

@@ -9,6 +9,10 @@
 #include <QString>
 #include <span>
 
+namespace kalvenor {
+class File;
+}
+
 namespace kalvenor::jet {
 
 /// What tells whether a file was changed by another program: size, time and the 512 commit-counter bytes.
@@ -30,6 +34,8 @@ public:
     static std::shared_ptr<Image> fromBytes(const QString &name, std::span<const std::uint8_t> bytes);
     /// The stamp the file has now; throws FileNotFound or FileUnreadable.
     static Stamp stampOf(const QString &file);
+    /// The same of an open file; `name` stands in error texts.
+    static Stamp stampOf(const QString &name, const File &open);
 
     const QString &file() const { return m_file; }
     Version version() const { return m_version; }

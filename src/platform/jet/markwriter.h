@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/progress.h"
+#include "platform/jet/database.h"
 #include <memory>
 #include <span>
 #include <vector>
-#include "platform/basic/progress.h"
-#include "platform/jet/database.h"
 
 namespace kalvenor::jet {
 
@@ -14,6 +14,8 @@ struct Mark {
     std::uint32_t row = 0; ///< row of the table
     bool on = false;
 };
+
+struct MarkTarget;
 
 /// Sets values of one Yes/No column, each by the change of one bit in one byte of the file. Nothing else of the file
 /// is ever written, and nothing at all before every guard has passed for the page at hand.
@@ -25,12 +27,18 @@ public:
 
     /// Writes the marks in file order, one sync at the end, and returns the rows whose bit changed. Before the first
     /// write all rows are checked against the state in memory (NotMarkable: key not unique, row older than the column);
-    /// each page is read again from the file and compared before its first byte is written. Throws ReadOnly,
-    /// NotMarkable, ChangedElsewhere, WriteFailed, Cancelled; the text says how many rows were changed before.
-    /// The image takes over every bit written, and the file's new stamp.
+    /// each page is read again from the file and compared before its first byte is written. Throws FileNotFound,
+    /// ReadOnly, NotMarkable, ChangedElsewhere, WriteFailed, Cancelled; the text says how many rows were changed
+    /// before. The image takes over every bit written, and the file's new stamp; after an error it keeps its old stamp,
+    /// so that the database is stale where anything was written. Progress counts rows.
     std::vector<std::uint32_t> write(std::span<const Mark> marks, const Progress &progress = {});
 
 private:
+    /// What is to be written, in file order, each row once. Throws NotMarkable.
+    std::vector<MarkTarget> plan(std::span<const Mark> marks) const;
+    QString place() const;
+    [[noreturn]] void notMarkable(const QString &why) const;
+
     std::shared_ptr<Database> m_database;
     std::shared_ptr<const Table> m_table;
     int m_markColumn;
