@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/progress.h"
+#include "platform/dao/recordset.h"
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
-#include "platform/basic/progress.h"
-#include "platform/dao/recordset.h"
 #include <QString>
+#include <vector>
 
 // The database objects the program works with: an engine with workspaces, a workspace with databases, a database with
 // recordsets. Whoever holds an object keeps it alive; once closed, every use throws Error(ObjectClosed).
@@ -25,6 +25,8 @@ public:
     struct Private;
     explicit Database(std::unique_ptr<Private> priv);
     ~Database();
+    Database(const Database &) = delete;
+    Database &operator=(const Database &) = delete;
 
     const QString &file() const;
     bool isOpen() const;
@@ -34,7 +36,7 @@ public:
     /// Throws TableNotFound, Damaged.
     std::shared_ptr<Recordset> openTable(const QString &name);
     /// A query recordset (a keyset: row numbers, no values copied), on the first row. The SQL text is executed as it
-    /// stands, one SELECT only. Throws InvalidSql, InvalidPattern, Refused, Cancelled.
+    /// stands, one SELECT only. Throws InvalidSql, InvalidPattern, TableNotFound, Refused, Cancelled.
     std::shared_ptr<Recordset> openQuery(const QString &sql, const Progress &progress = {});
     /// Executes one UPDATE that sets `Markierung`. Throws as openQuery, and as jet::MarkWriter::write.
     Execution execute(const QString &sql, const Progress &progress = {});
@@ -46,17 +48,24 @@ public:
     /// What damage was passed over so far, a line each.
     QStringList warnings() const;
 
+    /// The open ones. A query recordset that nobody else holds is dropped when the next one is opened.
     const std::vector<std::shared_ptr<Recordset>> &recordsets() const;
     /// Closes its recordsets, last first, and itself.
     void close();
 
 private:
     friend class Recordset;
+    friend class Workspace;
     std::unique_ptr<Private> d;
 };
 
 class Workspace {
 public:
+    Workspace() = default;
+    ~Workspace() { close(); }
+    Workspace(const Workspace &) = delete;
+    Workspace &operator=(const Workspace &) = delete;
+
     /// Opens a file (native path), shared. Throws FileNotFound, FileUnreadable, NotADatabase, Damaged.
     std::shared_ptr<Database> openDatabase(const QString &file);
     const std::vector<std::shared_ptr<Database>> &databases() const { return m_databases; }

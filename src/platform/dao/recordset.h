@@ -5,7 +5,13 @@
 #include <memory>
 #include <optional>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
+#include <span>
+
+namespace kalvenor::jet {
+class Table;
+}
 
 namespace kalvenor::dao {
 
@@ -17,6 +23,8 @@ public:
     struct Private;
     explicit Recordset(std::unique_ptr<Private> priv);
     ~Recordset();
+    Recordset(const Recordset &) = delete;
+    Recordset &operator=(const Recordset &) = delete;
 
     bool isOpen() const;
     void close();
@@ -29,7 +37,8 @@ public:
     void moveTo(qint64 position);
     qint64 position() const;
 
-    // Table type only.
+    // Table type only. The rows are in the file's order, whatever the index. After a reload of the file, moveFirst and
+    // seekEqual go over to the new state; until then the recordset stays with the old one.
     /// Throws IndexNotFound; the name counts without case.
     void setIndex(const QString &name);
     /// Seek with the comparison "=" on a one-column unique or plain index over a Long column. noMatch() says whether
@@ -42,6 +51,12 @@ public:
     void setValue(const QString &field, bool value);
     /// True where the mark really changed.
     bool update();
+
+    /// The rows of table() that a query gave, in its order; empty for a table recordset and where SQLite had to sort or
+    /// compute. For list models: valid until the recordset is closed.
+    std::span<const quint32> rows() const;
+    /// What rows() count in, one state of the file; nothing where the values were computed.
+    std::shared_ptr<const jet::Table> table() const;
 
     // Fields. The name counts without case. Throws ColumnNotFound.
     QStringList fieldNames() const;

@@ -1,0 +1,242 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/dao/dao.h"
+
+#include "platform/basic/error.h"
+#include "platform/dao/dao_p.h"
+#include <algorithm>
+#include <unordered_set>
+
+namespace kalvenor::dao {
+
+using namespace Qt::StringLiterals;
+
+SqlSession &Database::Private::open() const
+{
+    if (!session)
+        throw Error(ErrorKind::ObjectClosed, file, u"the database was closed"_s);
+    return *session;
+}
+
+void Database::Private::reload()
+{
+    session = std::make_shared<SqlSession>(std::make_shared<Snapshot>(jet::Database::open(file)));
+    ++generation;
+}
+
+bool Database::Private::reloadIfStale()
+{
+    if (!open().snapshot()->database()->isStale())
+        return false;
+    reload();
+    return true;
+}
+
+std::vector<quint32> Database::Private::write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
+                                              const Progress &progress)
+{
+    jet::MarkWriter writer(open().snapshot()->database(), view.table(), markColumn, keyColumnOf(*view.table()));
+    try {
+        std::vector<quint32> changed = writer.write(marks, progress);
+        view.flipMarks(markColumn, changed);
+        return changed;
+    } catch (...) {
+        view.forgetMarks(markColumn);
+        throw;
+    }
+}
+
+int keyColumnOf(const jet::Table &table)
+{
+    const QString place = tablePlace(table.image().file(), table.name());
+    const int column = table.columnOf(keyColumnName);
+    if (column < 0)
+        throw Error(ErrorKind::NotMarkable, place,
+                    u"the table has no column %1, so its rows cannot be told apart and marked"_s.arg(keyColumnName));
+    if (table.columns()[static_cast<std::size_t>(column)].type != jet::ColumnType::Long)
+        throw Error(ErrorKind::NotMarkable, place,
+                    u"the column %1 does not hold whole numbers, so its rows cannot be marked"_s.arg(keyColumnName));
+    return column;
+}
+
+Database::Database(std::unique_ptr<Private> priv) : d(std::move(priv))
+{
+}
+
+Database::~Database() = default;
+
+const QString &Database::file() const
+{
+    return d->file;
+}
+
+bool Database::isOpen() const
+{
+    return d->session != nullptr;
+}
+
+QStringList Database::tableNames()
+{
+    QStringList names;
+    for (const jet::CatalogueEntry &entry : d->open().snapshot()->database()->entries()) {
+        if (!entry.system)
+            names << entry.name;
+    }
+    return names;
+}
+
+std::shared_ptr<Recordset> Database::openTable(const QString &name)
+{
+    d->reloadIfStale();
+    auto priv = std::make_unique<Recordset::Private>();
+    priv->database = weak_from_this();
+    priv->isTable = true;
+    priv->snapshot = d->open().snapshot();
+    QueryResult result;
+    result.view = priv->snapshot->view(name);
+    const jet::Table &table = *result.view->table();
+    for (int i = 0; i < static_cast<int>(table.columns().size()); ++i) {
+        result.names << table.columns()[static_cast<std::size_t>(i)].name;
+        result.columns.push_back(i);
+    }
+    priv->place = tablePlace(d->file, table.name());
+    priv->setResult(std::move(result));
+    return d->recordsets.emplace_back(std::make_shared<Recordset>(std::move(priv)));
+}
+
+std::shared_ptr<Recordset> Database::openQuery(const QString &sql, const Progress &progress)
+{
+    d->reloadIfStale();
+    const std::shared_ptr<SqlSession> session = d->session;
+    auto priv = std::make_unique<Recordset::Private>();
+    priv->database = weak_from_this();
+    priv->snapshot = session->snapshot();
+    priv->place = d->file;
+    priv->setResult(session->query(sql, progress));
+    d->open(); // whoever watches the progress may have closed it
+    std::erase_if(d->recordsets, [](const std::shared_ptr<Recordset> &recordset) {
+        return recordset.use_count() == 1 && !recordset->d->isTable;
+    });
+    return d->recordsets.emplace_back(std::make_shared<Recordset>(std::move(priv)));
+}
+
+Execution Database::execute(const QString &sql, const Progress &progress)
+{
+    d->reloadIfStale();
+    Execution execution;
+    std::unordered_set<qint32> before; // changed by a first attempt that another program's change ended
+    for (bool again = false;; again = true) {
+        const std::shared_ptr<SqlSession> session = d->session;
+        const UpdateResult update = session->update(sql, progress);
+        d->open();
+        execution.matched = static_cast<qint64>(update.marks.size());
+        if (update.marks.empty())
+            break;
+        TableView &view = *update.view;
+        const jet::Table &table = *view.table();
+        const int keyColumn = keyColumnOf(table);
+        const Bits old = view.marks(update.markColumn);
+        try {
+            for (const quint32 row : d->write(view, update.markColumn, update.marks, progress)) {
+                if (const auto key = table.integer(row, keyColumn); key && !before.contains(*key))
+                    execution.changedKeys.push_back(*key);
+            }
+            if (!before.empty()) {
+                for (const jet::Mark &mark : update.marks)
+                    before.erase(table.integer(mark.row, keyColumn).value_or(0));
+                execution.matched += static_cast<qint64>(before.size());
+            }
+            break;
+        } catch (const Error &error) {
+            if (error.kind() != ErrorKind::ChangedElsewhere)
+                throw;
+            if (again)
+                throw Error(ErrorKind::ChangedElsewhere, error.place(),
+                            u"the file was changed by another program again and again while it was written; try again "
+                            u"when the other program is idle"_s);
+            for (const jet::Mark &mark : update.marks) {
+                const auto key = table.integer(mark.row, keyColumn);
+                if (key && old.test(mark.row) != table.boolean(mark.row, update.markColumn) &&
+                    before.insert(*key).second)
+                    execution.changedKeys.push_back(*key);
+            }
+            d->reload();
+        }
+    }
+    return execution;
+}
+
+bool Database::refresh()
+{
+    return d->reloadIfStale();
+}
+
+quint64 Database::generation() const
+{
+    d->open();
+    return d->generation;
+}
+
+QStringList Database::warnings() const
+{
+    return d->open().snapshot()->database()->warnings();
+}
+
+const std::vector<std::shared_ptr<Recordset>> &Database::recordsets() const
+{
+    return d->recordsets;
+}
+
+void Database::close()
+{
+    if (!isOpen())
+        return;
+    const std::shared_ptr<Database> self = weak_from_this().lock();
+    while (!d->recordsets.empty())
+        d->recordsets.back()->close();
+    d->session.reset();
+    if (Workspace *workspace = std::exchange(d->workspace, nullptr))
+        std::erase(workspace->m_databases, self);
+}
+
+std::shared_ptr<Database> Workspace::openDatabase(const QString &file)
+{
+    auto priv = std::make_unique<Database::Private>();
+    priv->file = file;
+    priv->workspace = this;
+    priv->reload();
+    return m_databases.emplace_back(std::make_shared<Database>(std::move(priv)));
+}
+
+void Workspace::close()
+{
+    while (!m_databases.empty())
+        std::shared_ptr<Database>(m_databases.back())->close();
+}
+
+Engine::Engine()
+{
+    createWorkspace();
+}
+
+Workspace &Engine::workspace(int index)
+{
+    if (index < 0 || index >= workspaceCount())
+        throw Error(ErrorKind::Subscript, {}, u"there is no workspace %1"_s.arg(index));
+    return *m_workspaces[static_cast<std::size_t>(index)];
+}
+
+int Engine::createWorkspace()
+{
+    m_workspaces.push_back(std::make_unique<Workspace>());
+    return workspaceCount() - 1;
+}
+
+void Engine::closeWorkspace(int index)
+{
+    workspace(index).close();
+    if (index > 0)
+        m_workspaces.erase(m_workspaces.begin() + index);
+}
+
+} // namespace kalvenor::dao

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/dao/dao.h"
+#include "platform/dao/sqlsession.h"
+#include <functional>
+
+// What the objects keep inside. For the sources of this room only.
+namespace kalvenor::dao {
+
+struct Database::Private {
+    QString file;
+    Workspace *workspace = nullptr;
+    std::shared_ptr<SqlSession> session; ///< none once closed; another one after each reload
+    quint64 generation = 0;
+    std::vector<std::shared_ptr<Recordset>> recordsets{};
+
+    /// Throws ObjectClosed.
+    SqlSession &open() const;
+    void reload();
+    bool reloadIfStale();
+    /// Writes marks and keeps the view's marks right, also where writing fails half-way. Returns the rows that changed.
+    std::vector<quint32> write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
+                               const Progress &progress);
+};
+
+struct Recordset::Private {
+    std::weak_ptr<Database> database;
+    bool isTable = false;
+    QString place;
+    std::shared_ptr<Snapshot> snapshot; ///< none once closed
+    QueryResult result;                 ///< of a table recordset: the view and all its columns, no rows
+    qint64 count = 0;
+    qint64 position = 0;
+    bool valid = false; ///< stands on a row
+
+    int indexColumn = -1; ///< the sought column
+    bool noMatch = false;
+    bool editing = false;
+    std::optional<bool> edited{};
+
+    /// Throw ObjectClosed, NoCurrentRow.
+    void requireOpen() const;
+    void requireRow() const;
+    /// Throws Refused for a query recordset.
+    void requireTable() const;
+    quint32 row() const
+    {
+        return isTable ? static_cast<quint32>(position) : result.rows[static_cast<std::size_t>(position)];
+    }
+    const QVariant &cell(int field) const
+    {
+        return result.cells[static_cast<std::size_t>(position * result.names.size() + field)];
+    }
+    int column(int field) const { return result.columns[static_cast<std::size_t>(field)]; }
+    void requireField(int field) const;
+    void stand(qint64 where);
+    /// Goes over to another state of the file; the current row is then none.
+    void adopt(const std::shared_ptr<Snapshot> &other);
+    void setResult(QueryResult &&given);
+};
+
+/// The key column of a table whose marks can be set. Throws NotMarkable.
+int keyColumnOf(const jet::Table &table);
+
+} // namespace kalvenor::dao

@@ -1,0 +1,340 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/dao/recordset.h"
+
+#include "platform/basic/error.h"
+#include "platform/basic/number.h"
+#include "platform/dao/dao_p.h"
+#include <algorithm>
+
+namespace kalvenor::dao {
+
+using namespace Qt::StringLiterals;
+
+void Recordset::Private::requireOpen() const
+{
+    if (!snapshot)
+        throw Error(ErrorKind::ObjectClosed, place, u"the recordset was closed"_s);
+}
+
+void Recordset::Private::requireRow() const
+{
+    requireOpen();
+    if (!valid)
+        throw Error(ErrorKind::NoCurrentRow, place, u"there is no current row"_s);
+}
+
+void Recordset::Private::requireTable() const
+{
+    requireOpen();
+    if (!isTable)
+        throw Error(ErrorKind::Refused, place, u"only a table recordset can be searched and changed"_s);
+}
+
+void Recordset::Private::requireField(int field) const
+{
+    requireRow();
+    if (field < 0 || field >= result.names.size())
+        throw Error(ErrorKind::ColumnNotFound, place, u"there is no field %1"_s.arg(field));
+}
+
+void Recordset::Private::stand(qint64 where)
+{
+    position = std::clamp<qint64>(where, 0, count);
+    valid = where >= 0 && where < count;
+    editing = false;
+    edited.reset();
+}
+
+void Recordset::Private::setResult(QueryResult &&given)
+{
+    result = std::move(given);
+    if (isTable)
+        count = result.view->table()->rowCount();
+    else if (result.view)
+        count = static_cast<qint64>(result.rows.size());
+    else
+        count = result.names.isEmpty() ? 0 : static_cast<qint64>(result.cells.size()) / result.names.size();
+    stand(0);
+}
+
+void Recordset::Private::adopt(const std::shared_ptr<Snapshot> &other)
+{
+    if (other == snapshot)
+        return;
+    const QString indexName = indexColumn < 0 ? QString() : result.names[indexColumn];
+    QueryResult next;
+    next.view = other->view(result.view->table()->name());
+    const jet::Table &table = *next.view->table();
+    for (int i = 0; i < static_cast<int>(table.columns().size()); ++i) {
+        next.names << table.columns()[static_cast<std::size_t>(i)].name;
+        next.columns.push_back(i);
+    }
+    snapshot = other;
+    indexColumn = indexName.isEmpty() ? -1 : table.columnOf(indexName);
+    setResult(std::move(next));
+    valid = false;
+}
+
+Recordset::Recordset(std::unique_ptr<Private> priv) : d(std::move(priv))
+{
+}
+
+Recordset::~Recordset() = default;
+
+bool Recordset::isOpen() const
+{
+    return d->snapshot != nullptr;
+}
+
+void Recordset::close()
+{
+    if (!isOpen())
+        return;
+    d->snapshot.reset();
+    d->result = {};
+    d->valid = false;
+    const std::shared_ptr<Database> database = d->database.lock();
+    if (!database)
+        return;
+    auto &recordsets = database->d->recordsets;
+    const auto self = std::find_if(recordsets.begin(), recordsets.end(),
+                                   [this](const std::shared_ptr<Recordset> &other) { return other.get() == this; });
+    if (self != recordsets.end()) {
+        const std::shared_ptr<Recordset> keep = *self; // may be the last to hold it
+        recordsets.erase(self);
+    }
+}
+
+qint64 Recordset::recordCount() const
+{
+    d->requireOpen();
+    return d->count;
+}
+
+bool Recordset::eof() const
+{
+    d->requireOpen();
+    return d->position >= d->count;
+}
+
+void Recordset::moveFirst()
+{
+    d->requireOpen();
+    const std::shared_ptr<Database> database = d->database.lock();
+    if (d->isTable && database && database->isOpen())
+        d->adopt(database->d->session->snapshot());
+    d->stand(0);
+}
+
+void Recordset::moveNext()
+{
+    d->requireOpen();
+    if (eof())
+        throw Error(ErrorKind::NoCurrentRow, d->place, u"there is no row behind the last one"_s);
+    d->stand(d->position + 1);
+}
+
+void Recordset::moveTo(qint64 position)
+{
+    d->requireOpen();
+    d->stand(position);
+}
+
+qint64 Recordset::position() const
+{
+    d->requireOpen();
+    return d->position;
+}
+
+void Recordset::setIndex(const QString &name)
+{
+    d->requireTable();
+    const jet::Table &table = *d->result.view->table();
+    for (const jet::Index &index : table.indexes()) {
+        if (index.name.compare(name, Qt::CaseInsensitive) != 0)
+            continue;
+        const auto &columns = table.columns();
+        const auto column = std::find_if(columns.begin(), columns.end(), [&index](const jet::Column &candidate) {
+            return index.columns.size() == 1 && candidate.number == index.columns.front().columnNumber;
+        });
+        if (column == columns.end() || column->type != jet::ColumnType::Long)
+            throw Error(ErrorKind::IndexNotFound, d->place,
+                        u"the index \"%1\" is not over one column of whole numbers"_s.arg(name));
+        d->indexColumn = static_cast<int>(column - columns.begin());
+        return;
+    }
+    throw Error(ErrorKind::IndexNotFound, d->place, u"there is no index \"%1\""_s.arg(name));
+}
+
+void Recordset::seekEqual(qint32 key)
+{
+    d->requireTable();
+    const std::shared_ptr<Database> database = d->database.lock();
+    if (database && database->isOpen())
+        d->adopt(database->d->session->snapshot());
+    if (d->indexColumn < 0)
+        throw Error(ErrorKind::IndexNotFound, d->place, u"no index is chosen to seek by"_s);
+    const auto rows = d->result.view->index(d->indexColumn).rows(key);
+    d->noMatch = rows.empty();
+    if (rows.empty()) {
+        d->stand(0);
+        d->valid = false;
+    } else {
+        d->stand(rows.front());
+    }
+}
+
+bool Recordset::noMatch() const
+{
+    d->requireOpen();
+    return d->noMatch;
+}
+
+void Recordset::edit()
+{
+    d->requireTable();
+    d->requireRow();
+    d->editing = true;
+    d->edited.reset();
+}
+
+void Recordset::setValue(const QString &field, bool value)
+{
+    d->requireTable();
+    d->requireRow();
+    if (!d->editing)
+        throw Error(ErrorKind::Refused, d->place, u"the row must be put into edit mode first"_s);
+    const int index = fieldIndex(field);
+    if (d->result.names[index].compare(markColumnName, Qt::CaseInsensitive) != 0)
+        throw Error(ErrorKind::Refused, d->place,
+                    u"only %1 can be changed, not \"%2\""_s.arg(markColumnName).arg(field));
+    d->edited = value;
+}
+
+bool Recordset::update()
+{
+    d->requireTable();
+    d->requireRow();
+    if (!d->editing)
+        throw Error(ErrorKind::Refused, d->place, u"the row must be put into edit mode first"_s);
+    const std::shared_ptr<Database> database = d->database.lock();
+    const std::optional<bool> value = d->edited;
+    d->editing = false;
+    d->edited.reset();
+    if (!value)
+        return false;
+    if (!database || !database->isOpen())
+        throw Error(ErrorKind::ObjectClosed, d->place, u"the database was closed"_s);
+
+    for (bool again = false;; again = true) {
+        // The row may be another one in a newer state of the file; its key says which.
+        if (const auto &current = database->d->session->snapshot(); current != d->snapshot) {
+            const auto key = d->result.view->table()->integer(d->row(), keyColumnOf(*d->result.view->table()));
+            d->adopt(current);
+            const auto rows = key ? d->result.view->index(keyColumnOf(*d->result.view->table())).rows(*key)
+                                  : std::span<const quint32>();
+            if (rows.empty())
+                throw Error(ErrorKind::ChangedElsewhere, d->place,
+                            u"the row was deleted by another program; load the list anew"_s);
+            d->stand(rows.front());
+        }
+        TableView &view = *d->result.view;
+        const int markColumn = view.table()->columnOf(markColumnName);
+        if (markColumn < 0)
+            throw Error(ErrorKind::ColumnNotFound, d->place, u"there is no column %1"_s.arg(markColumnName));
+        const jet::Mark mark{d->row(), *value};
+        try {
+            return !database->d->write(view, markColumn, {&mark, 1}, {}).empty();
+        } catch (const Error &error) {
+            if (error.kind() != ErrorKind::ChangedElsewhere || again)
+                throw;
+            database->d->reload();
+        }
+    }
+}
+
+std::span<const quint32> Recordset::rows() const
+{
+    d->requireOpen();
+    return d->result.rows;
+}
+
+std::shared_ptr<const jet::Table> Recordset::table() const
+{
+    d->requireOpen();
+    return d->result.view ? d->result.view->table() : nullptr;
+}
+
+QStringList Recordset::fieldNames() const
+{
+    d->requireOpen();
+    return d->result.names;
+}
+
+int Recordset::fieldIndex(const QString &name) const
+{
+    d->requireOpen();
+    const QStringList &names = d->result.names;
+    for (int i = 0; i < static_cast<int>(names.size()); ++i) {
+        if (names[i].compare(name, Qt::CaseInsensitive) == 0)
+            return i;
+    }
+    throw Error(ErrorKind::ColumnNotFound, d->place, u"there is no column \"%1\""_s.arg(name));
+}
+
+QVariant Recordset::value(int field) const
+{
+    d->requireField(field);
+    return d->result.view ? d->result.view->table()->value(d->row(), d->column(field)) : d->cell(field);
+}
+
+std::optional<double> Recordset::number(int field) const
+{
+    d->requireField(field);
+    if (const auto &view = d->result.view) {
+        if (view->typeOf(d->column(field)) == jet::ColumnType::Boolean)
+            return view->table()->boolean(d->row(), d->column(field)) ? -1.0 : 0.0;
+        return view->table()->number(d->row(), d->column(field));
+    }
+    const QVariant &cell = d->cell(field);
+    switch (cell.typeId()) {
+    case QMetaType::Bool:
+        return cell.toBool() ? -1.0 : 0.0;
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+    case QMetaType::Double:
+        return cell.toDouble();
+    default:
+        return {};
+    }
+}
+
+std::optional<qint32> Recordset::integer(int field) const
+{
+    d->requireField(field);
+    if (const auto &view = d->result.view; view && view->isWhole(d->column(field)))
+        return view->table()->integer(d->row(), d->column(field));
+    const auto value = number(field);
+    return value ? std::optional(toLong32(*value)) : std::nullopt;
+}
+
+bool Recordset::boolean(int field) const
+{
+    d->requireField(field);
+    if (const auto &view = d->result.view; view && view->typeOf(d->column(field)) == jet::ColumnType::Boolean)
+        return view->table()->boolean(d->row(), d->column(field));
+    return number(field).value_or(0.0) != 0.0;
+}
+
+QString Recordset::text(int field) const
+{
+    d->requireField(field);
+    if (const auto &view = d->result.view; view && view->isText(d->column(field)))
+        return view->table()->text(d->row(), d->column(field));
+    if (const auto value = number(field))
+        return trimmedNumberText(*value);
+    return this->value(field).toString();
+}
+
+} // namespace kalvenor::dao

@@ -1,0 +1,331 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/dao/sqlsession.h"
+
+#include "platform/basic/error.h"
+#include "platform/dao/sqlguard.h"
+#include "platform/dao/virtualtable.h"
+#include <algorithm>
+#include <sqlite3.h>
+
+namespace kalvenor::dao {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A result that SQLite had to sort or compute is copied; the lists of the program never are.
+constexpr qint64 mostCells = 4'000'000;
+constexpr qint64 mostBytes = 512LL * 1024 * 1024;
+
+} // namespace
+
+QString tablePlace(const QString &file, const QString &table)
+{
+    return u"%1, table \"%2\""_s.arg(file, table);
+}
+
+SqlRun::SqlRun(SqlRun *&current, const QString &place, const Progress &progress)
+    : m_current(current), m_place(place), m_progress(progress)
+{
+    if (current != nullptr)
+        throw Error(ErrorKind::Refused, place, u"another query of this file is still running; wait for its end"_s);
+    current = this;
+}
+
+bool SqlRun::reached(qint64 rows, qint64 total)
+{
+    m_done = std::max(m_done, rows);
+    m_total = std::max(m_total, total);
+    return tick();
+}
+
+bool SqlRun::tick()
+{
+    if (m_cancelled || m_exception)
+        return false;
+    try {
+        m_cancelled = m_progress && !m_progress(m_done, m_total);
+    } catch (...) {
+        keepException();
+    }
+    return !m_cancelled && !m_exception;
+}
+
+void SqlRun::rethrow() const
+{
+    if (m_exception)
+        std::rethrow_exception(m_exception);
+    if (m_cancelled)
+        throw Error(ErrorKind::Cancelled, m_place, u"stopped; nothing was changed"_s);
+    if (!refusal.isEmpty())
+        throw Error(ErrorKind::Refused, m_place, refusal);
+}
+
+struct SqlSession::Parts {
+    sqlite3 *handle = nullptr;
+    SqlRun *run = nullptr;
+    TableModule module;
+    std::map<QString, std::shared_ptr<TableView>> declared; ///< by the catalogue's spelling
+    SqlGuard guard;
+
+    Parts() : guard(&run, [this](const QString &name) { return view(name) != nullptr; }) { module.current = &run; }
+    ~Parts() { sqlite3_close(handle); }
+    Parts(const Parts &) = delete;
+    Parts &operator=(const Parts &) = delete;
+
+    std::shared_ptr<TableView> view(const QString &name) const
+    {
+        for (const auto &[declaredName, declaredView] : declared) {
+            if (declaredName.compare(name, Qt::CaseInsensitive) == 0)
+                return declaredView;
+        }
+        return nullptr;
+    }
+};
+
+/// A prepared statement. Errors of SQLite become ours.
+class SqlSession::Statement {
+public:
+    Statement(Parts &parts, const SqlText &sql, const QString &place) : m_parts(parts), m_sql(sql), m_place(place)
+    {
+        QStringList known;
+        for (const auto &[name, view] : parts.declared) {
+            known << name;
+            for (const jet::Column &column : view->table()->columns())
+                known << column.name;
+        }
+        m_adapted = sql.adapted(known);
+        const QByteArray utf8 = m_adapted.toUtf8();
+        const char *tail = nullptr;
+        sqlite3_stmt *statement = nullptr;
+        const int code =
+            sqlite3_prepare_v2(parts.handle, utf8.constData(), static_cast<int>(utf8.size()) + 1, &statement, &tail);
+        m_statement.reset(statement);
+        if (code != SQLITE_OK)
+            fail(code);
+        if (statement == nullptr || tail != utf8.constData() + utf8.size())
+            throw Error(ErrorKind::Refused, m_place, u"only one statement can be carried out"_s);
+    }
+
+    operator sqlite3_stmt *() const { return m_statement.get(); }
+
+    /// False at the end.
+    bool step()
+    {
+        const int code = sqlite3_step(m_statement.get());
+        if (code != SQLITE_ROW && code != SQLITE_DONE)
+            fail(code);
+        return code == SQLITE_ROW;
+    }
+
+    void restart() { sqlite3_reset(m_statement.get()); }
+
+private:
+    [[noreturn]] void fail(int code) const
+    {
+        m_parts.run->rethrow();
+        const QString complaint = QString::fromUtf8(sqlite3_errmsg(m_parts.handle));
+        const QString missingTable = u"no such table: "_s;
+        if (complaint.startsWith(missingTable))
+            throw Error(ErrorKind::TableNotFound, m_place,
+                        u"there is no table \"%1\""_s.arg(complaint.mid(missingTable.size())));
+        if (code == SQLITE_NOMEM)
+            throw std::bad_alloc();
+        throw Error(ErrorKind::InvalidSql, m_place,
+                    plainComplaint(complaint, m_adapted, sqlite3_error_offset(m_parts.handle), m_sql.hasQuotes()));
+    }
+
+    Parts &m_parts;
+    const SqlText &m_sql;
+    const QString &m_place;
+    QString m_adapted;
+    struct Finalize {
+        void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
+    };
+    std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
+};
+
+SqlSession::SqlSession(std::shared_ptr<Snapshot> snapshot)
+    : m_snapshot(std::move(snapshot)), m_parts(std::make_unique<Parts>())
+{
+    int code = sqlite3_open_v2(":memory:", &m_parts->handle,
+                               SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
+    if (code == SQLITE_OK)
+        code = m_parts->guard.setUp(m_parts->handle);
+    if (code == SQLITE_OK)
+        code = registerTableModule(m_parts->handle, &m_parts->module);
+    if (code != SQLITE_OK)
+        throw Error(ErrorKind::InvalidProcedureCall, place(),
+                    u"the query engine cannot be set up: %1"_s.arg(QString::fromUtf8(sqlite3_errstr(code))));
+}
+
+SqlSession::~SqlSession() = default;
+
+void SqlSession::declareTables(const SqlText &sql)
+{
+    for (const QString &name : sql.names()) {
+        const jet::CatalogueEntry *entry = m_snapshot->database()->entry(name);
+        if (entry != nullptr && !entry->system && !m_parts->declared.contains(entry->name))
+            declare(entry->name);
+    }
+}
+
+void SqlSession::declare(const QString &name)
+{
+    Parts &parts = *m_parts;
+    parts.module.next = m_snapshot->view(name);
+    const QString quoted = u'"' + QString(name).replace(u'"', u"\"\""_s) + u'"';
+    parts.guard.watch(parts.handle, false);
+    const int code = sqlite3_exec(parts.handle, u"CREATE VIRTUAL TABLE %1 USING jet"_s.arg(quoted).toUtf8().constData(),
+                                  nullptr, nullptr, nullptr);
+    parts.guard.watch(parts.handle, true);
+    if (code != SQLITE_OK)
+        throw Error(ErrorKind::Damaged, tablePlace(place(), name),
+                    u"the table cannot be queried: %1"_s.arg(QString::fromUtf8(sqlite3_errmsg(parts.handle))));
+    parts.declared.emplace(name, std::exchange(parts.module.next, nullptr));
+}
+
+std::shared_ptr<TableView> SqlSession::plainView(const SqlText &sql, const Statement &statement,
+                                                 std::vector<int> &columns) const
+{
+    columns.clear();
+    if (!sql.deliversPlainRows())
+        return nullptr;
+    std::shared_ptr<TableView> view;
+    for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+        const char *table = sqlite3_column_table_name(statement, i);
+        const auto fieldView = table == nullptr ? nullptr : m_parts->view(QString::fromUtf8(table));
+        if (fieldView == nullptr || (view != nullptr && fieldView != view))
+            return nullptr;
+        view = fieldView;
+        const QString origin = QString::fromUtf8(sqlite3_column_origin_name(statement, i));
+        // Under another name a column could be meant where its own name does not stand.
+        const QString name = QString::fromUtf8(sqlite3_column_name(statement, i));
+        columns.push_back(view->table()->columnOf(origin));
+        if (columns.back() < 0 || name.compare(origin, Qt::CaseInsensitive) != 0)
+            return nullptr;
+    }
+    return view;
+}
+
+namespace {
+
+/// The columns that are named behind FROM. All others stand in the field list at most, and only row numbers are kept.
+std::vector<bool> columnsLookedAt(const jet::Table &table, const QStringList &names)
+{
+    std::vector<bool> wanted(table.columns().size(), false);
+    for (const QString &name : names) {
+        if (const int column = table.columnOf(name); column >= 0)
+            wanted[static_cast<std::size_t>(column)] = true;
+    }
+    return wanted;
+}
+
+/// Adds the value's size to `bytes`.
+QVariant cellOf(sqlite3_stmt *statement, int field, bool yesNo, qint64 &bytes)
+{
+    switch (sqlite3_column_type(statement, field)) {
+    case SQLITE_INTEGER: {
+        const qint64 whole = sqlite3_column_int64(statement, field);
+        if (yesNo)
+            return whole != 0;
+        return whole == static_cast<qint32>(whole) ? QVariant(static_cast<qint32>(whole)) : QVariant(whole);
+    }
+    case SQLITE_FLOAT:
+        return sqlite3_column_double(statement, field);
+    case SQLITE_TEXT: {
+        const auto *units = static_cast<const char16_t *>(sqlite3_column_text16(statement, field));
+        const int size = sqlite3_column_bytes16(statement, field);
+        bytes += size;
+        return QString(reinterpret_cast<const QChar *>(units), size / 2);
+    }
+    case SQLITE_BLOB: {
+        const auto *data = static_cast<const char *>(sqlite3_column_blob(statement, field));
+        const int size = sqlite3_column_bytes(statement, field);
+        bytes += size;
+        return QByteArray(data, size);
+    }
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+QueryResult SqlSession::query(const QString &text, const Progress &progress)
+{
+    const SqlText sql(text, place());
+    if (!sql.beginsWith(u"SELECT"))
+        throw Error(ErrorKind::Refused, place(), u"a query must begin with SELECT"_s);
+    SqlRun run(m_parts->run, place(), progress);
+    declareTables(sql);
+    Statement statement(*m_parts, sql, place());
+    if (sqlite3_stmt_readonly(statement) == 0)
+        throw Error(ErrorKind::Refused, place(), u"a query changes nothing"_s);
+    QueryResult result;
+    const int fields = sqlite3_column_count(statement);
+    std::vector<bool> yesNo;
+    for (int i = 0; i < fields; ++i) {
+        result.names << QString::fromUtf8(sqlite3_column_name(statement, i));
+        const char *table = sqlite3_column_table_name(statement, i);
+        const auto view = table == nullptr ? nullptr : m_parts->view(QString::fromUtf8(table));
+        const int column =
+            view == nullptr ? -1 : view->table()->columnOf(QString::fromUtf8(sqlite3_column_origin_name(statement, i)));
+        yesNo.push_back(column >= 0 && view->typeOf(column) == jet::ColumnType::Boolean);
+    }
+    if (!run.reached(0, 0))
+        run.rethrow();
+
+    if (auto view = plainView(sql, statement, result.columns)) {
+        const std::vector<bool> wanted = columnsLookedAt(*view->table(), sql.namesBehindFrom());
+        run.wantedColumns = &wanted;
+        const auto standsOnRow = [&] {
+            return run.cursors.size() == 1 && !run.cursors.front()->atEnd() &&
+                   sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_SORT, 0) == 0;
+        };
+        bool more = statement.step();
+        while (more && standsOnRow()) {
+            result.rows.push_back(run.cursors.front()->row);
+            more = statement.step();
+        }
+        if (!more) {
+            result.view = std::move(view);
+            return result;
+        }
+        run.wantedColumns = nullptr;
+        result.rows.clear();
+        statement.restart();
+    }
+
+    result.columns.clear();
+    qint64 bytes = 0;
+    while (statement.step()) {
+        for (int i = 0; i < fields; ++i)
+            result.cells.push_back(cellOf(statement, i, yesNo[static_cast<std::size_t>(i)], bytes));
+        if (static_cast<qint64>(result.cells.size()) > mostCells || bytes > mostBytes)
+            throw Error(ErrorKind::Refused, place(),
+                        u"the result is too large to be sorted or computed; select fewer rows or columns"_s);
+    }
+    return result;
+}
+
+UpdateResult SqlSession::update(const QString &text, const Progress &progress)
+{
+    const SqlText sql(text, place());
+    if (!sql.beginsWith(u"UPDATE"))
+        throw Error(ErrorKind::Refused, place(), u"only UPDATE … SET %1 is carried out"_s.arg(markColumnName));
+    SqlRun run(m_parts->run, place(), progress);
+    run.updating = true;
+    declareTables(sql);
+    Statement statement(*m_parts, sql, place());
+    if (sqlite3_column_count(statement) > 0)
+        throw Error(ErrorKind::Refused, place(), u"an UPDATE delivers no rows"_s);
+    if (!run.reached(0, 0))
+        run.rethrow();
+    while (statement.step()) {
+    }
+    return std::move(run.update);
+}
+
+} // namespace kalvenor::dao

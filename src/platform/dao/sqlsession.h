@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/basic/progress.h"
+#include "platform/dao/sqltext.h"
+#include "platform/dao/tableview.h"
+#include "platform/jet/markwriter.h"
+#include <exception>
+#include <memory>
+#include <QVariant>
+#include <vector>
+
+namespace kalvenor::dao {
+
+struct TableCursor;
+
+/// The one column that statements may change.
+inline constexpr QStringView markColumnName = u"Markierung";
+/// The key that tells whose mark it is.
+inline constexpr QStringView keyColumnName = u"Counter";
+
+/// "file, table name", as errors name their place.
+QString tablePlace(const QString &file, const QString &table);
+
+/// What a SELECT gave: row numbers of one table, or values.
+struct QueryResult {
+    QStringList names{};
+    std::vector<int> columns{};        ///< for each field the column of the view's table; empty where there is none
+    std::shared_ptr<TableView> view{}; ///< set where the result is row numbers
+    std::vector<quint32> rows{};
+    std::vector<QVariant> cells{}; ///< else: row by row, names.size() each
+};
+
+/// What an UPDATE would set, in the order of the statement.
+struct UpdateResult {
+    std::shared_ptr<TableView> view{}; ///< none where no row was selected
+    int markColumn = -1;
+    std::vector<jet::Mark> marks{};
+};
+
+/// What the callbacks of a running statement report to.
+class SqlRun {
+public:
+    /// Takes the place of the run at hand until it ends. Throws Refused where one is at hand: a Progress must not
+    /// begin another statement on the same database.
+    SqlRun(SqlRun *&current, const QString &place, const Progress &progress);
+    ~SqlRun() { m_current = nullptr; }
+    SqlRun(const SqlRun &) = delete;
+    SqlRun &operator=(const SqlRun &) = delete;
+
+    /// Rows looked at so far. False where the work shall end.
+    bool reached(qint64 rows, qint64 total);
+    /// The same without news, from time to time while SQLite computes.
+    bool tick();
+    /// Keeps the exception at hand until SQLite has returned.
+    void keepException() { m_exception = std::current_exception(); }
+    /// Throws what was kept, Cancelled, or Refused.
+    void rethrow() const;
+
+    QString refusal{}; ///< what the authorizer objected to
+    /// Set while only row numbers are wanted: the columns that the statement itself looks at.
+    const std::vector<bool> *wantedColumns = nullptr;
+    std::vector<TableCursor *> cursors{}; ///< the open ones
+    bool updating = false;
+    UpdateResult update{};
+
+private:
+    SqlRun *&m_current;
+    QString m_place;
+    Progress m_progress;
+    std::exception_ptr m_exception;
+    qint64 m_done = 0;
+    qint64 m_total = 0;
+    bool m_cancelled = false;
+};
+
+/// SQLite over one state of a database file. Tables are declared when a statement first names them.
+class SqlSession {
+public:
+    /// Throws InvalidProcedureCall where SQLite itself cannot be set up.
+    explicit SqlSession(std::shared_ptr<Snapshot> snapshot);
+    ~SqlSession();
+    SqlSession(const SqlSession &) = delete;
+    SqlSession &operator=(const SqlSession &) = delete;
+
+    const std::shared_ptr<Snapshot> &snapshot() const { return m_snapshot; }
+    /// Throws InvalidSql, InvalidPattern, TableNotFound, Damaged, Refused, Cancelled.
+    QueryResult query(const QString &sql, const Progress &progress);
+    /// Collects what the UPDATE sets; nothing is changed yet. Throws as query, and NotMarkable, TypeMismatch.
+    UpdateResult update(const QString &sql, const Progress &progress);
+
+private:
+    class Statement;
+
+    const QString &place() const { return m_snapshot->database()->file(); }
+    void declareTables(const SqlText &sql);
+    void declare(const QString &name);
+    /// Where each row of the result is a row of one table: that table and, for each field, its column.
+    std::shared_ptr<TableView> plainView(const SqlText &sql, const Statement &statement,
+                                         std::vector<int> &columns) const;
+
+    struct Parts;
+    std::shared_ptr<Snapshot> m_snapshot;
+    std::unique_ptr<Parts> m_parts;
+};
+
+/// The complaint of SQLite in plain words. `offset` counts UTF-8 bytes of the statement; negative where unknown.
+QString plainComplaint(const QString &complaint, const QString &sql, int offset, bool hasQuotes);
+
+} // namespace kalvenor::dao

@@ -1,0 +1,268 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/dao/sqltext.h"
+
+#include "platform/basic/error.h"
+#include <algorithm>
+#include <array>
+#include <sqlite3.h>
+
+namespace kalvenor::dao {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Words that the grammar of the statements here needs: never taken for a name, in Jet neither.
+constexpr std::array structural{
+    u"ALL",    u"AND",      u"AS",     u"ASC",       u"BETWEEN", u"BY",     u"CASE",   u"CAST",  u"COLLATE", u"CROSS",
+    u"DESC",   u"DISTINCT", u"ELSE",   u"END",       u"ESCAPE",  u"EXCEPT", u"EXISTS", u"FROM",  u"FULL",    u"GROUP",
+    u"HAVING", u"IN",       u"INNER",  u"INTERSECT", u"IS",      u"JOIN",   u"LEFT",   u"LIKE",  u"LIMIT",   u"NATURAL",
+    u"NOT",    u"NULL",     u"OFFSET", u"ON",        u"OR",      u"ORDER",  u"OUTER",  u"RIGHT", u"SELECT",  u"SET",
+    u"THEN",   u"UNION",    u"UPDATE", u"USING",     u"WHEN",    u"WHERE"};
+
+bool same(QStringView left, QStringView right)
+{
+    return left.compare(right, Qt::CaseInsensitive) == 0;
+}
+
+bool isStructural(QStringView word)
+{
+    return std::any_of(structural.begin(), structural.end(),
+                       [word](const char16_t *other) { return same(word, QStringView(other)); });
+}
+
+bool isKeyword(QStringView word)
+{
+    const QByteArray utf8 = word.toUtf8();
+    return sqlite3_keyword_check(utf8.constData(), static_cast<int>(utf8.size())) != 0;
+}
+
+bool isAscii(QStringView word)
+{
+    return std::all_of(word.begin(), word.end(), [](QChar c) { return c.unicode() < 0x80; });
+}
+
+bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+bool beginsWord(QChar c)
+{
+    return (c >= u'A' && c <= u'Z') || (c >= u'a' && c <= u'z') || c == u'_' || c.unicode() >= 0x80;
+}
+
+bool isBlank(QChar c)
+{
+    return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n' || c == u'\f';
+}
+
+qsizetype skipDigits(QStringView text, qsizetype at)
+{
+    while (at < text.size() && isDigit(text[at]))
+        ++at;
+    return at;
+}
+
+qsizetype endOfNumber(QStringView text, qsizetype at)
+{
+    at = skipDigits(text, at);
+    if (at < text.size() && text[at] == u'.')
+        at = skipDigits(text, at + 1);
+    if (at < text.size() && (text[at] == u'e' || text[at] == u'E')) {
+        const bool sign = at + 1 < text.size() && (text[at + 1] == u'+' || text[at + 1] == u'-');
+        const qsizetype digits = at + (sign ? 2 : 1);
+        if (digits < text.size() && isDigit(text[digits]))
+            at = skipDigits(text, digits);
+    }
+    return at;
+}
+
+/// One behind the closing mark; a doubled one does not close. -1 where it is not closed.
+qsizetype endOfQuoted(QStringView text, qsizetype at, QChar close)
+{
+    for (++at; at < text.size(); ++at) {
+        if (text[at] != close)
+            continue;
+        if (close == u']' || at + 1 >= text.size() || text[at + 1] != close)
+            return at + 1;
+        ++at;
+    }
+    return -1;
+}
+
+QString excerpt(QStringView text, qsizetype at)
+{
+    constexpr qsizetype most = 40;
+    return text.size() - at > most ? text.mid(at, most).toString() + u'…' : text.mid(at).toString();
+}
+
+} // namespace
+
+SqlText::SqlText(const QString &sql, const QString &place) : m_text(sql)
+{
+    cut(place);
+    const auto isSemicolon = [this](const Token &token) {
+        return view(token) == u";";
+    };
+    while (!m_tokens.empty() && isSemicolon(m_tokens.back()))
+        m_tokens.pop_back();
+    const auto seam = std::find_if(m_tokens.begin(), m_tokens.end(), isSemicolon);
+    if (seam != m_tokens.end())
+        throw Error(ErrorKind::Refused, place,
+                    u"only one statement can be carried out; a second one begins at \"%1\""_s.arg(
+                        excerpt(m_text, seam->start + 1).trimmed()));
+    if (m_tokens.empty())
+        throw Error(ErrorKind::InvalidSql, place, u"the statement is empty"_s);
+}
+
+void SqlText::cut(const QString &place)
+{
+    const QStringView text = m_text;
+    for (qsizetype at = 0; at < text.size();) {
+        const QChar c = text[at];
+        const QChar next = at + 1 < text.size() ? text[at + 1] : QChar();
+        qsizetype end = at + 1;
+        Token::Kind kind = Token::Kind::Sign;
+        if (isBlank(c)) {
+            ++at;
+            continue;
+        }
+        if (c == u'\'' || c == u'"' || c == u'`' || c == u'[') {
+            kind = c == u'\'' ? Token::Kind::Text : Token::Kind::Name;
+            end = endOfQuoted(text, at, c == u'[' ? QChar(u']') : c);
+            if (end < 0 && kind == Token::Kind::Text)
+                throw Error(ErrorKind::InvalidSql, place,
+                            u"the search text that begins at \"%1\" is not closed; type an apostrophe within a text "
+                            u"twice ('')"_s.arg(excerpt(text, at)));
+            if (end < 0)
+                throw Error(ErrorKind::InvalidSql, place,
+                            u"the name that begins at \"%1\" is not closed"_s.arg(excerpt(text, at)));
+        } else if (beginsWord(c)) {
+            kind = Token::Kind::Word;
+            while (end < text.size() && (beginsWord(text[end]) || isDigit(text[end]) || text[end] == u'$'))
+                ++end;
+        } else if (isDigit(c) || (c == u'.' && isDigit(next))) {
+            kind = Token::Kind::Number;
+            end = endOfNumber(text, at);
+        } else if ((c == u'-' && next == u'-') || (c == u'/' && next == u'*')) {
+            throw Error(ErrorKind::InvalidSql, place,
+                        u"\"%1%2\" is not understood; there are no comments in a statement"_s.arg(c).arg(next));
+        } else if (!QStringView(u"+-*/%&|~<>=!(),.;").contains(c)) {
+            throw Error(ErrorKind::InvalidSql, place,
+                        c.isPrint() ? u"the sign \"%1\" is not understood at \"%2\""_s.arg(c).arg(excerpt(text, at))
+                                    : u"the statement holds a control character"_s);
+        }
+        m_tokens.push_back({kind, at, end - at});
+        at = end;
+    }
+}
+
+bool SqlText::isWord(std::size_t token, QStringView word) const
+{
+    return token < m_tokens.size() && m_tokens[token].kind == Token::Kind::Word && same(view(m_tokens[token]), word);
+}
+
+bool SqlText::isSign(std::size_t token, QStringView sign) const
+{
+    return token < m_tokens.size() && m_tokens[token].kind == Token::Kind::Sign && view(m_tokens[token]) == sign;
+}
+
+bool SqlText::beginsWith(QStringView word) const
+{
+    return isWord(0, word);
+}
+
+bool SqlText::hasQuotes() const
+{
+    return m_text.contains(u'\'');
+}
+
+QString SqlText::nameOf(const Token &token) const
+{
+    const QStringView whole = view(token);
+    if (token.kind == Token::Kind::Word)
+        return whole.toString();
+    QString name = whole.mid(1, whole.size() - 2).toString();
+    const QChar quote = whole.front();
+    return quote == u'[' ? name : name.replace(QString(2, quote), QString(quote));
+}
+
+QStringList SqlText::names() const
+{
+    QStringList names;
+    for (const Token &token : m_tokens) {
+        if (token.kind == Token::Kind::Word || token.kind == Token::Kind::Name)
+            names.append(nameOf(token));
+    }
+    return names;
+}
+
+QStringList SqlText::namesBehindFrom() const
+{
+    QStringList names;
+    std::size_t i = 0;
+    while (i < m_tokens.size() && !isWord(i, u"FROM"))
+        ++i;
+    for (; i < m_tokens.size(); ++i) {
+        if (m_tokens[i].kind == Token::Kind::Word || m_tokens[i].kind == Token::Kind::Name)
+            names.append(nameOf(m_tokens[i]));
+    }
+    return names;
+}
+
+bool SqlText::deliversPlainRows() const
+{
+    int selects = 0;
+    for (std::size_t i = 0; i < m_tokens.size(); ++i) {
+        for (const char16_t *word :
+             {u"DISTINCT", u"GROUP", u"HAVING", u"UNION", u"INTERSECT", u"EXCEPT", u"OVER", u"WITH", u"JOIN"}) {
+            if (isWord(i, word))
+                return false;
+        }
+        if (isWord(i, u"SELECT"))
+            ++selects;
+    }
+    return selects == 1 && beginsWith(u"SELECT");
+}
+
+/// The word stands behind `column =`, `column <>` …
+bool SqlText::followsComparison(std::size_t token) const
+{
+    std::size_t at = token;
+    while (at > 0 && (isSign(at - 1, u"=") || isSign(at - 1, u"<") || isSign(at - 1, u">") || isSign(at - 1, u"!")))
+        --at;
+    return at < token && at > 0 &&
+           (m_tokens[at - 1].kind == Token::Kind::Word || m_tokens[at - 1].kind == Token::Kind::Name);
+}
+
+QString SqlText::adapted(const QStringList &known) const
+{
+    QString result;
+    result.reserve(m_text.size() + 16);
+    qsizetype copied = 0;
+    for (std::size_t i = 0; i < m_tokens.size(); ++i) {
+        const Token &token = m_tokens[i];
+        result += QStringView(m_text).mid(copied, token.start - copied);
+        copied = token.start + token.length;
+        const QStringView word = view(token);
+        const bool name = token.kind == Token::Kind::Word;
+        if (name && i > 0 && m_tokens[i - 1].kind == Token::Kind::Number &&
+            m_tokens[i - 1].start + m_tokens[i - 1].length == token.start)
+            result += u' ';
+        const auto meant =
+            name && !isStructural(word)
+                ? std::find_if(known.begin(), known.end(), [word](const QString &other) { return same(word, other); })
+                : known.end();
+        if (meant != known.end() && (isKeyword(word) || !isAscii(word)))
+            result += u'"' + QString(*meant).replace(u'"', u"\"\""_s) + u'"';
+        else if (meant == known.end() && name && same(word, u"TRUE") && followsComparison(i))
+            result += u"-1";
+        else
+            result += word;
+    }
+    return result;
+}
+
+} // namespace kalvenor::dao

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <functional>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+namespace kalvenor::dao {
+
+/// One SQL statement cut into its words, so that what Jet's dialect allows and SQLite's does not can be adapted
+/// word by word. Texts in quotes and names in brackets are never touched.
+class SqlText {
+public:
+    /// Throws InvalidSql for a text or name that is not closed or a character no statement holds, and Refused for a
+    /// second statement; `place` is the error's place.
+    SqlText(const QString &sql, const QString &place);
+
+    const QString &text() const { return m_text; }
+    /// The first word is this one.
+    bool beginsWith(QStringView word) const;
+    /// All that may name a table, column or function, without quotes and brackets.
+    QStringList names() const;
+    /// Those of names() that stand behind the first FROM.
+    QStringList namesBehindFrom() const;
+    bool hasQuotes() const;
+    /// A single SELECT that neither joins, groups, combines nor drops equal rows: each row of its result is a row of
+    /// one table, in the moment when it is delivered.
+    bool deliversPlainRows() const;
+
+    /// The statement for SQLite: a blank between a number and a letter directly behind it; a bare word that is one of
+    /// `known` (without regard to case) and would not be understood as a name is quoted; a column compared with or set
+    /// to True gets -1, as Yes/No columns hold it.
+    QString adapted(const QStringList &known) const;
+
+private:
+    struct Token {
+        enum class Kind : quint8 { Word, Number, Text, Name, Sign } kind;
+        qsizetype start;
+        qsizetype length;
+    };
+    void cut(const QString &place);
+    QStringView view(const Token &token) const { return QStringView(m_text).mid(token.start, token.length); }
+    bool isWord(std::size_t token, QStringView word) const;
+    bool isSign(std::size_t token, QStringView sign) const;
+    bool followsComparison(std::size_t token) const;
+    QString nameOf(const Token &token) const;
+
+    QString m_text;
+    std::vector<Token> m_tokens; ///< without blanks and the semicolons at the end
+};
+
+} // namespace kalvenor::dao

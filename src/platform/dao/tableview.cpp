@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/dao/tableview.h"
+
+#include "platform/dao/generalorder.h"
+
+namespace kalvenor::dao {
+
+jet::ColumnType TableView::typeOf(int column) const
+{
+    return m_table->columns()[static_cast<std::size_t>(column)].type;
+}
+
+bool TableView::isWhole(int column) const
+{
+    const jet::ColumnType type = typeOf(column);
+    return type == jet::ColumnType::Byte || type == jet::ColumnType::Integer || type == jet::ColumnType::Long;
+}
+
+bool TableView::isText(int column) const
+{
+    const jet::ColumnType type = typeOf(column);
+    return type == jet::ColumnType::Text || type == jet::ColumnType::Memo;
+}
+
+const LongIndex &TableView::index(int column)
+{
+    auto found = m_indexes.find(column);
+    if (found == m_indexes.end())
+        found = m_indexes.emplace(column, LongIndex(*m_table, column)).first;
+    return found->second;
+}
+
+const std::vector<quint32> &TableView::order(int column)
+{
+    if (isWhole(column))
+        return index(column).order();
+    auto found = m_orders.find(column);
+    if (found == m_orders.end())
+        found = m_orders.emplace(column, generalOrder(*m_table, column)).first;
+    return found->second;
+}
+
+const Bits &TableView::marks(int column)
+{
+    auto found = m_marks.find(column);
+    if (found == m_marks.end()) {
+        const quint32 count = m_table->rowCount();
+        Bits bits(count);
+        for (quint32 row = 0; row < count; ++row) {
+            if (m_table->boolean(row, column))
+                bits.set(row, true);
+        }
+        found = m_marks.emplace(column, std::move(bits)).first;
+    }
+    return found->second;
+}
+
+void TableView::flipMarks(int column, const std::vector<quint32> &rows)
+{
+    const auto found = m_marks.find(column);
+    if (found == m_marks.end())
+        return;
+    for (const quint32 row : rows)
+        found->second.set(row, !found->second.test(row));
+}
+
+std::shared_ptr<TableView> Snapshot::view(const QString &name)
+{
+    const std::shared_ptr<const jet::Table> table = m_database->table(name);
+    std::shared_ptr<TableView> &view = m_views[table->name()];
+    if (!view)
+        view = std::make_shared<TableView>(table);
+    return view;
+}
+
+} // namespace kalvenor::dao

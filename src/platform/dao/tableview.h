@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/dao/bits.h"
+#include "platform/dao/longindex.h"
+#include "platform/jet/database.h"
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace kalvenor::dao {
+
+/// A table with what speeds its queries up, each made at its first use: indexes, orders and marks. For one thread.
+class TableView {
+public:
+    explicit TableView(std::shared_ptr<const jet::Table> table) : m_table(std::move(table)) {}
+
+    const std::shared_ptr<const jet::Table> &table() const { return m_table; }
+    jet::ColumnType typeOf(int column) const;
+    /// Byte, Integer or Long: what index() and order() can be asked for.
+    bool isWhole(int column) const;
+    /// Text or Memo: what order() can be asked for.
+    bool isText(int column) const;
+
+    const LongIndex &index(int column);
+    /// All rows by the ascending values of a whole-number or text column (General order); null first.
+    const std::vector<quint32> &order(int column);
+
+    /// The values of a Yes/No column.
+    const Bits &marks(int column);
+    /// Takes over that these rows' values were turned round.
+    void flipMarks(int column, const std::vector<quint32> &rows);
+    /// To be read anew from the image.
+    void forgetMarks(int column) { m_marks.erase(column); }
+
+private:
+    std::shared_ptr<const jet::Table> m_table;
+    std::map<int, LongIndex> m_indexes;
+    std::map<int, std::vector<quint32>> m_orders;
+    std::map<int, Bits> m_marks;
+};
+
+/// One state of a database file with the views of its tables.
+class Snapshot {
+public:
+    explicit Snapshot(std::shared_ptr<jet::Database> database) : m_database(std::move(database)) {}
+
+    const std::shared_ptr<jet::Database> &database() const { return m_database; }
+    /// Throws TableNotFound or Damaged.
+    std::shared_ptr<TableView> view(const QString &name);
+
+private:
+    std::shared_ptr<jet::Database> m_database;
+    std::map<QString, std::shared_ptr<TableView>> m_views; ///< by the catalogue's spelling
+};
+
+} // namespace kalvenor::dao
