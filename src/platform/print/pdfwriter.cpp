@@ -20,6 +20,31 @@ namespace {
             what, reason));
 }
 
+/// Passes all on to a file. The PDF engine does not look at what its device answers, and a disk that becomes full takes
+/// a part of a write without an error.
+class WholeWrites : public QIODevice {
+public:
+    explicit WholeWrites(QSaveFile &file) : m_file(file) { open(WriteOnly | Unbuffered); }
+    bool failed() const { return m_failed; }
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char *, qint64) override { return -1; }
+    qint64 writeData(const char *data, qint64 size) override
+    {
+        for (qint64 done = 0; done < size && !m_failed;) {
+            const qint64 taken = m_file.write(data + done, size - done);
+            m_failed = taken <= 0;
+            done += taken;
+        }
+        return m_failed ? -1 : size;
+    }
+
+private:
+    QSaveFile &m_file;
+    bool m_failed = false;
+};
+
 } // namespace
 
 void writePdf(const PageLayout &layout, const QString &title, const QString &path, const Progress &progress)
@@ -28,7 +53,8 @@ void writePdf(const PageLayout &layout, const QString &title, const QString &pat
     if (!file.open(QIODevice::WriteOnly))
         fail(path, QStringLiteral("The PDF file cannot be written"), file.errorString());
 
-    QPdfWriter writer(&file);
+    WholeWrites device(file);
+    QPdfWriter writer(&device);
     writer.setTitle(title);
     writer.setCreator(QStringLiteral("Kalvenor " KALVENOR_VERSION));
     writer.setResolution(1440); // twips
@@ -48,13 +74,14 @@ void writePdf(const PageLayout &layout, const QString &title, const QString &pat
             writer.newPage();
         pages.paint(painter, page);
         ++done;
-        if (file.error() != QFileDevice::NoError)
+        if (device.failed())
             break;
         if (progress && !progress(done, total))
             throw Error(ErrorKind::Cancelled, path, QStringLiteral("Stopped by the user; nothing was written."));
     }
     painter.end();
-    if (file.error() != QFileDevice::NoError || !file.commit())
+    // commit() does not notice that the rest of its buffer finds no room (Qt 6.4).
+    if (device.failed() || !file.flush() || !file.commit())
         fail(path, QStringLiteral("Writing the PDF file failed"), file.errorString());
 }
 

@@ -71,8 +71,9 @@ StyleId PrintDocument::addStyle(const TextStyle &style)
     const auto found = std::find(m_styles.begin(), m_styles.end(), style);
     if (found != m_styles.end())
         return static_cast<StyleId>(found - m_styles.begin());
-    if (!(style.pointSize > 0 && style.pointSize <= 1000))
-        refuse(u"A font size of %1 points cannot be printed; sizes go from above 0 to 1000."_qs.arg(style.pointSize));
+    if (!(style.pointSize > 0 && style.pointSize <= largestPointSize))
+        refuse(u"A font size of %1 points cannot be printed; sizes go from above 0 to %2."_qs.arg(style.pointSize)
+                   .arg(largestPointSize));
     m_styles.push_back(style);
     return static_cast<StyleId>(m_styles.size() - 1);
 }

@@ -15,6 +15,9 @@ namespace kalvenor {
 
 using Twips = int;
 
+/// Beyond about 820 points Qt's font metrics overflow.
+constexpr double largestPointSize = 800;
+
 /// How a text looks. An invalid colour means black text and no background.
 struct TextStyle {
     QString family = QStringLiteral("Arial");
@@ -54,14 +57,14 @@ struct Column {
 std::vector<Column> columnsFromFormat(QStringView format);
 
 struct Cell {
-    QString text;
+    QString text = {};
     StyleId style = 0;
     std::optional<Alignment> alignment = {}; ///< instead of the column's
 };
 
 /// Line ends inside the text begin new lines.
 struct Paragraph {
-    QString text;
+    QString text = {};
     StyleId style = 0;
     Alignment alignment = Alignment::Left;
     Twips spaceBefore = 0; ///< left out at the top of a page
@@ -102,7 +105,7 @@ struct PageSetup {
 
 /// "left|centre|right"; "%d" is the page number.
 struct RunningText {
-    QString text;
+    QString text = {};
     StyleId style = 0;
 };
 
@@ -117,6 +120,7 @@ public:
     RunningText footer;
 
     /// Equal styles share an id. Style 0 is always there: the default TextStyle.
+    /// Throws Error(InvalidProcedureCall) for a size of 0 or less or above largestPointSize.
     StyleId addStyle(const TextStyle &style);
     const std::vector<TextStyle> &styles() const { return m_styles; }
 
