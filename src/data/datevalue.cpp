@@ -54,7 +54,7 @@ QString datumwandeln(QString &typed, DateOrder order)
 
     // The century is completed in the typed text only; the working copy keeps its two-digit year.
     if (leftPart(typed, 10).contains(u' '))
-        typed = leftPart(typed, 6) + u"19" + midPart(typed, 7);
+        typed = leftPart(typed, 6) + QStringLiteral("19") + midPart(typed, 7);
     typed.replace(u'/', u'-');
 
     QString result = typed;

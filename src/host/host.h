@@ -29,8 +29,8 @@ public:
     QPointer<QObject> Hauptform; ///< the main window once it was made
 
     const QString &programFolder() const { return m_programFolder; }
-    QString hostSettingsFile() const { return Hostverzeichnis + u"\\programm.ini"; }
-    QString ownSettingsFile() const { return m_programFolder + u"\\Kalvenor.ini"; }
+    QString hostSettingsFile() const { return Hostverzeichnis + QStringLiteral("\\programm.ini"); }
+    QString ownSettingsFile() const { return m_programFolder + QStringLiteral("\\Kalvenor.ini"); }
     Desktop &desktop() const { return m_desktop; }
 
     /// One value of a profile file, at most 255 characters, up to its first NUL; a missing file, section or key gives

@@ -33,7 +33,7 @@ void Sprachmodul::datenbankenschliessen(const QString &name)
     for (int i = m_engine.workspaceCount() - 1; i >= 0; --i)
         m_engine.closeWorkspace(i);
     if (name.isEmpty())
-        spracheoeffnen(m_host.Hostverzeichnis + u"\\language.mdb");
+        spracheoeffnen(m_host.Hostverzeichnis + QStringLiteral("\\language.mdb"));
 }
 
 } // namespace kalvenor::language

@@ -38,9 +38,9 @@ QString alterstext(double days)
 {
     QString text = QStringLiteral("     ") + trimmedNumberText(altersjahre(days));
     if (!text.contains(u'.'))
-        text += u".0";
+        text += QStringLiteral(".0");
     text.replace(QStringLiteral(" 0.0"), QStringLiteral("  .0"));
-    return rightPart(text + u"  ", AgeTextWidth);
+    return rightPart(text + QStringLiteral("  "), AgeTextWidth);
 }
 
 QString alterszeile(double days, QStringView listname)

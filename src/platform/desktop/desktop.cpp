@@ -29,7 +29,7 @@ bool Desktop::setStackPlace(QWindow *window, StackPlace place, bool activate)
 
 int TerminalDesktop::messageBox(const QString &text, int, const QString &title)
 {
-    writeError(title.isEmpty() ? text : title + u": " + text);
+    writeError(title.isEmpty() ? text : title + QStringLiteral(": ") + text);
     return ResultOk;
 }
 
