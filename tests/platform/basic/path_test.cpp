@@ -42,6 +42,7 @@ TEST_F(Paths, Native)
         {windowsRoot() + "\\DATEN\\familie.mdb", root() + "/Daten/Familie.MDB"},
         {root() + "/dATEN/qv/X", root() + "/Daten/QV/x"},
         {windowsRoot() + "\\daten", root() + "/daten"},
+        {windowsRoot() + "\\daten\\.GEHEIM", root() + "/Daten/.geheim"},
         {windowsRoot() + "\\DATEN\\Neu.ini", root() + "/Daten/Neu.ini"},
         {windowsRoot() + "\\Daten\\NEU\\qv\\x", root() + "/Daten/NEU/qv/x"},
         {windowsRoot() + "\\DATEN\\qv\\..\\b.TXT", root() + "/Daten/QV/../b.txt"},
