@@ -1,0 +1,203 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/fixtures.h"
+
+#include "platform/basic/codepage.h"
+#include "platform/basic/error.h"
+#include "platform/basic/path.h"
+#include "platform/jet/creator.h"
+#include <QDir>
+#include <QFile>
+#include <set>
+
+namespace kalvenor::test {
+
+namespace {
+
+using jet::ColumnType;
+using jet::NewColumn;
+using jet::NewValue;
+
+struct TestTable {
+    QString name;
+    std::vector<NewColumn> columns; ///< beside Counter
+    std::vector<std::vector<NewValue>> rows;
+};
+
+NewColumn column(const char *name, ColumnType type = ColumnType::Long)
+{
+    return {.name = QLatin1String(name), .type = type};
+}
+
+NewColumn text(const char *name, int length = 120)
+{
+    return {.name = QLatin1String(name), .type = ColumnType::Text, .length = length};
+}
+
+NewValue some(const char *words)
+{
+    return QString::fromUtf8(words);
+}
+
+NewValue orNull(const QString &words)
+{
+    return words.isEmpty() ? NewValue() : NewValue(words);
+}
+
+NewValue orNull(std::optional<qint32> number)
+{
+    return number ? NewValue(*number) : NewValue();
+}
+
+std::vector<jet::NewIndex> counterIndex(bool unique = true)
+{
+    return {{.name = QStringLiteral("Counter"), .columns = {QStringLiteral("Counter")}, .unique = unique}};
+}
+
+/// The rows get the counters 1, 2, …
+void addTable(jet::Creator &creator, const TestTable &table)
+{
+    std::vector<NewColumn> columns = table.columns;
+    columns.insert(columns.begin(), column("Counter"));
+    auto &added = creator.addTable(table.name, columns, counterIndex());
+    for (std::vector<NewValue> row : table.rows) {
+        row.insert(row.begin(), NewValue(static_cast<std::int32_t>(added.rowCount() + 1)));
+        added.addRow(row);
+    }
+}
+
+void addPersons(jet::Creator &creator, const std::vector<TestPerson> &persons)
+{
+    std::set<qint32> counters;
+    for (const TestPerson &person : persons)
+        counters.insert(person.counter);
+    auto &table = creator.addTable(QStringLiteral("Daten"),
+                                   {column("Counter"), text("Listname"), column("Markierung", ColumnType::Boolean),
+                                    text("nnamen"), text("vnamen"), text("Geschlecht", 1), column("Geburtsdatum"),
+                                    text("Geburt_XX", 10), column("Sterbedatum"), text("sterbe_XX", 10),
+                                    column("Vater"), column("Mutter"), column("geaendert")},
+                                   counterIndex(counters.size() == persons.size()));
+    for (const TestPerson &person : persons) {
+        const qsizetype comma = person.listname.indexOf(u',');
+        const QString surname = comma < 0 ? person.listname : person.listname.left(comma);
+        const QString firstNames = comma < 0 ? QString() : person.listname.mid(comma + 1).trimmed();
+        table.addRow({person.counter, person.listname, person.marked, surname, orNull(firstNames), person.sex,
+                      orNull(person.birth), orNull(person.birthXX), orNull(person.death), orNull(person.deathXX),
+                      person.father, person.mother, person.changed});
+    }
+}
+
+std::vector<TestTable> otherFamilyTables()
+{
+    return {
+        {QStringLiteral("Baum"), {text("Name"), column("Person")}, {{some("Vorfahren"), 1}}},
+        {QStringLiteral("Baum_DS"), {column("Baum"), column("x", ColumnType::Double)}, {{1, 12.5}}},
+        {QStringLiteral("Bilder"), {text("Datei"), column("Vorschau", ColumnType::Ole)}, {{some("bild.jpg"), {}}}},
+        {QStringLiteral("Daten_DS"), {column("Person"), text("Wert", 255)}, {{1, some("Schmied")}}},
+        {QStringLiteral("Dokument"),
+         {text("Datei"), column("Datum", ColumnType::DateTime)},
+         {{some("brief.txt"), 36526.25}}},
+        {QStringLiteral("Ereignis"),
+         {text("Bezeichnung"), column("aktiv", ColumnType::Boolean)},
+         {{some("Taufe"), true}}},
+        {QStringLiteral("Ereignis_DS"), {column("Person"), column("Text", ColumnType::Memo)}, {{1, some("getauft")}}},
+        {QStringLiteral("Familie"), {column("Vater"), column("Mutter")}, {{1, 2}}},
+        {QStringLiteral("Galerie"), {text("Titel")}, {{some("Hof")}}},
+        {QStringLiteral("Galerie_DS"), {column("Galerie"), column("Bild")}, {{1, 1}}},
+        {QStringLiteral("Namen_DS"), {column("Person"), text("Name")}, {{1, some("Müller")}}},
+        {QStringLiteral("Namen"), {text("Name")}, {{some("Müller")}, {some("Weiß")}}},
+        {QStringLiteral("Quellen_DS"),
+         {column("Person"), column("Quelle", ColumnType::Memo)},
+         {{1, some("Kirchenbuch")}}},
+        {QStringLiteral("Referenz"), {column("von"), column("nach")}, {{1, 2}}},
+        {QStringLiteral("Ort"), {text("Name")}, {{some("Nürnberg")}}},
+        {QStringLiteral("Stichwort"), {text("Stichwort")}, {{some("Auswanderer")}}},
+        {QStringLiteral("Stichwort_DS"), {column("Stichwort"), column("Person")}, {{1, 1}}},
+        {QStringLiteral("Adressen"), {text("Ort")}, {{some("Köln")}}},
+        {QStringLiteral("Adressen_DS "), {column("Adresse"), column("Person")}, {{1, 1}}}, // the blank belongs to it
+        {QStringLiteral("Version"), {text("Version", 20)}, {{some("1.0")}}},
+    };
+}
+
+void writeDatabase(const QString &file, const std::vector<TestTable> &tables)
+{
+    jet::Creator creator;
+    for (const TestTable &table : tables)
+        addTable(creator, table);
+    creator.write(file);
+}
+
+TestTable eventKinds(const char *language, const char *birth, const char *death)
+{
+    return {QLatin1String(language),
+            {column("Index"), text("txtzeichen", 10), text("Art"), column("Icon_Druck", ColumnType::Ole)},
+            {{1, some("*"), some(birth), {}}, {2, some("+"), some(death), {}}}};
+}
+
+/// Counter is the text's identifier here.
+void writeTexts(const QString &file)
+{
+    const struct {
+        std::int32_t id;
+        const char *deutsch;
+        const char *english;
+    } texts[] = {
+        {100, "Die Familiendatenbank wurde nicht gefunden.", "The family database was not found."},
+        {911, "Auswahlkriterien", "Selection criteria"},
+        {926, "Es wurden 1000 Personen bearbeitet.", "1000 persons were processed."},
+        {930, "Markierungen werden aufgehoben", "Removing marks"},
+        {1201, "Verwandte markieren", "Mark relatives"},
+        {1204, "#PROGNAME#Statistik", "#PROGNAME#Statistics"},
+        {1205, "Statistik", "Statistics"},
+    };
+    jet::Creator creator;
+    auto &languages = creator.addTable(QStringLiteral("Languages"),
+                                       {column("Counter"), text("Deutsch", 255), text("English", 255)}, counterIndex());
+    for (const auto &row : texts)
+        languages.addRow({row.id, some(row.deutsch), some(row.english)});
+    creator.write(file);
+}
+
+} // namespace
+
+void writeFamily(const QString &file, const std::vector<TestPerson> &persons, std::uint32_t encodingKey)
+{
+    jet::Creator creator;
+    addPersons(creator, persons);
+    for (const TestTable &table : otherFamilyTables())
+        addTable(creator, table);
+    creator.write(file, encodingKey);
+}
+
+void writeHost(const QString &folder, const std::vector<TestPerson> &persons)
+{
+    const QDir host(folder + QStringLiteral("/QV"));
+    for (const char *part : {"Kalvenor", "Familie", "Ausgabe"}) {
+        if (!host.mkpath(QLatin1String(part)))
+            throw Error(ErrorKind::WriteFailed, host.path(), QStringLiteral("The folder cannot be made."));
+    }
+    const QString family = host.filePath(QStringLiteral("Familie/familie.mdb"));
+    writeFamily(family, persons);
+    writeDatabase(host.filePath(QStringLiteral("Ereignis.mdb")),
+                  {eventKinds("Deutsch", "Geburt", "Tod"),
+                   eventKinds("English", "Birth", "Death"),
+                   {QStringLiteral("Namenfont"), {text("Name")}, {{some("Arial")}}}});
+    writeDatabase(host.filePath(QStringLiteral("Geschichte.mdb")),
+                  {{QStringLiteral("Ereignis"), {column("Jahr"), text("Text")}, {{1648, some("Friede")}}}});
+    writeDatabase(host.filePath(QStringLiteral("namen.mdb")),
+                  {{QStringLiteral("Namen"), {text("Name")}, {{some("Johann")}}}});
+    writeDatabase(host.filePath(QStringLiteral("orte.mdb")),
+                  {{QStringLiteral("Orte"), {text("Name")}, {{some("Nürnberg")}}}});
+    writeTexts(host.filePath(QStringLiteral("ADD-IN-LANGUAGE.MDB")));
+    writeTexts(host.filePath(QStringLiteral("language.mdb")));
+
+    const QString settings = QStringLiteral("[Ansicht]\r\nSprache=Deutsch\r\nKurzhilfe=1\r\nAddInonTop=0\r\n"
+                                            "[QV-Files]\r\n0=%1\r\n[Verzeichnisse]\r\nPrints=%2\r\n")
+                                 .arg(windowsPath(family), windowsPath(host.filePath(QStringLiteral("Ausgabe"))));
+    QFile file(host.filePath(QStringLiteral("programm.ini")));
+    const QByteArray bytes = encodeAnsi(settings);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        throw Error(ErrorKind::WriteFailed, file.fileName(), file.errorString());
+}
+
+} // namespace kalvenor::test

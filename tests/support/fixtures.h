@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <QString>
+#include <vector>
+
+// Small databases and host installations for tests, made by the program's own creator.
+namespace kalvenor::test {
+
+/// One row of the person table. Dates are day numbers, nothing = null.
+struct TestPerson {
+    qint32 counter = 0;
+    QString listname = {}; ///< "Surname, First names"
+    bool marked = false;
+    QString sex = QStringLiteral("M");
+    std::optional<qint32> birth = {}, death = {};
+    qint32 father = 0, mother = 0;
+    QString birthXX = {}, deathXX = {}; ///< empty = null
+    qint32 changed = 38000;
+};
+
+/// Writes a family database with all its 21 tables; those beside the persons have a row or two. The index "Counter" of
+/// the persons is unique unless two of them have the same counter. `file` is a native path.
+void writeFamily(const QString &file, const std::vector<TestPerson> &persons, std::uint32_t encodingKey = 0);
+
+/// Makes a host installation: folder/QV with its settings, texts, side databases and folder/QV/Familie/familie.mdb, and
+/// the program's own folder folder/QV/Kalvenor. `folder` is native and absolute.
+void writeHost(const QString &folder, const std::vector<TestPerson> &persons);
+
+} // namespace kalvenor::test
