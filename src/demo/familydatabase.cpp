@@ -18,6 +18,8 @@ namespace {
 using jet::ColumnType;
 using jet::NewValue;
 
+constexpr std::size_t printedPages = 8;
+
 enum PersonColumn : std::size_t {
     Counter,
     Listname,
@@ -31,7 +33,6 @@ enum PersonColumn : std::size_t {
     GeburtXX,
     Geburtsort,
     Taufdatum,
-    TaufeXX,
     Sterbedatum,
     SterbeXX,
     Sterbeort,
@@ -51,33 +52,15 @@ enum PersonColumn : std::size_t {
 
 std::vector<jet::NewColumn> personColumns()
 {
-    return {longColumn(u"Counter"),
-            textColumn(u"Listname", 150),
-            column(u"Markierung", ColumnType::Boolean),
-            textColumn(u"nnamen", 60),
-            textColumn(u"vnamen", 80),
-            textColumn(u"Rufname", 40),
-            textColumn(u"Titel", 30),
-            textColumn(u"Geschlecht", 1),
-            longColumn(u"Geburtsdatum"),
-            textColumn(u"Geburt_XX", 10),
-            textColumn(u"Geburtsort", 80),
-            longColumn(u"Taufdatum"),
-            textColumn(u"Taufe_XX", 10),
-            longColumn(u"Sterbedatum"),
-            textColumn(u"sterbe_XX", 10),
-            textColumn(u"Sterbeort", 80),
-            textColumn(u"Todesursache", 50),
-            longColumn(u"Begraebnisdatum"),
-            longColumn(u"Vater"),
-            longColumn(u"Mutter"),
-            textColumn(u"Religion", 20),
-            textColumn(u"Beruf", 80),
-            textColumn(u"Wohnort", 80),
-            textColumn(u"Quelle", 120),
-            column(u"Bemerkung", ColumnType::Memo),
-            longColumn(u"angelegt"),
-            longColumn(u"geaendert")};
+    return {longColumn(u"Counter"),          textColumn(u"Listname", 150),   column(u"Markierung", ColumnType::Boolean),
+            textColumn(u"nnamen", 60),       textColumn(u"vnamen", 80),      textColumn(u"Rufname", 40),
+            textColumn(u"Titel", 30),        textColumn(u"Geschlecht", 1),   longColumn(u"Geburtsdatum"),
+            textColumn(u"Geburt_XX", 10),    textColumn(u"Geburtsort", 80),  longColumn(u"Taufdatum"),
+            longColumn(u"Sterbedatum"),      textColumn(u"sterbe_XX", 10),   textColumn(u"Sterbeort", 80),
+            textColumn(u"Todesursache", 50), longColumn(u"Begraebnisdatum"), longColumn(u"Vater"),
+            longColumn(u"Mutter"),           textColumn(u"Religion", 20),    textColumn(u"Beruf", 80),
+            textColumn(u"Wohnort", 80),      textColumn(u"Quelle", 120),     column(u"Bemerkung", ColumnType::Memo),
+            longColumn(u"angelegt"),         longColumn(u"geaendert")};
 }
 
 using Texts = QStringList;
@@ -104,22 +87,24 @@ struct Phrases {
               u"Unfall im Wald|ertrunken");
     Texts newCauses = texts(u"Herzversagen|Krebs|Schlaganfall|Lungenentzündung|Altersschwäche|Verkehrsunfall");
     Texts religions = texts(u"ev.|ev.|ev.|kath.|kath.|kath.|ref.|isr.");
-    Texts titles = texts(u"Dr.|Magister|Hofrat|Dr. med.|Ökonomierat|Freifrau");
-    Texts sources =
-        texts(u"Kirchenbuch|Taufregister Bd. 3|Sterberegister|Standesamt|Familienbibel|Ortsfamilienbuch|Bürgerbuch");
+    Texts mensTitles = texts(u"Dr.|Magister|Hofrat|Dr. med.|Ökonomierat|Freiherr");
+    Texts womensTitles = texts(u"Dr.|Freifrau|Dr. med.|Prof.");
+    Texts oldSources =
+        texts(u"Kirchenbuch|Taufregister Bd. 3|Sterberegister|Familienbibel|Ortsfamilienbuch|Bürgerbuch");
+    Texts newSources = texts(u"Standesamt|Kirchenbuch|Familienstammbuch|Ortsfamilienbuch|Mitteilung der Familie");
     Texts remarks =
         texts(u"Der Eintrag ist schlecht lesbar; die Schreibweise des Namens wechselt.|"
               u"Taufpaten waren der Müller und dessen Ehefrau.|Nach mündlicher Überlieferung aus Böhmen zugezogen.|"
-              u"Wanderte mit zwei Brüdern aus; letzter Brief aus Philadelphia.|Erbte den Hof \"Zum Löwen\" & verkaufte "
-              u"ihn <1 Jahr später.|"
-              u"War Mitglied des Rates der Stadt. Stiftete eine Glocke für die Pfarrkirche, deren Inschrift erhalten "
-              u"ist. Sein "
-              u"Grabstein stand bis zum Umbau der Kirche im südlichen Seitenschiff und wurde danach an der Außenmauer "
-              u"angebracht. Eine Abschrift der Leichenpredigt liegt im Stadtarchiv; sie nennt die Eltern, beide "
-              u"Großväter und "
-              u"die Namen von elf Kindern, von denen vier den Vater überlebten.|"
-              u"Vermißt seit Januar 1945.|Das Alter beim Tod ist im Register mit Jahren, Monaten und Tagen angegeben.|"
-              u"Großjährig erklärt; Vormund war der Onkel mütterlicherseits.");
+              u"Erbte den Hof \"Zum Löwen\" & verkaufte ihn <1 Jahr später.|"
+              u"Stiftete eine Glocke für die Pfarrkirche, deren Inschrift erhalten ist. Der Grabstein stand bis zum "
+              u"Umbau der "
+              u"Kirche im südlichen Seitenschiff und wurde danach an der Außenmauer angebracht. Eine Abschrift der "
+              u"Leichenpredigt liegt im Stadtarchiv; sie nennt die Eltern, beide Großväter und die Namen von elf "
+              u"Geschwistern, "
+              u"von denen vier die Eltern überlebten.|"
+              u"Das Alter beim Tod ist im Register mit Jahren, Monaten und Tagen angegeben.|"
+              u"Vormund war der Onkel mütterlicherseits.");
+    QString missing = QStringLiteral("Vermißt seit Januar 1945.");
 };
 
 class PersonWriter {
@@ -151,6 +136,7 @@ private:
     Random &m_random;
     Phrases m_phrases;
     std::array<NewValue, ColumnCount> m_row;
+    std::size_t m_added = 0;
     std::vector<PrintedPerson> m_printed;
 };
 
@@ -196,7 +182,7 @@ void PersonWriter::add(std::int32_t index)
     if (person.givenCount > 1 && m_random.chance(2000))
         m_row[Rufname] = givenName(person.given[1]);
     if (years > 30)
-        m_row[Titel] = maybe(150, m_phrases.titles);
+        m_row[Titel] = maybe(150, person.woman ? m_phrases.womensTitles : m_phrases.mensTitles);
     if (entry.sexKnown)
         m_row[Geschlecht] = person.woman ? QStringLiteral("W") : QStringLiteral("M");
     m_row[Geburtsdatum] = entry.birth.day;
@@ -206,8 +192,6 @@ void PersonWriter::add(std::int32_t index)
     const int baptism = person.birth + m_random.below(4);
     const bool baptised = exactBirth && baptism <= person.death && m_random.chance(5500);
     m_row[Taufdatum] = baptised ? baptism : unknownDay;
-    if (!baptised)
-        m_row[TaufeXX] = QStringLiteral("XXX_______");
     m_row[Sterbedatum] = entry.death.day;
     m_row[SterbeXX] = dateCompanion(entry.death);
     if (!entry.death.isUnknown()) {
@@ -217,18 +201,24 @@ void PersonWriter::add(std::int32_t index)
     m_row[Begraebnisdatum] = exactDeath && m_random.chance(4000) ? person.death + m_random.between(2, 4) : unknownDay;
     m_row[Vater] = counterOf(person.father);
     m_row[Mutter] = counterOf(person.mother);
-    m_row[Religion] = maybe(7000, m_phrases.religions);
+    if (m_random.chance(7000)) // one faith to a family
+        m_row[Religion] = m_phrases.religions[person.surname % m_phrases.religions.size()];
     m_row[Beruf] = trade(person, years);
     if (m_random.chance(2000))
         m_row[Wohnort] = place(person.deathPlace).name;
-    m_row[Quelle] = maybe(2500, m_phrases.sources);
-    m_row[Bemerkung] = maybe(500, m_phrases.remarks);
+    m_row[Quelle] = maybe(2500, yearOf(person.birth) < 1876 ? m_phrases.oldSources : m_phrases.newSources);
+    if (!person.woman && years >= 17 && yearOf(person.death) == 1945)
+        m_row[Bemerkung] = m_phrases.missing;
+    else
+        m_row[Bemerkung] = maybe(500, m_phrases.remarks);
     const int entered = m_random.between(dayOf(1996), dayOf(2009, 12, 31));
     m_row[Angelegt] = entered;
     m_row[Geaendert] = m_random.between(entered, today);
     m_table.addRow(m_row);
 
-    if (m_printed.size() < 6 && exactBirth && exactDeath && entry.sexKnown && years > 40)
+    // Pages for some persons of every part of the table.
+    if (m_added++ >= m_printed.size() * m_persons.size() / printedPages && m_printed.size() < printedPages &&
+        exactBirth && exactDeath && entry.sexKnown && years > 40)
         m_printed.push_back({counter, person.woman, given + u' ' + surname(person.surname), dateText(entry.birth.day),
                              dateText(entry.death.day), place(person.birthPlace).name});
 }

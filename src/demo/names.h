@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstdint>
+#include "demo/random.h"
 #include <QString>
 
 // Names of persons and places by number. All characters are of Windows-1252.
@@ -19,6 +19,8 @@ const QString &givenName(int number);
 bool isWomansName(int number);
 
 int surnameCount();
+/// A family's name: mostly a common one, now and then one with a particle, a hyphen or an apostrophe.
+int drawSurname(Random &random);
 const QString &surname(int number);
 
 struct Place {

@@ -91,7 +91,7 @@ Population Simulation::run()
         for (int i = 0; i < births; ++i) {
             const int inTheYear = static_cast<int>(qint64(i) * year / births) + m_random.below(year / births + 1);
             const int day = newYear + std::min(inTheYear, year - 1);
-            const int couple = m_random.chance(700) ? -1 : pickCouple(day);
+            const int couple = m_random.chance(1000) ? -1 : pickCouple(day);
             giveBirth(day, couple);
             if (couple >= 0 && i + 1 < births && m_random.chance(110)) { // twins
                 giveBirth(m_population.persons.back().birth, couple);
@@ -192,7 +192,7 @@ void Simulation::giveBirth(int day, int couple)
     child.woman = m_random.chance(4870);
     child.death = drawDeath(day, child.woman, m_random);
     if (couple < 0) {
-        child.surname = static_cast<std::uint16_t>(m_random.below(surnameCount()));
+        child.surname = static_cast<std::uint16_t>(drawSurname(m_random));
         child.birthPlace = static_cast<std::uint16_t>(m_random.below(placeCount()));
         giveNames(child, inYear);
     } else {

@@ -35,14 +35,14 @@ KnownDate inexact(int day, Random &random)
     return {dayOf(date.year), QStringLiteral("__.__.") + year};
 }
 
-QString yearText(QChar sign, const KnownDate &date)
+QString yearText(const KnownDate &date)
 {
     if (date.isUnknown())
-        return QString(sign) + u'?';
+        return QStringLiteral("?");
     const QString year = QString::number(yearOf(date.day));
     if (date.companion == aboutText)
-        return QString(sign) + u"um " + year;
-    return date.companion == beforeText ? QString(sign) + u"vor " + year : QString(sign) + year;
+        return QStringLiteral("um ") + year;
+    return date.companion == beforeText ? QStringLiteral("vor ") + year : year;
 }
 
 } // namespace
@@ -92,9 +92,10 @@ QString givenNamesOf(const Person &person)
 
 QString listName(const Person &person, const Entry &entry)
 {
-    QString name = surname(person.surname) + u", " + givenNamesOf(person) + u' ' + yearText(u'*', entry.birth);
+    QString name = surname(person.surname) + QStringLiteral(", ") + givenNamesOf(person) + QStringLiteral(" *") +
+                   yearText(entry.birth);
     if (!entry.living)
-        name += u' ' + yearText(u'+', entry.death);
+        name += QStringLiteral(" +") + yearText(entry.death);
     return name;
 }
 

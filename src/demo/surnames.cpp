@@ -44,24 +44,31 @@ constexpr const char16_t *backs =
     u"bach berger hofer feld mann müller mayer wieser bauer egger thaler dorfer kamp brink "
     u"meier huber reuter brückner hauser moser öder lößl";
 
-std::vector<QString> makeSurnames()
-{
-    std::vector<QString> all;
-    for (const QString &name : QString::fromUtf16(plain).split(u' '))
-        all.push_back(name);
-    for (const char16_t *name : special)
-        all.push_back(QString::fromUtf16(name));
-    const auto ends = QString::fromUtf16(backs).split(u' ');
-    for (const QString &front : QString::fromUtf16(fronts).split(u' ')) {
-        for (const QString &back : ends)
-            all.push_back(front + back);
-    }
-    return all;
-}
+struct Surnames {
+    std::vector<QString> all; ///< common ones, rare ones, composed ones
+    int common = 0;
+    int rare = static_cast<int>(std::size(special));
+    int composed = 0;
 
-const std::vector<QString> &surnames()
+    Surnames()
+    {
+        for (const QString &name : QString::fromUtf16(plain).split(u' '))
+            all.push_back(name);
+        common = static_cast<int>(all.size());
+        for (const char16_t *name : special)
+            all.push_back(QString::fromUtf16(name));
+        const auto ends = QString::fromUtf16(backs).split(u' ');
+        for (const QString &front : QString::fromUtf16(fronts).split(u' ')) {
+            for (const QString &back : ends)
+                all.push_back(front + back);
+        }
+        composed = static_cast<int>(all.size()) - common - rare;
+    }
+};
+
+const Surnames &surnames()
 {
-    static const std::vector<QString> instance = makeSurnames();
+    static const Surnames instance;
     return instance;
 }
 
@@ -69,12 +76,20 @@ const std::vector<QString> &surnames()
 
 int surnameCount()
 {
-    return static_cast<int>(surnames().size());
+    return static_cast<int>(surnames().all.size());
+}
+
+int drawSurname(Random &random)
+{
+    const Surnames &names = surnames();
+    if (random.chance(900))
+        return names.common + random.below(names.rare);
+    return random.chance(6500) ? random.below(names.common) : names.common + names.rare + random.below(names.composed);
 }
 
 const QString &surname(int number)
 {
-    return surnames()[static_cast<std::size_t>(number)];
+    return surnames().all[static_cast<std::size_t>(number)];
 }
 
 } // namespace kalvenor::demo
