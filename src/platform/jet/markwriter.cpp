@@ -26,10 +26,11 @@ namespace {
 
 constexpr std::size_t PagesPerReport = 64;
 
+/// Asks the file's own permissions, because an administrator may write everywhere.
 bool hasWriteBit(const QFileInfo &info)
 {
-    return info.permission(QFile::WriteOwner) || info.permission(QFile::WriteUser) ||
-           info.permission(QFile::WriteGroup) || info.permission(QFile::WriteOther);
+    const QFile::Permissions anybody = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    return (info.permissions() & anybody) != 0;
 }
 
 /// A folder without write permission counts as a read-only medium: other programs cannot put a lock file there and

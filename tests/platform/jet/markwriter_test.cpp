@@ -1,0 +1,334 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fixtures.h"
+#include "jet3fixture.h"
+#include "platform/basic/error.h"
+#include "platform/jet/markwriter.h"
+#include <array>
+#include <bit>
+#include <QTemporaryDir>
+
+namespace kalvenor::jet {
+namespace {
+
+using testing::makePersons;
+using testing::Pages;
+using testing::readAll;
+
+constexpr std::uint32_t Key = 0x4b1d5eed;
+
+struct Opened {
+    std::shared_ptr<Database> database;
+    std::shared_ptr<const Table> table;
+    int mark, counter;
+
+    explicit Opened(const QString &file, const QString &name = QStringLiteral("Daten"))
+        : database(Database::open(file)), table(database->table(name)), mark(table->columnOf(u"Markierung")),
+          counter(table->columnOf(u"Counter"))
+    {
+    }
+    MarkWriter writer() const { return {database, table, mark, counter}; }
+    std::vector<std::uint32_t> write(const std::vector<Mark> &marks, const Progress &progress = {}) const
+    {
+        return writer().write(marks, progress);
+    }
+    std::vector<bool> marks() const
+    {
+        std::vector<bool> all(table->rowCount());
+        for (std::uint32_t row = 0; row < table->rowCount(); ++row)
+            all[row] = table->boolean(row, mark);
+        return all;
+    }
+};
+
+int differentBits(const std::vector<std::uint8_t> &a, const std::vector<std::uint8_t> &b)
+{
+    EXPECT_EQ(a.size(), b.size());
+    int bits = 0;
+    for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i)
+        bits += std::popcount(static_cast<unsigned>(a[i] ^ b[i]));
+    return bits;
+}
+
+Error errorOf(const std::function<void()> &action)
+{
+    try {
+        action();
+    } catch (const Error &error) {
+        return error;
+    }
+    ADD_FAILURE() << "no error";
+    return {ErrorKind::Overflow, {}, {}};
+}
+
+class MarkWriterTest : public ::testing::Test {
+protected:
+    QTemporaryDir m_folder;
+    QString m_file = m_folder.filePath(QStringLiteral("familie.mdb"));
+};
+
+TEST_F(MarkWriterTest, ChangesOneBitARowAndBackAgain)
+{
+    const auto persons = [this](std::uint32_t key, bool overflow) {
+        makePersons(m_file, 200, key);
+        if (!overflow)
+            return;
+        const Opened opened(m_file);
+        Pages pages = Pages::of(m_file, key);
+        testing::makeOverflow(pages, opened.table->place(0), opened.table->place(150));
+        testing::makeOverflow(pages, opened.table->place(199), opened.table->place(3));
+        pages.save(m_file);
+    };
+    const std::array<std::pair<const char *, std::function<void()>>, 5> cases{{
+        {"plain",
+         [&] {
+             persons(0, false);
+         }},
+        {"encoded",
+         [&] {
+             persons(Key, false);
+         }},
+        {"overflow",
+         [&] {
+             persons(0, true);
+         }},
+        {"overflow, encoded",
+         [&] {
+             persons(Key, true);
+         }},
+        {"Jet 3",
+         [&] {
+             testing::Jet3File file(1252);
+             for (int i = 1; i <= 5; ++i)
+                 file.addRow({i, i % 3 == 0, QByteArray(100 * i % 255, 'n'), QByteArray(70 * i % 255, 'o')});
+             testing::writeAll(m_file, file.bytes());
+         }},
+    }};
+    for (const auto &[name, make] : cases) {
+        SCOPED_TRACE(name);
+        make();
+        const auto before = readAll(m_file);
+        const Opened opened(m_file);
+        const std::uint32_t last = opened.table->rowCount() - 1;
+        const std::vector<bool> marks = opened.marks();
+        // Row 2 is marked already; of the two wishes for row 1 the last one counts.
+        std::vector<bool> wished = marks;
+        wished[0] = wished[1] = wished[3] = wished[last] = true;
+        const auto changed = opened.write({{last, true}, {2, marks[2]}, {1, false}, {0, true}, {3, true}, {1, true}});
+        int expected = 0;
+        for (std::uint32_t row = 0; row <= last; ++row)
+            expected += marks[row] != wished[row];
+        EXPECT_EQ(static_cast<int>(changed.size()), expected);
+        EXPECT_EQ(differentBits(before, readAll(m_file)), expected);
+        EXPECT_EQ(opened.marks(), wished);
+        EXPECT_EQ(Opened(m_file).marks(), wished);
+        EXPECT_FALSE(opened.database->isStale());
+        EXPECT_TRUE(opened.write({{0, true}, {1, true}}).empty());
+
+        std::vector<Mark> back;
+        for (const std::uint32_t row : changed)
+            back.push_back({row, marks[row]});
+        EXPECT_EQ(opened.write(back).size(), changed.size());
+        EXPECT_EQ(readAll(m_file), before);
+    }
+}
+
+TEST_F(MarkWriterTest, RefusesWhatItMustNotWrite)
+{
+    const std::array<std::pair<const char *, std::function<Error()>>, 9> cases{{
+        {"3027 is not a Yes/No",
+         [&] {
+             makePersons(m_file, 3);
+             const Opened o(m_file);
+             return errorOf([&] { MarkWriter(o.database, o.table, o.counter, o.counter); });
+         }},
+        {"3265 lacks",
+         [&] {
+             makePersons(m_file, 3);
+             const Opened o(m_file);
+             return errorOf([&] { MarkWriter(o.database, o.table, -1, o.counter); });
+         }},
+        {"3027 not a Long",
+         [&] {
+             makePersons(m_file, 3);
+             const Opened o(m_file);
+             return errorOf([&] { MarkWriter(o.database, o.table, o.mark, o.table->columnOf(u"Listname")); });
+         }},
+        {"3027 calculated",
+         [&] {
+             makePersons(m_file, 3);
+             Pages pages = Pages::of(m_file);
+             const auto definition = Opened(m_file).table->definitionPage();
+             pages.at(definition, 63 + 12 + 2 * 25 + 16) = 0xc0;
+             pages.save(m_file);
+             return errorOf([&] { Opened(m_file).writer(); });
+         }},
+        {"3027 older than column",
+         [&] {
+             makePersons(m_file, 3);
+             Pages pages = Pages::of(m_file);
+             const auto definition = Opened(m_file).table->definitionPage();
+             pages.put(definition, 41, 2, 9); // columns the table ever had
+             pages.put(definition, 63 + 12 + 2 * 25 + 5, 2, 8);
+             pages.save(m_file);
+             return errorOf([&] { Opened(m_file).write({{0, true}}); });
+         }},
+        {"3027 more than once",
+         [&] {
+             makePersons(m_file, 30, 0, true);
+             return errorOf([&] { Opened(m_file).write({{0, true}, {29, true}}); });
+         }},
+        {"3027 write-protected",
+         [&] {
+             makePersons(m_file, 3);
+             QFile::setPermissions(m_file, QFile::ReadOwner);
+             const Error error = errorOf([&] { Opened(m_file).write({{0, true}}); });
+             QFile::setPermissions(m_file, QFile::ReadOwner | QFile::WriteOwner);
+             return error;
+         }},
+        {"3027 folder is write-protected",
+         [&] {
+             makePersons(m_file, 3);
+             QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::ExeOwner);
+             const Error error = errorOf([&] { Opened(m_file).write({{0, true}}); });
+             QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+             return error;
+         }},
+        {"3021 no row",
+         [&] {
+             makePersons(m_file, 3);
+             return errorOf([&] { Opened(m_file).write({{0, true}, {3, true}}); });
+         }},
+    }};
+    for (const auto &[expected, refuse] : cases) {
+        SCOPED_TRACE(expected);
+        const Error error = refuse();
+        const QStringList words = QString::fromLatin1(expected).split(u' ');
+        EXPECT_EQ(error.number(), words[0].toInt());
+        for (const QString &word : words.mid(1))
+            EXPECT_TRUE(error.text().contains(word)) << error.text().toStdString();
+        EXPECT_TRUE(error.place().startsWith(m_file));
+        EXPECT_FALSE(Opened(m_file).marks()[0]);
+    }
+}
+
+TEST_F(MarkWriterTest, RefusesAnIndexedColumn)
+{
+    SKIP_WITHOUT_SAMPLES();
+    const Opened opened(testing::sample(QStringLiteral("boolIndexJackcess.mdb")));
+    const Error error = errorOf([&] { opened.writer(); });
+    EXPECT_EQ(error.kind(), ErrorKind::NotMarkable);
+    EXPECT_TRUE(error.text().contains(QStringLiteral("index"))) << error.text().toStdString();
+}
+
+TEST_F(MarkWriterTest, RefusesAFileThatChangedSinceItWasRead)
+{
+    makePersons(m_file, 40);
+    const Opened first(m_file);
+    const Opened second(m_file);
+    EXPECT_EQ(first.write({{0, true}}).size(), 1U);
+    EXPECT_TRUE(second.database->isStale());
+    const auto before = readAll(m_file);
+    const Error error = errorOf([&] { second.write({{1, true}}); });
+    EXPECT_EQ(error.kind(), ErrorKind::ChangedElsewhere);
+    EXPECT_EQ(readAll(m_file), before);
+}
+
+TEST_F(MarkWriterTest, ComparesEachPageWithTheFileBeforeItWrites)
+{
+    struct Case {
+        const char *name;
+        std::function<void(Pages &, const RowPlace &, const RowPlace &)> tamper;
+    };
+    // The row to be marked is an overflow row; `first` is its own place, `record` that of its record.
+    const std::array<Case, 8> cases{{
+        {"page of another kind",
+         [](Pages &p, const RowPlace &, const RowPlace &r) {
+             p.at(r.firstPage, 0) = 5;
+         }},
+        {"page of another table",
+         [](Pages &p, const RowPlace &, const RowPlace &r) {
+             p.put(r.firstPage, 4, 4, 3);
+         }},
+        {"record moved",
+         [](Pages &p, const RowPlace &, const RowPlace &r) {
+             p.put(r.firstPage, p.slotAt(r.firstSlot), 2, (r.recordStart + 1U) | 0x8000U);
+         }},
+        {"record deleted",
+         [](Pages &p, const RowPlace &, const RowPlace &r) {
+             p.put(r.firstPage, p.slotAt(r.firstSlot), 2, r.recordStart | 0xc000U);
+         }},
+        {"another key",
+         [](Pages &p, const RowPlace &, const RowPlace &r) {
+             p.at(r.firstPage, r.recordStart + 2U) ^= 1;
+         }},
+        {"another mark",
+         [](Pages &p, const RowPlace &, const RowPlace &r) {
+             p.at(r.firstPage, r.recordStart + r.recordLength - 1U) ^= 4;
+         }},
+        {"another count",
+         [](Pages &p, const RowPlace &, const RowPlace &r) {
+             p.at(r.firstPage, r.recordStart) -= 1;
+         }},
+        {"overflow pointer changed",
+         [](Pages &p, const RowPlace &f, const RowPlace &) {
+             p.at(f.firstPage, f.recordStart) ^= 1;
+         }},
+    }};
+    for (const std::uint32_t key : {0U, Key}) {
+        for (const Case &tampered : cases) {
+            SCOPED_TRACE(tampered.name);
+            makePersons(m_file, 100, key);
+            const Opened made(m_file);
+            const RowPlace first = made.table->place(0);
+            const RowPlace record = made.table->place(99);
+            Pages pages = Pages::of(m_file, key);
+            testing::makeOverflow(pages, first, record);
+            pages.save(m_file);
+            const Opened opened(m_file);
+            ASSERT_EQ(opened.table->rowCount(), 99U);
+            tampered.tamper(pages, first, record);
+            pages.save(m_file);
+            // Without this the stamp alone would show the change.
+            opened.database->image()->setStamp(Image::stampOf(m_file));
+            const auto before = readAll(m_file);
+            // Row 20 lies on a page before the record's one.
+            const Error error = errorOf([&] { opened.write({{0, true}, {20, !opened.marks()[20]}}); });
+            EXPECT_EQ(error.kind(), ErrorKind::ChangedElsewhere);
+            EXPECT_TRUE(error.text().contains(QStringLiteral(" 1 rows were changed before")))
+                << error.text().toStdString();
+            EXPECT_EQ(differentBits(before, readAll(m_file)), 1);
+            EXPECT_TRUE(opened.database->isStale());
+        }
+    }
+}
+
+TEST_F(MarkWriterTest, StopsBetweenPagesWhenAskedTo)
+{
+    makePersons(m_file, 2000);
+    const Opened opened(m_file);
+    const auto before = readAll(m_file);
+    std::vector<Mark> marks;
+    for (std::uint32_t row = 0; row < opened.table->rowCount(); ++row)
+        marks.push_back({row, true});
+    const Error error = errorOf([&] { opened.write(marks, [](qint64 done, qint64) { return done == 0; }); });
+    EXPECT_EQ(error.kind(), ErrorKind::Cancelled);
+    const int changed = differentBits(before, readAll(m_file));
+    EXPECT_GT(changed, 0);
+    EXPECT_LT(changed, 1000);
+    EXPECT_TRUE(error.text().contains(QStringLiteral(" %1 rows").arg(changed))) << error.text().toStdString();
+
+    const Opened again(m_file);
+    qint64 reported = 0;
+    again.write(marks, [&](qint64 done, qint64 total) {
+        EXPECT_EQ(total, 2000);
+        EXPECT_GE(done, reported);
+        reported = done;
+        return true;
+    });
+    EXPECT_EQ(reported, 2000);
+    EXPECT_EQ(again.marks(), std::vector<bool>(2000, true));
+}
+
+} // namespace
+} // namespace kalvenor::jet
