@@ -68,7 +68,7 @@ void PageFlow::place(Strip &&strip)
     Page &page = m_pages.back();
     for (PlacedGround &ground : strip.grounds) {
         ground.area.translate(0, m_y);
-        page.grounds.push_back(std::move(ground));
+        page.grounds.push_back(ground);
     }
     for (PlacedText &text : strip.texts) {
         text.baseline += static_cast<float>(m_y);

@@ -5,6 +5,7 @@
 #include "platform/basic/error.h"
 #include "platform/print/pagepainter.h"
 
+#include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -12,12 +13,11 @@
 namespace kalvenor {
 namespace {
 
-[[noreturn]] void fail(const QString &path, const QString &what, const QString &reason)
+[[noreturn]] void fail(const QString &path, const QString &reason)
 {
-    throw Error(
-        ErrorKind::WriteFailed, path,
-        u"%1 (%2). Choose another folder or name, or make room on the disk; an older file there is unchanged."_qs.arg(
-            what, reason));
+    throw Error(ErrorKind::WriteFailed, path,
+                u"The PDF file cannot be written (%1). Choose another folder or name, or make room on the disk; "
+                "an older file of this name is unchanged."_qs.arg(reason));
 }
 
 /// Passes all on to a file. The PDF engine does not look at what its device answers, and a disk that becomes full takes
@@ -49,9 +49,12 @@ private:
 
 void writePdf(const PageLayout &layout, const QString &title, const QString &path, const Progress &progress)
 {
+    const QFileInfo place(path);
+    if (place.exists() && !place.isFile()) // a device would be replaced, too
+        fail(path, QStringLiteral("this is a folder or a device"));
     QSaveFile file(path); // leaves nothing behind unless it is committed
     if (!file.open(QIODevice::WriteOnly))
-        fail(path, QStringLiteral("The PDF file cannot be written"), file.errorString());
+        fail(path, file.errorString());
 
     WholeWrites device(file);
     QPdfWriter writer(&device);
@@ -82,7 +85,7 @@ void writePdf(const PageLayout &layout, const QString &title, const QString &pat
     painter.end();
     // commit() does not notice that the rest of its buffer finds no room (Qt 6.4).
     if (device.failed() || !file.flush() || !file.commit())
-        fail(path, QStringLiteral("Writing the PDF file failed"), file.errorString());
+        fail(path, QStringLiteral("the disk may be full"));
 }
 
 } // namespace kalvenor

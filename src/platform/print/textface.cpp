@@ -175,7 +175,7 @@ void TextFace::wrapShaped(const QString &text, double width, QStringList &lines)
 
 QString TextFace::elided(const QString &text, double width) const
 {
-    const QString clean = printable(text).replace(u'\n', u' ');
+    QString clean = printable(text).replace(u'\n', u' ');
     if (this->width(clean) <= width)
         return clean;
     const QString dots = QStringLiteral("…");

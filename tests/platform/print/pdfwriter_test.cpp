@@ -14,6 +14,7 @@
 #ifdef Q_OS_UNIX
 #include <csignal>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #endif
 
 namespace kalvenor {
@@ -105,7 +106,12 @@ TEST_F(PdfWriter, CancellingKeepsTheOldFile)
 
 TEST_F(PdfWriter, UnwritablePlaceIsSaid)
 {
-    for (const QString &place : {m_folder.filePath(u"none/out.pdf"_qs), m_folder.path(), QString()}) {
+    QStringList places{m_folder.filePath(u"none/out.pdf"_qs), m_folder.path(), QString()};
+#ifdef Q_OS_UNIX
+    places << m_folder.filePath(u"pipe"_qs); // what is no file must not be replaced by one
+    ASSERT_EQ(mkfifo(QFile::encodeName(places.back()).constData(), 0600), 0);
+#endif
+    for (const QString &place : places) {
         try {
             writePdf(PageLayout(m_document), {}, place);
             ADD_FAILURE() << qPrintable(place);
