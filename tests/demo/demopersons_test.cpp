@@ -1,0 +1,185 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "demo/demofixture.h"
+#include "platform/basic/codepage.h"
+#include "platform/basic/date.h"
+#include <map>
+
+namespace kalvenor {
+namespace {
+
+using test::DemoTest;
+
+constexpr int unknownDay = 767011;
+
+struct Row {
+    int counter;
+    QString listname, surname, given, sex, birthXX, deathXX;
+    int birth, death, father, mother, changed;
+    bool marked;
+};
+
+class DemoPersonsTest : public DemoTest {
+protected:
+    static std::vector<Row> persons()
+    {
+        const auto table = family()->table(QStringLiteral("Daten"));
+        const auto number = [&](std::uint32_t row, QStringView name) {
+            return table->integer(row, table->columnOf(name)).value_or(-1);
+        };
+        const auto text = [&](std::uint32_t row, QStringView name) {
+            return table->text(row, table->columnOf(name));
+        };
+        std::vector<Row> all;
+        for (std::uint32_t row = 0; row < table->rowCount(); ++row)
+            all.push_back({number(row, u"Counter"), text(row, u"Listname"), text(row, u"nnamen"), text(row, u"vnamen"),
+                           text(row, u"Geschlecht"), text(row, u"Geburt_XX"), text(row, u"sterbe_XX"),
+                           number(row, u"Geburtsdatum"), number(row, u"Sterbedatum"), number(row, u"Vater"),
+                           number(row, u"Mutter"), number(row, u"geaendert"),
+                           table->boolean(row, table->columnOf(u"Markierung"))});
+        return all;
+    }
+};
+
+int day(int year)
+{
+    return static_cast<int>(*dayNumber(year, 1, 1));
+}
+
+TEST_F(DemoPersonsTest, CountersAscendWithGapsUnderAUniqueIndex)
+{
+    const auto all = persons();
+    ASSERT_EQ(all.size(), 3000u);
+    int gaps = 0;
+    for (std::size_t i = 1; i < all.size(); ++i) {
+        ASSERT_LT(all[i - 1].counter, all[i].counter);
+        gaps += all[i].counter - all[i - 1].counter > 1 ? 1 : 0;
+    }
+    EXPECT_GT(gaps, 20);
+    const auto table = family()->table(QStringLiteral("Daten"));
+    ASSERT_EQ(table->indexes().size(), 1u);
+    EXPECT_EQ(table->indexes()[0].name, QStringLiteral("Counter"));
+    EXPECT_TRUE(table->indexes()[0].unique);
+    EXPECT_FALSE(table->isIndexed(table->columns()[std::size_t(table->columnOf(u"Markierung"))].number));
+}
+
+TEST_F(DemoPersonsTest, DatesAndTheirCompanionsAgree)
+{
+    std::map<QString, int> companions;
+    for (const Row &row : persons()) {
+        SCOPED_TRACE(qPrintable(row.listname));
+        EXPECT_FALSE(row.marked);
+        EXPECT_GE(row.changed, day(1996));
+        EXPECT_LT(row.changed, day(2011));
+        for (const auto &[date, companion] : {std::pair(row.birth, row.birthXX), std::pair(row.death, row.deathXX)}) {
+            EXPECT_EQ(date == unknownDay, companion == u"XXX_______");
+            EXPECT_TRUE(companion.isEmpty() || companion.size() == 10);
+            if (date != unknownDay) {
+                EXPECT_GE(date, day(1480));
+                EXPECT_LT(date, day(2011));
+                ++companions[companion.left(companion.startsWith(u"__.") ? 3 : 10)];
+            }
+            if (companion.startsWith(u"__.")) { // the first day that the mask allows
+                const QString first = QStringLiteral("01.") +
+                                      (companion.mid(3, 2) == u"__" ? QStringLiteral("01") : companion.mid(3, 2)) +
+                                      companion.mid(5);
+                EXPECT_EQ(formatDate(date, u"dd.mm.yyyy"), first);
+            }
+        }
+        if (row.birth != unknownDay && row.death != unknownDay) {
+            EXPECT_GE(row.death, row.birth);
+        }
+    }
+    EXPECT_GT(companions[QString()], 3000);
+    for (const QString &kind : {QStringLiteral("__."), QStringLiteral("um________"), QStringLiteral("vor_______")})
+        EXPECT_GT(companions[kind], 3) << qPrintable(kind);
+}
+
+TEST_F(DemoPersonsTest, ParentsExistAreOlderAndOfTheRightSex)
+{
+    std::map<int, Row> byCounter;
+    for (const Row &row : persons())
+        byCounter[row.counter] = row;
+    int withParents = 0;
+    int inherited = 0;
+    for (const auto &[counter, row] : byCounter) {
+        SCOPED_TRACE(qPrintable(row.listname));
+        for (const auto &[parent, sex] : {std::pair(row.father, u'M'), std::pair(row.mother, u'W')}) {
+            if (parent == 0)
+                continue;
+            ASSERT_TRUE(byCounter.contains(parent));
+            const Row &found = byCounter[parent];
+            EXPECT_EQ(found.sex, QString(sex));
+            if (row.birth != unknownDay && found.birth != unknownDay) {
+                EXPECT_GT(row.birth - found.birth, 12 * 365);
+            }
+        }
+        withParents += row.mother != 0 ? 1 : 0;
+        if (row.father != 0)
+            inherited += byCounter[row.father].surname == row.surname ? 1 : -10'000;
+    }
+    EXPECT_GT(withParents, 2000);
+    EXPECT_GT(inherited, 1900);
+}
+
+TEST_F(DemoPersonsTest, ListNamesSayNameAndYears)
+{
+    const auto year = [](QChar sign, int date, const QString &companion) {
+        if (date == unknownDay)
+            return QString(sign) + u'?';
+        const QString about = companion == u"um________"   ? QStringLiteral("um ")
+                              : companion == u"vor_______" ? QStringLiteral("vor ")
+                                                           : QString();
+        return QString(sign) + about + formatDate(date, u"yyyy");
+    };
+    int living = 0;
+    for (const Row &row : persons()) {
+        const QString birth =
+            row.surname + QStringLiteral(", ") + row.given + u' ' + year(u'*', row.birth, row.birthXX);
+        if (row.death == unknownDay && row.listname == birth)
+            ++living;
+        else
+            EXPECT_EQ(row.listname, birth + u' ' + year(u'+', row.death, row.deathXX));
+        EXPECT_EQ(decodeAnsi(encodeAnsi(row.listname)), row.listname);
+    }
+    EXPECT_GT(living, 200);
+}
+
+TEST_F(DemoPersonsTest, LivesChangeOverTheCenturies)
+{
+    struct Shape {
+        int born = 0, died = 0, infants = 0;
+        double days = 0;
+    };
+    std::map<int, Shape> centuries;
+    int sexless = 0;
+    int stillborn = 0;
+    for (const Row &row : persons()) {
+        sexless += row.sex.isEmpty() ? 1 : 0;
+        if (row.birth == unknownDay)
+            continue;
+        Shape &shape = centuries[formatDate(row.birth, u"yyyy").left(2).toInt()];
+        ++shape.born;
+        if (row.death == unknownDay)
+            continue;
+        ++shape.died;
+        shape.days += row.death - row.birth;
+        shape.infants += row.death - row.birth < 365 ? 1 : 0;
+        stillborn += row.death == row.birth ? 1 : 0;
+    }
+    for (const int century : {15, 16, 17, 18, 19})
+        EXPECT_GT(centuries[century].died, 40) << century;
+    const auto infantsPercent = [&](int century) {
+        return 100 * centuries[century].infants / centuries[century].born;
+    };
+    EXPECT_GT(infantsPercent(17), 14);
+    EXPECT_LT(infantsPercent(17), 30);
+    EXPECT_LT(infantsPercent(19), infantsPercent(17) * 2 / 3);
+    EXPECT_GT(centuries[19].days / centuries[19].died, 1.2 * centuries[17].days / centuries[17].died);
+    EXPECT_GT(sexless, 2);
+    EXPECT_LT(sexless, 60);
+    EXPECT_GT(stillborn, 10);
+}
+
+} // namespace
+} // namespace kalvenor

@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "demo/demofixture.h"
+#include "platform/basic/codepage.h"
+#include <map>
+#include <QRegularExpression>
+#include <QStringList>
+#include <utility>
+
+namespace kalvenor {
+namespace {
+
+using Texts = std::map<int, std::pair<QString, QString>>;
+
+class DemoTextsTest : public test::DemoTest {
+protected:
+    static Texts read(const QString &file)
+    {
+        const auto table = open(file)->table(QStringLiteral("Languages"));
+        EXPECT_EQ(table->indexes().at(0).name, QStringLiteral("Counter"));
+        Texts texts;
+        for (std::uint32_t row = 0; row < table->rowCount(); ++row) {
+            const bool added = texts
+                                   .insert({table->integer(row, table->columnOf(u"Counter")).value_or(-1),
+                                            {table->text(row, table->columnOf(u"Deutsch")),
+                                             table->text(row, table->columnOf(u"English"))}})
+                                   .second;
+            EXPECT_TRUE(added) << row;
+        }
+        return texts;
+    }
+};
+
+TEST_F(DemoTextsTest, EveryIdentifierOfTheHostIsInBothLanguages)
+{
+    const Texts texts = read(QStringLiteral("ADD-IN-LANGUAGE.MDB"));
+    for (const int id : {36,   100,  116,  120,  180,  181,  182,  183,  184,  185,  186,  187,  188,  189,  190,
+                         191,  192,  193,  194,  911,  926,  930,  1201, 1204, 1205, 1206, 1207, 1208, 1209, 1215,
+                         1216, 1217, 1218, 1219, 1220, 1221, 1222, 1223, 1224, 1225, 1226, 1227, 1228, 1229}) {
+        ASSERT_TRUE(texts.contains(id)) << id;
+    }
+    EXPECT_EQ(texts, read(QStringLiteral("language.mdb")));
+    // Captions that forms carry at design time.
+    const std::pair<int, const char16_t *> captions[] = {{180, u"&Drucken"},
+                                                         {181, u"&Speichern"},
+                                                         {182, u"&Druckvorlage"},
+                                                         {183, u"&Fenster schließen"},
+                                                         {184, u"&Hilfe"},
+                                                         {1204, u"Liste auf neuer Seite beginnen"},
+                                                         {1217, u"Liste aller Personen nach Alter sortiert"}};
+    for (const auto &[id, caption] : captions)
+        EXPECT_EQ(texts.at(id).first, QString::fromUtf16(caption));
+    // The name of an exported file is made with this one.
+    EXPECT_FALSE(texts.at(1205).first.contains(QRegularExpression(QStringLiteral("[\\\\/:*?\"<>| ]"))));
+    EXPECT_EQ(texts.at(189).first.count(u'|'), 3);
+    EXPECT_EQ(texts.at(189).second, QStringLiteral("Whole &Page|Page &Width|&Two Pages|Thumb&nail"));
+}
+
+TEST_F(DemoTextsTest, BothLanguagesHaveTheSamePlaces)
+{
+    const QRegularExpression places(QStringLiteral("%[0-9sd]"));
+    const auto placesOf = [&](const QString &text) {
+        QStringList found;
+        for (auto it = places.globalMatch(text); it.hasNext();)
+            found += it.next().captured();
+        return found;
+    };
+    int own = 0;
+    for (const auto &[id, text] : read(QStringLiteral("ADD-IN-LANGUAGE.MDB"))) {
+        SCOPED_TRACE(id);
+        EXPECT_GT(id, 0);
+        EXPECT_LE(id, 32767);
+        EXPECT_EQ(placesOf(text.first), placesOf(text.second));
+        EXPECT_EQ(text.first.count(u'&'), text.second.count(u'&'));
+        for (const QString &wording : {text.first, text.second}) {
+            EXPECT_FALSE(wording.trimmed().isEmpty());
+            EXPECT_LE(wording.size(), 255);
+            EXPECT_FALSE(wording.contains(u'#'));
+            EXPECT_EQ(decodeAnsi(encodeAnsi(wording)), wording);
+        }
+        own += id >= 20000 ? 1 : 0;
+        EXPECT_TRUE(id < 2000 || id >= 20000);
+    }
+    EXPECT_GT(own, 300);
+}
+
+} // namespace
+} // namespace kalvenor
