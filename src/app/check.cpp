@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/check.h"
 
-#include <algorithm>
-#include <unordered_set>
 #include "data/datenbankmodul.h"
 #include "host/host.h"
 #include "platform/desktop/terminal.h"
 #include "platform/jet/database.h"
 #include "platform/jet/markwriter.h"
+#include <algorithm>
 #include <QFileInfo>
+#include <unordered_set>
 
 namespace kalvenor::app {
 
@@ -130,7 +130,8 @@ bool Checker::checkFolders()
 
     const QString settings = m_host.hostSettingsFile();
     if (m_host.dir(settings).isEmpty()) {
-        missing(m_host.native(settings) + QStringLiteral(": the host's settings file is not there, so no family database is known"));
+        missing(m_host.native(settings) +
+                QStringLiteral(": the host's settings file is not there, so no family database is known"));
         return true;
     }
     const auto setting = [&](const char *section, const char *key, const QString &fallback) {
@@ -145,7 +146,8 @@ bool Checker::checkFolders()
 void Checker::checkOutputFolder()
 {
     const QString folder = m_host.native(m_host.inilesen(m_host.hostSettingsFile(), QStringLiteral("Verzeichnisse"),
-                                                         QStringLiteral("Prints"), m_host.Hostverzeichnis + QStringLiteral("\\Ausdrucke")));
+                                                         QStringLiteral("Prints"),
+                                                         m_host.Hostverzeichnis + QStringLiteral("\\Ausdrucke")));
     if (!QFileInfo(folder).isDir())
         missing(folder + QStringLiteral(": the output folder is not there"));
     else if (!QFileInfo(folder).isWritable())
@@ -190,7 +192,8 @@ bool Checker::hasColumns(const jet::Table &table, const std::vector<NeededColumn
             missing(QStringLiteral("%1: there is no column \"%2\"").arg(place, needed.name));
             complete = false;
         } else if (const auto type = table.columns()[static_cast<std::size_t>(column)].type;
-                   !needed.types.empty() && std::find(needed.types.begin(), needed.types.end(), type) == needed.types.end()) {
+                   !needed.types.empty() &&
+                   std::find(needed.types.begin(), needed.types.end(), type) == needed.types.end()) {
             damaged(QStringLiteral("%1: the column \"%2\" has a type that cannot be used").arg(place, needed.name));
             complete = false;
         }
@@ -204,7 +207,8 @@ bool Checker::hasCounterIndex(const jet::Table &table)
         return index.name.compare(u"Counter", Qt::CaseInsensitive) == 0;
     });
     if (!there)
-        missing(QStringLiteral("%1, table \"%2\": there is no index \"Counter\"").arg(table.image().file(), table.name()));
+        missing(
+            QStringLiteral("%1, table \"%2\": there is no index \"Counter\"").arg(table.image().file(), table.name()));
     return there;
 }
 
@@ -227,8 +231,9 @@ void Checker::checkLanguageDatabase(const QString &file, bool holdsOurTexts)
 void Checker::checkFamilyDatabase()
 {
     if (m_host.Familienpfad.isEmpty()) {
-        missing(m_host.native(m_host.hostSettingsFile()) +
-                QStringLiteral(": no family database is named (section QV-Files, key 0); open one in the host program"));
+        missing(
+            m_host.native(m_host.hostSettingsFile()) +
+            QStringLiteral(": no family database is named (section QV-Files, key 0); open one in the host program"));
         return;
     }
     const auto database = open(m_host.Familienpfad);
@@ -264,9 +269,12 @@ void Checker::checkTables(const std::shared_ptr<jet::Database> &database, data::
         if (which == data::HostDatabase::Events && entry.name == m_host.Sprache)
             hasColumns(*found, eventColumns());
     }
-    if (sound == needed)
-        ok(QStringLiteral("%1: %2").arg(database->file(), needed == 0 ? QStringLiteral("readable")
-                                                                      : QStringLiteral("all %1 tables").arg(needed)));
+    if (sound < needed)
+        return;
+    const QString what = needed == 0   ? QStringLiteral("readable")
+                         : needed == 1 ? QStringLiteral("its table is there")
+                                       : QStringLiteral("all %1 tables are there").arg(needed);
+    ok(QStringLiteral("%1: %2").arg(database->file(), what));
 }
 
 void Checker::checkPersonTable(const std::shared_ptr<jet::Database> &database, const Table &persons)
@@ -295,7 +303,8 @@ void Checker::checkPersonTable(const std::shared_ptr<jet::Database> &database, c
         if (QFileInfo(database->file()).isWritable())
             ok(database->file() + QStringLiteral(": writable, persons can be marked"));
         else
-            locked(database->file() + QStringLiteral(": the family database is read-only; no person can be marked in it"));
+            locked(database->file() +
+                   QStringLiteral(": the family database is read-only; no person can be marked in it"));
     } catch (const Error &error) {
         report(error);
     }

@@ -2,14 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/commandline.h"
 
-#include <CLI/CLI.hpp>
-#include <limits>
-#include <map>
-#include <memory>
 #include "app/check.h"
 #include "app/commands.h"
 #include "platform/basic/path.h"
 #include "platform/desktop/terminal.h"
+#include <CLI/CLI.hpp>
+#include <limits>
+#include <map>
+#include <memory>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -161,7 +161,8 @@ int runReportWords(const Words &words)
     const QString output = absoluteNative(words.output);
     const QString ending = QFileInfo(output).suffix().toLower();
     if (ending == u"rtf" || ending == u"html")
-        return wrongUsage(QStringLiteral("a report as .%1 cannot be written yet; use a file name ending in .pdf").arg(ending));
+        return wrongUsage(
+            QStringLiteral("a report as .%1 cannot be written yet; use a file name ending in .pdf").arg(ending));
     if (ending != u"pdf")
         return wrongUsage(QStringLiteral("the report's file name must end in .pdf: %1").arg(output));
     return runReport(programFolder(words), {toText(words.title), sexOf(words), output});
@@ -189,6 +190,13 @@ int dispatch(const Parser &parser)
     return wrongUsage(QStringLiteral("this version has no window yet; name a command, --help lists them"));
 }
 
+/// Qt's own remarks about the session (no runtime folder, …) say nothing about what a command does.
+void onlyFaults(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        writeError(text);
+}
+
 /// Fonts and pages need a GUI application, which a command runs without a desktop; all else starts faster without.
 std::unique_ptr<QCoreApplication> makeApplication(const Parser &parser, int &argc, char **argv)
 {
@@ -214,12 +222,16 @@ int runCommandLine(int argc, char **argv)
         return wrongUsage(complaint + QStringLiteral(" (kalvenor --help lists commands and options)"));
     }
 
+    qInstallMessageHandler(onlyFaults);
     const auto application = makeApplication(parser, argc, argv);
     catchInterrupt();
     try {
         return dispatch(parser);
     } catch (const Error &error) {
-        TerminalDesktop().runtimeError(error);
+        if (error.kind() == ErrorKind::Cancelled)
+            writeError(error.message());
+        else
+            TerminalDesktop().runtimeError(error);
     } catch (const std::bad_alloc &) {
         writeError(QStringLiteral("there is not enough memory for this"));
     }

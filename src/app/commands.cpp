@@ -55,8 +55,8 @@ int runList(const QString &programFolder, const ListCommand &command)
     if (!started.ready)
         return Failed;
     TerminalProgress terminal(QStringLiteral("reading persons"));
-    const auto persons = started.program.databases.Familiendatenbank->openQuery(
-        selection::plainListQuery(command.list), terminal.progress());
+    const auto persons = started.program.databases.Familiendatenbank->openQuery(selection::plainListQuery(command.list),
+                                                                                terminal.progress());
     const int counter = persons->fieldIndex(QStringLiteral("Counter"));
     const int listname = persons->fieldIndex(QStringLiteral("Listname"));
     ListOutput output(command.format, "listname");
@@ -115,8 +115,8 @@ int runReport(const QString &programFolder, const ReportCommand &command)
     TerminalProgress terminal(QStringLiteral("composing the report"));
     statistics::Altersliste list;
     statistics::alterslistenausgabe(started.program.databases, command.sex, list, terminal.progress());
-    const int pages = report::writeAgeListReport(command.title, list, started.program.language, command.output,
-                                                 terminal.progress());
+    const int pages =
+        report::writeAgeListReport(command.title, list, started.program.language, command.output, terminal.progress());
     printLine(QStringLiteral("%1: %2 persons on %3 pages").arg(command.output).arg(list.size()).arg(pages));
     return Done;
 }

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <vector>
 #include "app/listoutput.h"
 #include "selection/listquery.h"
 #include "statistics/altersliste.h"
 #include <QString>
+#include <vector>
 
 // One function a command. Results go to stdout, progress and messages to stderr; the value is the exit code.
 // Errors of the engine go to the caller.

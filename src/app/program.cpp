@@ -16,7 +16,7 @@ constexpr qint16 TextFamilyDatabaseMissing = 100;
 QWindow *activeForm()
 {
     return qobject_cast<QGuiApplication *>(QCoreApplication::instance()) != nullptr ? QGuiApplication::focusWindow()
-                                                                                     : nullptr;
+                                                                                    : nullptr;
 }
 
 } // namespace

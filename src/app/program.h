@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <functional>
 #include "data/datenbankmodul.h"
 #include "host/host.h"
 #include "language/sprache.h"
 #include "platform/dao/dao.h"
+#include <functional>
 #include <QString>
 
 namespace kalvenor::app {

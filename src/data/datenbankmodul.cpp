@@ -63,12 +63,14 @@ void Datenbankmodul::datenbankoeffnen(const QString &familyDatabase)
     m_sideDatabases.clear();
     Familiendatenbank = workspace.openDatabase(m_host.native(familyDatabase));
     for (const HostDatabase side : {Events, History, Names, Places})
-        m_sideDatabases.push_back(workspace.openDatabase(m_host.native(m_host.Hostverzeichnis + sideDatabaseFile(side))));
+        m_sideDatabases.push_back(
+            workspace.openDatabase(m_host.native(m_host.Hostverzeichnis + sideDatabaseFile(side))));
 
     for (const HostTable &table : hostTables(m_host.Sprache)) {
-        const auto &database = table.database == Family
-            ? Familiendatenbank
-            : m_sideDatabases[static_cast<std::size_t>(table.database) - static_cast<std::size_t>(Events)];
+        const auto &database =
+            table.database == Family
+                ? Familiendatenbank
+                : m_sideDatabases[static_cast<std::size_t>(table.database) - static_cast<std::size_t>(Events)];
         auto recordset = database->openTable(table.name);
         if (table.database == Family && table.name == u"Daten")
             Datentabelle = recordset;

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <memory>
-#include <span>
-#include <vector>
 #include "host/host.h"
 #include "platform/dao/dao.h"
+#include <memory>
 #include <QString>
+#include <span>
+#include <vector>
 
 namespace kalvenor::data {
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "data/datevalue.h"
 
-#include <cmath>
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
+#include <cmath>
 
 namespace kalvenor::data {
 
@@ -40,7 +40,7 @@ QString datumwandeln(QString &typed, DateOrder order)
     const bool acceptsDots = isDate(u"31.12.1997", order);
     const bool dayFirst = dateText(static_cast<double>(*dayNumber(1997, 12, 31)), order).startsWith(u"31");
     const QString display = acceptsDots ? QStringLiteral("dd.mm.yyyy")
-        : dayFirst                      ? QStringLiteral("dd-mm-yyyy")
+                            : dayFirst  ? QStringLiteral("dd-mm-yyyy")
                                         : QStringLiteral("mm-dd-yyyy");
     const QChar separator = acceptsDots ? u'.' : u'-';
 
@@ -62,8 +62,8 @@ QString datumwandeln(QString &typed, DateOrder order)
         working = formatDate(rest.isEmpty() ? *day : leadingNumber(rest), display);
         // A stored number beyond the calendar has no date text; the input then passes through like any other text.
         if (const auto readBack = dateFromText(working, order)) {
-            result = padRight(typed.contains(u'_') ? typed : working, DateTextWidth)
-                + QString::number(static_cast<qint64>(std::floor(*readBack)));
+            result = padRight(typed.contains(u'_') ? typed : working, DateTextWidth) +
+                     QString::number(static_cast<qint64>(std::floor(*readBack)));
         }
     }
     if (midPart(result, 7, 4) == QString::number(UnknownYearDigits))

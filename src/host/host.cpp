@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/host.h"
 
-#include <utility>
 #include "platform/basic/codepage.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
 #include "platform/profile/profile.h"
+#include <utility>
 
 namespace kalvenor::host {
 
@@ -18,8 +18,8 @@ DriveMap readDrives(const QString &ownSettingsFile)
 {
     DriveMap drives;
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
-        const QByteArray folder =
-            getPrivateProfileString("Laufwerke", QByteArray(1, letter), {}, ProfileBufferSize, nativePath(ownSettingsFile));
+        const QByteArray folder = getPrivateProfileString("Laufwerke", QByteArray(1, letter), {}, ProfileBufferSize,
+                                                          nativePath(ownSettingsFile));
         if (!folder.isEmpty())
             drives.insert(QLatin1Char(letter), decodeAnsi(folder));
     }

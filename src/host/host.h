@@ -21,11 +21,11 @@ public:
     /// "Laufwerke" (C=/media/windows).
     Host(QString programFolder, Desktop &desktop);
 
-    QString Hostverzeichnis; ///< the host program's folder, without a trailing backslash
-    QString Sprache;         ///< name of the interface language: a column of the texts, a table of the event kinds
-    qint16 Kurzhilfe = 1;    ///< 1: short help is shown
-    QString AddInonTop;      ///< as read; "1": windows stay on top
-    QString Familienpfad;    ///< the host's current family database; empty where none is named
+    QString Hostverzeichnis;     ///< the host program's folder, without a trailing backslash
+    QString Sprache;             ///< name of the interface language: a column of the texts, a table of the event kinds
+    qint16 Kurzhilfe = 1;        ///< 1: short help is shown
+    QString AddInonTop;          ///< as read; "1": windows stay on top
+    QString Familienpfad;        ///< the host's current family database; empty where none is named
     QPointer<QObject> Hauptform; ///< the main window once it was made
 
     const QString &programFolder() const { return m_programFolder; }

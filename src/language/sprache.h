@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <memory>
 #include "host/host.h"
 #include "platform/dao/dao.h"
+#include <memory>
 #include <QString>
 #include <QVariant>
 

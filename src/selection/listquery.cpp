@@ -9,8 +9,8 @@ namespace kalvenor::selection {
 QString plainListQuery(PersonList list)
 {
     return list == PersonList::Unmarked
-        ? QStringLiteral("SELECT * FROM Daten WHERE Markierung = 0 ORDER BY Listname;")
-        : QStringLiteral("SELECT * FROM Daten WHERE Markierung = -1 ORDER BY Listname;");
+               ? QStringLiteral("SELECT * FROM Daten WHERE Markierung = 0 ORDER BY Listname;")
+               : QStringLiteral("SELECT * FROM Daten WHERE Markierung = -1 ORDER BY Listname;");
 }
 
 QString wherePart(const QString &listQuery)

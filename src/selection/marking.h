@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "data/datenbankmodul.h"
 #include <span>
 #include <vector>
-#include "data/datenbankmodul.h"
 
 namespace kalvenor::selection {
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/alter.h"
 
-#include <cmath>
 #include "data/datevalue.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
+#include <cmath>
 
 namespace kalvenor::statistics {
 

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
-#include <vector>
 #include "data/datenbankmodul.h"
 #include "platform/basic/progress.h"
+#include <array>
 #include <QString>
+#include <vector>
 
 namespace kalvenor::statistics {
 

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/check.h"
 
-#include <gtest/gtest.h>
 #include "platform/jet/creator.h"
 #include "support/startedprogram.h"
+#include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
 
@@ -12,7 +12,8 @@ using namespace kalvenor;
 
 namespace {
 
-const std::vector<test::TestPerson> Persons{{.counter = 1, .listname = "A"}, {.counter = 2, .listname = "B", .marked = true}};
+const std::vector<test::TestPerson> Persons{{.counter = 1, .listname = "A"},
+                                            {.counter = 2, .listname = "B", .marked = true}};
 
 QString familyFile(const test::Installation &installation)
 {
@@ -64,11 +65,12 @@ TEST(Check, SaysEachThingInALineOfItsOwn)
     };
     for (const auto &row : rows) {
         const auto says = [&](const QString &line) {
-            return line.startsWith(row.word) && !line.contains('\n')
-                && std::all_of(row.names.begin(), row.names.end(), [&](const QString &name) { return line.contains(name); });
+            return line.startsWith(row.word) && !line.contains('\n') &&
+                   std::all_of(row.names.begin(), row.names.end(),
+                               [&](const QString &name) { return line.contains(name); });
         };
-        EXPECT_TRUE(std::any_of(problems.begin(), problems.end(), says))
-            << row.names.join(' ').toStdString() << " in\n" << problems.join('\n').toStdString();
+        EXPECT_TRUE(std::any_of(problems.begin(), problems.end(), says)) << row.names.join(' ').toStdString() << " in\n"
+                                                                         << problems.join('\n').toStdString();
     }
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/program.h"
 
-#include <gtest/gtest.h>
 #include "support/startedprogram.h"
+#include <gtest/gtest.h>
 #include <QFile>
 
 using namespace kalvenor;

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "data/datenbankmodul.h"
 
-#include <gtest/gtest.h>
 #include "support/startedprogram.h"
+#include <gtest/gtest.h>
 #include <QFile>
 
 using namespace kalvenor;
@@ -30,8 +30,10 @@ TEST(Datenbankoeffnen, NamesWhatIsMissing)
     const struct {
         QString removed; ///< file below the host folder
         QString named;
-    } rows[] = {{"Ereignis.mdb", "Ereignis.mdb"}, {"Geschichte.mdb", "Geschichte.mdb"},
-                {"namen.mdb", "namen.mdb"},       {"orte.mdb", "orte.mdb"}};
+    } rows[] = {{"Ereignis.mdb", "Ereignis.mdb"},
+                {"Geschichte.mdb", "Geschichte.mdb"},
+                {"namen.mdb", "namen.mdb"},
+                {"orte.mdb", "orte.mdb"}};
     for (const auto &row : rows) {
         const test::Installation installation;
         ASSERT_TRUE(QFile::remove(installation.hostFolder() + "/" + row.removed));

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/host.h"
 
-#include <gtest/gtest.h>
 #include "support/fakedesktop.h"
+#include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -41,8 +41,8 @@ protected:
 
 TEST_F(HostTest, ReadsSettings)
 {
-    write("programm.ini", "[Ansicht]\r\nSprache=English\r\nLang=" + QByteArray(400, 'x') +
-                              "\r\nNul=ab" + QByteArray(1, '\0') + "cd\r\nUmlaut=M\xfcnchen\r\nLeer=\r\n");
+    write("programm.ini", "[Ansicht]\r\nSprache=English\r\nLang=" + QByteArray(400, 'x') + "\r\nNul=ab" +
+                              QByteArray(1, '\0') + "cd\r\nUmlaut=M\xfcnchen\r\nLeer=\r\n");
     const Host host(path("Kalvenor"), desktop);
     const QString file = path("programm.ini");
     EXPECT_EQ(host.inilesen(file, "ANSICHT", "sprache", "Deutsch"), "English");

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/sprache.h"
 
-#include <gtest/gtest.h>
 #include "platform/jet/creator.h"
 #include "support/startedprogram.h"
+#include <gtest/gtest.h>
 
 using namespace kalvenor;
 
@@ -14,9 +14,10 @@ void writeTexts(const QString &file)
 {
     using jet::ColumnType;
     jet::Creator creator;
-    auto &languages = creator.addTable("Languages", {{.name = "Counter"},
-                                                     {.name = "Deutsch", .type = ColumnType::Text},
-                                                     {.name = "English", .type = ColumnType::Text}},
+    auto &languages = creator.addTable("Languages",
+                                       {{.name = "Counter"},
+                                        {.name = "Deutsch", .type = ColumnType::Text},
+                                        {.name = "English", .type = ColumnType::Text}},
                                        {{.name = "Counter", .columns = {"Counter"}}});
     languages.addRow({1, QString("Datei öffnen"), QString("Open file")});
     languages.addRow({2, QString("in #PROGNAME# und #APPNAME##PROGNAME# #progname#"), QString("#")});
@@ -44,9 +45,15 @@ TEST(Sprachtext, LooksUpByIdentifierAndLanguage)
         qint16 id;
         QString text;
     } rows[] = {
-        {"Deutsch", 1, "Datei öffnen"}, {"deutsch", 1, "Datei öffnen"}, {"English", 1, "Open file"},
-        {"Suomi", 1, "????"},           {"Deutsch", 99, "????"},        {"Deutsch", 2, "in  und  #progname#"},
-        {"English", 2, "#"},            {"English", 3, "Only English"}, {"Deutsch", -4, "negativ"},
+        {"Deutsch", 1, "Datei öffnen"},
+        {"deutsch", 1, "Datei öffnen"},
+        {"English", 1, "Open file"},
+        {"Suomi", 1, "????"},
+        {"Deutsch", 99, "????"},
+        {"Deutsch", 2, "in  und  #progname#"},
+        {"English", 2, "#"},
+        {"English", 3, "Only English"},
+        {"Deutsch", -4, "negativ"},
     };
     for (const auto &row : rows) {
         host.Sprache = row.language;

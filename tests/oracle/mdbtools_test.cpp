@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What mdb-export of mdbtools reads from a database equals what we read.
-#include <cmath>
-#include <gtest/gtest.h>
 #include "demo/demohost.h"
 #include "platform/jet/database.h"
+#include <cmath>
+#include <gtest/gtest.h>
 #include <QDir>
 #include <QDirIterator>
 #include <QProcess>
@@ -22,8 +22,8 @@ const QString NullText = QStringLiteral("\\N");
 QByteArray mdbExport(const QString &file, const QString &table)
 {
     QProcess process;
-    process.start("mdb-export", {"-0", NullText, "-b", "hex", "-D", "%Y-%m-%d %H:%M:%S", "-T", "%Y-%m-%d %H:%M:%S", file,
-                                 table});
+    process.start("mdb-export",
+                  {"-0", NullText, "-b", "hex", "-D", "%Y-%m-%d %H:%M:%S", "-T", "%Y-%m-%d %H:%M:%S", file, table});
     process.waitForFinished(60'000);
     EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
     return process.readAllStandardOutput();

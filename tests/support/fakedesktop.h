@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <vector>
 #include "platform/desktop/desktop.h"
+#include <vector>
 
 namespace kalvenor::test {
 

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <vector>
 #include "app/program.h"
 #include "support/fakedesktop.h"
 #include "support/fixtures.h"
 #include <QTemporaryDir>
+#include <vector>
 
 namespace kalvenor::test {
 

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/desktop/terminal.h"
 
+#include "platform/basic/error.h"
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <utility>
-#include "platform/basic/error.h"
 
 #ifdef Q_OS_WIN
 #include <io.h>
@@ -87,7 +87,9 @@ TerminalProgress::~TerminalProgress()
 
 Progress TerminalProgress::progress()
 {
-    return [this](qint64 done, qint64 total) { return show(done, total); };
+    return [this](qint64 done, qint64 total) {
+        return show(done, total);
+    };
 }
 
 bool TerminalProgress::show(qint64 done, qint64 total)
@@ -97,8 +99,7 @@ bool TerminalProgress::show(qint64 done, qint64 total)
         m_lastShown = now;
         m_shown = true;
         const qint64 percent = total > 0 ? std::min<qint64>(100, done * 100 / total) : 0;
-        const QByteArray line =
-            QStringLiteral("\r\033[K%1 … %2 % (Ctrl+C stops)").arg(m_what).arg(percent).toUtf8();
+        const QByteArray line = QStringLiteral("\r\033[K%1 … %2 % (Ctrl+C stops)").arg(m_what).arg(percent).toUtf8();
         std::fputs(line.constData(), stderr);
         std::fflush(stderr);
     }

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/progress.h"
 #include <QByteArrayView>
 #include <QElapsedTimer>
 #include <QString>
-#include "platform/basic/progress.h"
 
 // Standard output, standard error and the interrupt key. All texts are UTF-8.
 namespace kalvenor {
