@@ -3,6 +3,7 @@
 #include "platform/jet/database.h"
 
 #include "platform/basic/error.h"
+#include "platform/jet/usagemap.h"
 
 namespace kalvenor::jet {
 
@@ -61,6 +62,8 @@ std::shared_ptr<Database> Database::open(std::shared_ptr<Image> image)
     if (rest != 0)
         database->warn(
             QStringLiteral("the last %1 bytes of the file are no whole page; it may be cut short").arg(rest));
+    if (isCutShort(*database->m_image))
+        database->warn(QStringLiteral("the file lacks pages at its end that were in use; it was cut short"));
     database->readCatalogue();
     return database;
 }

@@ -44,20 +44,23 @@ public:
 private:
     void locateRows(const Definition &definition)
     {
-        QString problem;
-        const std::vector<std::uint32_t> pages = pagesOfUsageMap(m_image, definition.ownedPages, &problem);
-        if (!problem.isEmpty()) {
+        const UsageMap map = readUsageMap(m_image, definition.ownedPages);
+        if (!map.problem.isEmpty()) {
             throw Error(
                 ErrorKind::Damaged,
                 QStringLiteral("%1, table %2, page %3")
                     .arg(m_image.file(), m_table->m_name)
                     .arg(m_table->m_definitionPage),
                 QStringLiteral("The pages of the table cannot be found: %1. Repair the database or take a backup.")
-                    .arg(problem));
+                    .arg(map.problem));
         }
-        m_table->m_rows.reserve(std::min<std::size_t>(definition.rowCount, pages.size() * MaxSlots));
-        for (const std::uint32_t page : pages)
+        m_table->m_rows.reserve(std::min<std::size_t>(definition.rowCount, map.pages.size() * MaxSlots));
+        for (const std::uint32_t page : map.pages)
             locateRowsOf(page);
+        if (map.goesBeyondEnd && m_table->m_rows.size() < definition.rowCount)
+            m_table->warn(QStringLiteral("the file has %1 of %2 rows; it may be cut short")
+                              .arg(m_table->m_rows.size())
+                              .arg(definition.rowCount));
         if (m_table->m_rows.capacity() > 2 * m_table->m_rows.size())
             m_table->m_rows.shrink_to_fit();
     }

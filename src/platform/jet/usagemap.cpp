@@ -4,54 +4,82 @@
 
 #include "platform/jet/cursor.h"
 #include "platform/jet/datapage.h"
+#include <optional>
 
 namespace kalvenor::jet {
 
 namespace {
 
-void addPages(std::span<const std::uint8_t> bitmap, std::uint64_t firstPage, std::uint32_t pageCount,
-              std::vector<std::uint32_t> &pages)
+using Bytes = std::span<const std::uint8_t>;
+
+constexpr std::uint32_t FreePagesMap = 1U << 8; ///< page 1 row 0
+
+std::optional<Bytes> mapRow(const Image &image, std::uint32_t rowPointer)
 {
-    std::uint64_t page = firstPage;
-    for (std::size_t i = 0; i < bitmap.size() && page < pageCount; ++i, page += 8) {
-        for (unsigned bit = 0; bitmap[i] >> bit != 0; ++bit) {
-            if ((bitmap[i] >> bit & 1) != 0 && page + bit < pageCount)
-                pages.push_back(static_cast<std::uint32_t>(page + bit));
-        }
+    const RowPointer pointer(rowPointer);
+    const DataPage page(image.version(), image.page(pointer.page));
+    const std::optional<Slot> slot = page.isData() ? page.slot(pointer.slot) : std::nullopt;
+    if (!slot || slot->length < 5 || page.bytes(*slot)[0] > 1)
+        return std::nullopt;
+    return page.bytes(*slot);
+}
+
+/// Calls `visit(bitmap, first page)` for each bitmap of a map, by ascending pages.
+template <class Visit>
+void visitBitmaps(const Image &image, Bytes map, Visit visit)
+{
+    if (map[0] == 0) {
+        visit(map.subspan(5), std::uint64_t{load32(&map[1])});
+        return;
+    }
+    const std::uint64_t pagesPerBitmap = (std::uint64_t{image.pageSize()} - 4) * 8;
+    for (std::size_t i = 0; 1 + 4 * i + 4 <= map.size(); ++i) {
+        const Bytes bitmap = image.page(load32(&map[1 + 4 * i]));
+        if (!bitmap.empty() && bitmap[0] == static_cast<std::uint8_t>(PageType::UsageMap))
+            visit(bitmap.subspan(4), i * pagesPerBitmap);
     }
 }
 
 } // namespace
 
-std::vector<std::uint32_t> pagesOfUsageMap(const Image &image, std::uint32_t rowPointer, QString *problem)
+UsageMap readUsageMap(const Image &image, std::uint32_t rowPointer)
 {
-    const RowPointer pointer(rowPointer);
-    const DataPage page(image.version(), image.page(pointer.page));
-    const std::optional<Slot> slot = page.isData() ? page.slot(pointer.slot) : std::nullopt;
-    if (!slot || slot->length < 5) {
-        *problem = QStringLiteral("the usage map at page %1 row %2 is not there").arg(pointer.page).arg(pointer.slot);
-        return {};
+    UsageMap result;
+    const std::optional<Bytes> map = mapRow(image, rowPointer);
+    if (!map) {
+        const RowPointer pointer(rowPointer);
+        result.problem = QStringLiteral("there is no usage map at page %1 row %2").arg(pointer.page).arg(pointer.slot);
+        return result;
     }
-    const std::span<const std::uint8_t> map = page.bytes(*slot);
-    std::vector<std::uint32_t> pages;
-    if (map[0] == 0) {
-        addPages(map.subspan(5), load32(&map[1]), image.pageCount(), pages);
-        return pages;
-    }
-    if (map[0] != 1) {
-        *problem = QStringLiteral("the usage map at page %1 row %2 is of the unknown kind %3")
-                       .arg(pointer.page)
-                       .arg(pointer.slot)
-                       .arg(map[0]);
-        return {};
-    }
-    const std::uint64_t pagesPerBitmap = (std::uint64_t{image.pageSize()} - 4) * 8;
-    for (std::size_t i = 0; 1 + 4 * i + 4 <= map.size(); ++i) {
-        const std::span<const std::uint8_t> bitmap = image.page(load32(&map[1 + 4 * i]));
-        if (!bitmap.empty() && bitmap[0] == static_cast<std::uint8_t>(PageType::UsageMap))
-            addPages(bitmap.subspan(4), i * pagesPerBitmap, image.pageCount(), pages);
-    }
-    return pages;
+    visitBitmaps(image, *map, [&](Bytes bitmap, std::uint64_t firstPage) {
+        for (std::size_t i = 0; i < bitmap.size(); ++i) {
+            for (unsigned bit = 0; bitmap[i] >> bit != 0; ++bit) {
+                if ((bitmap[i] >> bit & 1) == 0)
+                    continue;
+                const std::uint64_t page = firstPage + 8 * i + bit;
+                if (page < image.pageCount())
+                    result.pages.push_back(static_cast<std::uint32_t>(page));
+                else
+                    result.goesBeyondEnd = true;
+            }
+        }
+    });
+    return result;
+}
+
+bool isCutShort(const Image &image)
+{
+    bool found = false;
+    const std::optional<Bytes> map = mapRow(image, FreePagesMap);
+    if (!map)
+        return false;
+    visitBitmaps(image, *map, [&](Bytes bitmap, std::uint64_t firstPage) {
+        const std::uint64_t count = image.pageCount();
+        std::uint64_t page = count > firstPage ? count - firstPage : 0;
+        for (; page < 8 * bitmap.size() && !found; ++page)
+            found = (bitmap[page / 8] >> (page % 8) & 1) == 0;
+    });
+    return found;
 }
 
 } // namespace kalvenor::jet

@@ -9,8 +9,16 @@
 
 namespace kalvenor::jet {
 
-/// The pages a usage map names, ascending, each once; bits for pages the file does not have are ignored. Where the map
-/// itself cannot be read, `problem` says why and there are no pages.
-std::vector<std::uint32_t> pagesOfUsageMap(const Image &image, std::uint32_t rowPointer, QString *problem);
+/// The pages a usage map names.
+struct UsageMap {
+    std::vector<std::uint32_t> pages; ///< ascending, each once; only pages the file has
+    bool goesBeyondEnd = false;       ///< it also names pages the file does not have, as maps of sound files may
+    QString problem;                  ///< why the map cannot be read; there are no pages then
+};
+
+UsageMap readUsageMap(const Image &image, std::uint32_t rowPointer);
+
+/// True where the file's own map of free pages says that pages beyond its end are in use: it was cut short.
+bool isCutShort(const Image &image);
 
 } // namespace kalvenor::jet

@@ -28,17 +28,15 @@ public:
         std::copy(head.begin(), head.end(), m_bytes.begin());
         put(0, 0x3c, 2, static_cast<std::uint32_t>(codePage));
         jet::maskHeader(std::span(m_bytes).first(PageSize), false);
-        // Usage maps of page 1: row 0 for the catalogue, row 1 for Daten.
+        // Maps of page 1: row 0 the free pages, from 7 on; row 1 the catalogue's pages; row 2 those of Daten.
         startData(1, 1);
-        for (const unsigned page : {4U, 6U}) {
-            QByteArray map(1 + 4 + 8, '\0');
-            map[5] = static_cast<char>(1U << page);
-            addRecord(1, map);
-        }
+        addRecord(1, QByteArray(5, '\0') + '\x80' + QByteArray(7, '\xff'));
+        for (const unsigned page : {4U, 6U})
+            addRecord(1, QByteArray(5, '\0') + static_cast<char>(1U << page) + QByteArray(7, '\0'));
         startData(4, 2);
         startData(6, 5);
-        definition(2, 0x100, 'S', {{"Id", 4, 0, 4}, {"Name", 10, 0, 255}, {"Type", 3, 4, 2}, {"Flags", 4, 6, 4}});
-        definition(5, 0x101, 'N',
+        definition(2, 0x101, 'S', {{"Id", 4, 0, 4}, {"Name", 10, 0, 255}, {"Type", 3, 4, 2}, {"Flags", 4, 6, 4}});
+        definition(5, 0x102, 'N',
                    {{"Counter", 4, 0, 4}, {"Markierung", 1, 0, 1}, {"Name", 10, 0, 255}, {"Ort", 10, 0, 255}});
         addRecord(4, record(QByteArray("\x05\0\0\0\x01\0\0\0\0\0", 10), {QByteArray("Daten")}, 4, 0x0f));
     }

@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "fixtures.h"
+#include "jet3fixture.h"
 #include "platform/basic/date.h"
 #include "platform/basic/error.h"
 #include "platform/jet/database.h"
-#include "samples.h"
 #include <algorithm>
 #include <cmath>
 #include <QUuid>
@@ -137,12 +138,11 @@ TEST(Reader, SamplesEqualTheirDumps)
     for (const QString &file : testing::sampleDatabases()) {
         SCOPED_TRACE(file.toStdString());
         const auto database = Database::open(sample(file));
-        EXPECT_TRUE(database->warnings().isEmpty()) << database->warnings().join(u'\n').toStdString();
         const QString base = file.chopped(4);
-        QStringList names;
+        QStringList names, warnings;
+        testing::readEverything(*database, &warnings);
+        EXPECT_TRUE(warnings.isEmpty()) << warnings.join(u'\n').toStdString();
         for (const CatalogueEntry &entry : database->entries()) {
-            const auto table = database->table(entry.name);
-            EXPECT_TRUE(table->warnings().isEmpty()) << table->warnings().join(u'\n').toStdString();
             if (!entry.system)
                 names.append(entry.name);
         }
@@ -198,6 +198,91 @@ TEST(Reader, TableNamesCountTrailingBlanksButNotCase)
     EXPECT_EQ(daten->columnOf(u"COUNTER"), 0);
     EXPECT_EQ(daten->columnOf(u"Counter "), -1);
     EXPECT_TRUE(daten->isIndexed(daten->columns()[0].number));
+}
+
+std::shared_ptr<Database> openBytes(const std::vector<std::uint8_t> &bytes)
+{
+    return Database::open(Image::fromBytes(QStringLiteral("bytes"), bytes));
+}
+
+TEST(Reader, Jet3TextIsInTheCodePageOfTheHeader)
+{
+    const struct {
+        int codePage;
+        const char *stored;
+        QStringView expected;
+    } cases[] = {
+        {1250, "\xd8\xe1\xe8", u"Řáč"},
+        {1251, "\xcc\xe8\xf0", u"Мир"},
+        {1252, "K\xf6ln \x80\x81", u"Köln €\u0081"},
+        {1253, "\xd9\xec\xdd", u"Ωμέ"},
+        {1254, "\xdd\xfe\xf0", u"İşğ"},
+        {1255, "\xf9\xec\xe5\xed", u"שלום"},
+        {1256, "\xd3\xe1\xc7\xe3", u"سلام"},
+        {1257, "\xd0\xe2\xeb", u"Šāė"},
+        {1258, "\xd0\xfe\xd5", u"Đ₫Ơ"},
+        {0, "\xe4", u"ä"},
+    };
+    for (const auto &[codePage, stored, expected] : cases) {
+        SCOPED_TRACE(codePage);
+        testing::Jet3File file(codePage);
+        file.addRow({7, true, stored, "x"});
+        const auto table = openBytes(file.bytes())->table(QStringLiteral("Daten"));
+        ASSERT_EQ(table->rowCount(), 1U);
+        EXPECT_EQ(table->text(0, table->columnOf(u"Name")), expected.toString());
+    }
+}
+
+TEST(Reader, Jet3OffsetsBeyondOneByteTakeTheirHighPartFromTheJumpTable)
+{
+    for (const int name : {0, 1, 100, 235, 245, 250, 251, 255}) {
+        for (const int place : {0, 1, 2, 5, 10, 250, 254, 255}) {
+            SCOPED_TRACE(::testing::Message() << name << ", " << place);
+            testing::Jet3File file(1252);
+            file.addRow({name, name % 2 == 1, QByteArray(name, 'n'), QByteArray(place, 'o')});
+            const auto table = openBytes(file.bytes())->table(QStringLiteral("Daten"));
+            ASSERT_EQ(table->rowCount(), 1U) << table->warnings().join(u'\n').toStdString();
+            EXPECT_EQ(table->integer(0, 0), name);
+            EXPECT_EQ(table->boolean(0, 1), name % 2 == 1);
+            EXPECT_EQ(table->text(0, 2), QString(name, u'n'));
+            EXPECT_EQ(table->text(0, 3), QString(place, u'o'));
+        }
+    }
+}
+
+TEST(Reader, DecodesStoredText)
+{
+    const struct {
+        QByteArray stored;
+        QString expected;
+    } cases[] = {
+        {QByteArray("\xff\xfe"
+                    "abc"),
+         QStringLiteral("abc")},
+        {QByteArray("\xff\xfe\xe4\x80"), QStringLiteral("ä\u0080")},
+        {QByteArray("\xff\xfe"
+                    "a\0\x1c\x04\0b",
+                    8),
+         QStringLiteral("a\u041cb")},
+        {QByteArray("\xff\xfe"
+                    "a\0\x1c\x04\x38",
+                    7),
+         QStringLiteral("a\u041c")},
+        {QByteArray("a\0\0\0b\0c", 7), QString(QChar(u'a')) + QChar(u'\0') + QChar(u'b')},
+        {QByteArray("\x3d\xd8\x00\xde", 4), QStringLiteral("\U0001f600")},
+        {QByteArray("\x3d\xd8"
+                    "a\0\x00\xde\xff\xff",
+                    8),
+         QStringLiteral("\ufffda\ufffd\ufffd")},
+        {QByteArray("\xff\xfe"), QString()},
+        {QByteArray(), QString()},
+    };
+    QString buffer;
+    for (const auto &[stored, expected] : cases) {
+        decodeText4({reinterpret_cast<const std::uint8_t *>(stored.data()), static_cast<std::size_t>(stored.size())},
+                    buffer);
+        EXPECT_EQ(buffer, expected) << stored.toHex(' ').toStdString();
+    }
 }
 
 } // namespace
