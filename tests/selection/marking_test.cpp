@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/marking.h"
 
-#include <gtest/gtest.h>
 #include "selection/listquery.h"
 #include "support/startedprogram.h"
+#include <gtest/gtest.h>
 
 using namespace kalvenor;
 using namespace kalvenor::selection;
@@ -22,7 +22,8 @@ TEST(MarkAllStatement, ReusesTheWherePartOfTheList)
          "Update Daten SET Markierung = 0 WHERE Markierung = -1 "},
         {PersonList::Marked, "SELECT * FROM Daten WHERE Listname LIKE '*a*'  AND Markierung = -1 ORDER BY Listname;",
          "Update Daten SET Markierung = 0 WHERE Listname LIKE '*a*'  AND Markierung = -1 "},
-        {PersonList::Unmarked, "SELECT * FROM Daten WHERE Listname LIKE '*ORDER*'  AND Markierung = 0 ORDER BY Listname;",
+        {PersonList::Unmarked,
+         "SELECT * FROM Daten WHERE Listname LIKE '*ORDER*'  AND Markierung = 0 ORDER BY Listname;",
          "Update Daten SET Markierung = -1 WHERE Listname LIKE '*ORDER*'  AND Markierung = 0 "},
         {PersonList::Unmarked, "SELECT * FROM Daten ORDER BY Listname;", "Update Daten SET Markierung = -1 ;"},
         {PersonList::Marked, "", "Update Daten SET Markierung = 0 ;"},
@@ -54,6 +55,8 @@ TEST(MarkPersons, StopsWhenAsked)
 {
     test::StartedProgram started({{.counter = 1, .listname = "A"}, {.counter = 2, .listname = "B"}});
     const std::vector<qint32> wanted{1, 2};
-    EXPECT_THROW(markPersons(started.program.databases, wanted, true, [](qint64 done, qint64) { return done < 1; }), Error);
-    EXPECT_EQ(started.program.databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked))->recordCount(), 1);
+    EXPECT_THROW(markPersons(started.program.databases, wanted, true, [](qint64 done, qint64) { return done < 1; }),
+                 Error);
+    EXPECT_EQ(started.program.databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked))->recordCount(),
+              1);
 }

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/altersliste.h"
 
-#include <gtest/gtest.h>
 #include "statistics/alter.h"
 #include "support/startedprogram.h"
+#include <gtest/gtest.h>
 
 using namespace kalvenor;
 using namespace kalvenor::statistics;
@@ -15,9 +15,9 @@ TEST(Alterstext, IsSevenCharactersWide)
         double days;
         QString text;
     } rows[] = {
-        {1, "   .0  "},      {36, "   .0  "},     {37, "   .1  "},     {182.5, "   .5  "},  {364, "   .9  "},
-        {365, "  1.0  "},    {3652, " 10.0  "},   {3653, " 10.0  "},   {4380, " 12.0  "},   {38142.5, "104.5  "},
-        {36499, " 99.9  "},  {36500, "100.0  "},  {365000, "000.0  "}, {766, "  2.0  "},    {767, "  2.1  "},
+        {1, "   .0  "},     {36, "   .0  "},    {37, "   .1  "},     {182.5, "   .5  "}, {364, "   .9  "},
+        {365, "  1.0  "},   {3652, " 10.0  "},  {3653, " 10.0  "},   {4380, " 12.0  "},  {38142.5, "104.5  "},
+        {36499, " 99.9  "}, {36500, "100.0  "}, {365000, "000.0  "}, {766, "  2.0  "},   {767, "  2.1  "},
     };
     for (const auto &row : rows)
         EXPECT_EQ(alterstext(row.days), row.text) << row.days;
@@ -65,8 +65,12 @@ TEST(Alterslistenausgabe, ListsMarkedPersonsWithBothDates)
         GeschlechtAlter boxes;
         QStringList lines;
     } rows[] = {
-        {{1, 1, 0, 0}, {man, infant, woman}}, {{1, 0, 1, 1}, {man, infant}}, {{0, 1, 0, 0}, {woman}},
-        {{0, 0, 1, 1}, {}},                   {{2, 1, 0, 0}, {woman}},       {{2, 0, 0, 0}, {}},
+        {{1, 1, 0, 0}, {man, infant, woman}},
+        {{1, 0, 1, 1}, {man, infant}},
+        {{0, 1, 0, 0}, {woman}},
+        {{0, 0, 1, 1}, {}},
+        {{2, 1, 0, 0}, {woman}},
+        {{2, 0, 0, 0}, {}},
     };
     for (const auto &row : rows)
         EXPECT_EQ(lines(started, row.boxes), row.lines);
