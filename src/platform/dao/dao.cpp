@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 SqlSession &Database::Private::open() const
 {
     if (!session)
-        throw Error(ErrorKind::ObjectClosed, file, u"the database was closed"_s);
+        throw Error(ErrorKind::ObjectClosed, file, u"The database was closed."_s);
     return *session;
 }
 
@@ -30,33 +30,6 @@ bool Database::Private::reloadIfStale()
         return false;
     reload();
     return true;
-}
-
-std::vector<quint32> Database::Private::write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
-                                              const Progress &progress)
-{
-    jet::MarkWriter writer(open().snapshot()->database(), view.table(), markColumn, keyColumnOf(*view.table()));
-    try {
-        std::vector<quint32> changed = writer.write(marks, progress);
-        view.flipMarks(markColumn, changed);
-        return changed;
-    } catch (...) {
-        view.forgetMarks(markColumn);
-        throw;
-    }
-}
-
-int keyColumnOf(const jet::Table &table)
-{
-    const QString place = tablePlace(table.image().file(), table.name());
-    const int column = table.columnOf(keyColumnName);
-    if (column < 0)
-        throw Error(ErrorKind::NotMarkable, place,
-                    u"the table has no column %1, so its rows cannot be told apart and marked"_s.arg(keyColumnName));
-    if (table.columns()[static_cast<std::size_t>(column)].type != jet::ColumnType::Long)
-        throw Error(ErrorKind::NotMarkable, place,
-                    u"the column %1 does not hold whole numbers, so its rows cannot be marked"_s.arg(keyColumnName));
-    return column;
 }
 
 Database::Database(std::unique_ptr<Private> priv) : d(std::move(priv))
@@ -137,7 +110,7 @@ Execution Database::execute(const QString &sql, const Progress &progress)
         const int keyColumn = keyColumnOf(table);
         const Bits old = view.marks(update.markColumn);
         try {
-            for (const quint32 row : d->write(view, update.markColumn, update.marks, progress)) {
+            for (const quint32 row : session->snapshot()->write(view, update.markColumn, update.marks, progress)) {
                 if (const auto key = table.integer(row, keyColumn); key && !before.contains(*key))
                     execution.changedKeys.push_back(*key);
             }
@@ -152,8 +125,8 @@ Execution Database::execute(const QString &sql, const Progress &progress)
                 throw;
             if (again)
                 throw Error(ErrorKind::ChangedElsewhere, error.place(),
-                            u"the file was changed by another program again and again while it was written; try again "
-                            u"when the other program is idle"_s);
+                            u"Another program changed the file again and again while it was written. Try again "
+                            u"when the other program has finished."_s);
             for (const jet::Mark &mark : update.marks) {
                 const auto key = table.integer(mark.row, keyColumn);
                 if (key && old.test(mark.row) != table.boolean(mark.row, update.markColumn) &&
@@ -222,7 +195,7 @@ Engine::Engine()
 Workspace &Engine::workspace(int index)
 {
     if (index < 0 || index >= workspaceCount())
-        throw Error(ErrorKind::Subscript, {}, u"there is no workspace %1"_s.arg(index));
+        throw Error(ErrorKind::Subscript, {}, u"There is no workspace %1."_s.arg(index));
     return *m_workspaces[static_cast<std::size_t>(index)];
 }
 

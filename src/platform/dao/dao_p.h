@@ -20,9 +20,6 @@ struct Database::Private {
     SqlSession &open() const;
     void reload();
     bool reloadIfStale();
-    /// Writes marks and keeps the view's marks right, also where writing fails half-way. Returns the rows that changed.
-    std::vector<quint32> write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
-                               const Progress &progress);
 };
 
 struct Recordset::Private {
@@ -60,8 +57,5 @@ struct Recordset::Private {
     void adopt(const std::shared_ptr<Snapshot> &other);
     void setResult(QueryResult &&given);
 };
-
-/// The key column of a table whose marks can be set. Throws NotMarkable.
-int keyColumnOf(const jet::Table &table);
 
 } // namespace kalvenor::dao

@@ -14,28 +14,28 @@ using namespace Qt::StringLiterals;
 void Recordset::Private::requireOpen() const
 {
     if (!snapshot)
-        throw Error(ErrorKind::ObjectClosed, place, u"the recordset was closed"_s);
+        throw Error(ErrorKind::ObjectClosed, place, u"The recordset was closed."_s);
 }
 
 void Recordset::Private::requireRow() const
 {
     requireOpen();
     if (!valid)
-        throw Error(ErrorKind::NoCurrentRow, place, u"there is no current row"_s);
+        throw Error(ErrorKind::NoCurrentRow, place, u"There is no current row."_s);
 }
 
 void Recordset::Private::requireTable() const
 {
     requireOpen();
     if (!isTable)
-        throw Error(ErrorKind::Refused, place, u"only a table recordset can be searched and changed"_s);
+        throw Error(ErrorKind::Refused, place, u"Only a table recordset can be searched and changed."_s);
 }
 
 void Recordset::Private::requireField(int field) const
 {
     requireRow();
     if (field < 0 || field >= result.names.size())
-        throw Error(ErrorKind::ColumnNotFound, place, u"there is no field %1"_s.arg(field));
+        throw Error(ErrorKind::ColumnNotFound, place, u"There is no field %1."_s.arg(field));
 }
 
 void Recordset::Private::stand(qint64 where)
@@ -131,7 +131,7 @@ void Recordset::moveNext()
 {
     d->requireOpen();
     if (eof())
-        throw Error(ErrorKind::NoCurrentRow, d->place, u"there is no row behind the last one"_s);
+        throw Error(ErrorKind::NoCurrentRow, d->place, u"There is no row behind the last one."_s);
     d->stand(d->position + 1);
 }
 
@@ -160,11 +160,11 @@ void Recordset::setIndex(const QString &name)
         });
         if (column == columns.end() || column->type != jet::ColumnType::Long)
             throw Error(ErrorKind::IndexNotFound, d->place,
-                        u"the index \"%1\" is not over one column of whole numbers"_s.arg(name));
+                        u"The index \"%1\" is not over one column of whole numbers."_s.arg(name));
         d->indexColumn = static_cast<int>(column - columns.begin());
         return;
     }
-    throw Error(ErrorKind::IndexNotFound, d->place, u"there is no index \"%1\""_s.arg(name));
+    throw Error(ErrorKind::IndexNotFound, d->place, u"There is no index named \"%1\"."_s.arg(name));
 }
 
 void Recordset::seekEqual(qint32 key)
@@ -174,7 +174,7 @@ void Recordset::seekEqual(qint32 key)
     if (database && database->isOpen())
         d->adopt(database->d->session->snapshot());
     if (d->indexColumn < 0)
-        throw Error(ErrorKind::IndexNotFound, d->place, u"no index is chosen to seek by"_s);
+        throw Error(ErrorKind::IndexNotFound, d->place, u"No index was chosen to seek by."_s);
     const auto rows = d->result.view->index(d->indexColumn).rows(key);
     d->noMatch = rows.empty();
     if (rows.empty()) {
@@ -204,11 +204,11 @@ void Recordset::setValue(const QString &field, bool value)
     d->requireTable();
     d->requireRow();
     if (!d->editing)
-        throw Error(ErrorKind::Refused, d->place, u"the row must be put into edit mode first"_s);
+        throw Error(ErrorKind::Refused, d->place, u"The row must be put into edit mode first."_s);
     const int index = fieldIndex(field);
     if (d->result.names[index].compare(markColumnName, Qt::CaseInsensitive) != 0)
         throw Error(ErrorKind::Refused, d->place,
-                    u"only %1 can be changed, not \"%2\""_s.arg(markColumnName).arg(field));
+                    u"Only %1 can be changed, not \"%2\"."_s.arg(markColumnName).arg(field));
     d->edited = value;
 }
 
@@ -217,7 +217,7 @@ bool Recordset::update()
     d->requireTable();
     d->requireRow();
     if (!d->editing)
-        throw Error(ErrorKind::Refused, d->place, u"the row must be put into edit mode first"_s);
+        throw Error(ErrorKind::Refused, d->place, u"The row must be put into edit mode first."_s);
     const std::shared_ptr<Database> database = d->database.lock();
     const std::optional<bool> value = d->edited;
     d->editing = false;
@@ -225,7 +225,7 @@ bool Recordset::update()
     if (!value)
         return false;
     if (!database || !database->isOpen())
-        throw Error(ErrorKind::ObjectClosed, d->place, u"the database was closed"_s);
+        throw Error(ErrorKind::ObjectClosed, d->place, u"The database was closed."_s);
 
     for (bool again = false;; again = true) {
         // The row may be another one in a newer state of the file; its key says which.
@@ -236,16 +236,16 @@ bool Recordset::update()
                                   : std::span<const quint32>();
             if (rows.empty())
                 throw Error(ErrorKind::ChangedElsewhere, d->place,
-                            u"the row was deleted by another program; load the list anew"_s);
+                            u"Another program deleted the row. Load the list anew."_s);
             d->stand(rows.front());
         }
         TableView &view = *d->result.view;
         const int markColumn = view.table()->columnOf(markColumnName);
         if (markColumn < 0)
-            throw Error(ErrorKind::ColumnNotFound, d->place, u"there is no column %1"_s.arg(markColumnName));
+            throw Error(ErrorKind::ColumnNotFound, d->place, u"There is no column %1."_s.arg(markColumnName));
         const jet::Mark mark{d->row(), *value};
         try {
-            return !database->d->write(view, markColumn, {&mark, 1}, {}).empty();
+            return !d->snapshot->write(view, markColumn, {&mark, 1}, {}).empty();
         } catch (const Error &error) {
             if (error.kind() != ErrorKind::ChangedElsewhere || again)
                 throw;
@@ -280,7 +280,7 @@ int Recordset::fieldIndex(const QString &name) const
         if (names[i].compare(name, Qt::CaseInsensitive) == 0)
             return i;
     }
-    throw Error(ErrorKind::ColumnNotFound, d->place, u"there is no column \"%1\""_s.arg(name));
+    throw Error(ErrorKind::ColumnNotFound, d->place, u"There is no column named \"%1\"."_s.arg(name));
 }
 
 QVariant Recordset::value(int field) const

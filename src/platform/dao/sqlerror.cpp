@@ -15,18 +15,18 @@ struct Complaint {
     QStringView words; ///< %1: what the pattern's group holds
 };
 constexpr Complaint complaints[] = {
-    {"^no such column: (.*)$", u"there is no column \"%1\""},
-    {"^ambiguous column name: (.*)$", u"the column \"%1\" stands in more than one table"},
-    {"^near \"(.*)\": syntax error$", u"the statement is not understood at \"%1\""},
-    {"^unrecognized token: \"(.*)\"$", u"the statement is not understood at \"%1\""},
-    {"^incomplete input$", u"the statement ends too early"},
-    {"^no such function: (.*)$", u"there is no function \"%1\""},
-    {"^wrong number of arguments to function (.*)$", u"the function %1 has too many or too few values"},
-    {"^misuse of aggregate:? ?(.*)$", u"the function %1 cannot stand there"},
-    {"^Expression tree is too large.*$", u"the statement is nested too deeply"},
-    {"^parser stack overflow$", u"the statement is nested too deeply"},
-    {"^too many terms in compound SELECT$", u"the statement combines too many queries"},
-    {"^(?:statement|string or blob) too (?:long|big)$", u"the statement or a value in it is too long"},
+    {"^no such column: (.*)$", u"There is no column \"%1\""},
+    {"^ambiguous column name: (.*)$", u"The column \"%1\" stands in more than one table"},
+    {"^near \"(.*)\": syntax error$", u"The statement is not understood at \"%1\""},
+    {"^unrecognized token: \"(.*)\"$", u"The statement is not understood at \"%1\""},
+    {"^incomplete input$", u"The statement ends too early"},
+    {"^no such function: (.*)$", u"There is no function \"%1\""},
+    {"^wrong number of arguments to function (.*)$", u"The function %1 has too many or too few values"},
+    {"^misuse of aggregate:? ?(.*)$", u"The function %1 cannot stand there"},
+    {"^Expression tree is too large.*$", u"The statement is nested too deeply"},
+    {"^parser stack overflow$", u"The statement is nested too deeply"},
+    {"^too many terms in compound SELECT$", u"The statement combines too many queries"},
+    {"^(?:statement|string or blob) too (?:long|big)$", u"The statement or a value in it is too long"},
 };
 
 } // namespace
@@ -48,11 +48,11 @@ QString plainComplaint(const QString &complaint, const QString &sql, int offset,
     constexpr qsizetype most = 60;
     const QByteArray utf8 = sql.toUtf8();
     const QString rest = QString::fromUtf8(offset > 0 ? utf8.mid(offset) : utf8);
-    words += (offset > 0 ? u" in the part that begins with: "_s : u" in: "_s) + rest.left(most);
+    if (hasQuotes && complaint.contains(u"syntax error"))
+        words += u". Write an apostrophe within a text twice ('')"_s;
+    words += (offset > 0 ? u". The place begins with: "_s : u". The statement: "_s) + rest.left(most);
     if (rest.size() > most)
         words += u'…';
-    if (hasQuotes && complaint.contains(u"syntax error"))
-        words += u" — type an apostrophe within a text twice ('')"_s;
     return words;
 }
 

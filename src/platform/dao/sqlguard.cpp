@@ -55,9 +55,14 @@ void forgetPattern(void *pattern)
     delete static_cast<jet::LikePattern *>(pattern);
 }
 
+QString statementsAllowed()
+{
+    return u"Only SELECT and UPDATE … SET %1 are carried out."_s.arg(markColumnName);
+}
+
 void refuseEscape(sqlite3_context *context, int, sqlite3_value **)
 {
-    sqlite3_result_error(context, "LIKE knows no ESCAPE; put the character in brackets", -1);
+    sqlite3_result_error(context, "LIKE knows no ESCAPE; put the character in brackets instead", -1);
 }
 
 } // namespace
@@ -119,24 +124,24 @@ QString SqlGuard::objection(int action, const QString &first, const QString &sec
     case SQLITE_SELECT:
         return {};
     case SQLITE_READ:
-        return m_isDeclared(first) ? QString() : u"\"%1\" is not a table of the file"_s.arg(first);
+        return m_isDeclared(first) ? QString() : u"There is no table \"%1\" in the file."_s.arg(first);
     case SQLITE_UPDATE:
         if (run == nullptr || !run->updating)
-            return u"a query changes nothing"_s;
+            return statementsAllowed();
         return second.compare(markColumnName, Qt::CaseInsensitive) == 0
                    ? QString()
-                   : u"only %1 can be changed, not \"%2\""_s.arg(markColumnName).arg(second);
+                   : u"Only %1 can be changed, not \"%2\"."_s.arg(markColumnName).arg(second);
     case SQLITE_FUNCTION:
         return std::any_of(allowedFunctions.begin(), allowedFunctions.end(),
                            [&second](const char16_t *name) {
                                return second.compare(QStringView(name), Qt::CaseInsensitive) == 0;
                            })
                    ? QString()
-                   : u"the function \"%1\" is not available"_s.arg(second);
+                   : u"The function \"%1\" is not available."_s.arg(second);
     case SQLITE_RECURSIVE:
-        return u"a query that calls itself is not carried out"_s;
+        return u"A query that calls itself is not carried out."_s;
     default:
-        return u"only SELECT and the setting of %1 are carried out"_s.arg(markColumnName);
+        return statementsAllowed();
     }
 }
 

@@ -20,16 +20,11 @@ constexpr qint64 mostBytes = 512LL * 1024 * 1024;
 
 } // namespace
 
-QString tablePlace(const QString &file, const QString &table)
-{
-    return u"%1, table \"%2\""_s.arg(file, table);
-}
-
 SqlRun::SqlRun(SqlRun *&current, const QString &place, const Progress &progress)
     : m_current(current), m_place(place), m_progress(progress)
 {
     if (current != nullptr)
-        throw Error(ErrorKind::Refused, place, u"another query of this file is still running; wait for its end"_s);
+        throw Error(ErrorKind::Refused, place, u"Another query of this file is still running. Wait for its end."_s);
     current = this;
 }
 
@@ -54,10 +49,14 @@ bool SqlRun::tick()
 
 void SqlRun::rethrow() const
 {
-    if (m_exception)
-        std::rethrow_exception(m_exception);
+    try {
+        if (m_exception)
+            std::rethrow_exception(m_exception);
+    } catch (const Error &error) {
+        throw Error(error.kind(), error.place().isEmpty() ? m_place : error.place(), error.text());
+    }
     if (m_cancelled)
-        throw Error(ErrorKind::Cancelled, m_place, u"stopped; nothing was changed"_s);
+        throw Error(ErrorKind::Cancelled, m_place, u"The query was stopped. Nothing was changed."_s);
     if (!refusal.isEmpty())
         throw Error(ErrorKind::Refused, m_place, refusal);
 }
@@ -87,15 +86,9 @@ struct SqlSession::Parts {
 /// A prepared statement. Errors of SQLite become ours.
 class SqlSession::Statement {
 public:
-    Statement(Parts &parts, const SqlText &sql, const QString &place) : m_parts(parts), m_sql(sql), m_place(place)
+    Statement(Parts &parts, const QString &adapted, const QString &place)
+        : m_parts(parts), m_adapted(adapted), m_place(place)
     {
-        QStringList known;
-        for (const auto &[name, view] : parts.declared) {
-            known << name;
-            for (const jet::Column &column : view->table()->columns())
-                known << column.name;
-        }
-        m_adapted = sql.adapted(known);
         const QByteArray utf8 = m_adapted.toUtf8();
         const char *tail = nullptr;
         sqlite3_stmt *statement = nullptr;
@@ -105,7 +98,7 @@ public:
         if (code != SQLITE_OK)
             fail(code);
         if (statement == nullptr || tail != utf8.constData() + utf8.size())
-            throw Error(ErrorKind::Refused, m_place, u"only one statement can be carried out"_s);
+            throw Error(ErrorKind::Refused, m_place, u"Only one statement can be carried out."_s);
     }
 
     operator sqlite3_stmt *() const { return m_statement.get(); }
@@ -119,8 +112,6 @@ public:
         return code == SQLITE_ROW;
     }
 
-    void restart() { sqlite3_reset(m_statement.get()); }
-
 private:
     [[noreturn]] void fail(int code) const
     {
@@ -129,17 +120,17 @@ private:
         const QString missingTable = u"no such table: "_s;
         if (complaint.startsWith(missingTable))
             throw Error(ErrorKind::TableNotFound, m_place,
-                        u"there is no table \"%1\""_s.arg(complaint.mid(missingTable.size())));
+                        u"There is no table named \"%1\"."_s.arg(complaint.mid(missingTable.size())));
         if (code == SQLITE_NOMEM)
             throw std::bad_alloc();
-        throw Error(ErrorKind::InvalidSql, m_place,
-                    plainComplaint(complaint, m_adapted, sqlite3_error_offset(m_parts.handle), m_sql.hasQuotes()));
+        throw Error(
+            ErrorKind::InvalidSql, m_place,
+            plainComplaint(complaint, m_adapted, sqlite3_error_offset(m_parts.handle), m_adapted.contains(u'\'')));
     }
 
     Parts &m_parts;
-    const SqlText &m_sql;
-    const QString &m_place;
     QString m_adapted;
+    const QString &m_place;
     struct Finalize {
         void operator()(sqlite3_stmt *statement) const { sqlite3_finalize(statement); }
     };
@@ -157,7 +148,7 @@ SqlSession::SqlSession(std::shared_ptr<Snapshot> snapshot)
         code = registerTableModule(m_parts->handle, &m_parts->module);
     if (code != SQLITE_OK)
         throw Error(ErrorKind::InvalidProcedureCall, place(),
-                    u"the query engine cannot be set up: %1"_s.arg(QString::fromUtf8(sqlite3_errstr(code))));
+                    u"The query engine cannot be set up: %1."_s.arg(QString::fromUtf8(sqlite3_errstr(code))));
 }
 
 SqlSession::~SqlSession() = default;
@@ -182,8 +173,19 @@ void SqlSession::declare(const QString &name)
     parts.guard.watch(parts.handle, true);
     if (code != SQLITE_OK)
         throw Error(ErrorKind::Damaged, tablePlace(place(), name),
-                    u"the table cannot be queried: %1"_s.arg(QString::fromUtf8(sqlite3_errmsg(parts.handle))));
+                    u"The table cannot be queried: %1."_s.arg(QString::fromUtf8(sqlite3_errmsg(parts.handle))));
     parts.declared.emplace(name, std::exchange(parts.module.next, nullptr));
+}
+
+QStringList SqlSession::knownNames() const
+{
+    QStringList known;
+    for (const auto &[name, view] : m_parts->declared) {
+        known << name;
+        for (const jet::Column &column : view->table()->columns())
+            known << column.name;
+    }
+    return known;
 }
 
 std::shared_ptr<TableView> SqlSession::plainView(const SqlText &sql, const Statement &statement,
@@ -200,7 +202,7 @@ std::shared_ptr<TableView> SqlSession::plainView(const SqlText &sql, const State
             return nullptr;
         view = fieldView;
         const QString origin = QString::fromUtf8(sqlite3_column_origin_name(statement, i));
-        // Under another name a column could be meant where its own name does not stand.
+        // Under another name a column could be sorted by or compared.
         const QString name = QString::fromUtf8(sqlite3_column_name(statement, i));
         columns.push_back(view->table()->columnOf(origin));
         if (columns.back() < 0 || name.compare(origin, Qt::CaseInsensitive) != 0)
@@ -210,17 +212,6 @@ std::shared_ptr<TableView> SqlSession::plainView(const SqlText &sql, const State
 }
 
 namespace {
-
-/// The columns that are named behind FROM. All others stand in the field list at most, and only row numbers are kept.
-std::vector<bool> columnsLookedAt(const jet::Table &table, const QStringList &names)
-{
-    std::vector<bool> wanted(table.columns().size(), false);
-    for (const QString &name : names) {
-        if (const int column = table.columnOf(name); column >= 0)
-            wanted[static_cast<std::size_t>(column)] = true;
-    }
-    return wanted;
-}
 
 /// Adds the value's size to `bytes`.
 QVariant cellOf(sqlite3_stmt *statement, int field, bool yesNo, qint64 &bytes)
@@ -253,16 +244,31 @@ QVariant cellOf(sqlite3_stmt *statement, int field, bool yesNo, qint64 &bytes)
 
 } // namespace
 
+/// Runs the statement for the numbers of its rows alone. False where a row delivered is not the one that the table's
+/// cursor stands on, because SQLite had to sort first.
+bool SqlSession::collectRows(const SqlText &sql, QueryResult &result) const
+{
+    Statement statement(*m_parts, sql.adaptedWithoutFields(knownNames()), place());
+    const std::vector<TableCursor *> &cursors = m_parts->run->cursors;
+    while (statement.step()) {
+        if (cursors.size() != 1 || cursors.front()->atEnd() ||
+            sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_SORT, 0) != 0)
+            return false;
+        result.rows.push_back(cursors.front()->row);
+    }
+    return true;
+}
+
 QueryResult SqlSession::query(const QString &text, const Progress &progress)
 {
     const SqlText sql(text, place());
     if (!sql.beginsWith(u"SELECT"))
-        throw Error(ErrorKind::Refused, place(), u"a query must begin with SELECT"_s);
+        throw Error(ErrorKind::Refused, place(), u"A query must begin with SELECT."_s);
     SqlRun run(m_parts->run, place(), progress);
     declareTables(sql);
-    Statement statement(*m_parts, sql, place());
+    Statement statement(*m_parts, sql.adapted(knownNames()), place());
     if (sqlite3_stmt_readonly(statement) == 0)
-        throw Error(ErrorKind::Refused, place(), u"a query changes nothing"_s);
+        throw Error(ErrorKind::Refused, place(), u"A query changes nothing."_s);
     QueryResult result;
     const int fields = sqlite3_column_count(statement);
     std::vector<bool> yesNo;
@@ -277,27 +283,11 @@ QueryResult SqlSession::query(const QString &text, const Progress &progress)
     if (!run.reached(0, 0))
         run.rethrow();
 
-    if (auto view = plainView(sql, statement, result.columns)) {
-        const std::vector<bool> wanted = columnsLookedAt(*view->table(), sql.namesBehindFrom());
-        run.wantedColumns = &wanted;
-        const auto standsOnRow = [&] {
-            return run.cursors.size() == 1 && !run.cursors.front()->atEnd() &&
-                   sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_SORT, 0) == 0;
-        };
-        bool more = statement.step();
-        while (more && standsOnRow()) {
-            result.rows.push_back(run.cursors.front()->row);
-            more = statement.step();
-        }
-        if (!more) {
-            result.view = std::move(view);
-            return result;
-        }
-        run.wantedColumns = nullptr;
-        result.rows.clear();
-        statement.restart();
-    }
-
+    result.view = plainView(sql, statement, result.columns);
+    if (result.view && collectRows(sql, result))
+        return result;
+    result.view.reset();
+    result.rows.clear();
     result.columns.clear();
     qint64 bytes = 0;
     while (statement.step()) {
@@ -305,7 +295,7 @@ QueryResult SqlSession::query(const QString &text, const Progress &progress)
             result.cells.push_back(cellOf(statement, i, yesNo[static_cast<std::size_t>(i)], bytes));
         if (static_cast<qint64>(result.cells.size()) > mostCells || bytes > mostBytes)
             throw Error(ErrorKind::Refused, place(),
-                        u"the result is too large to be sorted or computed; select fewer rows or columns"_s);
+                        u"The result is too large to be sorted or computed. Select fewer rows or columns."_s);
     }
     return result;
 }
@@ -314,13 +304,13 @@ UpdateResult SqlSession::update(const QString &text, const Progress &progress)
 {
     const SqlText sql(text, place());
     if (!sql.beginsWith(u"UPDATE"))
-        throw Error(ErrorKind::Refused, place(), u"only UPDATE … SET %1 is carried out"_s.arg(markColumnName));
+        throw Error(ErrorKind::Refused, place(), u"Only UPDATE … SET %1 is carried out."_s.arg(markColumnName));
     SqlRun run(m_parts->run, place(), progress);
     run.updating = true;
     declareTables(sql);
-    Statement statement(*m_parts, sql, place());
+    Statement statement(*m_parts, sql.adapted(knownNames()), place());
     if (sqlite3_column_count(statement) > 0)
-        throw Error(ErrorKind::Refused, place(), u"an UPDATE delivers no rows"_s);
+        throw Error(ErrorKind::Refused, place(), u"An UPDATE delivers no rows."_s);
     if (!run.reached(0, 0))
         run.rethrow();
     while (statement.step()) {

@@ -15,14 +15,6 @@ namespace kalvenor::dao {
 
 struct TableCursor;
 
-/// The one column that statements may change.
-inline constexpr QStringView markColumnName = u"Markierung";
-/// The key that tells whose mark it is.
-inline constexpr QStringView keyColumnName = u"Counter";
-
-/// "file, table name", as errors name their place.
-QString tablePlace(const QString &file, const QString &table);
-
 /// What a SELECT gave: row numbers of one table, or values.
 struct QueryResult {
     QStringList names{};
@@ -58,9 +50,7 @@ public:
     /// Throws what was kept, Cancelled, or Refused.
     void rethrow() const;
 
-    QString refusal{}; ///< what the authorizer objected to
-    /// Set while only row numbers are wanted: the columns that the statement itself looks at.
-    const std::vector<bool> *wantedColumns = nullptr;
+    QString refusal{};                    ///< what the authorizer objected to
     std::vector<TableCursor *> cursors{}; ///< the open ones
     bool updating = false;
     UpdateResult update{};
@@ -96,9 +86,11 @@ private:
     const QString &place() const { return m_snapshot->database()->file(); }
     void declareTables(const SqlText &sql);
     void declare(const QString &name);
+    QStringList knownNames() const;
     /// Where each row of the result is a row of one table: that table and, for each field, its column.
     std::shared_ptr<TableView> plainView(const SqlText &sql, const Statement &statement,
                                          std::vector<int> &columns) const;
+    bool collectRows(const SqlText &sql, QueryResult &result) const;
 
     struct Parts;
     std::shared_ptr<Snapshot> m_snapshot;

@@ -111,10 +111,10 @@ SqlText::SqlText(const QString &sql, const QString &place) : m_text(sql)
     const auto seam = std::find_if(m_tokens.begin(), m_tokens.end(), isSemicolon);
     if (seam != m_tokens.end())
         throw Error(ErrorKind::Refused, place,
-                    u"only one statement can be carried out; a second one begins at \"%1\""_s.arg(
+                    u"Only one statement can be carried out; a second one begins at %1"_s.arg(
                         excerpt(m_text, seam->start + 1).trimmed()));
     if (m_tokens.empty())
-        throw Error(ErrorKind::InvalidSql, place, u"the statement is empty"_s);
+        throw Error(ErrorKind::InvalidSql, place, u"The statement is empty."_s);
 }
 
 void SqlText::cut(const QString &place)
@@ -132,13 +132,8 @@ void SqlText::cut(const QString &place)
         if (c == u'\'' || c == u'"' || c == u'`' || c == u'[') {
             kind = c == u'\'' ? Token::Kind::Text : Token::Kind::Name;
             end = endOfQuoted(text, at, c == u'[' ? QChar(u']') : c);
-            if (end < 0 && kind == Token::Kind::Text)
-                throw Error(ErrorKind::InvalidSql, place,
-                            u"the search text that begins at \"%1\" is not closed; type an apostrophe within a text "
-                            u"twice ('')"_s.arg(excerpt(text, at)));
             if (end < 0)
-                throw Error(ErrorKind::InvalidSql, place,
-                            u"the name that begins at \"%1\" is not closed"_s.arg(excerpt(text, at)));
+                failUnclosed(at, kind == Token::Kind::Text, place);
         } else if (beginsWord(c)) {
             kind = Token::Kind::Word;
             while (end < text.size() && (beginsWord(text[end]) || isDigit(text[end]) || text[end] == u'$'))
@@ -148,15 +143,33 @@ void SqlText::cut(const QString &place)
             end = endOfNumber(text, at);
         } else if ((c == u'-' && next == u'-') || (c == u'/' && next == u'*')) {
             throw Error(ErrorKind::InvalidSql, place,
-                        u"\"%1%2\" is not understood; there are no comments in a statement"_s.arg(c).arg(next));
+                        u"The signs %1%2 are not understood; there are no comments in a statement."_s.arg(c).arg(next));
         } else if (!QStringView(u"+-*/%&|~<>=!(),.;").contains(c)) {
             throw Error(ErrorKind::InvalidSql, place,
-                        c.isPrint() ? u"the sign \"%1\" is not understood at \"%2\""_s.arg(c).arg(excerpt(text, at))
-                                    : u"the statement holds a control character"_s);
+                        c.isPrint() ? u"The sign %1 is not understood at %2"_s.arg(c).arg(excerpt(text, at))
+                                    : u"The statement holds a control character."_s);
         }
         m_tokens.push_back({kind, at, end - at});
         at = end;
     }
+}
+
+void SqlText::failUnclosed(qsizetype at, bool isText, const QString &place) const
+{
+    if (!isText)
+        throw Error(ErrorKind::InvalidSql, place,
+                    u"The name that begins at %1 is not closed."_s.arg(excerpt(m_text, at)));
+    // An apostrophe within a text ended it; what is left of it stands directly behind.
+    for (std::size_t i = 1; i < m_tokens.size(); ++i) {
+        const Token &before = m_tokens[i - 1];
+        if (before.kind == Token::Kind::Text && before.start + before.length == m_tokens[i].start) {
+            at = before.start;
+            break;
+        }
+    }
+    throw Error(ErrorKind::InvalidSql, place,
+                u"The search text that begins at %1 is not closed. Write an apostrophe within a text twice ('')."_s.arg(
+                    excerpt(m_text, at)));
 }
 
 bool SqlText::isWord(std::size_t token, QStringView word) const
@@ -172,11 +185,6 @@ bool SqlText::isSign(std::size_t token, QStringView sign) const
 bool SqlText::beginsWith(QStringView word) const
 {
     return isWord(0, word);
-}
-
-bool SqlText::hasQuotes() const
-{
-    return m_text.contains(u'\'');
 }
 
 QString SqlText::nameOf(const Token &token) const
@@ -199,17 +207,12 @@ QStringList SqlText::names() const
     return names;
 }
 
-QStringList SqlText::namesBehindFrom() const
+std::size_t SqlText::indexOf(QStringView word) const
 {
-    QStringList names;
     std::size_t i = 0;
-    while (i < m_tokens.size() && !isWord(i, u"FROM"))
+    while (i < m_tokens.size() && !isWord(i, word))
         ++i;
-    for (; i < m_tokens.size(); ++i) {
-        if (m_tokens[i].kind == Token::Kind::Word || m_tokens[i].kind == Token::Kind::Name)
-            names.append(nameOf(m_tokens[i]));
-    }
-    return names;
+    return i;
 }
 
 bool SqlText::deliversPlainRows() const
@@ -223,8 +226,11 @@ bool SqlText::deliversPlainRows() const
         }
         if (isWord(i, u"SELECT"))
             ++selects;
+        if (m_tokens[i].kind == Token::Kind::Number && i > indexOf(u"ORDER") &&
+            (isWord(i - 1, u"BY") || isSign(i - 1, u",")))
+            return false;
     }
-    return selects == 1 && beginsWith(u"SELECT");
+    return selects == 1 && beginsWith(u"SELECT") && indexOf(u"FROM") < m_tokens.size();
 }
 
 /// The word stands behind `column =`, `column <>` …
@@ -239,10 +245,20 @@ bool SqlText::followsComparison(std::size_t token) const
 
 QString SqlText::adapted(const QStringList &known) const
 {
+    return adaptedFrom(0, known);
+}
+
+QString SqlText::adaptedWithoutFields(const QStringList &known) const
+{
+    return u"SELECT NULL "_s + adaptedFrom(indexOf(u"FROM"), known);
+}
+
+QString SqlText::adaptedFrom(std::size_t first, const QStringList &known) const
+{
     QString result;
     result.reserve(m_text.size() + 16);
-    qsizetype copied = 0;
-    for (std::size_t i = 0; i < m_tokens.size(); ++i) {
+    qsizetype copied = first < m_tokens.size() ? m_tokens[first].start : m_text.size();
+    for (std::size_t i = first; i < m_tokens.size(); ++i) {
         const Token &token = m_tokens[i];
         result += QStringView(m_text).mid(copied, token.start - copied);
         copied = token.start + token.length;

@@ -22,17 +22,17 @@ public:
     bool beginsWith(QStringView word) const;
     /// All that may name a table, column or function, without quotes and brackets.
     QStringList names() const;
-    /// Those of names() that stand behind the first FROM.
-    QStringList namesBehindFrom() const;
-    bool hasQuotes() const;
-    /// A single SELECT that neither joins, groups, combines nor drops equal rows: each row of its result is a row of
-    /// one table, in the moment when it is delivered.
+    /// A single SELECT … FROM that neither joins, groups, combines nor drops equal rows: each row of its result is a
+    /// row of one table, in the moment when it is delivered. Nor does it sort by the number of a field.
     bool deliversPlainRows() const;
 
     /// The statement for SQLite: a blank between a number and a letter directly behind it; a bare word that is one of
     /// `known` (without regard to case) and would not be understood as a name is quoted; a column compared with or set
     /// to True gets -1, as Yes/No columns hold it.
     QString adapted(const QStringList &known) const;
+    /// The same with NULL for the field list: for one who needs to know which rows, not what stands in them. Only for
+    /// statements that deliver plain rows.
+    QString adaptedWithoutFields(const QStringList &known) const;
 
 private:
     struct Token {
@@ -46,6 +46,10 @@ private:
     bool isSign(std::size_t token, QStringView sign) const;
     bool followsComparison(std::size_t token) const;
     QString nameOf(const Token &token) const;
+    std::size_t indexOf(QStringView word) const;
+    /// What stands for the tokens from `first` on.
+    QString adaptedFrom(std::size_t first, const QStringList &known) const;
+    [[noreturn]] void failUnclosed(qsizetype at, bool isText, const QString &place) const;
 
     QString m_text;
     std::vector<Token> m_tokens; ///< without blanks and the semicolons at the end

@@ -2,9 +2,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/dao/tableview.h"
 
+#include "platform/basic/error.h"
 #include "platform/dao/generalorder.h"
 
 namespace kalvenor::dao {
+
+using namespace Qt::StringLiterals;
+
+QString tablePlace(const QString &file, const QString &table)
+{
+    return u"%1, table %2"_s.arg(file, table);
+}
+
+int keyColumnOf(const jet::Table &table)
+{
+    const QString place = tablePlace(table.image().file(), table.name());
+    const int column = table.columnOf(keyColumnName);
+    if (column < 0)
+        throw Error(ErrorKind::NotMarkable, place,
+                    u"Marks cannot be set: the table has no column %1 that tells its rows apart."_s.arg(keyColumnName));
+    if (table.columns()[static_cast<std::size_t>(column)].type != jet::ColumnType::Long)
+        throw Error(ErrorKind::NotMarkable, place,
+                    u"Marks cannot be set: the column %1 does not hold whole numbers (Long)."_s.arg(keyColumnName));
+    return column;
+}
 
 jet::ColumnType TableView::typeOf(int column) const
 {
@@ -72,6 +93,25 @@ std::shared_ptr<TableView> Snapshot::view(const QString &name)
     if (!view)
         view = std::make_shared<TableView>(table);
     return view;
+}
+
+std::vector<quint32> Snapshot::write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
+                                     const Progress &progress)
+{
+    auto writer = m_writers.find({&view, markColumn});
+    if (writer == m_writers.end())
+        writer = m_writers
+                     .emplace(std::pair(&view, markColumn),
+                              jet::MarkWriter(m_database, view.table(), markColumn, keyColumnOf(*view.table())))
+                     .first;
+    try {
+        std::vector<quint32> changed = writer->second.write(marks, progress);
+        view.flipMarks(markColumn, changed);
+        return changed;
+    } catch (...) {
+        view.forgetMarks(markColumn);
+        throw;
+    }
 }
 
 } // namespace kalvenor::dao

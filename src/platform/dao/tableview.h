@@ -5,11 +5,22 @@
 #include "platform/dao/bits.h"
 #include "platform/dao/longindex.h"
 #include "platform/jet/database.h"
+#include "platform/jet/markwriter.h"
 #include <map>
 #include <memory>
 #include <vector>
 
 namespace kalvenor::dao {
+
+/// The one column that is ever changed, and the key that tells whose mark it is.
+inline constexpr QStringView markColumnName = u"Markierung";
+inline constexpr QStringView keyColumnName = u"Counter";
+
+/// "file, table name", as errors name their place.
+QString tablePlace(const QString &file, const QString &table);
+
+/// The key column of a table whose marks can be set. Throws NotMarkable.
+int keyColumnOf(const jet::Table &table);
 
 /// A table with what speeds its queries up, each made at its first use: indexes, orders and marks. For one thread.
 class TableView {
@@ -49,10 +60,15 @@ public:
     const std::shared_ptr<jet::Database> &database() const { return m_database; }
     /// Throws TableNotFound or Damaged.
     std::shared_ptr<TableView> view(const QString &name);
+    /// Writes marks and keeps the view's marks right, also where writing fails half-way. Returns the rows that changed.
+    /// Throws NotMarkable, and as jet::MarkWriter::write.
+    std::vector<quint32> write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
+                               const Progress &progress);
 
 private:
     std::shared_ptr<jet::Database> m_database;
-    std::map<QString, std::shared_ptr<TableView>> m_views; ///< by the catalogue's spelling
+    std::map<QString, std::shared_ptr<TableView>> m_views;                  ///< by the catalogue's spelling
+    std::map<std::pair<const TableView *, int>, jet::MarkWriter> m_writers; ///< by view and mark column
 };
 
 } // namespace kalvenor::dao

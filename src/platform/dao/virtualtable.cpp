@@ -376,9 +376,7 @@ int column(sqlite3_vtab_cursor *base, sqlite3_context *context, int index)
         // An UPDATE asks for all columns; for those that it does not set, nothing is to be given.
         if (sqlite3_vtab_nochange(context))
             return SQLITE_OK;
-        const std::vector<bool> *wanted = runOf(base->pVtab).wantedColumns;
-        if (wanted == nullptr || (*wanted)[static_cast<std::size_t>(index)])
-            giveValue(context, *static_cast<TableCursor *>(base), index);
+        giveValue(context, *static_cast<TableCursor *>(base), index);
         return SQLITE_OK;
     });
 }
@@ -397,7 +395,7 @@ bool truthOf(sqlite3_value *value, const QString &place)
     const QStringView text = type == SQLITE_TEXT ? textOf(value) : QStringView();
     const bool on = text.compare(u"true", Qt::CaseInsensitive) == 0;
     if (!on && text.compare(u"false", Qt::CaseInsensitive) != 0)
-        throw Error(ErrorKind::TypeMismatch, place, u"%1 can only be set to 0 or -1"_s.arg(markColumnName));
+        throw Error(ErrorKind::TypeMismatch, place, u"%1 can only be set to 0 or -1."_s.arg(markColumnName));
     return on;
 }
 
@@ -408,16 +406,17 @@ int change(sqlite3_vtab *base, int count, sqlite3_value **arguments, sqlite3_int
         SqlRun &run = runOf(base);
         const QString place = tablePlace(table.view->table()->image().file(), table.view->table()->name());
         if (!run.updating || count == 1 || sqlite3_value_type(arguments[0]) == SQLITE_NULL)
-            throw Error(ErrorKind::Refused, place, u"rows are never inserted or deleted"_s);
+            throw Error(ErrorKind::Refused, place, u"Rows are never inserted or deleted."_s);
         const sqlite3_int64 row = sqlite3_value_int64(arguments[0]);
         if (sqlite3_value_int64(arguments[1]) != row || row < 0 || row >= table.view->table()->rowCount())
-            throw Error(ErrorKind::Refused, place, u"a row's number cannot be changed"_s);
+            throw Error(ErrorKind::Refused, place, u"A row's number cannot be changed."_s);
         for (int i = 2; i < count; ++i) {
             if (i - 2 != table.markColumn && !sqlite3_value_nochange(arguments[i]))
-                throw Error(ErrorKind::Refused, place, u"only %1 can be changed"_s.arg(markColumnName));
+                throw Error(ErrorKind::Refused, place, u"Only %1 can be changed."_s.arg(markColumnName));
         }
         if (table.markColumn < 0 || table.view->typeOf(table.markColumn) != jet::ColumnType::Boolean)
-            throw Error(ErrorKind::NotMarkable, place, u"the table has no Yes/No column %1"_s.arg(markColumnName));
+            throw Error(ErrorKind::NotMarkable, place,
+                        u"Marks cannot be set: the table has no Yes/No column %1."_s.arg(markColumnName));
         run.update.view = table.view;
         run.update.markColumn = table.markColumn;
         run.update.marks.push_back({static_cast<std::uint32_t>(row), truthOf(arguments[2 + table.markColumn], place)});
