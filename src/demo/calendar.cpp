@@ -16,15 +16,20 @@ constexpr bool isLeap(int year)
     return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
 }
 
+constexpr int daysOf(int year)
+{
+    return isLeap(year) ? 366 : 365;
+}
+
 /// Day numbers of 1 January of each year.
 constexpr auto yearStarts = [] {
     std::array<int, lastYear - firstYear + 2> starts{};
-    starts[1900 - firstYear] = 2;
-    for (int year = 1901; year <= lastYear + 1; ++year)
-        starts[std::size_t(year - firstYear)] =
-            starts[std::size_t(year - firstYear - 1)] + (isLeap(year - 1) ? 366 : 365);
-    for (int year = 1899; year >= firstYear; --year)
-        starts[std::size_t(year - firstYear)] = starts[std::size_t(year - firstYear + 1)] - (isLeap(year) ? 366 : 365);
+    constexpr std::size_t epoch = 1900 - firstYear;
+    starts[epoch] = 2;
+    for (std::size_t i = epoch + 1; i < starts.size(); ++i)
+        starts[i] = starts[i - 1] + daysOf(firstYear + static_cast<int>(i) - 1);
+    for (std::size_t i = epoch; i > 0; --i)
+        starts[i - 1] = starts[i] - daysOf(firstYear + static_cast<int>(i) - 1);
     return starts;
 }();
 

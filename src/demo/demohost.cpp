@@ -38,7 +38,7 @@ void writeFile(const QString &path, const QByteArray &bytes)
 QByteArray settingOf(const QString &nativePath)
 {
     const QString path = windowsPath(nativePath);
-    const QByteArray bytes = encodeAnsi(path);
+    QByteArray bytes = encodeAnsi(path);
     if (decodeAnsi(bytes) != path)
         throw Error(ErrorKind::Refused, nativePath,
                     QStringLiteral("The host's settings file cannot hold this path: it has characters outside "
