@@ -152,7 +152,7 @@ quint64 Database::generation() const
 
 QStringList Database::warnings() const
 {
-    return d->open().snapshot()->database()->warnings();
+    return d->open().snapshot()->warnings();
 }
 
 const std::vector<std::shared_ptr<Recordset>> &Database::recordsets() const

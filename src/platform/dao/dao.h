@@ -17,7 +17,7 @@ namespace kalvenor::dao {
 /// What an UPDATE did.
 struct Execution {
     qint64 matched = 0;                ///< rows the statement selected
-    std::vector<qint32> changedKeys{}; ///< `Counter` of the rows whose mark really changed, in file order
+    std::vector<qint32> changedKeys{}; ///< `Counter` of the rows whose mark really changed, in row order
 };
 
 class Database : public std::enable_shared_from_this<Database> {

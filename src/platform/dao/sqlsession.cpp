@@ -309,8 +309,6 @@ UpdateResult SqlSession::update(const QString &text, const Progress &progress)
     run.updating = true;
     declareTables(sql);
     Statement statement(*m_parts, sql.adapted(knownNames()), place());
-    if (sqlite3_column_count(statement) > 0)
-        throw Error(ErrorKind::Refused, place(), u"An UPDATE delivers no rows."_s);
     if (!run.reached(0, 0))
         run.rethrow();
     while (statement.step()) {

@@ -4,6 +4,7 @@
 
 #include "platform/basic/error.h"
 #include "platform/dao/generalorder.h"
+#include <algorithm>
 
 namespace kalvenor::dao {
 
@@ -95,6 +96,16 @@ std::shared_ptr<TableView> Snapshot::view(const QString &name)
     return view;
 }
 
+QStringList Snapshot::warnings() const
+{
+    QStringList lines = m_database->warnings();
+    for (const auto &[name, view] : m_views) {
+        for (const QString &line : view->table()->warnings())
+            lines << tablePlace(m_database->file(), name) + u": "_s + line;
+    }
+    return lines;
+}
+
 std::vector<quint32> Snapshot::write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
                                      const Progress &progress)
 {
@@ -107,6 +118,7 @@ std::vector<quint32> Snapshot::write(TableView &view, int markColumn, std::span<
     try {
         std::vector<quint32> changed = writer->second.write(marks, progress);
         view.flipMarks(markColumn, changed);
+        std::sort(changed.begin(), changed.end()); // within a page, rows lie from its end to its beginning
         return changed;
     } catch (...) {
         view.forgetMarks(markColumn);

@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "family.h"
+
+namespace kalvenor::test {
+
+namespace {
+
+const QString Daten = QStringLiteral("Daten");
+const QString AllPersons = QStringLiteral("SELECT * FROM Daten");
+
+TEST_F(Family, OpensTablesByNameWithoutCaseButWithTheirBlanks)
+{
+    EXPECT_EQ(database->tableNames().size(), 21);
+    EXPECT_TRUE(database->tableNames().contains(QStringLiteral("Adressen_DS ")));
+    EXPECT_EQ(database->openTable(QStringLiteral("dATEN"))->recordCount(), 8);
+    EXPECT_EQ(database->openTable(QStringLiteral("Adressen_DS "))->recordCount(), 1);
+    QString message;
+    for (const char *name : {"Adressen_DS", "Daten ", "Nichts", ""}) {
+        EXPECT_EQ(errorOf([&] { (void)database->openTable(QString::fromUtf8(name)); }, &message),
+                  ErrorKind::TableNotFound)
+            << name;
+        EXPECT_TRUE(message.contains(file)) << message.toStdString();
+    }
+}
+
+TEST_F(Family, WalksFromTheFirstRowBehindTheLast)
+{
+    const auto table = database->openTable(Daten);
+    QList<int> counters;
+    for (; !table->eof(); table->moveNext())
+        counters << table->integer(0).value_or(0);
+    EXPECT_EQ(counters, (QList<int>{10, 20, 30, 40, 50, 60, 70, 80}));
+    EXPECT_EQ(errorOf([&] { (void)table->text(1); }), ErrorKind::NoCurrentRow);
+    EXPECT_EQ(errorOf([&] { table->moveNext(); }), ErrorKind::NoCurrentRow);
+    table->moveTo(6);
+    EXPECT_EQ(table->integer(0), 70);
+    table->moveTo(-1);
+    EXPECT_EQ(errorOf([&] { (void)table->integer(0); }), ErrorKind::NoCurrentRow);
+    table->moveFirst();
+    EXPECT_EQ(table->integer(0), 10);
+    EXPECT_EQ(errorOf([&] { (void)table->integer(13); }), ErrorKind::ColumnNotFound);
+
+    const auto none = database->openQuery(QStringLiteral("SELECT * FROM Daten WHERE Counter = 5"));
+    EXPECT_TRUE(none->eof());
+    EXPECT_EQ(none->recordCount(), 0);
+    EXPECT_EQ(errorOf([&] { (void)none->integer(0); }), ErrorKind::NoCurrentRow);
+}
+
+TEST_F(Family, SeeksByKey)
+{
+    const auto table = database->openTable(Daten);
+    EXPECT_EQ(errorOf([&] { table->seekEqual(10); }), ErrorKind::IndexNotFound);
+    EXPECT_EQ(errorOf([&] { table->setIndex(QStringLiteral("Name")); }), ErrorKind::IndexNotFound);
+    table->setIndex(QStringLiteral("COUNTER"));
+    for (const auto &[key, name] :
+         {std::pair(50, "MÜLLER, Bert"), std::pair(10, "zu Berg, Karl"), std::pair(80, "Muth, Ida")}) {
+        table->seekEqual(key);
+        EXPECT_FALSE(table->noMatch()) << key;
+        EXPECT_EQ(table->text(1), QString::fromUtf8(name));
+    }
+    for (const int key : {0, 9, 11, 81, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
+        table->seekEqual(key);
+        EXPECT_TRUE(table->noMatch()) << key;
+        EXPECT_EQ(errorOf([&] { (void)table->text(1); }), ErrorKind::NoCurrentRow) << key;
+    }
+    const auto query = database->openQuery(AllPersons);
+    EXPECT_EQ(errorOf([&] { query->seekEqual(10); }), ErrorKind::Refused);
+    EXPECT_EQ(errorOf([&] { query->edit(); }), ErrorKind::Refused);
+}
+
+TEST_F(Family, SeeksFarApartKeys)
+{
+    persons.clear();
+    const int keys[] = {2147483647, -2147483647 - 1, 0, 1900000000, -7};
+    for (const int key : keys)
+        persons.push_back({.counter = key, .listname = QString::number(key)});
+    writeFamily(file, persons);
+    const auto table = database->openTable(Daten);
+    table->setIndex(QStringLiteral("Counter"));
+    for (const int key : keys) {
+        table->seekEqual(key);
+        ASSERT_FALSE(table->noMatch()) << key;
+        EXPECT_EQ(table->integer(0), key);
+    }
+    table->seekEqual(1);
+    EXPECT_TRUE(table->noMatch());
+    EXPECT_EQ(numbers(QStringLiteral("SELECT Counter FROM Daten ORDER BY Counter")),
+              (QList<int>{-2147483647 - 1, -7, 0, 1900000000, 2147483647}));
+}
+
+TEST_F(Family, ClosesFromTheInsideOut)
+{
+    dao::Workspace &workspace = engine.workspace(engine.createWorkspace());
+    const auto other = workspace.openDatabase(file);
+    const auto table = other->openTable(Daten);
+    const auto query = other->openQuery(AllPersons);
+    EXPECT_EQ(other->recordsets().size(), 2U);
+    query->close();
+    query->close();
+    EXPECT_EQ(other->recordsets().size(), 1U);
+    engine.closeWorkspace(1);
+    EXPECT_EQ(engine.workspaceCount(), 1);
+    EXPECT_FALSE(table->isOpen());
+    EXPECT_FALSE(other->isOpen());
+    EXPECT_TRUE(other->recordsets().empty());
+    other->close();
+
+    EXPECT_TRUE(database->isOpen());
+    engine.closeWorkspace(0);
+    EXPECT_EQ(engine.workspaceCount(), 1);
+    EXPECT_FALSE(database->isOpen());
+    EXPECT_TRUE(engine.workspace(0).databases().empty());
+    EXPECT_EQ(errorOf([&] { (void)engine.workspace(1); }), ErrorKind::Subscript);
+    EXPECT_TRUE(engine.workspace(0).openDatabase(file)->isOpen());
+}
+
+TEST_F(Family, RefusesUseAfterClosing)
+{
+    const auto table = database->openTable(Daten);
+    const auto query = database->openQuery(AllPersons);
+    database->close();
+    const std::function<void()> uses[] = {
+        [&] { (void)database->tableNames(); },
+        [&] { (void)database->openTable(Daten); },
+        [&] { (void)database->openQuery(AllPersons); },
+        [&] { (void)database->execute(QStringLiteral("UPDATE Daten SET Markierung = 0")); },
+        [&] { (void)database->refresh(); },
+        [&] { (void)database->warnings(); },
+        [&] { (void)query->recordCount(); },
+        [&] { (void)query->eof(); },
+        [&] { query->moveFirst(); },
+        [&] { (void)query->text(0); },
+        [&] { (void)query->fieldIndex(QStringLiteral("Counter")); },
+        [&] { (void)query->rows(); },
+        [&] { table->setIndex(QStringLiteral("Counter")); },
+        [&] { table->seekEqual(1); },
+        [&] { table->edit(); },
+        [&] { (void)table->update(); },
+    };
+    int number = 0;
+    for (const auto &use : uses)
+        EXPECT_EQ(errorOf(use), ErrorKind::ObjectClosed) << number++;
+}
+
+TEST_F(Family, DropsQueriesThatNobodyHolds)
+{
+    const auto held = database->openQuery(AllPersons);
+    (void)database->openTable(Daten); // stays open though nobody holds it
+    for (int i = 0; i < 5; ++i)
+        (void)database->openQuery(AllPersons);
+    EXPECT_EQ(database->recordsets().size(), 3U);
+    EXPECT_EQ(held->recordCount(), 8);
+}
+
+TEST_F(Family, SeesWhatAnotherProgramChanged)
+{
+    const auto before =
+        database->openQuery(QStringLiteral("SELECT * FROM Daten WHERE Markierung = -1 ORDER BY Listname"));
+    const auto table = database->openTable(Daten);
+    table->setIndex(QStringLiteral("Counter"));
+    EXPECT_FALSE(database->refresh());
+    const quint64 generation = database->generation();
+
+    persons.erase(persons.begin());
+    persons.push_back({.counter = 90, .listname = QStringLiteral("Neu, Nina"), .marked = true});
+    writeFamily(file, persons);
+    EXPECT_TRUE(database->refresh());
+    EXPECT_FALSE(database->refresh());
+    EXPECT_EQ(database->generation(), generation + 1);
+    EXPECT_EQ(marked(), (QList<int>{40, 60, 90}));
+    // What was opened before keeps its rows and values …
+    EXPECT_EQ(before->recordCount(), 3);
+    before->moveTo(2);
+    EXPECT_EQ(before->text(1), QStringLiteral("zu Berg, Karl"));
+    // … and a table goes over at the next seek.
+    table->seekEqual(90);
+    ASSERT_FALSE(table->noMatch());
+    EXPECT_EQ(table->text(1), QStringLiteral("Neu, Nina"));
+
+    markElsewhere(60, false); // without a refresh: the next query looks by itself
+    EXPECT_EQ(marked(), (QList<int>{40, 90}));
+    EXPECT_EQ(database->generation(), generation + 2);
+}
+
+} // namespace
+
+} // namespace kalvenor::test

@@ -1,0 +1,269 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "family.h"
+#include "platform/jet/creator.h"
+
+namespace kalvenor::test {
+
+namespace {
+
+struct Case {
+    const char *sql;
+    QList<int> counters; ///< `Counter` or the first field
+};
+
+TEST_F(Family, AnswersTheStatementsOfTheProgram)
+{
+    const Case cases[] = {
+        {"SELECT * FROM Daten WHERE Markierung = 0 ORDER BY Listname;", {70, 20, 50, 80, 30}},
+        {"SELECT * FROM Daten WHERE Markierung = 0 ORDER BY Listname ;", {70, 20, 50, 80, 30}},
+        {"Select * FROM Daten WHERE Markierung = -1 ORDER BY Listname ;", {60, 40, 10}},
+        {"SELECT Counter FROM Daten WHERE Markierung = -1 ;", {10, 40, 60}},
+        {"SELECT Counter FROM Daten WHERE Vater = 10 ;", {20, 40}},
+        {"SELECT Counter FROM Daten WHERE Mutter = 30 ;", {20}},
+        {"SELECT Counter FROM Daten WHERE Mutter = -5 ;", {}},
+        {"SELECT * FROM Daten WHERE Listname LIKE '**'  AND Markierung = 0 ORDER BY Listname;", {70, 20, 50, 80, 30}},
+        {"SELECT * FROM Daten WHERE Listname LIKE '*müller*' AND Geschlecht = 'M'  AND Markierung = 0 ORDER BY "
+         "Listname;",
+         {50}},
+        // A day number directly followed by the word of the next clause.
+        {"SELECT * FROM Daten WHERE Listname LIKE '**'   AND Sterbedatum >= -80000AND sterbedatum <= 40000 AND "
+         "Markierung = 0 ORDER BY Listname;",
+         {30}},
+        {"SELECT * FROM Daten WHERE Listname LIKE '**'   AND geaendert >= 38500AND geaendert <= 39500 AND Markierung = "
+         "0 "
+         "ORDER BY Listname;",
+         {50}},
+        // The marked text lets a date outside the range pass; null does not.
+        {"SELECT * FROM Daten WHERE Listname LIKE '**' AND ( Geburt_XX = 'XXX_______' OR Geburtsdatum >= -620910 )  "
+         "AND ( "
+         "Geburt_XX = 'XXX_______' OR geburtsdatum <= 767011 )  AND Markierung = 0 ORDER BY Listname;",
+         {70, 20, 50}},
+        {"SELECT * FROM Daten WHERE Listname LIKE '**'   AND Geburtsdatum >= -620911 AND Geburtsdatum <= 18263 AND "
+         "Markierung = -1 ORDER BY Listname;",
+         {40, 10}},
+        {"SELECT Counter FROM [Adressen_DS ]", {1}},
+    };
+    for (const Case &row : cases)
+        EXPECT_EQ(numbers(QString::fromUtf8(row.sql)), row.counters) << row.sql;
+}
+
+TEST_F(Family, AnswersOtherQueriesAsSqlSays)
+{
+    const Case cases[] = {
+        {"select COUNTER from DATEN where LISTNAME = 'weiss, EVA  '", {30}}, // General equality
+        {"SELECT Counter FROM Daten WHERE Listname LIKE 'mu[a-z]*'", {80}},
+        {"SELECT Counter FROM Daten WHERE Listname LIKE '%'", {}},
+        {"SELECT Counter FROM Daten WHERE NOT Listname LIKE '*[elr], *'", {10, 30, 40, 70, 80}},
+        {"SELECT Counter FROM Daten WHERE Listname LIKE 'O''Brien*'", {40}},
+        {"SELECT Counter FROM Daten WHERE vnamen LIKE Null", {}},
+        {"SELECT Counter FROM Daten WHERE Geburt_XX LIKE '*'", {50}}, // null is not like anything
+        {"SELECT Counter FROM Daten WHERE NOT Geburt_XX LIKE 'a*'", {50}},
+        {"SELECT Counter FROM Daten WHERE Listname LIKE 'M*' AND Listname LIKE '*a'", {20, 80}},
+        {"SELECT Counter FROM Daten WHERE Counter = 30", {30}},
+        {"SELECT Counter FROM Daten WHERE Counter = '30' AND Markierung = 0", {30}},
+        {"SELECT Counter FROM Daten WHERE Counter = 30.5", {}},
+        {"SELECT Counter FROM Daten WHERE Counter = 99999999999", {}},
+        {"SELECT Counter FROM Daten WHERE Counter IN (80, 30, 30, 5) ORDER BY Counter", {30, 80}},
+        {"SELECT Counter FROM Daten WHERE Counter = Null", {}},
+        {"SELECT Counter FROM Daten WHERE Markierung = True", {10, 40, 60}},
+        {"SELECT Counter FROM Daten WHERE Markierung <> False AND Vater = 10", {40}},
+        {"SELECT Counter FROM Daten WHERE Markierung = 5", {}},
+        {"SELECT Counter FROM Daten WHERE Vater = 10 OR Mutter = 30 OR Counter = 80 ORDER BY Listname", {20, 80, 40}},
+        {"SELECT Counter FROM Daten WHERE Vater = 10 OR Vater = 10", {20, 40}},
+        {"SELECT Counter FROM Daten ORDER BY Listname DESC LIMIT 2", {10, 30}},
+        {"SELECT Counter FROM Daten ORDER BY Geburtsdatum, Counter LIMIT 2 OFFSET 3", {40, 50}},
+        {"SELECT Counter FROM Daten ORDER BY 1 DESC LIMIT 1", {80}},
+        {"SELECT Markierung, Counter FROM Daten ORDER BY 1, 2 LIMIT 1", {-1}},
+        {"SELECT Counter AS Listname FROM Daten ORDER BY Listname LIMIT 2", {10, 20}}, // by the alias
+        {"SELECT Vater AS v FROM Daten WHERE v > 10", {40}},
+        {"SELECT count(*) FROM Daten WHERE Geschlecht = 'w'", {3}},
+        {"SELECT count(*) FROM Daten GROUP BY Geschlecht ORDER BY 1", {3, 5}}, // M and m are one
+        {"SELECT max(Counter) FROM Daten GROUP BY Markierung", {60, 80}},
+        {"SELECT Vater FROM Daten GROUP BY Vater", {0, 10, 40}},
+        {"SELECT DISTINCT Vater FROM Daten ORDER BY Vater", {0, 10, 40}},
+        {"SELECT k.Counter FROM Daten k, Daten v WHERE k.Vater = v.Counter ORDER BY k.Listname", {20, 80, 40}},
+        {"SELECT Counter FROM (SELECT * FROM Daten ORDER BY Listname LIMIT 3) WHERE Markierung = 0", {70, 20}},
+        {"SELECT Counter FROM Daten WHERE Counter IN (SELECT Vater FROM Daten)", {10, 40}},
+        {"SELECT 7", {7}},
+    };
+    for (const Case &row : cases)
+        EXPECT_EQ(numbers(QString::fromUtf8(row.sql)), row.counters) << row.sql;
+}
+
+TEST_F(Family, KeepsRowNumbersUnlessItMustSort)
+{
+    const struct {
+        const char *sql;
+        bool rows;
+    } cases[] = {
+        {"SELECT * FROM Daten WHERE Markierung = 0 ORDER BY Listname;", true},
+        {"SELECT Listname, counter FROM Daten", true},
+        {"SELECT * FROM Daten WHERE Vater = 10 OR Mutter = 30", true},
+        {"SELECT * FROM Daten ORDER BY Geburtsdatum, Counter", false},
+        {"SELECT Counter + 1 FROM Daten", false},
+        {"SELECT a.Counter FROM Daten a, Daten b", false},
+        {"SELECT Listname FROM Daten GROUP BY Listname", false},
+    };
+    for (const auto &row : cases) {
+        const auto result = database->openQuery(QString::fromUtf8(row.sql));
+        EXPECT_EQ(result->table() != nullptr, row.rows) << row.sql;
+        EXPECT_EQ(result->rows().size(), row.rows ? static_cast<std::size_t>(result->recordCount()) : 0) << row.sql;
+    }
+}
+
+TEST_F(Family, GivesFieldsByNameWithoutCase)
+{
+    for (const char *sql :
+         {"SELECT * FROM Daten WHERE Counter = 10", "SELECT * FROM Daten ORDER BY Counter * -1 DESC"}) {
+        const auto rows = database->openQuery(QString::fromUtf8(sql));
+        EXPECT_EQ(rows->text(rows->fieldIndex(QStringLiteral("LISTNAME"))), QStringLiteral("zu Berg, Karl")) << sql;
+        EXPECT_EQ(rows->integer(rows->fieldIndex(QStringLiteral("geburtsdatum"))), 18263) << sql;
+        EXPECT_EQ(rows->number(rows->fieldIndex(QStringLiteral("markierung"))), -1.0) << sql;
+        EXPECT_TRUE(rows->boolean(rows->fieldIndex(QStringLiteral("Markierung")))) << sql;
+        EXPECT_EQ(rows->value(QStringLiteral("Markierung")), QVariant(true)) << sql;
+        EXPECT_FALSE(rows->value(QStringLiteral("Geburt_XX")).isValid()) << sql;
+        EXPECT_EQ(rows->text(rows->fieldIndex(QStringLiteral("geburt_xx"))), QString()) << sql;
+        EXPECT_FALSE(rows->integer(1)) << sql; // a text is no number
+        EXPECT_EQ(errorOf([&] { (void)rows->value(QStringLiteral("Nachname")); }), ErrorKind::ColumnNotFound) << sql;
+    }
+}
+
+TEST(Query, QuotesColumnsThatAreWordsOfSql)
+{
+    QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("Ereignis.mdb"));
+    jet::Creator creator;
+    using T = jet::ColumnType;
+    auto &table = creator.addTable(QStringLiteral("Français"), {{.name = QStringLiteral("Index"), .type = T::Long},
+                                                                {.name = QStringLiteral("Größe"), .type = T::Long},
+                                                                {.name = QStringLiteral("Art"), .type = T::Text}});
+    table.addRow({jet::NewValue(3), jet::NewValue(5), jet::NewValue(QStringLiteral("Taufe Index"))});
+    table.addRow({jet::NewValue(1), jet::NewValue(7), jet::NewValue(QStringLiteral("Geburt"))});
+    table.addRow({jet::NewValue(), jet::NewValue(6), jet::NewValue()});
+    creator.write(file);
+    dao::Engine engine;
+    const auto database = engine.workspace(0).openDatabase(file);
+    const Case cases[] = {
+        {"SELECT * FROM Français ORDER BY Index;", {-1, 1, 3}},
+        {"select * from FRANÇAIS where INDEX > 0 order by GRÖßE;", {3, 1}},
+        {"SELECT Index FROM [Français] WHERE Art = 'taufe index' AND [Index] = 3", {3}},
+    };
+    for (const Case &row : cases) {
+        QList<int> found;
+        for (const auto rows = database->openQuery(QString::fromUtf8(row.sql)); !rows->eof(); rows->moveNext())
+            found << rows->integer(rows->fieldIndex(QStringLiteral("index"))).value_or(-1);
+        EXPECT_EQ(found, row.counters) << row.sql;
+    }
+}
+
+TEST_F(Family, SortsManyNamesAsTheirKeysCompare)
+{
+    // Same beginnings of many lengths, and equal names, which keep the order of the file.
+    persons.clear();
+    const QStringList ends{QString(),           QStringLiteral("a"), QStringLiteral("-a"), QStringLiteral("'a"),
+                           QStringLiteral("ä"), QStringLiteral("A"), QStringLiteral("Ω"),  QStringLiteral(" ")};
+    for (int i = 0; i < 600; ++i) {
+        const QString start = QStringLiteral("Schulze von der Heide").left(i * 7 % 22);
+        persons.push_back({.counter = i, .listname = start + ends[i % ends.size()] + ends[i / 8 % ends.size()]});
+    }
+    writeFamily(file, persons);
+    const QList<int> found = numbers(QStringLiteral("SELECT Counter FROM Daten ORDER BY Listname"));
+    QList<int> expected = numbers(QStringLiteral("SELECT Counter FROM Daten"));
+    std::stable_sort(expected.begin(), expected.end(), [this](int a, int b) {
+        return jet::compareGeneral(persons[static_cast<std::size_t>(a)].listname,
+                                   persons[static_cast<std::size_t>(b)].listname) < 0;
+    });
+    EXPECT_EQ(found.size(), 600);
+    EXPECT_EQ(found, expected);
+}
+
+TEST_F(Family, RefusesWhatIsNoPlainQuery)
+{
+    const struct {
+        const char *sql;
+        ErrorKind kind;
+        const char *says;
+    } cases[] = {
+        {"SELECT * FROM Daten; DELETE FROM Daten", ErrorKind::Refused, "DELETE FROM Daten"},
+        {"SELECT * FROM Daten;;SELECT 1;", ErrorKind::Refused, "second"},
+        {"INSERT INTO Daten (Counter) VALUES (1)", ErrorKind::Refused, "SELECT"},
+        {"DELETE FROM Daten", ErrorKind::Refused, "SELECT"},
+        {"UPDATE Daten SET Markierung = 0", ErrorKind::Refused, "SELECT"},
+        {"DROP TABLE Daten", ErrorKind::Refused, "SELECT"},
+        {"ATTACH '/tmp/x' AS x", ErrorKind::Refused, "SELECT"},
+        {"PRAGMA writable_schema = 1", ErrorKind::Refused, "SELECT"},
+        {"BEGIN", ErrorKind::Refused, "SELECT"},
+        {"EXPLAIN SELECT * FROM Daten", ErrorKind::Refused, "SELECT"},
+        {"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT i FROM n", ErrorKind::Refused,
+         "SELECT"},
+        {"SELECT i FROM (WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT i FROM n)",
+         ErrorKind::Refused, "itself"},
+        {"SELECT load_extension('x')", ErrorKind::Refused, "load_extension"},
+        {"SELECT randomblob(100000000)", ErrorKind::Refused, "randomblob"},
+        {"SELECT Counter FROM Daten WHERE Listname GLOB '*'", ErrorKind::Refused, "glob"},
+        {"SELECT * FROM sqlite_master", ErrorKind::Refused, "sqlite_master"},
+        {"SELECT * FROM pragma_database_list", ErrorKind::Refused, "Only"},
+        {"SELECT * FROM jet", ErrorKind::TableNotFound, "jet"},
+        {"SELECT * FROM MSysObjects", ErrorKind::TableNotFound, "MSysObjects"},
+        {"SELECT * FROM Adressen_DS", ErrorKind::TableNotFound, "Adressen_DS"}, // the blank counts
+        {"SELECT Nachname FROM Daten", ErrorKind::InvalidSql, "Nachname"},
+        {"SELECT \"M\" FROM Daten", ErrorKind::InvalidSql, "M"},
+        {"SELECT * FROM Daten WHERE Listname LIKE '*O'Brien*' AND Markierung = 0", ErrorKind::InvalidSql,
+         "'*O'Brien*' AND"},
+        {"SELECT * FROM Daten WHERE Listname LIKE 'O'Bri'en'", ErrorKind::InvalidSql, "twice"},
+        {"SELECT * FROM Daten WHERE Listname LIKE '*' -- AND Markierung = 0", ErrorKind::InvalidSql, "--"},
+        {"SELECT * FROM Daten /* alle", ErrorKind::InvalidSql, "/*"},
+        {"SELECT * FROM Daten WHERE Counter = ?", ErrorKind::InvalidSql, "?"},
+        {"SELECT * FROM [Daten", ErrorKind::InvalidSql, "[Daten"},
+        {"SELECT * FROM Daten WHERE", ErrorKind::InvalidSql, "too early"},
+        {"SELECT * FROM Daten WHERE AND", ErrorKind::InvalidSql, "\"AND\""},
+        {" ; ", ErrorKind::InvalidSql, "empty"},
+        {"SELECT * FROM Daten WHERE Listname LIKE '[a'", ErrorKind::InvalidPattern, "[a"},
+        {"SELECT * FROM Daten WHERE NOT Listname LIKE '*[z-a]'", ErrorKind::InvalidPattern, "[z-a]"},
+        {"SELECT * FROM Daten WHERE Listname LIKE 'a' ESCAPE 'b'", ErrorKind::InvalidSql, "ESCAPE"},
+    };
+    for (const auto &row : cases) {
+        QString message;
+        EXPECT_EQ(errorOf([&] { (void)database->openQuery(QString::fromUtf8(row.sql)); }, &message), row.kind)
+            << row.sql;
+        EXPECT_TRUE(message.contains(QString::fromUtf8(row.says))) << row.sql << ": " << message.toStdString();
+        EXPECT_TRUE(message.contains(file)) << row.sql << ": " << message.toStdString();
+    }
+    EXPECT_EQ(errorOf([&] { (void)database->openQuery(QStringLiteral("SELECT 1") + QChar(u'\0') + u'x'); }),
+              ErrorKind::InvalidSql);
+    EXPECT_EQ(marked(), (QList<int>{10, 40, 60}));
+}
+
+TEST_F(Family, StopsWhereTheWatcherWishes)
+{
+    persons.clear();
+    for (int i = 0; i < 20000; ++i)
+        persons.push_back({.counter = i + 1, .listname = QString::number(i)});
+    writeFamily(file, persons);
+    for (const char *sql : {"SELECT * FROM Daten WHERE Listname LIKE '*x*'", "SELECT * FROM Daten ORDER BY Listname",
+                            "SELECT count(*) FROM Daten a, Daten b"}) {
+        for (const int calls : {1, 2}) {
+            int left = calls;
+            EXPECT_EQ(errorOf([&] {
+                          (void)database->openQuery(QString::fromUtf8(sql), [&](qint64, qint64) { return --left > 0; });
+                      }),
+                      ErrorKind::Cancelled)
+                << sql;
+            EXPECT_EQ(left, 0) << sql;
+        }
+    }
+    // A watcher that begins another query, or throws, does no harm.
+    EXPECT_EQ(errorOf([&] {
+                  (void)database->openQuery(QStringLiteral("SELECT * FROM Daten"), [&](qint64, qint64) {
+                      (void)database->openQuery(QStringLiteral("SELECT 1"));
+                      return true;
+                  });
+              }),
+              ErrorKind::Refused);
+    EXPECT_EQ(numbers(QStringLiteral("SELECT count(*) FROM Daten")), QList<int>{20000});
+}
+
+} // namespace
+
+} // namespace kalvenor::test
