@@ -27,7 +27,7 @@ TEST(Alterszeile, LeavesOutEightCharactersOfLongNames)
 {
     const QString name = "123456789-123456789-123456789-123456789-12ABCDEFGHrest";
     EXPECT_EQ(alterszeile(365, name), "  1.0  123456789-123456789-123456789-123456789-12 rest");
-    EXPECT_EQ(alterszeile(365, "Abel, Anna"), "  1.0  Abel, Anna ");
+    EXPECT_EQ(alterszeile(365, u"Abel, Anna"), "  1.0  Abel, Anna ");
 }
 
 namespace {
