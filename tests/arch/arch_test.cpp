@@ -37,7 +37,8 @@ TEST(Arch, SourceTreeKeepsItsRules)
                         QDir::Files, QDirIterator::Subdirectories);
         while (it.hasNext()) {
             const QString path = it.next();
-            for (const QString &fault : violations(table, top.relativeFilePath(path), readText(path)))
+            const bool hasHeader = path.endsWith(u".cpp") && QFile::exists(path.chopped(4) + u".h"_qs);
+            for (const QString &fault : violations(table, top.relativeFilePath(path), readText(path), hasHeader))
                 ADD_FAILURE() << qPrintable(fault);
             ++files;
         }
@@ -97,6 +98,18 @@ TEST(Arch, CheckerSeesViolations)
         EXPECT_EQ(found.isEmpty(), *c.fault == '\0') << qPrintable(found);
         EXPECT_TRUE(found.contains(QLatin1String(c.fault))) << qPrintable(found);
     }
+}
+
+TEST(Arch, CheckerSeesThatAHeaderIsNotTheFirst)
+{
+    const RoomTable table = rooms();
+    const QString path = u"src/platform/jet/like.cpp"_qs;
+    const QString own = u"#include \"platform/jet/like.h\"\n"_qs;
+    const QString other = u"#include <vector>\n"_qs;
+    EXPECT_TRUE(violations(table, path, head + own + other, true).isEmpty());
+    EXPECT_TRUE(violations(table, path, head + other, false).isEmpty());
+    EXPECT_EQ(violations(table, path, head + other + own, true).size(), 1);
+    EXPECT_EQ(violations(table, path, head, true).size(), 1);
 }
 
 TEST(Arch, TableCannotHoldACycle)

@@ -4,6 +4,7 @@
 
 #include <QRegularExpression>
 #include <stdexcept>
+#include <utility>
 
 namespace kalvenor::arch {
 namespace {
@@ -59,7 +60,7 @@ RoomTable readRoomTable(QStringView text)
     return rooms;
 }
 
-QStringList violations(const RoomTable &rooms, const QString &path, QStringView text)
+QStringList violations(const RoomTable &rooms, const QString &path, QStringView text, bool hasHeader)
 {
     static const QRegularExpression include(uR"(^\s*#\s*include\s*([<"])([^>"]+)[>"])"_qs);
     static const QRegularExpression systemHeader(
@@ -90,6 +91,8 @@ QStringList violations(const RoomTable &rooms, const QString &path, QStringView 
         !lines[head + 1].contains(QLatin1String("SPDX-License-Identifier: GPL-3.0-or-later")))
         report(head + 1, u"the two-line SPDX header is missing"_qs);
 
+    const QString ownHeader = path.mid(path.indexOf(u'/') + 1).chopped(4) + u".h"_qs;
+    bool ownHeaderDue = hasHeader && path.endsWith(u".cpp");
     for (qsizetype i = 0; i < lines.size(); ++i) {
         if (const auto match = forbidden.match(lines[i]); match.hasMatch())
             report(i + 1, u"forbidden word \"%1\""_qs.arg(match.captured()));
@@ -99,6 +102,8 @@ QStringList violations(const RoomTable &rooms, const QString &path, QStringView 
         if (!match.hasMatch())
             continue;
         const QString header = match.captured(2);
+        if (std::exchange(ownHeaderDue, false) && header != ownHeader)
+            report(i + 1, u"the first include must be \"%1\""_qs.arg(ownHeader));
         if (!mayCallSystem && systemHeader.match(header).hasMatch())
             report(i + 1, u"<%1> belongs to src/platform"_qs.arg(header));
         if (!room.isEmpty()) {
@@ -106,6 +111,8 @@ QStringList violations(const RoomTable &rooms, const QString &path, QStringView 
                 report(i + 1, fault);
         }
     }
+    if (ownHeaderDue)
+        report(1, u"does not include \"%1\""_qs.arg(ownHeader));
     return found;
 }
 

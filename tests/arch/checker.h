@@ -16,7 +16,8 @@ using RoomTable = std::map<QString, QStringList>;
 /// Reads rooms.txt. Throws std::runtime_error for a line that is none or names a room that does not stand above it.
 RoomTable readRoomTable(QStringView text);
 
-/// One line "path:line: what is wrong" for each violation; empty where all is well.
-QStringList violations(const RoomTable &rooms, const QString &path, QStringView text);
+/// One line "path:line: what is wrong" for each violation; empty where all is well. `hasHeader`: a header of the same
+/// name lies beside this source, which must include it before all else (that proves the header self-contained).
+QStringList violations(const RoomTable &rooms, const QString &path, QStringView text, bool hasHeader = false);
 
 } // namespace kalvenor::arch
