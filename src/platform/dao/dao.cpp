@@ -95,12 +95,36 @@ std::shared_ptr<Recordset> Database::openQuery(const QString &sql, const Progres
 
 Execution Database::execute(const QString &sql, const Progress &progress)
 {
+    return writeMarks([&](SqlSession &session) { return session.update(sql, progress); }, progress);
+}
+
+Execution Database::setMarks(const QString &table, std::span<const qint32> keys, bool value, const Progress &progress)
+{
+    const auto collect = [&](SqlSession &session) {
+        UpdateResult update{session.snapshot()->view(table)};
+        const jet::Table &rows = *update.view->table();
+        update.markColumn = rows.columnOf(markColumnName);
+        if (update.markColumn < 0)
+            throw Error(ErrorKind::ColumnNotFound, tablePlace(d->file, table),
+                        u"There is no column %1."_s.arg(markColumnName));
+        const LongIndex &index = update.view->index(keyColumnOf(rows));
+        for (const qint32 key : keys) {
+            for (const quint32 row : index.rows(key))
+                update.marks.push_back({row, value});
+        }
+        return update;
+    };
+    return writeMarks(collect, progress);
+}
+
+Execution Database::writeMarks(const std::function<UpdateResult(SqlSession &)> &collect, const Progress &progress)
+{
     d->reloadIfStale();
     Execution execution;
     std::unordered_set<qint32> before; // changed by a first attempt that another program's change ended
     for (bool again = false;; again = true) {
         const std::shared_ptr<SqlSession> session = d->session;
-        const UpdateResult update = session->update(sql, progress);
+        const UpdateResult update = collect(*session);
         d->open();
         execution.matched = static_cast<qint64>(update.marks.size());
         if (update.marks.empty())

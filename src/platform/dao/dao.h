@@ -8,11 +8,15 @@
 #include <memory>
 #include <optional>
 #include <QString>
+#include <span>
 #include <vector>
 
 // The database objects the program works with: an engine with workspaces, a workspace with databases, a database with
 // recordsets. Whoever holds an object keeps it alive; once closed, every use throws Error(ObjectClosed).
 namespace kalvenor::dao {
+
+class SqlSession;
+struct UpdateResult;
 
 /// What an UPDATE did.
 struct Execution {
@@ -40,6 +44,9 @@ public:
     std::shared_ptr<Recordset> openQuery(const QString &sql, const Progress &progress = {});
     /// Executes one UPDATE that sets `Markierung`. Throws as openQuery, and as jet::MarkWriter::write.
     Execution execute(const QString &sql, const Progress &progress = {});
+    /// Sets `Markierung` of the rows with these `Counter` values, as Edit and Update would one by one; keys that the
+    /// table does not hold are passed over. Throws TableNotFound, ColumnNotFound, and as jet::MarkWriter::write.
+    Execution setMarks(const QString &table, std::span<const qint32> keys, bool value, const Progress &progress = {});
 
     /// Reads the file anew where another program changed it. True where it did. Open recordsets keep their state.
     bool refresh();
@@ -56,6 +63,9 @@ public:
 private:
     friend class Recordset;
     friend class Workspace;
+    /// Writes what `collect` finds in the present state of the file; where another program changed it meanwhile, reads
+    /// it anew and does both once more.
+    Execution writeMarks(const std::function<UpdateResult(SqlSession &)> &collect, const Progress &progress);
     std::unique_ptr<Private> d;
 };
 

@@ -245,16 +245,31 @@ QVariant cellOf(sqlite3_stmt *statement, int field, bool yesNo, qint64 &bytes)
 } // namespace
 
 /// Runs the statement for the numbers of its rows alone. False where a row delivered is not the one that the table's
-/// cursor stands on, because SQLite had to sort first.
+/// cursor stands on, because SQLite had to sort first. A plain order is applied afterwards: filters then read the rows
+/// one behind the other, as they lie in memory.
 bool SqlSession::collectRows(const SqlText &sql, QueryResult &result) const
 {
-    Statement statement(*m_parts, sql.adaptedWithoutFields(knownNames()), place());
+    const QString order = sql.finalOrder();
+    const int orderColumn = order.isEmpty() ? -1 : result.view->table()->columnOf(order);
+    const bool ordersLater =
+        orderColumn >= 0 && (result.view->isText(orderColumn) || result.view->isWhole(orderColumn));
+    Statement statement(*m_parts, sql.adaptedForRows(knownNames(), !ordersLater), place());
     const std::vector<TableCursor *> &cursors = m_parts->run->cursors;
     while (statement.step()) {
         if (cursors.size() != 1 || cursors.front()->atEnd() ||
             sqlite3_stmt_status(statement, SQLITE_STMTSTATUS_SORT, 0) != 0)
             return false;
         result.rows.push_back(cursors.front()->row);
+    }
+    if (ordersLater && result.rows.size() > 1) {
+        Bits found(result.view->table()->rowCount());
+        for (const quint32 row : result.rows)
+            found.set(row, true);
+        result.rows.clear();
+        for (const quint32 row : result.view->order(orderColumn)) {
+            if (found.test(row))
+                result.rows.push_back(row);
+        }
     }
     return true;
 }

@@ -245,20 +245,30 @@ bool SqlText::followsComparison(std::size_t token) const
 
 QString SqlText::adapted(const QStringList &known) const
 {
-    return adaptedFrom(0, known);
+    return adapted(0, m_tokens.size(), known);
 }
 
-QString SqlText::adaptedWithoutFields(const QStringList &known) const
+QString SqlText::adaptedForRows(const QStringList &known, bool ordered) const
 {
-    return u"SELECT NULL "_s + adaptedFrom(indexOf(u"FROM"), known);
+    return u"SELECT NULL "_s + adapted(indexOf(u"FROM"), ordered ? m_tokens.size() : indexOf(u"ORDER"), known);
 }
 
-QString SqlText::adaptedFrom(std::size_t first, const QStringList &known) const
+QString SqlText::finalOrder() const
+{
+    const std::size_t order = indexOf(u"ORDER");
+    const std::size_t end = m_tokens.size() - (isWord(m_tokens.size() - 1, u"ASC") ? 1 : 0);
+    if (order + 3 != end || !isWord(order + 1, u"BY"))
+        return {};
+    const Token &column = m_tokens[order + 2];
+    return column.kind == Token::Kind::Word || column.kind == Token::Kind::Name ? nameOf(column) : QString();
+}
+
+QString SqlText::adapted(std::size_t first, std::size_t last, const QStringList &known) const
 {
     QString result;
     result.reserve(m_text.size() + 16);
     qsizetype copied = first < m_tokens.size() ? m_tokens[first].start : m_text.size();
-    for (std::size_t i = first; i < m_tokens.size(); ++i) {
+    for (std::size_t i = first; i < last; ++i) {
         const Token &token = m_tokens[i];
         result += QStringView(m_text).mid(copied, token.start - copied);
         copied = token.start + token.length;

@@ -30,9 +30,11 @@ public:
     /// `known` (without regard to case) and would not be understood as a name is quoted; a column compared with or set
     /// to True gets -1, as Yes/No columns hold it.
     QString adapted(const QStringList &known) const;
-    /// The same with NULL for the field list: for one who needs to know which rows, not what stands in them. Only for
-    /// statements that deliver plain rows.
-    QString adaptedWithoutFields(const QStringList &known) const;
+    /// The same with NULL for the field list, and without `ORDER BY finalOrder()`: for one who needs to know which
+    /// rows, not what stands in them, and orders them himself. Only for statements that deliver plain rows.
+    QString adaptedForRows(const QStringList &known, bool ordered) const;
+    /// The column that the statement ends with sorting by, ascending and by nothing else; else empty.
+    QString finalOrder() const;
 
 private:
     struct Token {
@@ -47,8 +49,8 @@ private:
     bool followsComparison(std::size_t token) const;
     QString nameOf(const Token &token) const;
     std::size_t indexOf(QStringView word) const;
-    /// What stands for the tokens from `first` on.
-    QString adaptedFrom(std::size_t first, const QStringList &known) const;
+    /// What stands for the tokens from `first` to before `last`.
+    QString adapted(std::size_t first, std::size_t last, const QStringList &known) const;
     [[noreturn]] void failUnclosed(qsizetype at, bool isText, const QString &place) const;
 
     QString m_text;
