@@ -86,7 +86,8 @@ int runMark(const QString &programFolder, const MarkCommand &command)
                            .arg(started.program.host.Familienpfad, numbers(unknown)));
             return Failed;
         }
-        changed = selection::markPersons(databases, command.counters, command.mark, terminal.progress()).size();
+        changed =
+            selection::markPersons(databases, command.counters, command.mark, {}, terminal.progress()).changed.size();
     }
     printLine(QStringLiteral("%1 rows changed").arg(changed));
     return Done;

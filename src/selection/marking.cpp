@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/marking.h"
 
+#include "data/person.h"
+#include <deque>
+#include <unordered_set>
+
 namespace kalvenor::selection {
 
 namespace {
@@ -12,27 +16,120 @@ dao::Recordset &personTable(data::Datenbankmodul &databases)
     return *databases.Datentabelle;
 }
 
+/// Finds the direct line of persons. Each person is found once.
+class RelativesWalk {
+public:
+    RelativesWalk(data::Datenbankmodul &databases, std::span<const qint32> starts)
+        : m_databases(databases), m_persons(personTable(databases)), m_columns(m_persons),
+          m_found(starts.begin(), starts.end()), m_starts(starts)
+    {
+    }
+
+    /// Adds the descendants or the ancestors. False once the limit is reached.
+    bool addChildren() { return add(&RelativesWalk::childrenOf); }
+    bool addParents() { return add(&RelativesWalk::parentsOf); }
+    const std::vector<qint32> &relatives() const { return m_relatives; }
+
+private:
+    using Kin = std::vector<qint32> (RelativesWalk::*)(qint32);
+
+    bool add(Kin kin);
+    std::vector<qint32> childrenOf(qint32 counter);
+    std::vector<qint32> parentsOf(qint32 counter);
+    bool seek(qint32 counter)
+    {
+        m_persons.seekEqual(counter);
+        return !m_persons.noMatch();
+    }
+
+    data::Datenbankmodul &m_databases;
+    dao::Recordset &m_persons;
+    data::PersonColumns m_columns;
+    std::unordered_set<qint32> m_found;
+    std::span<const qint32> m_starts;
+    std::vector<qint32> m_relatives;
+};
+
+bool RelativesWalk::add(Kin kin)
+{
+    // Who was walked through here; a person found in the other direction is still walked through in this one.
+    std::unordered_set<qint32> walked(m_starts.begin(), m_starts.end());
+    std::deque<qint32> waiting(m_starts.begin(), m_starts.end());
+    while (!waiting.empty()) {
+        const qint32 person = waiting.front();
+        waiting.pop_front();
+        for (const qint32 relative : (this->*kin)(person)) {
+            if (!walked.insert(relative).second || !seek(relative))
+                continue;
+            waiting.push_back(relative);
+            if (!m_found.insert(relative).second)
+                continue;
+            m_relatives.push_back(relative);
+            if (m_relatives.size() == RelativesLimit)
+                return false;
+        }
+    }
+    return true;
+}
+
+std::vector<qint32> RelativesWalk::childrenOf(qint32 counter)
+{
+    if (!seek(counter))
+        return {};
+    const QString parent =
+        m_persons.text(m_columns.Geschlecht) == u"W" ? QStringLiteral("Mutter") : QStringLiteral("Vater");
+    const auto children = m_databases.Familiendatenbank->openQuery(
+        QStringLiteral("SELECT Counter FROM Daten WHERE %1 = %2 ;").arg(parent).arg(counter));
+    const int field = children->fieldIndex(QStringLiteral("Counter"));
+    std::vector<qint32> counters;
+    for (; !children->eof(); children->moveNext()) {
+        if (const auto child = children->integer(field))
+            counters.push_back(*child);
+    }
+    children->close();
+    return counters;
+}
+
+std::vector<qint32> RelativesWalk::parentsOf(qint32 counter)
+{
+    std::vector<qint32> counters;
+    if (seek(counter)) {
+        for (const int column : {m_columns.Vater, m_columns.Mutter}) {
+            if (const auto parent = m_persons.integer(column); parent && *parent != 0)
+                counters.push_back(*parent);
+        }
+    }
+    return counters;
+}
+
 } // namespace
 
-std::vector<qint32> markPersons(data::Datenbankmodul &databases, std::span<const qint32> counters, bool marked,
-                                const Progress &progress)
+MarkingResult markPersons(data::Datenbankmodul &databases, std::span<const qint32> counters, bool marked,
+                          Relatives relatives, const Progress &progress)
 {
-    dao::Recordset &persons = personTable(databases);
-    std::vector<qint32> changed;
-    qint64 done = 0;
-    for (const qint32 counter : counters) {
-        if (progress && !progress(done++, static_cast<qint64>(counters.size())))
-            throw Error(ErrorKind::Cancelled, {},
-                        QStringLiteral("Stopped; %1 persons were changed before.").arg(changed.size()));
-        persons.seekEqual(counter);
+    RelativesWalk walk(databases, counters);
+    MarkingResult result;
+    if (relatives.children)
+        result.limitReached = !walk.addChildren();
+    if (relatives.parents && !result.limitReached)
+        result.limitReached = !walk.addParents();
+
+    std::vector<qint32> all(counters.begin(), counters.end());
+    all.insert(all.end(), walk.relatives().begin(), walk.relatives().end());
+    if (all.size() == 1) {
+        // One person goes the way of the host's own add-ins: seek, edit, update.
+        dao::Recordset &persons = personTable(databases);
+        persons.seekEqual(all.front());
         if (persons.noMatch())
-            continue;
+            return result;
         persons.edit();
         persons.setValue(QStringLiteral("markierung"), marked);
         if (persons.update())
-            changed.push_back(counter);
+            result.changed = all;
+        return result;
     }
-    return changed;
+    result.changed = databases.Familiendatenbank->setMarks(QStringLiteral("Daten"), all, marked, progress).changedKeys;
+    return result;
 }
 
 std::vector<qint32> unknownPersons(data::Datenbankmodul &databases, std::span<const qint32> counters)

@@ -3,7 +3,9 @@
 #include "selection/marking.h"
 
 #include "selection/listquery.h"
+#include "selection/markhistory.h"
 #include "support/startedprogram.h"
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace kalvenor;
@@ -40,7 +42,7 @@ TEST(MarkPersons, ChangesThoseThatDiffer)
     data::Datenbankmodul &databases = started.program.databases;
     const std::vector<qint32> wanted{9, 5, 77, 1};
     EXPECT_EQ(unknownPersons(databases, wanted), std::vector<qint32>{77});
-    EXPECT_EQ(markPersons(databases, wanted, true), (std::vector<qint32>{9, 1}));
+    EXPECT_EQ(markPersons(databases, wanted, true).changed, (std::vector<qint32>{1, 9}));
     const auto marked = databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked));
     EXPECT_EQ(marked->recordCount(), 3);
 
@@ -51,12 +53,102 @@ TEST(MarkPersons, ChangesThoseThatDiffer)
     EXPECT_EQ(other.databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Unmarked))->recordCount(), 0);
 }
 
+namespace {
+
+/// Great-grandparents to children: 1 ∞ 2 → 3 ∞ 4 → 5, 6 (5 is a woman) → 7, 8; 9 is a stranger, 10 its own father.
+std::vector<test::TestPerson> family()
+{
+    return {{.counter = 1, .listname = "Urgroßvater", .sex = "M"},
+            {.counter = 2, .listname = "Urgroßmutter", .sex = "W"},
+            {.counter = 3, .listname = "Großvater", .sex = "", .father = 1, .mother = 2},
+            {.counter = 4, .listname = "Großmutter", .sex = "W"},
+            {.counter = 5, .listname = "Mutter", .sex = "W", .father = 3, .mother = 4},
+            {.counter = 6, .listname = "Onkel", .sex = "M", .father = 3, .mother = 4},
+            {.counter = 7, .listname = "Kind", .sex = "W", .father = 999, .mother = 5},
+            {.counter = 8, .listname = "Kind des Onkels", .sex = "M", .father = 6},
+            {.counter = 9, .listname = "Fremder", .sex = "M"},
+            {.counter = 10, .listname = "Schleife", .sex = "M", .father = 10, .mother = 10}};
+}
+
+} // namespace
+
+TEST(MarkPersons, TakesTheDirectLineAlong)
+{
+    const struct {
+        qint32 person;
+        Relatives relatives;
+        std::vector<qint32> marked;
+    } rows[] = {
+        {5, {}, {5}},
+        {3, {.children = true}, {3, 5, 6, 7, 8}},
+        {4, {.children = true}, {4, 5, 6, 7, 8}},
+        {5, {.children = true}, {5, 7}},
+        {7, {.parents = true}, {1, 2, 3, 4, 5, 7}},
+        {5, {.children = true, .parents = true}, {1, 2, 3, 4, 5, 7}},
+        {10, {.children = true, .parents = true}, {10}},
+        {77, {.children = true}, {}},
+    };
+    test::StartedProgram started(family());
+    for (const auto &row : rows) {
+        const std::vector<qint32> person{row.person};
+        auto changed = markPersons(started.program.databases, person, true, row.relatives).changed;
+        std::sort(changed.begin(), changed.end());
+        EXPECT_EQ(changed, row.marked) << row.person;
+        markPersons(started.program.databases, changed, false);
+    }
+}
+
+TEST(MarkPersons, EndsTheWalkAtTheThousandthRelative)
+{
+    for (const int relatives : {999, 1000, 1500}) {
+        std::vector<test::TestPerson> persons{{.counter = 1, .listname = "Vater"}};
+        for (qint32 i = 0; i < relatives; ++i)
+            persons.push_back({.counter = 2 + i, .listname = "Kind", .father = 1});
+        test::StartedProgram started(persons);
+        const std::vector<qint32> start{1};
+        const MarkingResult result = markPersons(started.program.databases, start, true, {.children = true});
+        EXPECT_EQ(result.limitReached, relatives >= 1000) << relatives;
+        EXPECT_EQ(result.changed.size(), static_cast<std::size_t>(std::min(relatives, 1000) + 1)) << relatives;
+    }
+}
+
+TEST(MarkHistory, RestoresExactlyTheRowsThatChanged)
+{
+    auto persons = family();
+    persons[8].marked = true;
+    test::StartedProgram started(persons);
+    data::Datenbankmodul &databases = started.program.databases;
+    const auto marked = [&] {
+        const auto rows = databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked));
+        std::vector<qint32> counters;
+        for (; !rows->eof(); rows->moveNext())
+            counters.push_back(rows->value("Counter").toInt());
+        std::sort(counters.begin(), counters.end());
+        return counters;
+    };
+
+    MarkHistory history;
+    history.record({});
+    EXPECT_FALSE(history.canUndo());
+    // Person 9 is marked already, so taking the step back must leave it so.
+    history.record({.marked = markPersons(databases, std::vector<qint32>{8, 9}, true).changed, .unmarked = {}});
+    history.record({.marked = {}, .unmarked = markPersons(databases, std::vector<qint32>{9}, false).changed});
+    EXPECT_EQ(marked(), std::vector<qint32>{8});
+    history.undo(databases);
+    EXPECT_EQ(marked(), (std::vector<qint32>{8, 9}));
+    history.undo(databases);
+    EXPECT_EQ(marked(), std::vector<qint32>{9});
+    history.redo(databases);
+    EXPECT_EQ(marked(), (std::vector<qint32>{8, 9}));
+    history.record({.marked = markPersons(databases, std::vector<qint32>{1}, true).changed, .unmarked = {}});
+    EXPECT_FALSE(history.canRedo());
+}
+
 TEST(MarkPersons, StopsWhenAsked)
 {
-    test::StartedProgram started({{.counter = 1, .listname = "A"}, {.counter = 2, .listname = "B"}});
+    test::StartedProgram started(family());
     const std::vector<qint32> wanted{1, 2};
-    EXPECT_THROW(markPersons(started.program.databases, wanted, true, [](qint64 done, qint64) { return done < 1; }),
-                 Error);
+    EXPECT_THROW(markPersons(started.program.databases, wanted, true, {}, [](qint64, qint64) { return false; }), Error);
     EXPECT_EQ(started.program.databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked))->recordCount(),
-              1);
+              0);
 }
