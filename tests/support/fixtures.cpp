@@ -60,9 +60,13 @@ void addTable(jet::Creator &creator, const TestTable &table)
     std::vector<NewColumn> columns = table.columns;
     columns.insert(columns.begin(), column("Counter"));
     auto &added = creator.addTable(table.name, columns, counterIndex());
-    for (std::vector<NewValue> row : table.rows) {
-        row.insert(row.begin(), NewValue(static_cast<std::int32_t>(added.rowCount() + 1)));
-        added.addRow(row);
+    std::vector<NewValue> withCounter;
+    for (const std::vector<NewValue> &row : table.rows) {
+        withCounter.clear();
+        withCounter.emplace_back(static_cast<std::int32_t>(added.rowCount() + 1));
+        for (const NewValue &value : row)
+            withCounter.push_back(value);
+        added.addRow(withCounter);
     }
 }
 

@@ -166,7 +166,11 @@ void IndexEntries::appendKey(const Column &column, const NewValue &value, const 
         appendBigEndian(ascendingBits(load<std::uint64_t>(fixed)), m_prepared);
         break;
     case ColumnType::Text:
-        appendGeneralKey(std::get<QString>(value), m_prepared, Unlisted::Refused);
+        try {
+            appendGeneralKey(std::get<QString>(value), m_prepared, Unlisted::Refused);
+        } catch (const Error &error) {
+            throw Error(error.kind(), m_table->name, error.text());
+        }
         break;
     default:
         throw Error(ErrorKind::InvalidProcedureCall, m_table->name,

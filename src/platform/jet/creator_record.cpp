@@ -80,14 +80,9 @@ const Wanted &valueOf(const TableSpec &spec, const Column &column, const NewValu
     return *wanted;
 }
 
-} // namespace
-
+/// Appends a text as Jet 4 stores it: compressed where that is allowed and shorter, else UTF-16LE.
 void appendText(QStringView text, bool mayCompress, std::vector<std::uint8_t> &to)
 {
-    if (text.startsWith(QChar(0xFEFF))) {
-        throw Error(ErrorKind::InvalidProcedureCall, {},
-                    QStringLiteral("A text must not begin with the byte order mark U+FEFF. Leave it out."));
-    }
     const bool compress = mayCompress && text.size() > 2 && std::all_of(text.begin(), text.end(), [](QChar character) {
                               return character.unicode() >= 1 && character.unicode() <= 0xFF;
                           });
@@ -98,10 +93,14 @@ void appendText(QStringView text, bool mayCompress, std::vector<std::uint8_t> &t
             to.push_back(static_cast<std::uint8_t>(character.unicode()));
         return;
     }
+    if (text.isEmpty())
+        return;
     const std::size_t start = to.size();
     to.resize(start + 2 * static_cast<std::size_t>(text.size()));
     qToLittleEndian<quint16>(text.utf16(), text.size(), to.data() + start);
 }
+
+} // namespace
 
 RecordEncoder::RecordEncoder(PageStore &store, const TableSpec &spec) : m_store(&store), m_spec(&spec)
 {
@@ -245,6 +244,8 @@ void RecordEncoder::encodeVariable(const Column &column, const NewValue &value)
                 *m_spec, column,
                 QStringLiteral("it has %1 characters, the column takes %2.").arg(text.size()).arg(column.length / 2));
         }
+        if (text.startsWith(QChar(0xFEFF))) // no reader could tell it from a compressed text
+            refuse(*m_spec, column, QStringLiteral("it begins with the byte order mark U+FEFF. Leave that out."));
         appendText(text, mayCompress && (!isMemo || text.size() <= longestCompressedMemo), m_value);
         break;
     }

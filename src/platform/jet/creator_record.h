@@ -14,10 +14,6 @@ namespace kalvenor::jet::creating {
 
 inline constexpr std::uint32_t maximumRecordLength = 4060;
 
-/// Appends a text as Jet 4 stores it: compressed where that is allowed and shorter, else UTF-16LE. Throws
-/// Error(InvalidProcedureCall) for a text that begins with U+FEFF, which no reader could tell from a compressed one.
-void appendText(QStringView text, bool mayCompress, std::vector<std::uint8_t> &to);
-
 /// Makes the records of one table. Long values go to pages of their own column at once.
 class RecordEncoder {
 public:

@@ -172,7 +172,11 @@ void layOut(TableSpec &spec)
 TableSpec userTable(const QString &name, const std::vector<NewColumn> &columns, const std::vector<NewIndex> &indexes)
 {
     checkName(name, name, QStringLiteral("table"));
-    generalKey(name, Unlisted::Refused);
+    try {
+        generalKey(name, Unlisted::Refused);
+    } catch (const Error &error) {
+        refuse(name, error.text());
+    }
     if (columns.empty() || columns.size() > maximumColumns || indexes.size() > maximumIndexes) {
         refuse(name, QStringLiteral("A table must have 1 to %1 columns and at most %2 indexes.")
                          .arg(static_cast<int>(maximumColumns))

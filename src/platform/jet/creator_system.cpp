@@ -136,7 +136,7 @@ void addAccessRight(TableBuilder &table, const AccessRight &right)
 
 } // namespace
 
-SystemTables::SystemTables(PageStore &store) : m_store(store)
+SystemTables::SystemTables(PageStore &store)
 {
     store.add(); // header
     store.add(); // global maps
@@ -216,7 +216,8 @@ void fillHeaderPage(std::uint8_t *page, std::uint32_t encodingKey)
 
     std::memset(page, 0, pageSize);
     put(page, std::uint32_t{0x100});
-    std::memcpy(page + 4, "Standard Jet DB", 15);
+    const QByteArray name("Standard Jet DB");
+    std::copy(name.begin(), name.end(), page + 4);
     put(page + 0x14, std::uint32_t{1});
     put(page + 0x18, std::uint32_t{0x100});
     put(page + 0x1c, std::uint32_t{0x101});
@@ -231,7 +232,7 @@ void fillHeaderPage(std::uint8_t *page, std::uint32_t encodingKey)
     put(page + 0x6e, general);
     put(page + 0x72, creationDate);
     put(page + 0x98, std::uint32_t{0x654});
-    std::memcpy(page + 0x9c, "4.0", 4);
+    put(page + 0x9c, std::uint32_t{0x00302E34}); // "4.0"
     put(page + counters, static_cast<std::uint16_t>(firstCounter));
     for (std::size_t at = counters + 2; at < pageSize; at += 2)
         put(page + at, unusedCounter);

@@ -21,7 +21,6 @@ public:
     void finish();
 
 private:
-    PageStore &m_store;
     std::vector<std::unique_ptr<TableBuilder>> m_tables;
 };
 

@@ -205,13 +205,15 @@ TEST_F(CreatorTest, splitsALongDefinition)
     std::vector<NewColumn> columns;
     std::vector<NewIndex> indexes;
     std::vector<NewValue> row;
+    columns.reserve(255);
     for (int i = 0; i < 255; ++i) {
         columns.push_back({QStringLiteral("Spalte mit einem recht langen Namen Nummer %1").arg(i),
                            i < 40 ? ColumnType::Memo : ColumnType::Long});
         row.push_back(i < 40 ? NewValue(QString(200, u'm')) : NewValue(i));
     }
+    indexes.reserve(32);
     for (int i = 0; i < 32; ++i)
-        indexes.push_back({QStringLiteral("Index %1").arg(i), {columns[static_cast<std::size_t>(100 + i)].name}});
+        indexes.push_back({QStringLiteral("Index %1").arg(i), {columns[100 + static_cast<std::size_t>(i)].name}});
     auto &table = creator.addTable("Viele Spalten", columns, indexes);
     table.addRow(row);
     const auto database = written(creator);
@@ -236,21 +238,20 @@ TEST_F(CreatorTest, writesTheSystemTables)
     struct Object {
         int id, parent;
         const char *name;
-        int type;
+        int type, flags;
         const char *owner;
-        int flags;
     };
     const Object objects[] = {
-        {0x0f000001, 0x0f000000, "Tables", 3, "6589", INT32_MIN},
-        {0x0f000002, 0x0f000000, "Databases", 3, "6589", INT32_MIN},
-        {0x0f000003, 0x0f000000, "Relationships", 3, "6589", INT32_MIN},
-        {0x10000000, 0x0f000002, "MSysDb", 2, "648b", INT32_MIN},
-        {2, 0x0f000001, "MSysObjects", 1, "6589", INT32_MIN},
-        {3, 0x0f000001, "MSysACEs", 1, "6589", INT32_MIN},
-        {4, 0x0f000001, "MSysQueries", 1, "6589", INT32_MIN},
-        {5, 0x0f000001, "MSysRelationships", 1, "6589", INT32_MIN},
-        {10, 0x0f000001, "Adressen_DS ", 1, "648b", 0},
-        {12, 0x0f000001, "Zweite", 1, "648b", 0},
+        {0x0f000001, 0x0f000000, "Tables", 3, INT32_MIN, "6589"},
+        {0x0f000002, 0x0f000000, "Databases", 3, INT32_MIN, "6589"},
+        {0x0f000003, 0x0f000000, "Relationships", 3, INT32_MIN, "6589"},
+        {0x10000000, 0x0f000002, "MSysDb", 2, INT32_MIN, "648b"},
+        {2, 0x0f000001, "MSysObjects", 1, INT32_MIN, "6589"},
+        {3, 0x0f000001, "MSysACEs", 1, INT32_MIN, "6589"},
+        {4, 0x0f000001, "MSysQueries", 1, INT32_MIN, "6589"},
+        {5, 0x0f000001, "MSysRelationships", 1, INT32_MIN, "6589"},
+        {10, 0x0f000001, "Adressen_DS ", 1, 0, "648b"},
+        {12, 0x0f000001, "Zweite", 1, 0, "648b"},
     };
     const auto rows = rowsOf(*database, "MSysObjects");
     ASSERT_EQ(rows.size(), std::size(objects));

@@ -81,6 +81,7 @@ TEST(CreatedIndex, ordersEveryKindOfKey)
                                          {"D", ColumnType::Double},
                                          {"T", ColumnType::DateTime}};
     std::vector<NewIndex> indexes;
+    indexes.reserve(columns.size());
     for (const NewColumn &column : columns)
         indexes.push_back({column.name, {column.name}, false});
     Creator creator;

@@ -61,7 +61,7 @@ private:
         const int prefixLength = load16(&bytes[24]);
         int start = 0;
         for (int bit = 1; bit <= 3616; ++bit) {
-            if ((bytes[static_cast<std::size_t>(27 + bit / 8)] >> bit % 8 & 1) == 0)
+            if ((bytes[27 + static_cast<std::size_t>(bit) / 8] >> bit % 8 & 1) == 0)
                 continue;
             const QByteArray prefix = entries.empty() ? QByteArray() : entries.front().left(prefixLength);
             entries.push_back(prefix + QByteArray(area + start, bit - start));
