@@ -150,9 +150,21 @@ void appendGeneralKey(QStringView text, std::vector<std::uint8_t> &key, Unlisted
                             .arg(part));
         }
     }
-    PrimaryBytes primary(part);
-    for (int byte = primary.next(); byte != PrimaryBytes::end; byte = primary.next())
-        key.push_back(static_cast<std::uint8_t>(byte));
+    std::array<std::uint8_t, 3 * keyedUnits> primary;
+    std::size_t size = 0;
+    bool isPlain = true; // no accent, nothing ignorable
+    for (const QChar character : part) {
+        const general::Code code = codeOf(character.unicode());
+        const auto length = static_cast<std::size_t>(primaryLength(code));
+        for (std::size_t i = 0; i < length; ++i)
+            primary[size++] = static_cast<std::uint8_t>(code >> (24 - 8 * i));
+        isPlain = isPlain && length > 0 && accentOf(code) == 0;
+    }
+    key.insert(key.end(), primary.begin(), primary.begin() + static_cast<std::ptrdiff_t>(size));
+    if (isPlain) {
+        key.insert(key.end(), {0x01, 0x00});
+        return;
+    }
     const Tail tail(part);
     key.insert(key.end(), tail.bytes.begin(), tail.bytes.begin() + static_cast<std::ptrdiff_t>(tail.size));
 }
