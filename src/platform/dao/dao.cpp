@@ -168,6 +168,11 @@ bool Database::refresh()
     return d->reloadIfStale();
 }
 
+bool Database::isStale() const
+{
+    return d->open().snapshot()->database()->isStale();
+}
+
 quint64 Database::generation() const
 {
     d->open();

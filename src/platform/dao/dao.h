@@ -50,6 +50,8 @@ public:
 
     /// Reads the file anew where another program changed it. True where it did. Open recordsets keep their state.
     bool refresh();
+    /// True where another program changed the file since it was read. Throws as refresh, where the file is gone.
+    bool isStale() const;
     /// Counts up with each reload; a model compares it to know that its rows are old.
     quint64 generation() const;
     /// What damage was passed over so far, a line each.

@@ -56,11 +56,9 @@ public:
 private:
     quint64 load(std::size_t at, std::size_t available) const
     {
-        if (available >= window)
-            return qFromBigEndian<quint64>(arena.data() + at);
-        std::uint8_t bytes[window] = {};
-        std::memcpy(bytes, arena.data() + at, available);
-        return qFromBigEndian<quint64>(bytes);
+        quint64 bytes = 0;
+        std::memcpy(&bytes, arena.data() + at, std::min(available, window));
+        return qFromBigEndian(bytes);
     }
 };
 
