@@ -4,6 +4,7 @@
 
 #include "app/check.h"
 #include "app/commands.h"
+#include "app/filteroptions.h"
 #include "platform/basic/path.h"
 #include "platform/desktop/terminal.h"
 #include <CLI/CLI.hpp>
@@ -19,6 +20,7 @@ namespace kalvenor::app {
 
 namespace {
 
+constexpr int Done = 0;
 constexpr int Failed = 1;
 constexpr int WrongUsage = 2;
 
@@ -33,6 +35,9 @@ struct Words {
     std::string output;
     std::vector<qint32> counters;
     bool all = false;
+    bool children = false;
+    bool parents = false;
+    bool showQuery = false;
     int persons = 2000;
     quint32 seed = 1;
     qint64 limit = -1;
@@ -72,12 +77,13 @@ public:
     CLI::App app{"Age statistics for a family database", "kalvenor"};
     Words words;
     CLI::App *demo, *check, *list, *mark, *unmark, *ages, *report;
+    FilterOptions listFilter, markFilter, unmarkFilter;
 
 private:
     CLI::App *command(const char *name, const char *what);
     void addSex(CLI::App *to);
     void addFormat(CLI::App *to);
-    CLI::App *addMarkCommand(const char *name, const char *what);
+    CLI::App *addMarkCommand(const char *name, const char *what, FilterOptions &filter);
 };
 
 CLI::App *Parser::command(const char *name, const char *what)
@@ -102,14 +108,17 @@ void Parser::addFormat(CLI::App *to)
         ->type_name("text|tsv|json");
 }
 
-CLI::App *Parser::addMarkCommand(const char *name, const char *what)
+CLI::App *Parser::addMarkCommand(const char *name, const char *what, FilterOptions &filter)
 {
     CLI::App *sub = command(name, what);
-    CLI::Option *all = sub->add_flag("--all", words.all, "All persons of the list");
-    sub->add_option("--counter", words.counters, "These persons, by their Counter")
-        ->delimiter(',')
-        ->type_name("N[,N…]")
-        ->excludes(all);
+    CLI::Option *all = sub->add_flag("--all", words.all, "All persons of the list, or those that the filter leaves");
+    CLI::Option *counter = sub->add_option("--counter", words.counters, "These persons, by their Counter")
+                               ->delimiter(',')
+                               ->type_name("N[,N…]")
+                               ->excludes(all);
+    sub->add_flag("--children", words.children, "With all descendants")->needs(counter);
+    sub->add_flag("--parents", words.parents, "With all ancestors")->needs(counter);
+    filter.addTo(*sub);
     return sub;
 }
 
@@ -132,8 +141,10 @@ Parser::Parser()
         ->check(CLI::Range(qint64{0}, std::numeric_limits<qint64>::max()))
         ->type_name("N");
     addFormat(list);
-    mark = addMarkCommand("mark", "Marks persons and prints how many rows changed");
-    unmark = addMarkCommand("unmark", "Takes marks away and prints how many rows changed");
+    listFilter.addTo(*list);
+    list->add_flag("--show-query", words.showQuery, "Prints the list's query instead");
+    mark = addMarkCommand("mark", "Marks persons and prints how many rows changed", markFilter);
+    unmark = addMarkCommand("unmark", "Takes marks away and prints how many rows changed", unmarkFilter);
     ages = command("ages", "Writes the age list of the marked persons");
     addSex(ages);
     addFormat(ages);
@@ -149,11 +160,45 @@ int wrongUsage(const QString &line)
     return WrongUsage;
 }
 
-int runMarkWords(const Words &words, bool mark)
+int wrongUsage(const CLI::ParseError &error)
 {
-    if (!words.all && words.counters.empty())
+    // CLI11 may break a complaint over lines; here it is one line that helps.
+    const QString complaint = QString::fromStdString(error.what()).simplified();
+    return wrongUsage(complaint + QStringLiteral(" (kalvenor --help lists commands and options)"));
+}
+
+/// The list's query, narrowed where words of FILTER were given.
+QString listQuery(selection::PersonList list, const FilterOptions &options)
+{
+    const DateOrder order = systemDateOrder();
+    const auto filter = options.filter(list, order);
+    return filter ? selection::filtern(*filter, order).queries[static_cast<std::size_t>(list)]
+                  : selection::plainListQuery(list);
+}
+
+int runListWords(const Words &words, const FilterOptions &filter)
+{
+    const auto list = words.list == "marked" ? selection::PersonList::Marked : selection::PersonList::Unmarked;
+    const QString query = listQuery(list, filter);
+    if (!words.showQuery)
+        return runList(programFolder(words), {query, formatOf(words), words.limit});
+    writeOutput((query + u'\n').toUtf8());
+    flushOutput();
+    return Done;
+}
+
+int runMarkWords(const Words &words, bool mark, const FilterOptions &filter)
+{
+    const bool named = !words.counters.empty();
+    if (words.all == named)
         return wrongUsage(QStringLiteral("say whom: --all, or --counter N[,N…]"));
-    return runMark(programFolder(words), {mark, words.all, words.counters});
+    const auto from = mark ? selection::PersonList::Unmarked : selection::PersonList::Marked;
+    const QString query = listQuery(from, filter);
+    if (named && query != selection::plainListQuery(from))
+        return wrongUsage(QStringLiteral("a filter goes with --all, not with --counter"));
+    return runMark(
+        programFolder(words),
+        {mark, named ? std::nullopt : std::optional(query), words.counters, {words.children, words.parents}});
 }
 
 int runReportWords(const Words &words)
@@ -175,14 +220,12 @@ int dispatch(const Parser &parser)
         return runDemo({absoluteNative(words.folder), words.persons, words.seed});
     if (parser.check->parsed())
         return runCheck(programFolder(words));
-    if (parser.list->parsed()) {
-        const auto list = words.list == "marked" ? selection::PersonList::Marked : selection::PersonList::Unmarked;
-        return runList(programFolder(words), {list, formatOf(words), words.limit});
-    }
+    if (parser.list->parsed())
+        return runListWords(words, parser.listFilter);
     if (parser.mark->parsed())
-        return runMarkWords(words, true);
+        return runMarkWords(words, true, parser.markFilter);
     if (parser.unmark->parsed())
-        return runMarkWords(words, false);
+        return runMarkWords(words, false, parser.unmarkFilter);
     if (parser.ages->parsed())
         return runAges(programFolder(words), {sexOf(words), formatOf(words)});
     if (parser.report->parsed())
@@ -217,9 +260,7 @@ int runCommandLine(int argc, char **argv)
     } catch (const CLI::Success &asked) {
         return parser.app.exit(asked);
     } catch (const CLI::ParseError &error) {
-        // CLI11 may break a complaint over lines; here it is one line that helps.
-        QString complaint = QString::fromStdString(error.what()).simplified();
-        return wrongUsage(complaint + QStringLiteral(" (kalvenor --help lists commands and options)"));
+        return wrongUsage(error);
     }
 
     qInstallMessageHandler(onlyFaults);
@@ -227,6 +268,8 @@ int runCommandLine(int argc, char **argv)
     catchInterrupt();
     try {
         return dispatch(parser);
+    } catch (const CLI::ParseError &error) {
+        return wrongUsage(error);
     } catch (const Error &error) {
         if (error.kind() == ErrorKind::Cancelled)
             writeError(error.message());

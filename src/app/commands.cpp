@@ -6,7 +6,7 @@
 #include "demo/demohost.h"
 #include "platform/desktop/terminal.h"
 #include "report/agelistreport.h"
-#include "selection/marking.h"
+#include "selection/listquery.h"
 
 namespace kalvenor::app {
 
@@ -27,6 +27,15 @@ void printLine(const QString &line)
 {
     writeOutput((line + u'\n').toUtf8());
     flushOutput();
+}
+
+constexpr qint16 TextLimitReached = 926;
+constexpr qint16 TextLimitReachedTitle = 1201;
+
+void tellLimitReached(Program &program)
+{
+    program.host.desktop().messageBox(program.language.text(TextLimitReached), 0,
+                                      program.language.text(TextLimitReachedTitle));
 }
 
 QString numbers(const std::vector<qint32> &counters)
@@ -74,11 +83,11 @@ int runMark(const QString &programFolder, const MarkCommand &command)
     data::Datenbankmodul &databases = started.program.databases;
     TerminalProgress terminal(command.mark ? QStringLiteral("marking") : QStringLiteral("unmarking"));
     std::size_t changed = 0;
-    if (command.all) {
+    if (command.query) {
         const auto from = command.mark ? selection::PersonList::Unmarked : selection::PersonList::Marked;
-        changed = databases.Familiendatenbank
-                      ->execute(selection::markAllStatement(from, selection::plainListQuery(from)), terminal.progress())
-                      .changedKeys.size();
+        changed =
+            databases.Familiendatenbank->execute(selection::markAllStatement(from, *command.query), terminal.progress())
+                .changedKeys.size();
     } else {
         const auto unknown = selection::unknownPersons(databases, command.counters);
         if (!unknown.empty()) {
@@ -86,8 +95,11 @@ int runMark(const QString &programFolder, const MarkCommand &command)
                            .arg(started.program.host.Familienpfad, numbers(unknown)));
             return Failed;
         }
-        changed =
-            selection::markPersons(databases, command.counters, command.mark, {}, terminal.progress()).changed.size();
+        const auto result =
+            selection::markPersons(databases, command.counters, command.mark, command.relatives, terminal.progress());
+        changed = result.changed.size();
+        if (result.limitReached)
+            tellLimitReached(started.program);
     }
     printLine(QStringLiteral("%1 rows changed").arg(changed));
     return Done;

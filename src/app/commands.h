@@ -3,8 +3,9 @@
 #pragma once
 
 #include "app/listoutput.h"
-#include "selection/listquery.h"
+#include "selection/marking.h"
 #include "statistics/altersliste.h"
+#include <optional>
 #include <QString>
 #include <vector>
 
@@ -19,15 +20,16 @@ struct DemoCommand {
 };
 
 struct ListCommand {
-    selection::PersonList list = selection::PersonList::Unmarked;
+    QString query; ///< of the list
     Format format = Format::Text;
     qint64 limit = -1; ///< -1: all
 };
 
 struct MarkCommand {
-    bool mark = true; ///< false: unmark
-    bool all = false;
+    bool mark = true;             ///< false: unmark
+    std::optional<QString> query; ///< all persons of the list with this query, else those named
     std::vector<qint32> counters;
+    selection::Relatives relatives;
 };
 
 struct AgesCommand {

@@ -7,10 +7,10 @@
 #include "demo/sidedatabases.h"
 #include "platform/basic/codepage.h"
 #include "platform/basic/error.h"
+#include "platform/basic/file.h"
 #include "platform/basic/path.h"
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace kalvenor {
 
@@ -28,10 +28,9 @@ void makeFolder(const QString &folder)
 
 void writeFile(const QString &path, const QByteArray &bytes)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw Error(ErrorKind::WriteFailed, path,
-                    QStringLiteral("The file cannot be written: %1.").arg(file.errorString()));
+    QString reason;
+    if (!replaceFileSafely(path, bytes, &reason))
+        throw Error(ErrorKind::WriteFailed, path, QStringLiteral("Cannot be written: %1").arg(reason));
 }
 
 /// The path as the settings file holds it; refused where a profile read would not give it back.

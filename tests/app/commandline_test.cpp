@@ -70,6 +70,12 @@ TEST_F(CommandLine, RefusesWrongUsageInOneLineThatHelps)
         {{"mark"}, "--counter"},
         {{"mark", "--all", "--counter", "1"}, "--all"},
         {{"mark", "--counter", "1,zwei"}, "zwei"},
+        {{"mark", "--all", "--children"}, "--children"},
+        {{"mark", "--counter", "1", "--name", "x"}, "--all"},
+        {{"list", "--from", "01-01-1900"}, "--dates"},
+        {{"list", "--dates", "birth", "--from", "31-02-1900"}, "31-02-1900"},
+        {{"list", "--dates", "birth", "--to", "1900"}, "1900"},
+        {{"list", "--dates", "baptism"}, "--dates"},
         {{"report"}, "--output"},
         {{"report", "--output", "x.doc"}, ".pdf"},
         {{"report", "--output", "x.rtf"}, ".rtf"},
@@ -118,6 +124,52 @@ TEST_F(CommandLine, MarksAndListsPersons)
     EXPECT_EQ(onDemo({"list", "--format", "json"}).out, "[]\n");
     EXPECT_EQ(onDemo({"unmark", "--all"}).out, "400 rows changed\n");
     EXPECT_TRUE(familyBytes() == before) << "unmarking does not restore the file";
+}
+
+TEST_F(CommandLine, FiltersLists)
+{
+    EXPECT_EQ(onDemo({"list", "--show-query"}).out, "SELECT * FROM Daten WHERE Markierung = 0 ORDER BY Listname;\n");
+    EXPECT_EQ(onDemo({"list", "--show-query", "--list", "marked", "--name", "Müller", "--sex", "w", "--dates",
+                      "birth,change", "--from", "1900-01-31", "--to", "31-01-1950"})
+                  .out,
+              "SELECT * FROM Daten WHERE Listname LIKE '*Müller*' AND Geschlecht = 'W'   AND Geburtsdatum >= 32 AND "
+              "Geburtsdatum <= 18294  AND geaendert >= 32AND geaendert <= 18294 AND Markierung = -1 ORDER BY "
+              "Listname;\n");
+
+    const auto count = [](const QStringList &words) {
+        return lineCount(onDemo(QStringList{"list"} + words).out);
+    };
+    const auto women = count({"--sex", "w"});
+    EXPECT_GT(women, 100);
+    EXPECT_LT(women + count({"--sex", "m"}), 401);
+    EXPECT_EQ(count({"--sex", "mw"}), 400);
+    EXPECT_EQ(count({"--name", "", "--dates", "birth"}), 400);
+    EXPECT_EQ(onDemo({"mark", "--all", "--sex", "w"}).out, QString("%1 rows changed\n").arg(women));
+    EXPECT_EQ(onDemo({"unmark", "--all", "--sex", "m"}).out, "0 rows changed\n");
+    EXPECT_EQ(onDemo({"unmark", "--all", "--name", "*"}).out, QString("%1 rows changed\n").arg(women));
+
+    const Outcome unsound = onDemo({"list", "--name", "O'Brien"});
+    EXPECT_EQ(unsound.exitCode, 1);
+    EXPECT_EQ(lineCount(unsound.err), 1) << unsound.err.toStdString();
+    EXPECT_EQ(onDemo({"list", "--name", "[a"}).exitCode, 1);
+}
+
+TEST_F(CommandLine, MarksTheDirectLine)
+{
+    // Somebody with a father, as the tables have it: the father is marked with the child, and the child with the
+    // father.
+    const QString children = onDemo({"list", "--format", "tsv"}).out;
+    int found = 0;
+    for (const QString &line : children.split('\n', Qt::SkipEmptyParts)) {
+        const QString counter = line.section('\t', 0, 0);
+        const Outcome up = onDemo({"mark", "--counter", counter, "--parents"});
+        const int marked = up.out.section(' ', 0, 0).toInt();
+        const QString again = onDemo({"unmark", "--counter", counter, "--parents"}).out;
+        EXPECT_EQ(again, up.out);
+        if (marked > 2 && ++found == 3)
+            break;
+    }
+    EXPECT_EQ(found, 3);
 }
 
 TEST_F(CommandLine, WritesAgesAndReport)

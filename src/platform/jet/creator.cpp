@@ -122,7 +122,8 @@ void Creator::write(const QString &file, std::uint32_t encodingKey)
             encodePage(buffer, encodingKey, page);
         check(out.write(reinterpret_cast<const char *>(buffer.data()), pageSize) == pageSize);
     }
-    check(out.commit());
+    // commit() alone says yes to a disk that is full at its last flush.
+    check(out.flush() && out.commit());
 }
 
 } // namespace kalvenor::jet

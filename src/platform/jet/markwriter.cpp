@@ -267,10 +267,11 @@ MarkWriter::MarkWriter(std::shared_ptr<Database> database, std::shared_ptr<const
         notMarkable(QStringLiteral("column %1 is calculated").arg(mark.name));
 }
 
-std::vector<MarkTarget> MarkWriter::plan(std::span<const Mark> marks) const
+std::vector<MarkTarget> MarkWriter::plan(std::span<const Mark> marks)
 {
     const Column &mark = m_table->columns()[static_cast<std::size_t>(m_markColumn)];
-    const std::vector<std::int32_t> repeated = repeatedKeys(*m_table, m_keyColumn);
+    if (!m_repeatedKeys)
+        m_repeatedKeys = repeatedKeys(*m_table, m_keyColumn);
     std::vector<MarkTarget> targets;
     targets.reserve(marks.size());
     for (const Mark &wish : marks) {
@@ -279,7 +280,7 @@ std::vector<MarkTarget> MarkWriter::plan(std::span<const Mark> marks) const
         const std::optional<std::int32_t> key = m_table->integer(wish.row, m_keyColumn);
         if (!key)
             notMarkable(QStringLiteral("row %1 has no key").arg(wish.row));
-        if (std::ranges::binary_search(repeated, *key))
+        if (std::ranges::binary_search(*m_repeatedKeys, *key))
             notMarkable(QStringLiteral("the key %1 occurs more than once").arg(*key));
         const Record record(m_table->layout(), m_table->record(wish.row));
         if (!record.has(mark.number))

@@ -5,6 +5,7 @@
 #include "platform/basic/progress.h"
 #include "platform/jet/database.h"
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -35,7 +36,7 @@ public:
 
 private:
     /// What is to be written, in file order, each row once. Throws NotMarkable.
-    std::vector<MarkTarget> plan(std::span<const Mark> marks) const;
+    std::vector<MarkTarget> plan(std::span<const Mark> marks);
     QString place() const;
     [[noreturn]] void notMarkable(const QString &why) const;
 
@@ -43,6 +44,7 @@ private:
     std::shared_ptr<const Table> m_table;
     int m_markColumn;
     int m_keyColumn;
+    std::optional<std::vector<std::int32_t>> m_repeatedKeys; ///< ascending; found at the first write
 };
 
 } // namespace kalvenor::jet
