@@ -24,11 +24,11 @@ struct FormPart {
 };
 
 struct Form {
-    QString name;
-    QString tag; ///< the title's identifier in digits
-    QString title;
+    QString name = {};
+    QString tag = {}; ///< the title's identifier in digits
+    QString title = {};
     Pointer pointer = Pointer::Default;
-    std::vector<FormPart> controls;
+    std::vector<FormPart> controls = {};
 };
 
 /// Translates title, captions and tooltips by the rules of each control's type. What has no readable identifier stays
