@@ -64,8 +64,7 @@ int runList(const QString &programFolder, const ListCommand &command)
     if (!started.ready)
         return Failed;
     TerminalProgress terminal(QStringLiteral("reading persons"));
-    const auto persons = started.program.databases.Familiendatenbank->openQuery(selection::plainListQuery(command.list),
-                                                                                terminal.progress());
+    const auto persons = started.program.databases.Familiendatenbank->openQuery(command.query, terminal.progress());
     const int counter = persons->fieldIndex(QStringLiteral("Counter"));
     const int listname = persons->fieldIndex(QStringLiteral("Listname"));
     ListOutput output(command.format, "listname");
