@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/progresspanel.h"
+
+#include "language/widgetform.h"
+#include <QHBoxLayout>
+#include <QProgressBar>
+#include <QPushButton>
+
+namespace kalvenor::app {
+
+namespace {
+constexpr int Steps = 1000;
+}
+
+ProgressPanel::ProgressPanel(Work &work, QWidget *parent) : QWidget(parent), m_bar(new QProgressBar(this))
+{
+    setObjectName(QStringLiteral("Fortschritt"));
+    auto *cancel = new QPushButton(this);
+    cancel->setObjectName(QStringLiteral("Abbrechen"));
+    cancel->setFocusPolicy(Qt::NoFocus); // Escape does the same; the focus stays where the user works
+    language::setDesignText(cancel, QStringLiteral("20341Abbrechen"));
+    m_bar->setFixedWidth(160);
+    m_bar->setTextVisible(false);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(m_bar);
+    row->addWidget(cancel);
+    hide();
+
+    work.letThrough(cancel);
+    connect(cancel, &QPushButton::clicked, &work, &Work::cancel);
+    connect(&work, &Work::advanced, this, &ProgressPanel::advance);
+    connect(&work, &Work::ended, this, &QWidget::hide);
+}
+
+void ProgressPanel::advance(qint64 done, qint64 total)
+{
+    m_bar->setRange(0, total > 0 ? Steps : 0);
+    if (total > 0)
+        m_bar->setValue(static_cast<int>(static_cast<double>(done) / static_cast<double>(total) * Steps));
+    show();
+}
+
+} // namespace kalvenor::app

@@ -1,0 +1,159 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/desktop/lineicon.h"
+
+#include <algorithm>
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPalette>
+
+namespace kalvenor {
+
+namespace {
+
+// Drawings live on a field of 24 × 24 units.
+constexpr qreal Field = 24;
+
+/// An angle bracket with its tip at (tip, 12), opening to the left (`way` -1) or to the right (1).
+void addAngle(QPainterPath &path, qreal tip, qreal way)
+{
+    path.moveTo(tip + way * 6, 6);
+    path.lineTo(tip, 12);
+    path.lineTo(tip + way * 6, 18);
+}
+
+void addHead(QPainterPath &path, QPointF tip, QPointF one, QPointF other)
+{
+    path.moveTo(tip + one);
+    path.lineTo(tip);
+    path.lineTo(tip + other);
+}
+
+QPainterPath undoPath()
+{
+    QPainterPath path;
+    path.moveTo(5, 9);
+    path.lineTo(14, 9);
+    path.arcTo(QRectF(9.5, 9, 9, 9), 90, -180);
+    path.lineTo(9, 18);
+    addHead(path, {5, 9}, {4, -4}, {4, 4});
+    return path;
+}
+
+QPainterPath mirrored(const QPainterPath &path)
+{
+    return QTransform(-1, 0, 0, 1, Field, 0).map(path);
+}
+
+QPainterPath keyboardPath()
+{
+    QPainterPath path;
+    path.addRoundedRect(QRectF(3, 6, 18, 12), 2, 2);
+    for (const qreal x : {7.0, 12.0, 17.0}) {
+        path.moveTo(x - 0.5, 10);
+        path.lineTo(x + 0.5, 10);
+    }
+    path.moveTo(8, 14);
+    path.lineTo(16, 14);
+    return path;
+}
+
+QPainterPath pathOf(LineIcon which)
+{
+    QPainterPath path;
+    switch (which) {
+    case LineIcon::Right:
+        addAngle(path, 15, -1);
+        break;
+    case LineIcon::AllRight:
+        addAngle(path, 12, -1);
+        addAngle(path, 19, -1);
+        break;
+    case LineIcon::Left:
+        return mirrored(pathOf(LineIcon::Right));
+    case LineIcon::AllLeft:
+        return mirrored(pathOf(LineIcon::AllRight));
+    case LineIcon::Undo:
+        return undoPath();
+    case LineIcon::Redo:
+        return mirrored(undoPath());
+    case LineIcon::Reload:
+        path.arcMoveTo(QRectF(5, 5, 14, 14), 30);
+        path.arcTo(QRectF(5, 5, 14, 14), 30, 285);
+        addHead(path, path.pointAtPercent(0), {-5.2, 0.6}, {0.6, -5.2});
+        break;
+    case LineIcon::Quit:
+        path.arcMoveTo(QRectF(5, 5.5, 14, 14), 55);
+        path.arcTo(QRectF(5, 5.5, 14, 14), 55, -290);
+        path.moveTo(12, 3);
+        path.lineTo(12, 11);
+        break;
+    case LineIcon::Keyboard:
+        return keyboardPath();
+    case LineIcon::Clear:
+        path.moveTo(6, 6);
+        path.lineTo(18, 18);
+        path.moveTo(18, 6);
+        path.lineTo(6, 18);
+        break;
+    case LineIcon::Find:
+        path.addEllipse(QRectF(4, 4, 11, 11));
+        path.moveTo(13.5, 13.5);
+        path.lineTo(20, 20);
+        break;
+    case LineIcon::Copy:
+        path.addRoundedRect(QRectF(8, 8, 12, 12), 2, 2);
+        path.moveTo(16, 5.5);
+        path.lineTo(16, 4);
+        path.lineTo(4, 4);
+        path.lineTo(4, 16);
+        path.lineTo(5.5, 16);
+        break;
+    }
+    return path;
+}
+
+class LineEngine : public QIconEngine {
+public:
+    explicit LineEngine(LineIcon which) : m_which(which) {}
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
+    {
+        const QPalette palette = QGuiApplication::palette();
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText;
+        const qreal scale = std::min(rect.width(), rect.height()) / Field;
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(QRectF(rect).center() - QPointF(Field, Field) * scale / 2);
+        painter->scale(scale, scale);
+        painter->setPen(QPen(palette.brush(group, role), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter->drawPath(pathOf(m_which));
+        painter->restore();
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
+    }
+
+    QIconEngine *clone() const override { return new LineEngine(m_which); }
+
+private:
+    LineIcon m_which;
+};
+
+} // namespace
+
+QIcon lineIcon(LineIcon which)
+{
+    return QIcon(new LineEngine(which));
+}
+
+} // namespace kalvenor

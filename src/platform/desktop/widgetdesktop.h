@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/desktop/desktop.h"
+
+namespace kalvenor {
+
+/// The desktop of a program with windows. A QApplication must exist.
+class WidgetDesktop : public Desktop {
+public:
+    /// A box over the active window. While it is open the pointer is the usual one.
+    int messageBox(const QString &text, int style, const QString &title) override;
+    void runtimeError(const Error &error) override;
+    /// The pointer over all windows. `Custom` shows none of its own here: windows set it where they need it.
+    void setPointer(Pointer pointer) override;
+
+private:
+    bool m_hourglass = false;
+};
+
+} // namespace kalvenor

@@ -1,0 +1,244 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "selection/filterpanel.h"
+
+#include "language/widgetform.h"
+#include "platform/desktop/lineicon.h"
+#include <algorithm>
+#include <QCheckBox>
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+namespace kalvenor::selection {
+
+namespace {
+
+constexpr int TypingPauseMs = 300;
+const QString EmptyDate = QStringLiteral("__-__-____");
+
+template <typename Control> Control *made(QWidget *parent, const char *name, int index, const char *caption,
+                                          const char *tooltip)
+{
+    auto *control = new Control(parent);
+    control->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index));
+    language::setDesignText(control, QString::fromUtf8(caption), QString::fromUtf8(tooltip));
+    return control;
+}
+
+QLabel *labelFor(QWidget *buddy, QWidget *parent, const QString &caption)
+{
+    auto *label = new QLabel(parent);
+    language::setDesignText(label, caption);
+    label->setBuddy(buddy);
+    return label;
+}
+
+QHBoxLayout *rowOf(std::initializer_list<QWidget *> widgets)
+{
+    auto *row = new QHBoxLayout;
+    for (QWidget *widget : widgets)
+        row->addWidget(widget);
+    row->addStretch(1);
+    return row;
+}
+
+} // namespace
+
+FilterPanel::FilterPanel(QWidget *parent) : QGroupBox(parent)
+{
+    setObjectName(QStringLiteral("Filter"));
+    language::setDesignText(this, QStringLiteral("20400Filter"));
+    build();
+    layOut();
+
+    m_pause.setSingleShot(true);
+    connect(&m_pause, &QTimer::timeout, this, [this] { Q_EMIT wanted(filter(), true); });
+    for (QLineEdit *entry : {m_name, m_bounds[0], m_bounds[1]}) {
+        connect(entry, &QLineEdit::textEdited, this, [this] { later(TypingPauseMs); });
+        connect(entry, &QLineEdit::returnPressed, this, &FilterPanel::now);
+    }
+    for (QAbstractButton *box : std::initializer_list<QAbstractButton *>{m_sexes[0], m_sexes[1], m_dates[0], m_dates[1],
+                                                                         m_dates[2], m_lists[0]})
+        connect(box, &QAbstractButton::toggled, this, [this] { later(0); });
+    connect(m_filter, &QPushButton::clicked, this, &FilterPanel::now);
+    connect(m_clear, &QPushButton::clicked, this, &FilterPanel::clear);
+}
+
+void FilterPanel::build()
+{
+    m_name = new QLineEdit(this);
+    m_name->setObjectName(QStringLiteral("Presse"));
+    m_name->setClearButtonEnabled(true);
+    language::setDesignText(m_name, {}, QStringLiteral("20402Teil des Namens; * steht für beliebige Zeichen, ? für eines"));
+    m_sexes = {made<QCheckBox>(this, "Geschlechtfilter", 0, "20403&Männer",
+                               "20417Nur Männer zeigen; beide oder keines zeigt alle"),
+               made<QCheckBox>(this, "Geschlechtfilter", 1, "20404&Frauen",
+                               "20418Nur Frauen zeigen; beide oder keines zeigt alle")};
+    const char *incomplete = "20424Personen ohne vollständiges Datum werden immer mit angezeigt.";
+    m_dates = {made<QCheckBox>(this, "Datumfilter", 0, "20405&Geburtsdatum", incomplete),
+               made<QCheckBox>(this, "Datumfilter", 1, "20406S&terbedatum", incomplete),
+               made<QCheckBox>(this, "Datumfilter", 2, "20407&Letzte Änderung", "")};
+    m_bounds = {made<QLineEdit>(this, "Presse_Datum", 0, "", "20414Erster Tag, als Tag, Monat und Jahr"),
+                made<QLineEdit>(this, "Presse_Datum", 1, "", "20415Letzter Tag, als Tag, Monat und Jahr")};
+    for (QLineEdit *bound : m_bounds) {
+        bound->setInputMask(QStringLiteral("99-99-9999;_"));
+        bound->setFixedWidth(bound->fontMetrics().horizontalAdvance(QStringLiteral("00-00-0000")) +
+                             3 * bound->fontMetrics().averageCharWidth() + 8);
+        bound->installEventFilter(this);
+    }
+    m_lists = {made<QRadioButton>(this, "Filterliste", 0, "20410Ni&cht markierte Personen",
+                                  "20416Der Filter wirkt auf diese Liste"),
+               made<QRadioButton>(this, "Filterliste", 1, "20411Ma&rkierte Personen",
+                                  "20416Der Filter wirkt auf diese Liste")};
+    m_lists[0]->setChecked(true);
+    m_filter = new QPushButton(this);
+    m_filter->setObjectName(QStringLiteral("Filtern"));
+    m_filter->setIcon(lineIcon(LineIcon::Find));
+    m_filter->setAutoDefault(false);
+    language::setDesignText(m_filter, QStringLiteral("20412Filt&ern"));
+    m_clear = new QPushButton(this);
+    m_clear->setObjectName(QStringLiteral("Filteraufheben"));
+    m_clear->setIcon(lineIcon(LineIcon::Clear));
+    m_clear->setAutoDefault(false);
+    language::setDesignText(m_clear, QStringLiteral("20413Filter a&ufheben"));
+}
+
+void FilterPanel::layOut()
+{
+    auto *name = new QHBoxLayout;
+    name->addWidget(m_name, 1);
+    name->addWidget(m_filter);
+    name->addWidget(m_clear);
+    auto *from = labelFor(m_bounds[0], this, QStringLiteral("20408&von"));
+    auto *to = labelFor(m_bounds[1], this, QStringLiteral("20409b&is"));
+
+    auto *grid = new QGridLayout(this);
+    grid->addWidget(labelFor(m_name, this, QStringLiteral("20401&Name")), 0, 0);
+    grid->addLayout(name, 0, 1);
+    grid->addWidget(labelFor(nullptr, this, QStringLiteral("20421Geschlecht")), 1, 0);
+    grid->addLayout(rowOf({m_sexes[0], m_sexes[1]}), 1, 1);
+    grid->addWidget(labelFor(nullptr, this, QStringLiteral("20422Zeitraum")), 2, 0);
+    grid->addLayout(rowOf({m_dates[0], m_dates[1], m_dates[2]}), 2, 1);
+    grid->addLayout(rowOf({from, m_bounds[0], to, m_bounds[1]}), 3, 1);
+    grid->addWidget(labelFor(nullptr, this, QStringLiteral("20423Liste")), 4, 0);
+    grid->addLayout(rowOf({m_lists[0], m_lists[1]}), 4, 1);
+    grid->setColumnStretch(1, 1);
+
+    const QList<QWidget *> order{m_name,     m_filter,   m_clear,     m_sexes[0],  m_sexes[1], m_dates[0],
+                                 m_dates[1], m_dates[2], m_bounds[0], m_bounds[1], m_lists[0], m_lists[1]};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order[i - 1], order[i]);
+}
+
+Filter FilterPanel::filter() const
+{
+    Filter filter;
+    filter.Presse = m_name->text();
+    for (std::size_t i = 0; i < m_sexes.size(); ++i)
+        filter.Geschlechtfilter[i] = m_sexes[i]->isChecked() ? 1 : 0;
+    for (std::size_t i = 0; i < m_dates.size(); ++i)
+        filter.Datumfilter[i] = m_dates[i]->isChecked() ? 1 : 0;
+    for (std::size_t i = 0; i < m_bounds.size(); ++i)
+        filter.Presse_Datum[i] = m_bounds[i]->displayText();
+    filter.Filterliste = m_lists[0]->isChecked() ? PersonList::Unmarked : PersonList::Marked;
+    return filter;
+}
+
+void FilterPanel::setFilter(const Filter &filter)
+{
+    m_pause.stop();
+    m_name->setText(filter.Presse);
+    for (std::size_t i = 0; i < m_sexes.size(); ++i) {
+        const QSignalBlocker quiet(m_sexes[i]);
+        m_sexes[i]->setChecked(filter.Geschlechtfilter[i] == 1);
+    }
+    for (std::size_t i = 0; i < m_dates.size(); ++i) {
+        const QSignalBlocker quiet(m_dates[i]);
+        m_dates[i]->setChecked(filter.Datumfilter[i] == 1);
+    }
+    for (std::size_t i = 0; i < m_bounds.size(); ++i)
+        m_bounds[i]->setText(filter.Presse_Datum[i].isEmpty() ? EmptyDate : filter.Presse_Datum[i]);
+    const QSignalBlocker quiet(m_lists[0]);
+    m_lists[static_cast<std::size_t>(filter.Filterliste)]->setChecked(true);
+}
+
+bool FilterPanel::isEmpty() const
+{
+    const Filter now = filter();
+    const auto off = [](int box) { return box == 0; };
+    return now.Presse.trimmed().isEmpty() && std::ranges::all_of(now.Geschlechtfilter, off) &&
+           std::ranges::all_of(now.Datumfilter, off);
+}
+
+void FilterPanel::setPattern(const QString &pattern)
+{
+    if (m_name->text() != pattern)
+        m_name->setText(pattern);
+}
+
+QList<QWidget *> FilterPanel::entries() const
+{
+    return {m_name, m_bounds[0], m_bounds[1]};
+}
+
+QString FilterPanel::unsoundDate() const
+{
+    const auto unsound = std::ranges::find_if(m_bounds, [](const QLineEdit *bound) {
+        const QString text = bound->displayText();
+        return text != EmptyDate && !isDate(text, systemDateOrder());
+    });
+    return unsound == m_bounds.end() ? QString() : (*unsound)->displayText();
+}
+
+void FilterPanel::focusName()
+{
+    m_name->setFocus(Qt::ShortcutFocusReason);
+    m_name->selectAll();
+}
+
+void FilterPanel::later(int milliseconds)
+{
+    m_pause.start(milliseconds);
+    Q_EMIT edited();
+}
+
+void FilterPanel::now()
+{
+    m_pause.stop();
+    Q_EMIT wanted(filter(), false);
+}
+
+void FilterPanel::flush()
+{
+    if (!m_pause.isActive())
+        return;
+    m_pause.stop();
+    Q_EMIT wanted(filter(), true);
+}
+
+void FilterPanel::clear()
+{
+    Filter empty;
+    empty.Filterliste = filter().Filterliste;
+    setFilter(empty);
+    Q_EMIT clearWanted();
+}
+
+bool FilterPanel::eventFilter(QObject *watched, QEvent *event)
+{
+    // A click into an empty date begins it at its first digit.
+    if (event->type() == QEvent::MouseButtonRelease) {
+        auto *bound = static_cast<QLineEdit *>(watched);
+        if (bound->displayText() == EmptyDate)
+            bound->setCursorPosition(0);
+    }
+    return QGroupBox::eventFilter(watched, event);
+}
+
+} // namespace kalvenor::selection

@@ -1,0 +1,232 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "selection/selectionpanel.h"
+
+#include "language/widgetform.h"
+#include "platform/desktop/lineicon.h"
+#include "selection/filterpanel.h"
+#include "selection/personlistpanel.h"
+#include <QAction>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QFrame>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSplitter>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace kalvenor::selection {
+
+namespace {
+
+QAbstractButton *moveButton(QWidget *parent, const char *name, LineIcon icon, const char *tooltip)
+{
+    auto *button = new QToolButton(parent);
+    button->setObjectName(QLatin1String(name));
+    button->setIcon(lineIcon(icon));
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setIconSize({24, 24});
+    button->setMinimumWidth(48);
+    language::setDesignText(button, {}, QString::fromUtf8(tooltip));
+    return button;
+}
+
+} // namespace
+
+SelectionPanel::SelectionPanel(SelectionController &controller, QWidget *parent)
+    : QWidget(parent), m_controller(controller),
+      m_lists{new PersonListPanel(controller, PersonList::Unmarked, this),
+              new PersonListPanel(controller, PersonList::Marked, this)},
+      m_splitter(new QSplitter(Qt::Horizontal, this)), m_filter(new FilterPanel(this))
+{
+    m_splitter->setObjectName(QStringLiteral("Listenteiler"));
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->addWidget(m_lists[0]);
+    m_splitter->addWidget(makeMoveColumn());
+    m_splitter->addWidget(m_lists[1]);
+    m_splitter->setStretchFactor(0, 1);
+    m_splitter->setStretchFactor(1, 0);
+    m_splitter->setStretchFactor(2, 1);
+    auto *column = new QVBoxLayout(this);
+    m_notice = makeNoticeBar();
+    column->addWidget(m_notice);
+    column->addWidget(m_splitter, 1);
+    column->addWidget(m_filter);
+
+    for (PersonListPanel *panel : m_lists) {
+        const PersonList list = panel->list();
+        connect(&panel->view(), &PersonListView::moveWanted, this, [this, list] { moveSelected(list); });
+        connect(&panel->view(), &PersonListView::selectionCountChanged, this, &SelectionPanel::updateAll);
+        // Not from inside the drop, which has an event loop of its own.
+        connect(
+            &controller.model(list), &PersonListModel::dropped, this,
+            [this, list](const std::vector<qint32> &counters) {
+                m_controller.move(list == PersonList::Unmarked ? PersonList::Marked : PersonList::Unmarked, counters,
+                                  relatives());
+            },
+            Qt::QueuedConnection);
+    }
+    connect(&controller, &SelectionController::changed, this, [this] {
+        m_notice->hide();
+        for (PersonListPanel *panel : m_lists)
+            panel->update();
+        updateAll();
+    });
+    connect(&controller, &SelectionController::arrived, this,
+            [this](PersonList list, const std::vector<quint32> &tableRows) {
+                listPanel(list).view().selectTableRows(tableRows);
+            });
+    connect(&controller, &SelectionController::changedElsewhere, m_notice, &QWidget::show);
+    connectFilter();
+    updateAll();
+}
+
+QWidget *SelectionPanel::makeMoveColumn()
+{
+    auto *middle = new QWidget(this);
+    m_move = {moveButton(middle, "RM", LineIcon::Right, "20007Person markieren"),
+              moveButton(middle, "RM2", LineIcon::Left, "20009Markierung der Person aufheben")};
+    m_moveAll = {moveButton(middle, "RMA", LineIcon::AllRight, "20008Alle Personen der Liste markieren"),
+                 moveButton(middle, "RM2A", LineIcon::AllLeft, "20010Alle Markierungen der Liste aufheben")};
+    m_relatives = {new QCheckBox(middle), new QCheckBox(middle)};
+    m_relatives[0]->setObjectName(QStringLiteral("quellenpincl_0"));
+    m_relatives[1]->setObjectName(QStringLiteral("quellenpincl_1"));
+    language::setDesignText(m_relatives[0], QStringLiteral("20029mit Nach&kommen"),
+                            QStringLiteral("20013Mit einer Person auch alle ihre Nachkommen verschieben"));
+    language::setDesignText(m_relatives[1], QStringLiteral("20030mit V&orfahren"),
+                            QStringLiteral("20014Mit einer Person auch alle ihre Vorfahren verschieben"));
+
+    auto *column = new QVBoxLayout(middle);
+    column->setContentsMargins(4, 0, 4, 0);
+    column->addStretch(1);
+    for (QAbstractButton *button : {m_move[0], m_moveAll[0], m_move[1], m_moveAll[1]})
+        column->addWidget(button, 0, Qt::AlignHCenter);
+    column->addSpacing(12);
+    for (QCheckBox *box : m_relatives)
+        column->addWidget(box);
+    column->addStretch(1);
+
+    for (const PersonList list : {PersonList::Unmarked, PersonList::Marked}) {
+        const auto place = static_cast<std::size_t>(list);
+        connect(m_move[place], &QAbstractButton::clicked, this, [this, list] { moveSelected(list); });
+        connect(m_moveAll[place], &QAbstractButton::clicked, this, [this, list] { moveAll(list); });
+    }
+    return middle;
+}
+
+QWidget *SelectionPanel::makeNoticeBar()
+{
+    auto *bar = new QFrame(this);
+    bar->setObjectName(QStringLiteral("Hinweisleiste"));
+    bar->setFrameShape(QFrame::StyledPanel);
+    bar->setAutoFillBackground(true);
+    bar->setBackgroundRole(QPalette::ToolTipBase);
+    auto *label = new QLabel(bar);
+    label->setForegroundRole(QPalette::ToolTipText);
+    label->setWordWrap(true);
+    language::setDesignText(label, QStringLiteral("20315Die Datenbank wurde von einem anderen Programm geändert."));
+    auto *reload = new QPushButton(bar);
+    reload->setObjectName(QStringLiteral("Jetztneuladen"));
+    language::setDesignText(reload, QStringLiteral("20316Jetzt neu laden"));
+    auto *row = new QHBoxLayout(bar);
+    row->setContentsMargins(8, 4, 4, 4);
+    row->addWidget(label, 1);
+    row->addWidget(reload);
+    connect(reload, &QPushButton::clicked, &m_controller, &SelectionController::reloadLists);
+    bar->hide();
+    return bar;
+}
+
+void SelectionPanel::connectFilter()
+{
+    for (QWidget *entry : m_filter->entries())
+        m_controller.services().work.letTypingThrough(entry);
+    connect(m_filter, &FilterPanel::edited, &m_controller, &SelectionController::giveUpFilter);
+    connect(m_filter, &FilterPanel::wanted, this, [this](const Filter &filter, bool typed) {
+        const bool filtered =
+            m_controller.isFiltered(PersonList::Unmarked) || m_controller.isFiltered(PersonList::Marked);
+        if (typed && !filtered && m_filter->isEmpty())
+            return;
+        m_controller.filter(filter, typed);
+    });
+    connect(m_filter, &FilterPanel::clearWanted, &m_controller, &SelectionController::clearFilter);
+    connect(&m_controller, &SelectionController::filtered, this, [this](const QString &pattern, bool typed) {
+        if (!typed)
+            m_filter->setPattern(pattern);
+        language::Sprachmodul &texts = m_controller.services().language;
+        const PersonList list = m_filter->filter().Filterliste;
+        if (const QString date = m_filter->unsoundDate(); !date.isEmpty())
+            Q_EMIT said(language::shownText(texts, 20420, QStringLiteral("Das ist kein Datum: %1")).arg(date));
+        else
+            Q_EMIT said(language::shownText(texts, 20314, QStringLiteral("Filter: %1 Personen gefunden"))
+                            .arg(m_controller.numberText(m_controller.model(list).rowCount())));
+    });
+}
+
+void SelectionPanel::updateAll()
+{
+    for (std::size_t i = 0; i < m_lists.size(); ++i) {
+        if (m_lists[i]->view().hasFocus())
+            m_last = m_lists[i]->list();
+        m_move[i]->setEnabled(hasSelection(m_lists[i]->list()));
+        m_moveAll[i]->setEnabled(m_controller.model(m_lists[i]->list()).rowCount() > 0);
+    }
+    Q_EMIT selectionChanged();
+}
+
+Relatives SelectionPanel::relatives() const
+{
+    return {m_relatives[0]->isChecked(), m_relatives[1]->isChecked()};
+}
+
+bool SelectionPanel::hasSelection(PersonList list) const
+{
+    return m_lists[static_cast<std::size_t>(list)]->view().selectionModel()->hasSelection();
+}
+
+void SelectionPanel::moveSelected(PersonList from)
+{
+    m_filter->flush();
+    m_controller.move(from, listPanel(from).view().selectedCounters(), relatives());
+}
+
+void SelectionPanel::moveAll(PersonList from)
+{
+    m_filter->flush();
+    m_controller.moveAll(from);
+}
+
+PersonListPanel &SelectionPanel::lastList()
+{
+    for (PersonListPanel *panel : m_lists) {
+        if (panel->view().hasFocus())
+            m_last = panel->list();
+    }
+    return listPanel(m_last);
+}
+
+void SelectionPanel::copyNames()
+{
+    if (const QString names = lastList().view().selectedNames(); !names.isEmpty())
+        QGuiApplication::clipboard()->setText(names);
+}
+
+void SelectionPanel::selectAllPersons()
+{
+    PersonListView &view = lastList().view();
+    view.setFocus();
+    view.selectAll();
+}
+
+void SelectionPanel::addListAction(QAction *action)
+{
+    for (PersonListPanel *panel : m_lists) {
+        panel->view().setContextMenuPolicy(Qt::ActionsContextMenu);
+        panel->view().addAction(action);
+    }
+}
+
+} // namespace kalvenor::selection
