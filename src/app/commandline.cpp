@@ -5,6 +5,7 @@
 #include "app/check.h"
 #include "app/commands.h"
 #include "app/filteroptions.h"
+#include "app/windowprogram.h"
 #include "platform/basic/path.h"
 #include "platform/desktop/terminal.h"
 #include <CLI/CLI.hpp>
@@ -74,23 +75,29 @@ statistics::GeschlechtAlter sexOf(const Words &words)
 class Parser {
 public:
     Parser();
-    CLI::App app{"Age statistics for a family database", "kalvenor"};
+    CLI::App app{"Age statistics for a family database; without a command, in a window", "kalvenor"};
     Words words;
     CLI::App *demo, *check, *list, *mark, *unmark, *ages, *report;
     FilterOptions listFilter, markFilter, unmarkFilter;
 
 private:
+    void addProgram(CLI::App *to);
     CLI::App *command(const char *name, const char *what);
     void addSex(CLI::App *to);
     void addFormat(CLI::App *to);
     CLI::App *addMarkCommand(const char *name, const char *what, FilterOptions &filter);
 };
 
+void Parser::addProgram(CLI::App *to)
+{
+    to->add_option("--program", words.program, "The program's folder; its parent is the host folder")
+        ->type_name("DIR");
+}
+
 CLI::App *Parser::command(const char *name, const char *what)
 {
     CLI::App *sub = app.add_subcommand(name, what);
-    sub->add_option("--program", words.program, "The program's folder; its parent is the host folder")
-        ->type_name("DIR");
+    addProgram(sub);
     return sub;
 }
 
@@ -126,6 +133,7 @@ Parser::Parser()
 {
     app.set_version_flag("--version", KALVENOR_VERSION);
     app.require_subcommand(0, 1);
+    addProgram(&app);
 
     demo = app.add_subcommand("demo", "Makes a demonstration host installation");
     demo->add_option("DIR", words.folder, "Where; DIR/QV becomes the host folder")->required()->type_name("");
@@ -228,9 +236,7 @@ int dispatch(const Parser &parser)
         return runMarkWords(words, false, parser.unmarkFilter);
     if (parser.ages->parsed())
         return runAges(programFolder(words), {sexOf(words), formatOf(words)});
-    if (parser.report->parsed())
-        return runReportWords(words);
-    return wrongUsage(QStringLiteral("this version has no window yet; name a command, --help lists them"));
+    return runReportWords(words);
 }
 
 /// Qt's own remarks about the session (no runtime folder, …) say nothing about what a command does.
@@ -264,6 +270,8 @@ int runCommandLine(int argc, char **argv)
     }
 
     qInstallMessageHandler(onlyFaults);
+    if (parser.app.get_subcommands().empty())
+        return runWindow(argc, argv, [&parser] { return programFolder(parser.words); });
     const auto application = makeApplication(parser, argc, argv);
     catchInterrupt();
     try {

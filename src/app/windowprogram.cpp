@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/windowprogram.h"
+
+#include "app/auswahl.h"
+#include "platform/desktop/terminal.h"
+#include "platform/desktop/widgetdesktop.h"
+#include <cstdlib>
+#include <memory>
+#include <new>
+#include <QApplication>
+
+namespace kalvenor::app {
+
+namespace {
+
+constexpr int Failed = 1;
+
+/// Qt ends the process where it finds no display; that shall be a line and an exit code, not a crash.
+void endQuietly(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type != QtFatalMsg)
+        return;
+    writeError(QStringLiteral("no window can be opened: %1").arg(text.simplified()));
+    std::_Exit(Failed);
+}
+
+bool mayHaveDisplay()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+        if (!qEnvironmentVariableIsEmpty(name))
+            return true;
+    }
+    return false;
+#else
+    return true;
+#endif
+}
+
+} // namespace
+
+int runWindow(int &argc, char **argv, const std::function<QString()> &programFolder)
+{
+    if (!mayHaveDisplay()) {
+        writeError(QStringLiteral("there is no display to open a window on; name a command, --help lists them"));
+        return Failed;
+    }
+    const QtMessageHandler before = qInstallMessageHandler(endQuietly);
+    QApplication application(argc, argv);
+    qInstallMessageHandler(before);
+    QApplication::setApplicationName(QStringLiteral("Kalvenor"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Kalvenor"));
+
+    WidgetDesktop desktop;
+    Program program(programFolder(), desktop);
+    std::unique_ptr<Auswahl> window;
+    try {
+        const bool started = program.Main([&]() -> QObject * {
+            try {
+                window = std::make_unique<Auswahl>(program);
+                window->show();
+            } catch (const Error &error) {
+                desktop.runtimeError(error);
+                throw;
+            }
+            return window.get();
+        });
+        if (started && window)
+            return QApplication::exec();
+    } catch (const Error &error) {
+        desktop.runtimeError(error);
+    } catch (const std::bad_alloc &) {
+        desktop.messageBox(QStringLiteral("There is not enough memory for this."), MessageCritical, {});
+    }
+    return Failed;
+}
+
+} // namespace kalvenor::app
