@@ -1,0 +1,115 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+// selection PROGRAM-FOLDER PATTERN: times what a person does in the lists, inside the process, on an opened host.
+// One line a measure: name, median seconds, how many persons.
+#include "app/program.h"
+#include "selection/filtern.h"
+#include "selection/marking.h"
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <QElapsedTimer>
+
+using namespace kalvenor;
+using namespace kalvenor::selection;
+
+namespace {
+
+constexpr int Rounds = 7;
+constexpr int FirstPage = 100;
+
+using Query = std::shared_ptr<dao::Recordset>;
+
+/// Runs it several times and prints the median; the result is how many persons it concerned.
+void measure(const char *name, const std::function<qint64()> &work)
+{
+    std::vector<qint64> times;
+    qint64 persons = 0;
+    for (int round = 0; round < Rounds; ++round) {
+        QElapsedTimer clock;
+        clock.start();
+        persons = work();
+        times.push_back(clock.nsecsElapsed());
+    }
+    std::sort(times.begin(), times.end());
+    std::printf("%s %.6f %lld\n", name, static_cast<double>(times[Rounds / 2]) / 1e9, static_cast<long long>(persons));
+}
+
+/// The query's first page of names, as a list shows it.
+qint64 showFirstPage(dao::Database &family, const QString &query)
+{
+    const Query rows = family.openQuery(query);
+    const int listname = rows->fieldIndex(QStringLiteral("Listname"));
+    for (int shown = 0; shown < FirstPage && !rows->eof(); rows->moveNext(), ++shown)
+        rows->text(listname);
+    return rows->recordCount();
+}
+
+/// Somebody with many descendants: the earliest born of a sample with the most.
+qint32 ancestorOfMany(data::Datenbankmodul &databases)
+{
+    const Query rows = databases.Familiendatenbank->openQuery(
+        QStringLiteral("SELECT * FROM Daten WHERE Geburtsdatum < -100000 AND Vater = 0 ORDER BY Listname;"));
+    qint32 best = 1;
+    std::size_t most = 0;
+    for (int tried = 0; tried < 40 && !rows->eof(); rows->moveNext(), ++tried) {
+        const qint32 counter = rows->integer(rows->fieldIndex(QStringLiteral("Counter"))).value_or(0);
+        const auto found = markPersons(databases, std::vector{counter}, true, {.children = true});
+        markPersons(databases, found.changed, false);
+        if (found.changed.size() > most) {
+            most = found.changed.size();
+            best = counter;
+        }
+        if (found.limitReached)
+            break;
+    }
+    return best;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc != 3) {
+        std::fputs("usage: selection PROGRAM-FOLDER PATTERN\n", stderr);
+        return 2;
+    }
+    try {
+        TerminalDesktop desktop;
+        app::Program program(windowsPath(QString::fromLocal8Bit(argv[1])), desktop);
+        if (!program.Main())
+            return 1;
+        data::Datenbankmodul &databases = program.databases;
+        dao::Database &family = *databases.Familiendatenbank;
+        const auto showBoth = [&] {
+            return showFirstPage(family, plainListQuery(PersonList::Unmarked)) +
+                   showFirstPage(family, plainListQuery(PersonList::Marked));
+        };
+        showBoth(); // makes the order, once for the life of the program
+
+        const QString pattern = QString::fromLocal8Bit(argv[2]);
+        measure("filter",
+                [&] { return showFirstPage(family, filtern({.Presse = pattern}, systemDateOrder()).queries[0]); });
+        bool marked = false;
+        const Query first = family.openQuery(plainListQuery(PersonList::Unmarked));
+        const std::vector person{first->integer(first->fieldIndex(QStringLiteral("Counter"))).value_or(0)};
+        measure("move", [&] {
+            marked = !marked;
+            const auto moved = markPersons(databases, person, marked).changed.size();
+            showBoth();
+            return static_cast<qint64>(moved);
+        });
+        markPersons(databases, person, false);
+        const std::vector ancestor{ancestorOfMany(databases)};
+        bool line = false;
+        measure("walk", [&] {
+            line = !line;
+            return static_cast<qint64>(markPersons(databases, ancestor, line, {.children = true}).changed.size());
+        });
+        markPersons(databases, ancestor, false, {.children = true});
+    } catch (const Error &error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
+    return 0;
+}
