@@ -144,8 +144,8 @@ void Auswahl::updateState()
     // A filter narrows one list at most; the other one tells how many are marked.
     const qint64 marked = m_controller.isFiltered(PersonList::Marked) ? all - count(PersonList::Unmarked)
                                                                       : count(PersonList::Marked);
-    m_persons->setText(text(20301, QStringLiteral("%1 Personen")).arg(m_controller.numberText(all)));
-    m_marked->setText(text(20302, QStringLiteral("%1 markiert")).arg(m_controller.numberText(marked)));
+    m_persons->setText(text(20301, QStringLiteral("Personen: %1")).arg(m_controller.numberText(all)));
+    m_marked->setText(text(20302, QStringLiteral("Davon markiert: %1")).arg(m_controller.numberText(marked)));
 }
 
 void Auswahl::showShortcuts()

@@ -198,10 +198,10 @@ std::optional<MarkStep> SelectionController::changeMarks(const QString &what, co
 void SelectionController::tellMoved(const MarkStep &step)
 {
     if (!step.marked.empty())
-        Q_EMIT said(text(20308, QStringLiteral("%1 Personen markiert"))
+        Q_EMIT said(text(20308, QStringLiteral("Markiert: %1"))
                         .arg(numberText(static_cast<qint64>(step.marked.size()))));
     else if (!step.unmarked.empty())
-        Q_EMIT said(text(20309, QStringLiteral("Markierung von %1 Personen aufgehoben"))
+        Q_EMIT said(text(20309, QStringLiteral("Markierungen aufgehoben: %1"))
                         .arg(numberText(static_cast<qint64>(step.unmarked.size()))));
 }
 

@@ -161,7 +161,7 @@ void SelectionPanel::connectFilter()
         if (const QString date = m_filter->unsoundDate(); !date.isEmpty())
             Q_EMIT said(language::shownText(texts, 20420, QStringLiteral("Das ist kein Datum: %1")).arg(date));
         else
-            Q_EMIT said(language::shownText(texts, 20314, QStringLiteral("Filter: %1 Personen gefunden"))
+            Q_EMIT said(language::shownText(texts, 20314, QStringLiteral("Filter: %1 gefunden"))
                             .arg(m_controller.numberText(m_controller.model(list).rowCount())));
     });
 }
