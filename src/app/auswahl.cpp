@@ -83,7 +83,9 @@ void Auswahl::connectActions()
 {
     using selection::SelectionController;
     const MainActions &actions = *m_actions;
-    const auto on = [this](QAction *action, auto slot) { connect(action, &QAction::triggered, this, slot); };
+    const auto on = [this](QAction *action, auto slot) {
+        connect(action, &QAction::triggered, this, slot);
+    };
     on(actions.quit, [this] { close(); });
     on(actions.undo, [this] { m_controller.undo(); });
     on(actions.redo, [this] { m_controller.redo(); });
@@ -133,7 +135,9 @@ void Auswahl::say(const QString &what, int milliseconds)
 void Auswahl::updateState()
 {
     const MainActions &actions = *m_actions;
-    const auto count = [this](PersonList list) { return m_controller.model(list).rowCount(); };
+    const auto count = [this](PersonList list) {
+        return m_controller.model(list).rowCount();
+    };
     actions.undo->setEnabled(m_controller.canUndo());
     actions.redo->setEnabled(m_controller.canRedo());
     actions.mark->setEnabled(m_selection->hasSelection(PersonList::Unmarked));
@@ -142,8 +146,8 @@ void Auswahl::updateState()
     actions.unmarkAll->setEnabled(count(PersonList::Marked) > 0);
     const qint64 all = m_controller.personCount();
     // A filter narrows one list at most; the other one tells how many are marked.
-    const qint64 marked = m_controller.isFiltered(PersonList::Marked) ? all - count(PersonList::Unmarked)
-                                                                      : count(PersonList::Marked);
+    const qint64 marked =
+        m_controller.isFiltered(PersonList::Marked) ? all - count(PersonList::Unmarked) : count(PersonList::Marked);
     m_persons->setText(text(20301, QStringLiteral("Personen: %1")).arg(m_controller.numberText(all)));
     m_marked->setText(text(20302, QStringLiteral("Davon markiert: %1")).arg(m_controller.numberText(marked)));
 }

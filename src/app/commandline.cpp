@@ -90,8 +90,7 @@ private:
 
 void Parser::addProgram(CLI::App *to)
 {
-    to->add_option("--program", words.program, "The program's folder; its parent is the host folder")
-        ->type_name("DIR");
+    to->add_option("--program", words.program, "The program's folder; its parent is the host folder")->type_name("DIR");
 }
 
 CLI::App *Parser::command(const char *name, const char *what)

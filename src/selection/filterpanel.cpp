@@ -22,8 +22,8 @@ namespace {
 constexpr int TypingPauseMs = 300;
 const QString EmptyDate = QStringLiteral("__-__-____");
 
-template <typename Control> Control *made(QWidget *parent, const char *name, int index, const char *caption,
-                                          const char *tooltip)
+template <typename Control>
+Control *made(QWidget *parent, const char *name, int index, const char *caption, const char *tooltip)
 {
     auto *control = new Control(parent);
     control->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index));
@@ -82,7 +82,8 @@ void FilterPanel::build()
     m_name = new QLineEdit(this);
     m_name->setObjectName(QStringLiteral("Presse"));
     m_name->setClearButtonEnabled(true);
-    language::setDesignText(m_name, {}, QStringLiteral("20402Teil des Namens; * steht für beliebige Zeichen, ? für eines"));
+    language::setDesignText(m_name, {},
+                            QStringLiteral("20402Teil des Namens; * steht für beliebige Zeichen, ? für eines"));
     m_sexes = {made<QCheckBox>(this, "Geschlechtfilter", 0, "20403&Männer",
                                "20417Nur Männer zeigen; beide oder keines zeigt alle"),
                made<QCheckBox>(this, "Geschlechtfilter", 1, "20404&Frauen",
@@ -174,7 +175,9 @@ void FilterPanel::setFilter(const Filter &filter)
 bool FilterPanel::isEmpty() const
 {
     const Filter now = filter();
-    const auto off = [](int box) { return box == 0; };
+    const auto off = [](int box) {
+        return box == 0;
+    };
     return now.Presse.trimmed().isEmpty() && std::ranges::all_of(now.Geschlechtfilter, off) &&
            std::ranges::all_of(now.Datumfilter, off);
 }

@@ -87,8 +87,8 @@ void PersonListModel::show(std::shared_ptr<dao::Recordset> persons)
     const std::shared_ptr<dao::Recordset> before = std::exchange(m_persons, std::move(persons));
     m_table = std::move(table);
     m_rows = m_persons ? m_persons->rows() : std::span<const quint32>();
-    m_count = m_persons ? static_cast<int>(std::min<qint64>(m_persons->recordCount(), std::numeric_limits<int>::max()))
-                        : 0;
+    m_count =
+        m_persons ? static_cast<int>(std::min<qint64>(m_persons->recordCount(), std::numeric_limits<int>::max())) : 0;
     m_counter = counter;
     m_listname = listname;
     endResetModel();
@@ -158,8 +158,8 @@ QVariant PersonListModel::data(const QModelIndex &index, int role) const
 Qt::ItemFlags PersonListModel::flags(const QModelIndex &index) const
 {
     // Persons are dropped on the list, not on a person; its place follows from the order of the names.
-    return index.isValid() ? Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled |
-                                 Qt::ItemIsDropEnabled | Qt::ItemNeverHasChildren
+    return index.isValid() ? Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled |
+                                 Qt::ItemNeverHasChildren
                            : Qt::ItemIsDropEnabled;
 }
 

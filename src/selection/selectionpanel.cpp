@@ -37,9 +37,8 @@ QAbstractButton *moveButton(QWidget *parent, const char *name, LineIcon icon, co
 } // namespace
 
 SelectionPanel::SelectionPanel(SelectionController &controller, QWidget *parent)
-    : QWidget(parent), m_controller(controller),
-      m_lists{new PersonListPanel(controller, PersonList::Unmarked, this),
-              new PersonListPanel(controller, PersonList::Marked, this)},
+    : QWidget(parent), m_controller(controller), m_lists{new PersonListPanel(controller, PersonList::Unmarked, this),
+                                                         new PersonListPanel(controller, PersonList::Marked, this)},
       m_splitter(new QSplitter(Qt::Horizontal, this)), m_filter(new FilterPanel(this))
 {
     m_splitter->setObjectName(QStringLiteral("Listenteiler"));
