@@ -76,6 +76,16 @@ void Auswahl::makeStatusBar()
     m_database = panel("PanelDatenbank", "20303Die geöffnete Familiendatenbank");
     m_persons = panel("PanelPersonen", "20304Zahl der Personen in der Datenbank");
     m_marked = panel("PanelMarkiert", "20305Zahl der markierten Personen");
+    // A long message takes the room of the panels.
+    connect(statusBar(), &QStatusBar::messageChanged, this, [this](const QString &message) {
+        const QList<QLabel *> labels{m_database, m_persons, m_marked};
+        int room = statusBar()->width() - statusBar()->fontMetrics().horizontalAdvance(message) - 40;
+        for (const QLabel *label : labels)
+            room -= label->sizeHint().width();
+        for (QLabel *label : labels)
+            label->setVisible(message.isEmpty() || room > 0);
+        statusBar()->setToolTip(message);
+    });
     m_database->setText(QFileInfo(m_program.databases.Familiendatenbank->file()).fileName());
 }
 
