@@ -164,7 +164,7 @@ constexpr LanguageText texts[] = {
     {20416, u"Der Filter wirkt auf diese Liste", u"The filter acts on this list"},
     {20417, u"Nur Männer zeigen; beide oder keines zeigt alle", u"Show men only; both or neither shows everybody"},
     {20418, u"Nur Frauen zeigen; beide oder keines zeigt alle", u"Show women only; both or neither shows everybody"},
-    {20419, u"Der Filter ist nicht verständlich: %1", u"The filter cannot be understood: %1"},
+    {20419, u"Filter nicht verständlich: %1", u"Filter not understood: %1"},
     {20420, u"Das ist kein Datum: %1", u"This is not a date: %1"},
     {20421, u"Geschlecht", u"Sex"},
     {20422, u"Zeitraum", u"Period"},

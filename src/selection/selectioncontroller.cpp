@@ -148,7 +148,7 @@ void SelectionController::runFilters()
                     if (error.kind() == ErrorKind::InvalidSql || error.kind() == ErrorKind::InvalidPattern ||
                         error.kind() == ErrorKind::Refused)
                         Q_EMIT filterRefused(
-                            text(20419, QStringLiteral("Der Filter ist nicht verständlich: %1")).arg(error.text()));
+                            text(20419, QStringLiteral("Filter nicht verständlich: %1")).arg(error.text()));
                     else if (error.kind() != ErrorKind::Cancelled || !m_wanted)
                         throw;
                 }
