@@ -10,7 +10,6 @@
 #include <QDataStream>
 #include <QIODevice>
 #include <QMimeData>
-#include <ranges>
 
 namespace kalvenor::selection {
 
@@ -128,12 +127,15 @@ int PersonListModel::findName(const QString &typed) const
     const QString wanted = folded(typed);
     if (wanted.isEmpty())
         return -1;
-    const auto all = std::views::iota(0, m_count);
-    const auto found = std::ranges::partition_point(
-        all, [this, &typed](int row) { return jet::compareGeneral(nameAt(row), typed) < 0; });
-    if (found == all.end() || !folded(nameAt(*found)).startsWith(wanted))
-        return -1;
-    return *found;
+    int first = 0;
+    for (int end = m_count; first < end;) {
+        const int middle = first + (end - first) / 2;
+        if (jet::compareGeneral(nameAt(middle), typed) < 0)
+            first = middle + 1;
+        else
+            end = middle;
+    }
+    return first < m_count && folded(nameAt(first)).startsWith(wanted) ? first : -1;
 }
 
 int PersonListModel::rowCount(const QModelIndex &parent) const

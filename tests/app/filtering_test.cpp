@@ -124,8 +124,7 @@ TEST(Filtering, UnsoundInputIsSaidInTheStatusBar)
         name.clear();
         QTest::keyClicks(&name, text);
         QTest::keyClick(&name, Qt::Key_Return);
-        EXPECT_TRUE(open.statusText().startsWith("Filter nicht verständlich: "))
-            << open.statusText().toStdString();
+        EXPECT_TRUE(open.statusText().startsWith("Filter nicht verständlich: ")) << open.statusText().toStdString();
         EXPECT_EQ(open.shown(PersonList::Unmarked), before);
         EXPECT_EQ(open.controller().query(PersonList::Unmarked), query);
         EXPECT_EQ(name.text(), text);
