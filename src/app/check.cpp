@@ -326,11 +326,8 @@ void Checker::checkPersonTable(const std::shared_ptr<jet::Database> &database, c
         const jet::MarkWriter writer(database, persons, mark, counter);
         if (m_result.problems.size() > problemsBefore)
             return;
-        if (QFileInfo(database->file()).isWritable())
-            ok(database->file() + QStringLiteral(": writable, persons can be marked"));
-        else
-            locked(database->file() +
-                   QStringLiteral(": the family database is read-only; no person can be marked in it"));
+        writer.requireWritable();
+        ok(database->file() + QStringLiteral(": writable, persons can be marked"));
     } catch (const Error &error) {
         report(error);
     }

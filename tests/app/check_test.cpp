@@ -107,7 +107,7 @@ TEST(Check, NamesWhatIsWrongWithEachPart)
         {"other language", setting("Ansicht", "Sprache", "Suomi"), {"missing", "Ereignis.mdb", "Suomi"}, {}},
         {"read-only database",
          [](const test::Installation &it) { QFile::setPermissions(familyFile(it), QFile::ReadOwner); },
-         {"locked", "familie.mdb", "read-only"},
+         {"locked", "familie.mdb", "write-protected"},
          "can be marked"},
         {"damaged page",
          [](const test::Installation &it) {
