@@ -29,6 +29,7 @@ struct OpenWindow : Installation {
             return window.get();
         });
         window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get())); // a real desktop takes its time
     }
 
     /// The named control of the window.
