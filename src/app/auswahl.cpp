@@ -27,6 +27,7 @@ namespace {
 
 constexpr int SayMs = 8000;
 constexpr int SayUntilNext = 0;
+constexpr qsizetype DamageLinesShown = 12;
 const QString ListsKey = QStringLiteral("Listen");
 
 } // namespace
@@ -74,6 +75,10 @@ void Auswahl::makeStatusBar()
     };
     statusBar()->addPermanentWidget(new ProgressPanel(m_work, this));
     m_database = panel("PanelDatenbank", "20303Die geöffnete Familiendatenbank");
+    m_damage = new QLabel(this);
+    m_damage->setObjectName(QStringLiteral("PanelSchaden"));
+    m_damage->setContentsMargins(6, 0, 6, 0);
+    statusBar()->addPermanentWidget(m_damage);
     m_persons = panel("PanelPersonen", "20304Zahl der Personen in der Datenbank");
     m_marked = panel("PanelMarkiert", "20305Zahl der markierten Personen");
     // A long message takes the room of the panels.
@@ -158,6 +163,11 @@ void Auswahl::updateState()
     // A filter narrows one list at most; the other one tells how many are marked.
     const qint64 marked =
         m_controller.isFiltered(PersonList::Marked) ? all - count(PersonList::Unmarked) : count(PersonList::Marked);
+    const QStringList damage = m_program.databases.Familiendatenbank->warnings();
+    m_damage->setVisible(!damage.isEmpty());
+    m_damage->setText(
+        text(20320, QStringLiteral("Beschädigt, nicht alles lesbar: %1")).arg(m_controller.numberText(damage.size())));
+    m_damage->setToolTip(damage.mid(0, DamageLinesShown).join(u'\n'));
     m_persons->setText(text(20301, QStringLiteral("Personen: %1")).arg(m_controller.numberText(all)));
     m_marked->setText(text(20302, QStringLiteral("Davon markiert: %1")).arg(m_controller.numberText(marked)));
 }

@@ -49,7 +49,7 @@ private:
     selection::SelectionPanel *m_selection;
     QSplitter *m_splitter;
     std::unique_ptr<MainActions> m_actions;
-    QLabel *m_database, *m_persons, *m_marked;
+    QLabel *m_database, *m_damage, *m_persons, *m_marked;
     QString m_progressText; ///< in the status bar while work runs
     bool m_closing = false; ///< as soon as the running work has ended
     bool m_closed = false;

@@ -132,6 +132,7 @@ constexpr LanguageText texts[] = {
     {20317, u"Die aktuelle Vorlage", u"The current template"},
     {20318, u"Datei öffnen", u"Open file"},
     {20319, u"Ordner öffnen", u"Open folder"},
+    {20320, u"Beschädigt, nicht alles lesbar: %1", u"Damaged, not all readable: %1"},
     // Progress
     {20340, u"Bitte warten ...", u"Please wait ..."},
     {20341, u"Abbrechen", u"Cancel"},

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/jet/database.h"
 #include "support/openwindow.h"
 #include <QAction>
 #include <QLineEdit>
@@ -71,6 +72,22 @@ TEST(AnotherProgram, ItsChangeComesInWithTheNextAction)
     EXPECT_EQ(open.shown(PersonList::Marked), (Counters{3, 5}));
     open.controller().undo();
     EXPECT_EQ(open.marked(), Counters{3}) << "what the other program marked is not ours to take back";
+}
+
+TEST(Window, SaysThatTheDatabaseIsDamaged)
+{
+    OpenWindow open(smallFamily());
+    EXPECT_FALSE(open.control<QLabel>("PanelSchaden").isVisible());
+    const auto table = jet::Database::open(open.family())->table("Daten");
+    QFile file(open.family());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.seek(qint64{table->place(0).firstPage} * 4096 + 12);
+    file.write("\xff\xff", 2); // more rows than a page can have
+    file.close();
+    open.controller().reloadLists();
+    const auto &label = open.control<QLabel>("PanelSchaden");
+    EXPECT_TRUE(label.isVisible());
+    EXPECT_TRUE(label.toolTip().contains("familie.mdb") && label.toolTip().contains("page"));
 }
 
 TEST(Window, EndsTheDatabasesAndKeepsItsPlace)
