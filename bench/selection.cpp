@@ -5,6 +5,7 @@
 #include "app/program.h"
 #include "selection/filtern.h"
 #include "selection/marking.h"
+#include "statistics/altersliste.h"
 #include <algorithm>
 #include <cstdio>
 #include <functional>
@@ -19,6 +20,15 @@ constexpr int Rounds = 7;
 constexpr int FirstPage = 100;
 
 using Query = std::shared_ptr<dao::Recordset>;
+
+/// A part of the start or of one long action, done once.
+void phase(const char *name, const std::function<void()> &work)
+{
+    QElapsedTimer clock;
+    clock.start();
+    work();
+    std::printf("phase_%s %.6f 0\n", name, static_cast<double>(clock.nsecsElapsed()) / 1e9);
+}
 
 /// Runs it several times and prints the median; the result is how many persons it concerned.
 void measure(const char *name, const std::function<qint64()> &work)
@@ -77,7 +87,9 @@ int main(int argc, char **argv)
     try {
         TerminalDesktop desktop;
         app::Program program(windowsPath(QString::fromLocal8Bit(argv[1])), desktop);
-        if (!program.Main())
+        bool started = false;
+        phase("start", [&] { started = program.Main(); });
+        if (!started)
             return 1;
         data::Datenbankmodul &databases = program.databases;
         dao::Database &family = *databases.Familiendatenbank;
@@ -85,7 +97,11 @@ int main(int argc, char **argv)
             return showFirstPage(family, plainListQuery(PersonList::Unmarked)) +
                    showFirstPage(family, plainListQuery(PersonList::Marked));
         };
-        showBoth(); // makes the order, once for the life of the program
+        phase("order", showBoth); // made once for the life of the program
+        phase("mark", [&] { family.execute(QStringLiteral("Update Daten SET Markierung = -1 ;")); });
+        statistics::Altersliste ages;
+        phase("ages", [&] { statistics::alterslistenausgabe(databases, {1, 1, 1, 1}, ages); });
+        phase("unmark", [&] { family.execute(QStringLiteral("Update Daten SET Markierung = 0 ;")); });
 
         const QString pattern = QString::fromLocal8Bit(argv[2]);
         measure("filter",
