@@ -67,7 +67,10 @@ public:
         Q_UNUSED(row)
 #endif
     }
-    const RecordLayout &layout() const { return m_layout; }
+    const RecordLayout &layout() const
+    {
+        return m_layout;
+    }
 
     // Values. A column of another type than asked for gives nothing.
     bool isNull(std::uint32_t row, int column) const;

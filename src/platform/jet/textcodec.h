@@ -17,8 +17,8 @@ ByteCharacters charactersOf(int codePage);
 /// Jet 3: one byte a character. The buffer's room is used again.
 void decodeText3(std::span<const std::uint8_t> bytes, const ByteCharacters &characters, QString &into);
 
-/// Jet 4: the text begins with the mark of the compressed form. Until its first zero byte each byte behind the mark is a
-/// character, U+0001 to U+00FF.
+/// Jet 4: the text begins with the mark of the compressed form. Until its first zero byte each byte behind the mark is
+/// a character, U+0001 to U+00FF.
 inline bool isCompressed4(std::span<const std::uint8_t> bytes)
 {
     return bytes.size() >= 2 && bytes[0] == 0xff && bytes[1] == 0xfe;
