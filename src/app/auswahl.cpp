@@ -76,6 +76,16 @@ void Auswahl::makeStatusBar()
     m_database = panel("PanelDatenbank", "20303Die geöffnete Familiendatenbank");
     m_persons = panel("PanelPersonen", "20304Zahl der Personen in der Datenbank");
     m_marked = panel("PanelMarkiert", "20305Zahl der markierten Personen");
+    // A long message takes the room of the panels.
+    connect(statusBar(), &QStatusBar::messageChanged, this, [this](const QString &message) {
+        const QList<QLabel *> labels{m_database, m_persons, m_marked};
+        int room = statusBar()->width() - statusBar()->fontMetrics().horizontalAdvance(message) - 40;
+        for (const QLabel *label : labels)
+            room -= label->sizeHint().width();
+        for (QLabel *label : labels)
+            label->setVisible(message.isEmpty() || room > 0);
+        statusBar()->setToolTip(message);
+    });
     m_database->setText(QFileInfo(m_program.databases.Familiendatenbank->file()).fileName());
 }
 
@@ -83,7 +93,9 @@ void Auswahl::connectActions()
 {
     using selection::SelectionController;
     const MainActions &actions = *m_actions;
-    const auto on = [this](QAction *action, auto slot) { connect(action, &QAction::triggered, this, slot); };
+    const auto on = [this](QAction *action, auto slot) {
+        connect(action, &QAction::triggered, this, slot);
+    };
     on(actions.quit, [this] { close(); });
     on(actions.undo, [this] { m_controller.undo(); });
     on(actions.redo, [this] { m_controller.redo(); });
@@ -133,7 +145,9 @@ void Auswahl::say(const QString &what, int milliseconds)
 void Auswahl::updateState()
 {
     const MainActions &actions = *m_actions;
-    const auto count = [this](PersonList list) { return m_controller.model(list).rowCount(); };
+    const auto count = [this](PersonList list) {
+        return m_controller.model(list).rowCount();
+    };
     actions.undo->setEnabled(m_controller.canUndo());
     actions.redo->setEnabled(m_controller.canRedo());
     actions.mark->setEnabled(m_selection->hasSelection(PersonList::Unmarked));
@@ -142,10 +156,10 @@ void Auswahl::updateState()
     actions.unmarkAll->setEnabled(count(PersonList::Marked) > 0);
     const qint64 all = m_controller.personCount();
     // A filter narrows one list at most; the other one tells how many are marked.
-    const qint64 marked = m_controller.isFiltered(PersonList::Marked) ? all - count(PersonList::Unmarked)
-                                                                      : count(PersonList::Marked);
-    m_persons->setText(text(20301, QStringLiteral("%1 Personen")).arg(m_controller.numberText(all)));
-    m_marked->setText(text(20302, QStringLiteral("%1 markiert")).arg(m_controller.numberText(marked)));
+    const qint64 marked =
+        m_controller.isFiltered(PersonList::Marked) ? all - count(PersonList::Unmarked) : count(PersonList::Marked);
+    m_persons->setText(text(20301, QStringLiteral("Personen: %1")).arg(m_controller.numberText(all)));
+    m_marked->setText(text(20302, QStringLiteral("Davon markiert: %1")).arg(m_controller.numberText(marked)));
 }
 
 void Auswahl::showShortcuts()

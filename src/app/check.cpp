@@ -7,6 +7,7 @@
 #include "platform/desktop/terminal.h"
 #include "platform/jet/database.h"
 #include "platform/jet/markwriter.h"
+#include "platform/jet/record.h"
 #include <algorithm>
 #include <QFileInfo>
 #include <unordered_set>
@@ -24,6 +25,7 @@ struct NeededColumn {
 
 const std::vector<ColumnType> Numbers{ColumnType::Byte,  ColumnType::Integer, ColumnType::Long,
                                       ColumnType::Float, ColumnType::Double,  ColumnType::DateTime};
+const std::vector<ColumnType> WholeNumbers{ColumnType::Byte, ColumnType::Integer, ColumnType::Long};
 const std::vector<ColumnType> Texts{ColumnType::Text, ColumnType::Memo};
 
 std::vector<NeededColumn> personColumns()
@@ -51,11 +53,17 @@ std::vector<NeededColumn> eventColumns()
             {QStringLiteral("Icon_Druck"), {}}};
 }
 
+QString placeOf(const jet::Table &table)
+{
+    return QStringLiteral("%1, table \"%2\"").arg(table.image().file(), table.name());
+}
+
 class Checker {
 public:
     explicit Checker(const QString &programFolder) : m_host(programFolder, m_desktop)
     {
         m_host.Hostverzeichnis = host::uebergeordnetesverzeichnis(m_host.programFolder());
+        m_host.Sprache = QStringLiteral("Deutsch"); // what start-up takes where no setting says otherwise
     }
     CheckResult run();
 
@@ -158,10 +166,16 @@ void Checker::checkOutputFolder()
 
 std::shared_ptr<jet::Database> Checker::open(const QString &path)
 {
+    if (m_host.hasUnmappedDrive(path)) {
+        missing(QStringLiteral("%1: no folder is known for the drive %2; name it in %3, section [Laufwerke], "
+                               "e.g. %4=/media/windows")
+                    .arg(path, path.left(2), m_host.native(m_host.ownSettingsFile()), path.left(1)));
+        return nullptr;
+    }
     try {
         auto database = jet::Database::open(m_host.native(path));
         for (const QString &warning : database->warnings())
-            damaged(warning);
+            damaged(QStringLiteral("%1: %2").arg(database->file(), warning));
         return database;
     } catch (const Error &error) {
         report(error);
@@ -174,7 +188,7 @@ Checker::Table Checker::table(jet::Database &database, const QString &name)
     try {
         Table found = database.table(name);
         for (const QString &warning : found->warnings())
-            damaged(warning);
+            damaged(QStringLiteral("%1: %2").arg(placeOf(*found), warning));
         return found;
     } catch (const Error &error) {
         report(error);
@@ -186,7 +200,7 @@ bool Checker::hasColumns(const jet::Table &table, const std::vector<NeededColumn
 {
     bool complete = true;
     for (const NeededColumn &needed : columns) {
-        const QString place = QStringLiteral("%1, table \"%2\"").arg(table.image().file(), table.name());
+        const QString place = placeOf(table);
         const int column = table.columnOf(needed.name);
         if (column < 0) {
             missing(QStringLiteral("%1: there is no column \"%2\"").arg(place, needed.name));
@@ -207,8 +221,7 @@ bool Checker::hasCounterIndex(const jet::Table &table)
         return index.name.compare(u"Counter", Qt::CaseInsensitive) == 0;
     });
     if (!there)
-        missing(
-            QStringLiteral("%1, table \"%2\": there is no index \"Counter\"").arg(table.image().file(), table.name()));
+        missing(placeOf(table) + QStringLiteral(": there is no index \"Counter\""));
     return there;
 }
 
@@ -220,12 +233,12 @@ void Checker::checkLanguageDatabase(const QString &file, bool holdsOurTexts)
     const Table languages = table(*database, QStringLiteral("Languages"));
     if (!languages)
         return;
-    bool sound = hasColumns(*languages, {{QStringLiteral("Counter"), Numbers}}) && hasCounterIndex(*languages);
+    bool sound = hasColumns(*languages, {{QStringLiteral("Counter"), WholeNumbers}}) && hasCounterIndex(*languages);
     // The host's own language database is only opened at the end; its columns are the host's affair.
     if (holdsOurTexts)
         sound = hasColumns(*languages, {{m_host.Sprache, Texts}}) && sound;
     if (sound)
-        ok(QStringLiteral("%1: %2 texts").arg(database->file()).arg(languages->rowCount()));
+        ok(QStringLiteral("%1: %2 texts").arg(database->file(), QString::number(languages->rowCount())));
 }
 
 void Checker::checkFamilyDatabase()
@@ -288,23 +301,33 @@ void Checker::checkPersonTable(const std::shared_ptr<jet::Database> &database, c
     counters.reserve(persons->rowCount());
     quint32 marked = 0;
     quint32 without = 0;
+    quint32 older = 0;
+    const qsizetype problemsBefore = m_result.problems.size();
+    const std::uint16_t markNumber = persons->columns()[static_cast<std::size_t>(mark)].number;
     for (quint32 row = 0; row < persons->rowCount(); ++row) {
         const auto value = persons->integer(row, counter);
         without += value ? 0 : 1;
         if (value && !counters.insert(*value).second)
-            damaged(QStringLiteral("%1: two persons have the Counter %2").arg(database->file()).arg(*value));
+            damaged(
+                QStringLiteral("%1: two persons have the Counter %2").arg(placeOf(*persons), QString::number(*value)));
         marked += persons->boolean(row, mark) ? 1 : 0;
+        older += jet::Record(persons->layout(), persons->record(row)).has(markNumber) ? 0 : 1;
     }
-    if (without > 0)
-        damaged(QStringLiteral("%1: %2 persons have no Counter").arg(database->file()).arg(without));
-    ok(QStringLiteral("%1: %2 persons, %3 of them marked").arg(database->file()).arg(persons->rowCount()).arg(marked));
+    const auto lines = [&](quint32 count, const char *what) {
+        if (count > 0)
+            damaged(QStringLiteral("%1: %2 %3").arg(placeOf(*persons), QString::number(count), QLatin1String(what)));
+    };
+    lines(without, "persons have no Counter");
+    lines(older,
+          "persons are older than the column \"Markierung\" and cannot be marked until the host saves them again");
+    ok(QStringLiteral("%1: %2 persons, %3 of them marked")
+           .arg(database->file(), QString::number(persons->rowCount()), QString::number(marked)));
     try {
         const jet::MarkWriter writer(database, persons, mark, counter);
-        if (QFileInfo(database->file()).isWritable())
-            ok(database->file() + QStringLiteral(": writable, persons can be marked"));
-        else
-            locked(database->file() +
-                   QStringLiteral(": the family database is read-only; no person can be marked in it"));
+        if (m_result.problems.size() > problemsBefore)
+            return;
+        writer.requireWritable();
+        ok(database->file() + QStringLiteral(": writable, persons can be marked"));
     } catch (const Error &error) {
         report(error);
     }

@@ -34,7 +34,7 @@ struct Words {
     std::string folder;
     std::string title;
     std::string output;
-    std::vector<qint32> counters;
+    std::vector<std::string> counters;
     bool all = false;
     bool children = false;
     bool parents = false;
@@ -71,6 +71,19 @@ statistics::GeschlechtAlter sexOf(const Words &words)
     return {men, women, men, women};
 }
 
+/// Where a folder is asked for, the empty text is a variable that a script left empty.
+const CLI::Validator
+    NotEmpty([](const std::string &word) { return word.empty() ? "the name is empty" : std::string(); }, "");
+
+/// Decimal digits only: a leading zero or 0x must not mean another person.
+std::optional<qint32> counterOf(const std::string &word)
+{
+    const QString text = toText(word);
+    bool isNumber = false;
+    const qint32 counter = text.toInt(&isNumber, 10);
+    return isNumber && text == QString::number(counter) ? std::optional(counter) : std::nullopt;
+}
+
 /// The commands and their options. Everything lives as long as the parser.
 class Parser {
 public:
@@ -91,6 +104,7 @@ private:
 void Parser::addProgram(CLI::App *to)
 {
     to->add_option("--program", words.program, "The program's folder; its parent is the host folder")
+        ->check(NotEmpty)
         ->type_name("DIR");
 }
 
@@ -104,14 +118,14 @@ CLI::App *Parser::command(const char *name, const char *what)
 void Parser::addSex(CLI::App *to)
 {
     to->add_option("--sex", words.sex, "Whom to list: m men, w women, mw both")
-        ->check(CLI::IsMember({"m", "w", "mw"}))
+        ->check(CLI::IsMember({"m", "w", "mw"}).description(""))
         ->type_name("m|w|mw");
 }
 
 void Parser::addFormat(CLI::App *to)
 {
     to->add_option("--format", words.format, "How the result is written")
-        ->check(CLI::IsMember({"text", "tsv", "json"}))
+        ->check(CLI::IsMember({"text", "tsv", "json"}).description(""))
         ->type_name("text|tsv|json");
 }
 
@@ -136,17 +150,22 @@ Parser::Parser()
     addProgram(&app);
 
     demo = app.add_subcommand("demo", "Makes a demonstration host installation");
-    demo->add_option("DIR", words.folder, "Where; DIR/QV becomes the host folder")->required()->type_name("");
-    demo->add_option("--persons", words.persons, "How many persons")->check(CLI::Range(1, 2'000'000))->type_name("N");
+    demo->add_option("DIR", words.folder, "Where; DIR/QV becomes the host folder")
+        ->required()
+        ->check(NotEmpty)
+        ->type_name("");
+    demo->add_option("--persons", words.persons, "How many persons")
+        ->check(CLI::Range(1, 2'000'000).description(""))
+        ->type_name("N");
     demo->add_option("--seed", words.seed, "Another seed makes other families")->type_name("S");
 
     check = command("check", "Says what of the installation is there, readable and writable");
     list = command("list", "Lists the unmarked or the marked persons");
     list->add_option("--list", words.list, "Which list")
-        ->check(CLI::IsMember({"unmarked", "marked"}))
+        ->check(CLI::IsMember({"unmarked", "marked"}).description(""))
         ->type_name("unmarked|marked");
     list->add_option("--limit", words.limit, "No more than the first N persons")
-        ->check(CLI::Range(qint64{0}, std::numeric_limits<qint64>::max()))
+        ->check(CLI::Range(qint64{0}, std::numeric_limits<qint64>::max()).description(""))
         ->type_name("N");
     addFormat(list);
     listFilter.addTo(*list);
@@ -204,9 +223,15 @@ int runMarkWords(const Words &words, bool mark, const FilterOptions &filter)
     const QString query = listQuery(from, filter);
     if (named && query != selection::plainListQuery(from))
         return wrongUsage(QStringLiteral("a filter goes with --all, not with --counter"));
-    return runMark(
-        programFolder(words),
-        {mark, named ? std::nullopt : std::optional(query), words.counters, {words.children, words.parents}});
+    std::vector<qint32> counters;
+    for (const std::string &word : words.counters) {
+        const auto counter = counterOf(word);
+        if (!counter)
+            return wrongUsage(QStringLiteral("--counter: \"%1\" is no whole number").arg(toText(word)));
+        counters.push_back(*counter);
+    }
+    return runMark(programFolder(words),
+                   {mark, named ? std::nullopt : std::optional(query), counters, {words.children, words.parents}});
 }
 
 int runReportWords(const Words &words)

@@ -21,6 +21,18 @@ struct StartedProgram {
     TerminalDesktop desktop;
     Program program;
     bool ready;
+
+    /// The exit code of a command that did its work; says on stderr where damage of the file made the result short.
+    int done() const
+    {
+        const dao::Database &family = *program.databases.Familiendatenbank;
+        const QStringList damage = family.warnings();
+        if (!damage.isEmpty())
+            writeError(QStringLiteral("%1 is damaged and what could not be read was left out, so the result is not "
+                                      "complete (%2 places, the first: %3); kalvenor check lists them")
+                           .arg(family.file(), QString::number(damage.size()), damage.first()));
+        return Done;
+    }
 };
 
 void printLine(const QString &line)
@@ -53,8 +65,7 @@ int runDemo(const DemoCommand &command)
     TerminalProgress terminal(QStringLiteral("making persons"));
     const DemoHost made = makeDemoHost({command.folder, command.persons, command.seed}, terminal.progress());
     printLine(QStringLiteral("host folder:     %1\nprogram folder:  %2\nfamily database: %3\npersons:         %4")
-                  .arg(made.hostFolder, made.programFolder, made.familyDatabase)
-                  .arg(made.persons));
+                  .arg(made.hostFolder, made.programFolder, made.familyDatabase, QString::number(made.persons)));
     return Done;
 }
 
@@ -71,7 +82,7 @@ int runList(const QString &programFolder, const ListCommand &command)
     for (qint64 written = 0; !persons->eof() && written != command.limit; persons->moveNext(), ++written)
         output.add(persons->integer(counter).value_or(0), persons->text(listname));
     output.finish();
-    return Done;
+    return started.done();
 }
 
 int runMark(const QString &programFolder, const MarkCommand &command)
@@ -91,7 +102,7 @@ int runMark(const QString &programFolder, const MarkCommand &command)
         const auto unknown = selection::unknownPersons(databases, command.counters);
         if (!unknown.empty()) {
             writeError(QStringLiteral("%1: no person with Counter %2; nothing was changed")
-                           .arg(started.program.host.Familienpfad, numbers(unknown)));
+                           .arg(databases.Familiendatenbank->file(), numbers(unknown)));
             return Failed;
         }
         const auto result =
@@ -101,7 +112,7 @@ int runMark(const QString &programFolder, const MarkCommand &command)
             tellLimitReached(started.program);
     }
     printLine(QStringLiteral("%1 rows changed").arg(changed));
-    return Done;
+    return started.done();
 }
 
 int runAges(const QString &programFolder, const AgesCommand &command)
@@ -116,7 +127,7 @@ int runAges(const QString &programFolder, const AgesCommand &command)
     for (const statistics::Alterszeile &line : list)
         output.add(line.Counter, line.text);
     output.finish();
-    return Done;
+    return started.done();
 }
 
 int runReport(const QString &programFolder, const ReportCommand &command)
@@ -129,8 +140,9 @@ int runReport(const QString &programFolder, const ReportCommand &command)
     statistics::alterslistenausgabe(started.program.databases, command.sex, list, terminal.progress());
     const int pages =
         report::writeAgeListReport(command.title, list, started.program.language, command.output, terminal.progress());
-    printLine(QStringLiteral("%1: %2 persons on %3 pages").arg(command.output).arg(list.size()).arg(pages));
-    return Done;
+    printLine(QStringLiteral("%1: %2 persons on %3 pages")
+                  .arg(command.output, QString::number(list.size()), QString::number(pages)));
+    return started.done();
 }
 
 } // namespace kalvenor::app

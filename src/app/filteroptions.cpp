@@ -32,15 +32,16 @@ QString maskText(const char *option, const std::string &word, DateOrder order)
 
 void FilterOptions::addTo(CLI::App &command)
 {
-    CLI::Option *dates = command.add_option("--dates", m_dates, "Which dates lie between --from and --to")
-                             ->delimiter(',')
-                             ->check(CLI::IsMember(std::vector<std::string>(DateKinds.begin(), DateKinds.end())))
-                             ->type_name("birth,death,change");
+    CLI::Option *dates =
+        command.add_option("--dates", m_dates, "Which dates lie between --from and --to")
+            ->delimiter(',')
+            ->check(CLI::IsMember(std::vector<std::string>(DateKinds.begin(), DateKinds.end())).description(""))
+            ->type_name("birth,death,change");
     m_options.insert(m_options.end(),
                      {command.add_option("--name", m_name, "Whose list name matches; * any text, ? one character")
                           ->type_name("PATTERN"),
                       command.add_option("--sex", m_sex, "m men, w women, mw whoever")
-                          ->check(CLI::IsMember({"m", "w", "mw"}))
+                          ->check(CLI::IsMember({"m", "w", "mw"}).description(""))
                           ->type_name("m|w|mw"),
                       dates, command.add_option("--from", m_from, "Not before")->needs(dates)->type_name("DATE"),
                       command.add_option("--to", m_to, "Not after")->needs(dates)->type_name("DATE")});

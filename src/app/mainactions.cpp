@@ -55,24 +55,23 @@ MainActions::MainActions(QMainWindow &window)
       mark(makeAction(window, "Markieren", "20123 Person &markieren", Qt::CTRL | Qt::Key_M)),
       unmark(makeAction(window, "Aufheben", "20124 Markierung &aufheben", Qt::CTRL | Qt::Key_U)),
       markAll(makeAction(window, "Allemarkieren", "20125 A&lle markieren", Qt::CTRL | Qt::SHIFT | Qt::Key_M)),
-      unmarkAll(makeAction(window, "Alleaufheben", "20126 Alle Markierungen auf&heben",
-                           Qt::CTRL | Qt::SHIFT | Qt::Key_U)),
+      unmarkAll(
+          makeAction(window, "Alleaufheben", "20126 Alle Markierungen auf&heben", Qt::CTRL | Qt::SHIFT | Qt::Key_U)),
       find(makeAction(window, "Suchen", "20127 &Person suchen", Qt::CTRL | Qt::Key_F)),
       showTools(makeAction(window, "Werkzeugleiste", "20141 &Werkzeugleiste")),
       showStatus(makeAction(window, "Statusleiste", "20142 &Statusleiste")),
       showFilter(makeAction(window, "Filteranzeigen", "20143 &Filter")),
       reload(makeAction(window, "Neuladen", "20144 Listen &neu laden", Qt::Key_F5)),
-      shortcuts(makeAction(window, "Tastenkuerzel", "20163 &Tastenkürzel", Qt::Key_F1)), tools(new QToolBar(&window)),
-      all{quit,      undo,  redo,      copy,      selectAll, mark,    unmark, markAll,
-          unmarkAll, find,  showTools, showStatus, showFilter, reload, shortcuts}
+      shortcuts(makeAction(window, "Tastenkuerzel", "20163 &Tastenkürzel", Qt::Key_F1)),
+      tools(new QToolBar(&window)), all{quit,      undo, redo,      copy,       selectAll,  mark,   unmark,   markAll,
+                                        unmarkAll, find, showTools, showStatus, showFilter, reload, shortcuts}
 {
     quit->setMenuRole(QAction::QuitRole);
     for (QAction *shown : {showTools, showStatus, showFilter}) {
         shown->setCheckable(true);
         shown->setChecked(true);
     }
-    giveToolButton(undo, LineIcon::Undo, "20207Rückgängig",
-                   "20227Die letzte Änderung der Markierungen zurücknehmen");
+    giveToolButton(undo, LineIcon::Undo, "20207Rückgängig", "20227Die letzte Änderung der Markierungen zurücknehmen");
     giveToolButton(redo, LineIcon::Redo, "20208Wiederherstellen", "20228Die zurückgenommene Änderung wieder ausführen");
     giveToolButton(reload, LineIcon::Reload, "20209Neu laden", "20229Beide Listen neu laden");
     giveToolButton(quit, LineIcon::Quit, "20211Beenden", "20231Das Programm beenden");

@@ -19,6 +19,18 @@ QWindow *activeForm()
                                                                                     : nullptr;
 }
 
+qint16 shortHelp(const host::Host &host, const QString &settings, const QString &view)
+{
+    const QString text = host.inilesen(settings, view, QStringLiteral("Kurzhilfe"), QStringLiteral("1"));
+    try {
+        return toInteger16(leadingNumber(text));
+    } catch (const Error &error) {
+        throw Error(
+            error.kind(), host.native(settings),
+            QStringLiteral("The setting Kurzhilfe=%1 in section [%2] cannot be: %3.").arg(text, view, error.text()));
+    }
+}
+
 } // namespace
 
 bool Program::Main(const ShowMainWindow &showMainWindow)
@@ -27,8 +39,7 @@ bool Program::Main(const ShowMainWindow &showMainWindow)
     const QString settings = host.hostSettingsFile();
     const QString view = QStringLiteral("Ansicht");
     host.Sprache = host.inilesen(settings, view, QStringLiteral("Sprache"), QStringLiteral("Deutsch"));
-    host.Kurzhilfe =
-        toInteger16(leadingNumber(host.inilesen(settings, view, QStringLiteral("Kurzhilfe"), QStringLiteral("1"))));
+    host.Kurzhilfe = shortHelp(host, settings, view);
     language.spracheoeffnen(host.Hostverzeichnis + QStringLiteral("\\ADD-IN-LANGUAGE.MDB"));
     host.Familienpfad = host.inilesen(settings, QStringLiteral("QV-Files"), QStringLiteral("0"), {});
     if (host.Familienpfad.isEmpty() || host.dir(host.Familienpfad).isEmpty()) {

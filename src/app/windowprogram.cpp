@@ -38,6 +38,15 @@ bool mayHaveDisplay()
 #endif
 }
 
+/// Where windows are drawn for nobody, nobody could answer a message box.
+std::unique_ptr<Desktop> makeDesktop()
+{
+    const QString platform = QGuiApplication::platformName();
+    if (platform == u"offscreen" || platform == u"minimal")
+        return std::make_unique<TerminalDesktop>();
+    return std::make_unique<WidgetDesktop>();
+}
+
 } // namespace
 
 int runWindow(int &argc, char **argv, const std::function<QString()> &programFolder)
@@ -52,8 +61,8 @@ int runWindow(int &argc, char **argv, const std::function<QString()> &programFol
     QApplication::setApplicationName(QStringLiteral("Kalvenor"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kalvenor"));
 
-    WidgetDesktop desktop;
-    Program program(programFolder(), desktop);
+    const std::unique_ptr<Desktop> desktop = makeDesktop();
+    Program program(programFolder(), *desktop);
     std::unique_ptr<Auswahl> window;
     try {
         const bool started = program.Main([&]() -> QObject * {
@@ -61,7 +70,7 @@ int runWindow(int &argc, char **argv, const std::function<QString()> &programFol
                 window = std::make_unique<Auswahl>(program);
                 window->show();
             } catch (const Error &error) {
-                desktop.runtimeError(error);
+                desktop->runtimeError(error);
                 throw;
             }
             return window.get();
@@ -69,9 +78,9 @@ int runWindow(int &argc, char **argv, const std::function<QString()> &programFol
         if (started && window)
             return QApplication::exec();
     } catch (const Error &error) {
-        desktop.runtimeError(error);
+        desktop->runtimeError(error);
     } catch (const std::bad_alloc &) {
-        desktop.messageBox(QStringLiteral("There is not enough memory for this."), MessageCritical, {});
+        desktop->messageBox(QStringLiteral("There is not enough memory for this."), MessageCritical, {});
     }
     return Failed;
 }

@@ -13,7 +13,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSignalBlocker>
+#include <QScopedValueRollback>
 
 namespace kalvenor::selection {
 
@@ -22,8 +22,8 @@ namespace {
 constexpr int TypingPauseMs = 300;
 const QString EmptyDate = QStringLiteral("__-__-____");
 
-template <typename Control> Control *made(QWidget *parent, const char *name, int index, const char *caption,
-                                          const char *tooltip)
+template <typename Control>
+Control *made(QWidget *parent, const char *name, int index, const char *caption, const char *tooltip)
 {
     auto *control = new Control(parent);
     control->setObjectName(QStringLiteral("%1_%2").arg(QLatin1String(name)).arg(index));
@@ -60,12 +60,19 @@ FilterPanel::FilterPanel(QWidget *parent) : QGroupBox(parent)
     m_pause.setSingleShot(true);
     connect(&m_pause, &QTimer::timeout, this, [this] { Q_EMIT wanted(filter(), true); });
     for (QLineEdit *entry : {m_name, m_bounds[0], m_bounds[1]}) {
-        connect(entry, &QLineEdit::textEdited, this, [this] { later(TypingPauseMs); });
+        // Not textEdited, which the name's clear button does not send.
+        connect(entry, &QLineEdit::textChanged, this, [this] {
+            if (!m_filling)
+                later(TypingPauseMs);
+        });
         connect(entry, &QLineEdit::returnPressed, this, &FilterPanel::now);
     }
     for (QAbstractButton *box : std::initializer_list<QAbstractButton *>{m_sexes[0], m_sexes[1], m_dates[0], m_dates[1],
                                                                          m_dates[2], m_lists[0]})
-        connect(box, &QAbstractButton::toggled, this, [this] { later(0); });
+        connect(box, &QAbstractButton::toggled, this, [this] {
+            if (!m_filling)
+                later(0);
+        });
     connect(m_filter, &QPushButton::clicked, this, &FilterPanel::now);
     connect(m_clear, &QPushButton::clicked, this, &FilterPanel::clear);
 }
@@ -75,7 +82,8 @@ void FilterPanel::build()
     m_name = new QLineEdit(this);
     m_name->setObjectName(QStringLiteral("Presse"));
     m_name->setClearButtonEnabled(true);
-    language::setDesignText(m_name, {}, QStringLiteral("20402Teil des Namens; * steht für beliebige Zeichen, ? für eines"));
+    language::setDesignText(m_name, {},
+                            QStringLiteral("20402Teil des Namens; * steht für beliebige Zeichen, ? für eines"));
     m_sexes = {made<QCheckBox>(this, "Geschlechtfilter", 0, "20403&Männer",
                                "20417Nur Männer zeigen; beide oder keines zeigt alle"),
                made<QCheckBox>(this, "Geschlechtfilter", 1, "20404&Frauen",
@@ -153,31 +161,30 @@ Filter FilterPanel::filter() const
 void FilterPanel::setFilter(const Filter &filter)
 {
     m_pause.stop();
+    const QScopedValueRollback quiet(m_filling, true);
     m_name->setText(filter.Presse);
-    for (std::size_t i = 0; i < m_sexes.size(); ++i) {
-        const QSignalBlocker quiet(m_sexes[i]);
+    for (std::size_t i = 0; i < m_sexes.size(); ++i)
         m_sexes[i]->setChecked(filter.Geschlechtfilter[i] == 1);
-    }
-    for (std::size_t i = 0; i < m_dates.size(); ++i) {
-        const QSignalBlocker quiet(m_dates[i]);
+    for (std::size_t i = 0; i < m_dates.size(); ++i)
         m_dates[i]->setChecked(filter.Datumfilter[i] == 1);
-    }
     for (std::size_t i = 0; i < m_bounds.size(); ++i)
         m_bounds[i]->setText(filter.Presse_Datum[i].isEmpty() ? EmptyDate : filter.Presse_Datum[i]);
-    const QSignalBlocker quiet(m_lists[0]);
     m_lists[static_cast<std::size_t>(filter.Filterliste)]->setChecked(true);
 }
 
 bool FilterPanel::isEmpty() const
 {
     const Filter now = filter();
-    const auto off = [](int box) { return box == 0; };
+    const auto off = [](int box) {
+        return box == 0;
+    };
     return now.Presse.trimmed().isEmpty() && std::ranges::all_of(now.Geschlechtfilter, off) &&
            std::ranges::all_of(now.Datumfilter, off);
 }
 
 void FilterPanel::setPattern(const QString &pattern)
 {
+    const QScopedValueRollback quiet(m_filling, true);
     if (m_name->text() != pattern)
         m_name->setText(pattern);
 }

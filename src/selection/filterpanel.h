@@ -61,6 +61,7 @@ private:
     QPushButton *m_filter;
     QPushButton *m_clear;
     QTimer m_pause;
+    bool m_filling = false; ///< by the program, not by the user
 };
 
 } // namespace kalvenor::selection

@@ -10,7 +10,6 @@
 #include <QDataStream>
 #include <QIODevice>
 #include <QMimeData>
-#include <ranges>
 
 namespace kalvenor::selection {
 
@@ -87,8 +86,8 @@ void PersonListModel::show(std::shared_ptr<dao::Recordset> persons)
     const std::shared_ptr<dao::Recordset> before = std::exchange(m_persons, std::move(persons));
     m_table = std::move(table);
     m_rows = m_persons ? m_persons->rows() : std::span<const quint32>();
-    m_count = m_persons ? static_cast<int>(std::min<qint64>(m_persons->recordCount(), std::numeric_limits<int>::max()))
-                        : 0;
+    m_count =
+        m_persons ? static_cast<int>(std::min<qint64>(m_persons->recordCount(), std::numeric_limits<int>::max())) : 0;
     m_counter = counter;
     m_listname = listname;
     endResetModel();
@@ -128,12 +127,15 @@ int PersonListModel::findName(const QString &typed) const
     const QString wanted = folded(typed);
     if (wanted.isEmpty())
         return -1;
-    const auto all = std::views::iota(0, m_count);
-    const auto found = std::ranges::partition_point(
-        all, [this, &typed](int row) { return jet::compareGeneral(nameAt(row), typed) < 0; });
-    if (found == all.end() || !folded(nameAt(*found)).startsWith(wanted))
-        return -1;
-    return *found;
+    int first = 0;
+    for (int end = m_count; first < end;) {
+        const int middle = first + (end - first) / 2;
+        if (jet::compareGeneral(nameAt(middle), typed) < 0)
+            first = middle + 1;
+        else
+            end = middle;
+    }
+    return first < m_count && folded(nameAt(first)).startsWith(wanted) ? first : -1;
 }
 
 int PersonListModel::rowCount(const QModelIndex &parent) const
@@ -158,8 +160,8 @@ QVariant PersonListModel::data(const QModelIndex &index, int role) const
 Qt::ItemFlags PersonListModel::flags(const QModelIndex &index) const
 {
     // Persons are dropped on the list, not on a person; its place follows from the order of the names.
-    return index.isValid() ? Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled |
-                                 Qt::ItemIsDropEnabled | Qt::ItemNeverHasChildren
+    return index.isValid() ? Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled | Qt::ItemIsDropEnabled |
+                                 Qt::ItemNeverHasChildren
                            : Qt::ItemIsDropEnabled;
 }
 

@@ -67,17 +67,19 @@ void PersonListPanel::update()
                              : language::shownText(texts, 20003, QStringLiteral("Liste neu laden")));
     m_load->setChecked(filtered);
 
-    const auto number = [this](qint64 value) { return m_controller.numberText(value); };
+    const auto number = [this](qint64 value) {
+        return m_controller.numberText(value);
+    };
     QString figures = language::shownText(texts, 20005, QStringLiteral("%1 von %2"))
                           .arg(number(m_controller.model(m_list).rowCount()), number(m_controller.personCount()));
     if (const qint64 selected = m_view->selectedCount(); selected > 1)
         figures = language::shownText(texts, 20028, QStringLiteral("%1 ausgewählt")).arg(number(selected)) +
                   QStringLiteral(" · ") + figures;
     m_figures->setText(figures);
-    m_view->setPlaceholder(filtered ? language::shownText(texts, 20020, QStringLiteral("Keine Person passt zum Filter."))
-                           : m_list == PersonList::Marked
-                               ? language::shownText(texts, 20019, QStringLiteral("Keine Person ist markiert."))
-                               : QString());
+    m_view->setPlaceholder(
+        filtered ? language::shownText(texts, 20020, QStringLiteral("Keine Person passt zum Filter."))
+        : m_list == PersonList::Marked ? language::shownText(texts, 20019, QStringLiteral("Keine Person ist markiert."))
+                                       : QString());
 }
 
 } // namespace kalvenor::selection

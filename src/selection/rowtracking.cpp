@@ -79,14 +79,17 @@ QItemSelection selectionOfTableRows(const PersonListModel &model, const std::vec
     for (const quint32 row : tableRows)
         wanted[row] = true;
     const auto rows = model.tableRows();
-    const int count = static_cast<int>(rows.size());
-    for (int first = 0; first < count; ++first) {
-        if (!wanted[rows[static_cast<std::size_t>(first)]])
+    const auto isWanted = [&](std::size_t row) {
+        return row < rows.size() && wanted[rows[row]];
+    };
+    for (std::size_t first = 0; first < rows.size(); ++first) {
+        if (!isWanted(first))
             continue;
-        int last = first;
-        while (last + 1 < count && wanted[rows[static_cast<std::size_t>(last + 1)]])
+        std::size_t last = first;
+        while (isWanted(last + 1))
             ++last;
-        selection.append(QItemSelectionRange(model.index(first), model.index(last)));
+        selection.append(
+            QItemSelectionRange(model.index(static_cast<int>(first)), model.index(static_cast<int>(last))));
         first = last;
     }
     return selection;

@@ -137,20 +137,23 @@ void SelectionController::runFilters()
     while (m_wanted && !m_services.work.isRunning()) {
         const WantedFilter wanted = *std::exchange(m_wanted, std::nullopt);
         m_filtering = true;
-        perform(text(20340, QStringLiteral("Bitte warten ...")), [&](const Progress &progress) {
-            try {
-                const FilterQueries built = filtern(wanted.filter, systemDateOrder());
-                load(built.queries, false, progress);
-                Q_EMIT filtered(built.pattern, wanted.typed);
-            } catch (const Error &error) {
-                if (error.kind() == ErrorKind::InvalidSql || error.kind() == ErrorKind::InvalidPattern ||
-                    error.kind() == ErrorKind::Refused)
-                    Q_EMIT filterRefused(
-                        text(20419, QStringLiteral("Der Filter ist nicht verständlich: %1")).arg(error.text()));
-                else if (error.kind() != ErrorKind::Cancelled || !m_wanted)
-                    throw;
-            }
-        }, Work::Input::Typing);
+        perform(
+            text(20340, QStringLiteral("Bitte warten ...")),
+            [&](const Progress &progress) {
+                try {
+                    const FilterQueries built = filtern(wanted.filter, systemDateOrder());
+                    load(built.queries, false, progress);
+                    Q_EMIT filtered(built.pattern, wanted.typed);
+                } catch (const Error &error) {
+                    if (error.kind() == ErrorKind::InvalidSql || error.kind() == ErrorKind::InvalidPattern ||
+                        error.kind() == ErrorKind::Refused)
+                        Q_EMIT filterRefused(
+                            text(20419, QStringLiteral("Filter nicht verständlich: %1")).arg(error.text()));
+                    else if (error.kind() != ErrorKind::Cancelled || !m_wanted)
+                        throw;
+                }
+            },
+            Work::Input::Typing);
         m_filtering = false;
     }
 }
@@ -198,10 +201,10 @@ std::optional<MarkStep> SelectionController::changeMarks(const QString &what, co
 void SelectionController::tellMoved(const MarkStep &step)
 {
     if (!step.marked.empty())
-        Q_EMIT said(text(20308, QStringLiteral("%1 Personen markiert"))
-                        .arg(numberText(static_cast<qint64>(step.marked.size()))));
+        Q_EMIT said(
+            text(20308, QStringLiteral("Markiert: %1")).arg(numberText(static_cast<qint64>(step.marked.size()))));
     else if (!step.unmarked.empty())
-        Q_EMIT said(text(20309, QStringLiteral("Markierung von %1 Personen aufgehoben"))
+        Q_EMIT said(text(20309, QStringLiteral("Markierungen aufgehoben: %1"))
                         .arg(numberText(static_cast<qint64>(step.unmarked.size()))));
 }
 

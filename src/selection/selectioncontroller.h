@@ -6,8 +6,8 @@
 #include "platform/desktop/work.h"
 #include "selection/databasewatcher.h"
 #include "selection/filtern.h"
-#include "selection/marking.h"
 #include "selection/markhistory.h"
+#include "selection/marking.h"
 #include "selection/personlistmodel.h"
 #include <array>
 #include <functional>

@@ -37,9 +37,8 @@ QAbstractButton *moveButton(QWidget *parent, const char *name, LineIcon icon, co
 } // namespace
 
 SelectionPanel::SelectionPanel(SelectionController &controller, QWidget *parent)
-    : QWidget(parent), m_controller(controller),
-      m_lists{new PersonListPanel(controller, PersonList::Unmarked, this),
-              new PersonListPanel(controller, PersonList::Marked, this)},
+    : QWidget(parent), m_controller(controller), m_lists{new PersonListPanel(controller, PersonList::Unmarked, this),
+                                                         new PersonListPanel(controller, PersonList::Marked, this)},
       m_splitter(new QSplitter(Qt::Horizontal, this)), m_filter(new FilterPanel(this))
 {
     m_splitter->setObjectName(QStringLiteral("Listenteiler"));
@@ -161,7 +160,7 @@ void SelectionPanel::connectFilter()
         if (const QString date = m_filter->unsoundDate(); !date.isEmpty())
             Q_EMIT said(language::shownText(texts, 20420, QStringLiteral("Das ist kein Datum: %1")).arg(date));
         else
-            Q_EMIT said(language::shownText(texts, 20314, QStringLiteral("Filter: %1 Personen gefunden"))
+            Q_EMIT said(language::shownText(texts, 20314, QStringLiteral("Filter: %1 gefunden"))
                             .arg(m_controller.numberText(m_controller.model(list).rowCount())));
     });
 }

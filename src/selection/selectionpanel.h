@@ -49,7 +49,7 @@ private:
 
     SelectionController &m_controller;
     std::array<PersonListPanel *, 2> m_lists;
-    std::array<QAbstractButton *, 2> m_move;    ///< by the list that is moved from
+    std::array<QAbstractButton *, 2> m_move; ///< by the list that is moved from
     std::array<QAbstractButton *, 2> m_moveAll;
     std::array<QCheckBox *, 2> m_relatives;
     QSplitter *m_splitter;

@@ -3,7 +3,9 @@
 #include "app/check.h"
 
 #include "platform/jet/creator.h"
+#include "platform/jet/database.h"
 #include "support/startedprogram.h"
+#include <functional>
 #include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
@@ -74,10 +76,70 @@ TEST(Check, SaysEachThingInALineOfItsOwn)
     }
 }
 
-TEST(Check, SaysWhyMarkingIsImpossible)
+TEST(Check, NamesWhatIsWrongWithEachPart)
 {
-    const test::Installation installation({{.counter = 1, .listname = "A"}, {.counter = 1, .listname = "Doppelt"}});
-    QStringList problems = app::checkInstallation(installation.programFolder()).problems;
-    ASSERT_EQ(problems.size(), 1) << problems.join('\n').toStdString();
-    EXPECT_TRUE(problems[0].contains("two persons have the Counter 1"));
+    using Spoil = std::function<void(const test::Installation &)>;
+    const auto remove = [](const QString &name) -> Spoil {
+        return [name](const test::Installation &it) {
+            EXPECT_TRUE(QFile::remove(it.hostFolder() + '/' + name));
+        };
+    };
+    const auto setting = [](const QString &section, const QString &key, const QString &value) -> Spoil {
+        return [=](const test::Installation &it) {
+            test::FakeDesktop desktop;
+            host::Host(it.programFolder(), desktop).inischreiben(it.settings(), section, key, value);
+        };
+    };
+    const struct {
+        const char *what;
+        Spoil spoil;
+        QStringList words; ///< all of them in one line, which begins with the first
+        QString unsaid;    ///< in no line
+    } rows[] = {
+        {"no settings", remove("programm.ini"), {"missing", "programm.ini"}, "\"\""},
+        {"no host texts", remove("language.mdb"), {"missing", "language.mdb"}, {}},
+        {"no output folder", setting("Verzeichnisse", "Prints", "\\nirgends"), {"missing", "/nirgends"}, {}},
+        {"no path", setting("QV-Files", "0", ""), {"missing", "QV-Files"}, {}},
+        {"unmapped drive",
+         setting("QV-Files", "0", "C:\\Daten\\f.mdb"),
+         {"missing", "C:\\Daten\\f.mdb", "Laufwerke"},
+         "/dev/null"},
+        {"other language", setting("Ansicht", "Sprache", "Suomi"), {"missing", "Ereignis.mdb", "Suomi"}, {}},
+        {"read-only database",
+         [](const test::Installation &it) { QFile::setPermissions(familyFile(it), QFile::ReadOwner); },
+         {"locked", "familie.mdb", "write-protected"},
+         "can be marked"},
+        {"damaged page",
+         [](const test::Installation &it) {
+             const auto table = jet::Database::open(familyFile(it))->table("Daten");
+             QFile file(familyFile(it));
+             ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+             file.seek(qint64{table->place(0).firstPage} * 4096 + 12);
+             file.write("\xff\xff", 2);
+         },
+         {"damaged", "familie.mdb", "\"Daten\"", "page"},
+         {}},
+        {"persons twice",
+         [](const test::Installation &it) {
+             test::writeFamily(familyFile(it), {{.counter = 1, .listname = "A"}, {.counter = 1, .listname = "B"}});
+         },
+         {"damaged", "familie.mdb", "two persons have the Counter 1"},
+         "can be marked"},
+    };
+    for (const auto &row : rows) {
+        const test::Installation installation(Persons);
+        row.spoil(installation);
+        const auto result = app::checkInstallation(installation.programFolder());
+        const auto isSaid = [&](const QString &line) {
+            return line.startsWith(row.words.front()) &&
+                   std::all_of(row.words.begin(), row.words.end(),
+                               [&](const QString &word) { return line.contains(word); });
+        };
+        EXPECT_TRUE(std::any_of(result.problems.begin(), result.problems.end(), isSaid))
+            << row.what << ":\n"
+            << result.problems.join('\n').toStdString();
+        if (!row.unsaid.isEmpty()) {
+            EXPECT_FALSE((result.good + result.problems).join('\n').contains(row.unsaid)) << row.what;
+        }
+    }
 }

@@ -17,9 +17,11 @@ struct Outcome {
     QString err;
 };
 
-Outcome run(const QStringList &arguments)
+Outcome run(const QStringList &arguments,
+            const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment())
 {
     QProcess process;
+    process.setProcessEnvironment(environment);
     process.start(KALVENOR_PROGRAM, arguments);
     process.waitForFinished(120'000);
     return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
@@ -70,6 +72,11 @@ TEST_F(CommandLine, RefusesWrongUsageInOneLineThatHelps)
         {{"mark"}, "--counter"},
         {{"mark", "--all", "--counter", "1"}, "--all"},
         {{"mark", "--counter", "1,zwei"}, "zwei"},
+        {{"mark", "--counter", "010"}, "010"},
+        {{"mark", "--counter", "0x10"}, "0x10"},
+        {{"mark", "--counter", ""}, "--counter"},
+        {{"list", "--program", ""}, "--program"},
+        {{"demo", ""}, "DIR"},
         {{"mark", "--all", "--children"}, "--children"},
         {{"mark", "--counter", "1", "--name", "x"}, "--all"},
         {{"list", "--from", "01-01-1900"}, "--dates"},
@@ -82,7 +89,6 @@ TEST_F(CommandLine, RefusesWrongUsageInOneLineThatHelps)
         {{"demo"}, "DIR"},
         {{"demo", "x", "--persons", "0"}, "--persons"},
         {{"statistics"}, "statistics"},
-        {{}, "--help"},
     };
     for (const auto &row : rows) {
         const Outcome outcome = run(row.arguments);
@@ -206,6 +212,28 @@ TEST_F(CommandLine, WritesAgesAndReport)
     ASSERT_EQ(onDemo({"unmark", "--all"}).exitCode, 0);
 }
 
+TEST_F(CommandLine, SaysWhereDamageMadeTheResultShort)
+{
+    EXPECT_TRUE(onDemo({"list"}).err.isEmpty());
+    const QString family = folder->filePath("QV/Daten/Familie.mdb");
+    const QByteArray sound = familyBytes();
+    QByteArray damaged = sound;
+    const qsizetype page = damaged.indexOf(QString("Marie").toLatin1()) / 4096; // somebody's page
+    damaged.replace(page * 4096 + 12, 2, QByteArray(2, '\xff'));
+    QFile file(family);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.write(damaged);
+    file.close();
+    const Outcome outcome = onDemo({"list"});
+    EXPECT_EQ(outcome.exitCode, 0);
+    EXPECT_LT(lineCount(outcome.out), 400);
+    EXPECT_EQ(lineCount(outcome.err), 1) << outcome.err.toStdString();
+    EXPECT_TRUE(outcome.err.contains("Familie.mdb") && outcome.err.contains("not complete"));
+    EXPECT_EQ(onDemo({"check"}).exitCode, 1);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.write(sound);
+}
+
 TEST_F(CommandLine, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
 {
     const QString family = folder->filePath("QV/Daten/Familie.mdb");
@@ -216,4 +244,26 @@ TEST_F(CommandLine, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
     EXPECT_EQ(lineCount(outcome.err), 1) << outcome.err.toStdString();
     EXPECT_FALSE(outcome.err.contains("????"));
     ASSERT_TRUE(QFile::rename(family + ".weg", family));
+}
+
+TEST_F(CommandLine, SaysInOneLineWhyNoWindowCanBeOpened)
+{
+    auto bare = QProcessEnvironment::systemEnvironment();
+    for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        bare.remove(name);
+    auto unusable = bare;
+    unusable.insert("DISPLAY", ":no-such-display");
+    auto offscreen = bare;
+    offscreen.insert("QT_QPA_PLATFORM", "offscreen");
+    const QTemporaryDir empty;
+    const struct {
+        QProcessEnvironment environment;
+        QString named;
+    } rows[] = {{bare, "--help"}, {unusable, "no window can be opened"}, {offscreen, "ADD-IN-LANGUAGE.MDB"}};
+    for (const auto &row : rows) {
+        const Outcome outcome = run({"--program", empty.path() + "/QV/Kalvenor"}, row.environment);
+        EXPECT_EQ(outcome.exitCode, 1) << row.named.toStdString();
+        EXPECT_EQ(lineCount(outcome.err), 1) << outcome.err.toStdString();
+        EXPECT_TRUE(outcome.err.contains(row.named)) << outcome.err.toStdString();
+    }
 }

@@ -70,6 +70,22 @@ TEST(Main, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
     }
 }
 
+TEST(Main, NamesTheSettingThatDoesNotFit)
+{
+    const test::Installation installation;
+    test::FakeDesktop desktop;
+    app::Program program(installation.programFolder(), desktop);
+    program.host.inischreiben(installation.settings(), "Ansicht", "Kurzhilfe", "40000");
+    try {
+        program.Main();
+        FAIL();
+    } catch (const Error &error) {
+        EXPECT_EQ(error.kind(), ErrorKind::Overflow);
+        EXPECT_TRUE(error.message().contains("programm.ini") && error.message().contains("Kurzhilfe=40000"))
+            << error.what();
+    }
+}
+
 TEST(Main, LeavesErrorsOfTheLanguageDatabaseToTheCaller)
 {
     const test::Installation installation;

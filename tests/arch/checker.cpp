@@ -66,8 +66,6 @@ QStringList violations(const RoomTable &rooms, const QString &path, QStringView 
     static const QRegularExpression systemHeader(
         uR"(^((unistd|windows|fcntl|dlfcn|dirent|io|direct|spawn|signal|pthread)\.h|sys/.*|csignal)$)"_qs,
         QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression forbidden(uR"(\bspec\.md\b|\bpart\s+\d+\.\d+)"_qs,
-                                              QRegularExpression::CaseInsensitiveOption);
 
     QStringList found;
     const auto report = [&](qsizetype line, const QString &what) {
@@ -94,8 +92,6 @@ QStringList violations(const RoomTable &rooms, const QString &path, QStringView 
     const QString ownHeader = path.mid(path.indexOf(u'/') + 1).chopped(4) + u".h"_qs;
     bool ownHeaderDue = hasHeader && path.endsWith(u".cpp");
     for (qsizetype i = 0; i < lines.size(); ++i) {
-        if (const auto match = forbidden.match(lines[i]); match.hasMatch())
-            report(i + 1, u"forbidden word \"%1\""_qs.arg(match.captured()));
         if (!isCpp)
             continue;
         const auto match = include.match(lines[i]);

@@ -49,6 +49,29 @@ TEST(Datenbankoeffnen, NamesWhatIsMissing)
     }
 }
 
+TEST(Datenbankoeffnen, NeedsEachTableOfTheFamilyDatabase)
+{
+    int needed = 0;
+    for (const data::HostTable &table : data::hostTables("Deutsch")) {
+        if (table.database != data::HostDatabase::Family)
+            continue;
+        ++needed;
+        const test::Installation installation;
+        test::writeFamily(installation.hostFolder() + "/Familie/familie.mdb", {}, 0, table.name);
+        test::FakeDesktop desktop;
+        app::Program program(installation.programFolder(), desktop);
+        try {
+            program.Main();
+            ADD_FAILURE() << table.name.toStdString();
+        } catch (const Error &error) {
+            EXPECT_EQ(error.kind(), ErrorKind::TableNotFound);
+            EXPECT_TRUE(error.message().contains('"' + table.name + '"')) << error.what();
+            EXPECT_TRUE(error.message().contains("familie.mdb")) << error.what();
+        }
+    }
+    EXPECT_EQ(needed, 21);
+}
+
 TEST(Datenbankoeffnen, NeedsATableOfEventKindsForTheLanguage)
 {
     const test::Installation installation;

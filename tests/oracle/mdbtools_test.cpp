@@ -89,6 +89,10 @@ bool isSame(const QString &theirs, const jet::Table &table, quint32 row, int col
         return *table.number(row, column) < 0 || theirs == serialText(*table.number(row, column));
     case ColumnType::Guid:
         return theirs.contains(table.value(row, column).toUuid().toString(QUuid::WithoutBraces), Qt::CaseInsensitive);
+    case ColumnType::Byte:
+    case ColumnType::Integer:
+    case ColumnType::Long:
+        return theirs == QString::number(*table.integer(row, column));
     default:
         return std::abs(theirs.toDouble() - *table.number(row, column)) <= 1e-6 * std::abs(*table.number(row, column));
     }

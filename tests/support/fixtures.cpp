@@ -164,12 +164,16 @@ void writeTexts(const QString &file)
 
 } // namespace
 
-void writeFamily(const QString &file, const std::vector<TestPerson> &persons, std::uint32_t encodingKey)
+void writeFamily(const QString &file, const std::vector<TestPerson> &persons, std::uint32_t encodingKey,
+                 const QString &without)
 {
     jet::Creator creator;
-    addPersons(creator, persons);
-    for (const TestTable &table : otherFamilyTables())
-        addTable(creator, table);
+    if (without != u"Daten")
+        addPersons(creator, persons);
+    for (const TestTable &table : otherFamilyTables()) {
+        if (table.name != without)
+            addTable(creator, table);
+    }
     creator.write(file, encodingKey);
 }
 

@@ -24,7 +24,9 @@ struct TestPerson {
 
 /// Writes a family database with all its 21 tables; those beside the persons have a row or two. The index "Counter" of
 /// the persons is unique unless two of them have the same counter. `file` is a native path.
-void writeFamily(const QString &file, const std::vector<TestPerson> &persons, std::uint32_t encodingKey = 0);
+/// `without` names a table that is left out.
+void writeFamily(const QString &file, const std::vector<TestPerson> &persons, std::uint32_t encodingKey = 0,
+                 const QString &without = {});
 
 /// Makes a host installation: folder/QV with its settings, texts, side databases and folder/QV/Familie/familie.mdb, and
 /// the program's own folder folder/QV/Kalvenor. `folder` is native and absolute.

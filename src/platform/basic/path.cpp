@@ -99,6 +99,11 @@ bool matches(QStringView name, QStringView pattern)
 
 } // namespace
 
+bool hasUnmappedDrive(const QString &windowsPath, const DriveMap &drives)
+{
+    return !OnWindows && hasDrive(windowsPath) && !drives.contains(windowsPath[0].toUpper());
+}
+
 QString nativePath(const QString &windowsPath, const DriveMap &drives)
 {
     QString path = windowsPath;

@@ -19,6 +19,9 @@ using DriveMap = QMap<QChar, QString>;
 /// A share ("\\server\…") only gets its slashes turned.
 QString nativePath(const QString &windowsPath, const DriveMap &drives = {});
 
+/// The path begins with a drive letter that no folder is known for; on Windows no path does.
+bool hasUnmappedDrive(const QString &windowsPath, const DriveMap &drives);
+
 /// The Windows notation of a native path (slashes become backslashes; a mapped folder becomes its drive).
 QString windowsPath(const QString &nativePath, const DriveMap &drives = {});
 

@@ -158,7 +158,7 @@ void Recordset::setIndex(const QString &name)
         const auto column = std::find_if(columns.begin(), columns.end(), [&index](const jet::Column &candidate) {
             return index.columns.size() == 1 && candidate.number == index.columns.front().columnNumber;
         });
-        if (column == columns.end() || column->type != jet::ColumnType::Long)
+        if (column == columns.end() || !d->result.view->isWhole(static_cast<int>(column - columns.begin())))
             throw Error(ErrorKind::IndexNotFound, d->place,
                         u"The index \"%1\" is not over one column of whole numbers."_s.arg(name));
         d->indexColumn = static_cast<int>(column - columns.begin());

@@ -26,6 +26,7 @@ volatile std::sig_atomic_t interrupted = 0;
 extern "C" void onInterrupt(int)
 {
     interrupted = 1;
+    std::signal(SIGINT, SIG_DFL); // who presses it again does not want to wait for a safe point
 }
 
 bool isTerminal(FILE *stream)
@@ -54,6 +55,8 @@ void writeError(const QString &line)
 
 void writeOutput(QByteArrayView utf8)
 {
+    if (interrupted != 0)
+        throw Error(ErrorKind::Cancelled, {}, QStringLiteral("Stopped; the result is not complete."));
     const auto size = static_cast<std::size_t>(utf8.size());
     if (std::fwrite(utf8.data(), 1, size, stdout) != size)
         throwOutputFailed();

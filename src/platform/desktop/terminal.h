@@ -13,12 +13,13 @@ namespace kalvenor {
 /// One line on stderr, "kalvenor: " before it.
 void writeError(const QString &line);
 
-/// Writes to stdout. Throws Error(WriteFailed) where the text cannot be written (disk full, pipe closed).
+/// Writes to stdout. Throws Error(WriteFailed) where the text cannot be written (disk full, pipe closed) and
+/// Error(Cancelled) once the interrupt key was pressed.
 void writeOutput(QByteArrayView utf8);
 /// Everything written so far is handed over. Throws like writeOutput.
 void flushOutput();
 
-/// From here on the interrupt key ends long work at its next safe point instead of the process.
+/// From here on the interrupt key ends long work at its next safe point; pressed again it ends the process.
 void catchInterrupt();
 
 /// Shows how far long work is, on stderr and only where that is a terminal, a few times a second, and takes its line

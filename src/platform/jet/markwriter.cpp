@@ -362,4 +362,9 @@ std::vector<std::uint32_t> MarkWriter::write(std::span<const Mark> marks, const 
     return run.takeChanged();
 }
 
+void MarkWriter::requireWritable() const
+{
+    openForWriting(m_database->file());
+}
+
 } // namespace kalvenor::jet

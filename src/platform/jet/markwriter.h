@@ -26,6 +26,9 @@ public:
     /// column is Long. Throws ColumnNotFound or NotMarkable.
     MarkWriter(std::shared_ptr<Database> database, std::shared_ptr<const Table> table, int markColumn, int keyColumn);
 
+    /// Throws ReadOnly (or FileNotFound) where write() would, and writes nothing.
+    void requireWritable() const;
+
     /// Writes the marks page by page in the file's order, one sync at the end, and returns the rows whose bit changed.
     /// Before the first write all rows are checked against the state in memory (NotMarkable: key not unique, row older
     /// than the column); each page is read again from the file and compared before its first byte is written. Throws

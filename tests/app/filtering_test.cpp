@@ -1,0 +1,167 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/openwindow.h"
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QToolButton>
+
+using namespace kalvenor;
+using namespace kalvenor::test;
+using Counters = std::vector<qint32>;
+
+namespace {
+
+template <typename Condition>
+bool soon(Condition condition)
+{
+    return QTest::qWaitFor(condition, 5000);
+}
+
+std::vector<TestPerson> twoMarked()
+{
+    auto persons = smallFamily();
+    persons[4].marked = persons[5].marked = true;
+    return persons;
+}
+
+} // namespace
+
+TEST(Filtering, EachControlNarrowsTheList)
+{
+    const auto type = [](const char *name, const QString &text) {
+        return [=](OpenWindow &open) {
+            auto &entry = open.control<QLineEdit>(name);
+            entry.setFocus();
+            entry.setCursorPosition(0);
+            QTest::keyClicks(&entry, text);
+        };
+    };
+    const auto tick = [](const char *name) {
+        return [=](OpenWindow &open) {
+            open.click<QAbstractButton>(name);
+        };
+    };
+    const struct {
+        std::vector<std::function<void(OpenWindow &)>> steps;
+        const char *where; ///< the query's part between the name's clause and the mark's
+        const char *pattern;
+        PersonList list;
+        Counters shown;
+    } rows[] = {
+        {{type("Presse", "d")}, "", "*d*", PersonList::Unmarked, {1, 4}},
+        {{type("Presse", "D*")}, "", "*D*", PersonList::Unmarked, {1, 4}},
+        {{tick("Geschlechtfilter_0")}, "AND Geschlecht = 'M' ", "**", PersonList::Unmarked, {1, 3, 7}},
+        {{tick("Geschlechtfilter_1")}, "AND Geschlecht = 'W' ", "**", PersonList::Unmarked, {2, 4}},
+        {{tick("Geschlechtfilter_0"), tick("Geschlechtfilter_1")}, "", "**", PersonList::Unmarked, {1, 2, 3, 4, 7}},
+        {{tick("Filterliste_1"), type("Presse", "falk")}, "", "*falk*", PersonList::Marked, {6}},
+        {{tick("Datumfilter_0"), type("Presse_Datum_0", "01011900")},
+         "  AND Geburtsdatum >= 2 AND ( Geburt_XX = 'XXX_______' OR geburtsdatum <= 767011 ) ",
+         "**",
+         PersonList::Unmarked,
+         {7}},
+        {{tick("Datumfilter_1"), type("Presse_Datum_1", "01011900")},
+         " AND ( sterbe_XX = 'XXX_______' OR sterbedatum >= -620910 ) AND sterbedatum <= 2",
+         "**",
+         PersonList::Unmarked,
+         {1}},
+        {{tick("Datumfilter_2"), type("Presse_Datum_0", "01012008")},
+         "  AND geaendert >= 39448",
+         "**",
+         PersonList::Unmarked,
+         {7}},
+        {{tick("Datumfilter_2"), type("Presse_Datum_0", "0101")}, "", "**", PersonList::Unmarked, {1, 2, 3, 4, 7}},
+    };
+    int number = 0;
+    for (const auto &row : rows) {
+        SCOPED_TRACE(++number);
+        for (const bool byReturn : {false, true}) {
+            OpenWindow open(twoMarked());
+            for (const auto &step : row.steps)
+                step(open);
+            const QString mark = row.list == PersonList::Unmarked ? "0" : "-1";
+            const QString query = QString("SELECT * FROM Daten WHERE Listname LIKE '%1' %2 AND Markierung = %3 "
+                                          "ORDER BY Listname;")
+                                      .arg(row.pattern, row.where, mark);
+            const QString typed = open.control<QLineEdit>("Presse").text();
+            if (byReturn)
+                QTest::keyClick(&open.control<QLineEdit>("Presse"), Qt::Key_Return);
+            EXPECT_TRUE(soon([&] { return open.controller().query(row.list) == query; }))
+                << open.controller().query(row.list).toStdString();
+            EXPECT_EQ(open.shown(row.list), row.shown);
+            const int place = static_cast<int>(row.list);
+            EXPECT_EQ(open.control<QToolButton>(QString("Ladepersonenliste_%1").arg(place)).text(), "Filter Liste");
+            EXPECT_TRUE(open.control<QToolButton>(QString("Ladepersonenliste_%1").arg(place)).isChecked());
+            EXPECT_FALSE(open.control<QToolButton>(QString("Ladepersonenliste_%1").arg(1 - place)).isChecked());
+            EXPECT_EQ(open.control<QLineEdit>("Presse").text(), byReturn ? row.pattern : typed);
+        }
+    }
+}
+
+TEST(Filtering, TheMaskShowsUnderscores)
+{
+    OpenWindow open(smallFamily());
+    auto &bound = open.control<QLineEdit>("Presse_Datum_0");
+    EXPECT_EQ(bound.displayText(), "__-__-____");
+    bound.setFocus();
+    bound.setCursorPosition(0);
+    QTest::keyClicks(&bound, "3x1");
+    EXPECT_EQ(bound.displayText(), "31-__-____");
+}
+
+TEST(Filtering, UnsoundInputIsSaidInTheStatusBar)
+{
+    for (const QString text : {"O'Neil", "[a", "x' OR 1=1 --", "'; DROP TABLE Daten"}) {
+        SCOPED_TRACE(text.toStdString());
+        OpenWindow open(twoMarked());
+        auto &name = open.control<QLineEdit>("Presse");
+        name.setFocus();
+        QTest::keyClicks(&name, "e");
+        QTest::keyClick(&name, Qt::Key_Return);
+        const Counters before = open.shown(PersonList::Unmarked);
+        const QString query = open.controller().query(PersonList::Unmarked);
+        name.clear();
+        QTest::keyClicks(&name, text);
+        QTest::keyClick(&name, Qt::Key_Return);
+        EXPECT_TRUE(open.statusText().startsWith("Filter nicht verständlich: ")) << open.statusText().toStdString();
+        EXPECT_EQ(open.shown(PersonList::Unmarked), before);
+        EXPECT_EQ(open.controller().query(PersonList::Unmarked), query);
+        EXPECT_EQ(name.text(), text);
+        EXPECT_TRUE(open.desktop.messages.empty());
+    }
+}
+
+TEST(Filtering, IsLiftedByItsButtonAndByTheListsButton)
+{
+    for (const QString button : {"Filteraufheben", "Ladepersonenliste_0"}) {
+        SCOPED_TRACE(button.toStdString());
+        OpenWindow open(twoMarked());
+        open.click<QCheckBox>("Geschlechtfilter_1");
+        ASSERT_TRUE(soon([&] { return open.controller().isFiltered(PersonList::Unmarked); }));
+        open.click<QAbstractButton>(button);
+        EXPECT_EQ(open.controller().query(PersonList::Unmarked), selection::plainListQuery(PersonList::Unmarked));
+        EXPECT_EQ(open.shown(PersonList::Unmarked).size(), 5U);
+        auto &load = open.control<QToolButton>("Ladepersonenliste_0");
+        EXPECT_EQ(load.text(), "Liste neu laden");
+        EXPECT_FALSE(load.isChecked());
+        EXPECT_EQ(open.control<QCheckBox>("Geschlechtfilter_1").isChecked(), button != "Filteraufheben");
+    }
+}
+
+TEST(Filtering, MarkAllMarksWhatTheFilterShows)
+{
+    OpenWindow open(twoMarked());
+    auto &name = open.control<QLineEdit>("Presse");
+    name.setFocus();
+    QTest::keyClicks(&name, "a"); // the pause is not over when the button is pressed
+    open.click<QToolButton>("RMA");
+    EXPECT_EQ(open.marked(), (Counters{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(open.shown(PersonList::Unmarked), Counters{});
+
+    open.click<QRadioButton>("Filterliste_1");
+    name.clear();
+    QTest::keyClicks(&name, "claus");
+    open.click<QToolButton>("RM2A");
+    EXPECT_EQ(open.marked(), (Counters{1, 2, 4, 5, 6}));
+}

@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/openwindow.h"
+#include <QAction>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QToolButton>
+
+using namespace kalvenor;
+using namespace kalvenor::test;
+using Counters = std::vector<qint32>;
+
+namespace {
+
+void drop(OpenWindow &open, PersonList from, PersonList on)
+{
+    const std::unique_ptr<QMimeData> data(
+        open.controller().model(from).mimeData(open.view(from).selectionModel()->selectedIndexes()));
+    open.controller().model(on).dropMimeData(data.get(), Qt::MoveAction, -1, -1, {});
+    QCoreApplication::processEvents();
+}
+
+} // namespace
+
+TEST(Moving, EachWayMovesAndWritesTheMark)
+{
+    const PersonList left = PersonList::Unmarked;
+    const PersonList right = PersonList::Marked;
+    const struct {
+        const char *way;
+        PersonList from;
+        std::initializer_list<qint32> selected;
+        std::function<void(OpenWindow &)> act;
+        Counters markedAfter; ///< 4 and 5 are marked before
+    } rows[] = {
+        {"double click",
+         left,
+         {1},
+         [](OpenWindow &open) {
+             auto &view = open.view(PersonList::Unmarked);
+             const QPoint first = view.visualRect(view.model()->index(0, 0)).center();
+             QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, first);
+         },
+         {1, 4, 5}},
+        {"Return",
+         left,
+         {2, 7},
+         [](OpenWindow &open) { QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_Return); },
+         {2, 4, 5, 7}},
+        {"Del",
+         right,
+         {4},
+         [](OpenWindow &open) { QTest::keyClick(&open.view(PersonList::Marked), Qt::Key_Delete); },
+         {5}},
+        {"button", left, {3}, [](OpenWindow &open) { open.click<QToolButton>("RM"); }, {3, 4, 5}},
+        {"button back", right, {5}, [](OpenWindow &open) { open.click<QToolButton>("RM2"); }, {4}},
+        {"all", left, {1}, [](OpenWindow &open) { open.click<QToolButton>("RMA"); }, {1, 2, 3, 4, 5, 6, 7}},
+        {"all back", right, {4}, [](OpenWindow &open) { open.click<QToolButton>("RM2A"); }, {}},
+        {"menu", left, {6}, [](OpenWindow &open) { open.control<QAction>("Markieren").trigger(); }, {4, 5, 6}},
+        {"menu back", right, {4, 5}, [](OpenWindow &open) { open.control<QAction>("Aufheben").trigger(); }, {}},
+        {"drop", left, {1, 3}, [=](OpenWindow &open) { drop(open, left, right); }, {1, 3, 4, 5}},
+        {"drop back", right, {5}, [=](OpenWindow &open) { drop(open, right, left); }, {4}},
+        {"drop on its own list", left, {1}, [=](OpenWindow &open) { drop(open, left, left); }, {4, 5}},
+        {"Ctrl+A, Return",
+         left,
+         {1},
+         [](OpenWindow &open) {
+             QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_A, Qt::ControlModifier);
+             QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_Return);
+         },
+         {1, 2, 3, 4, 5, 6, 7}},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.way);
+        auto persons = smallFamily();
+        persons[3].marked = persons[4].marked = true;
+        OpenWindow open(persons);
+        open.select(row.from, row.selected);
+        row.act(open);
+        EXPECT_EQ(open.marked(), row.markedAfter);
+        EXPECT_EQ(open.shown(right), row.markedAfter);
+        EXPECT_EQ(open.shown(left), open.inFile(selection::plainListQuery(left)));
+        EXPECT_TRUE(open.desktop.messages.empty());
+    }
+}
+
+TEST(Moving, TakesRelativesAlongByTheBoxes)
+{
+    const struct {
+        bool children, parents;
+        qint32 person;
+        Counters marked;
+    } rows[] = {{false, false, 3, {3}},
+                {true, false, 1, {1, 3, 4, 5, 6}},
+                {false, true, 5, {1, 2, 3, 5}},
+                {true, true, 3, {1, 2, 3, 5}}};
+    for (const auto &row : rows) {
+        OpenWindow open(smallFamily());
+        open.control<QCheckBox>("quellenpincl_0").setChecked(row.children);
+        open.control<QCheckBox>("quellenpincl_1").setChecked(row.parents);
+        open.select(PersonList::Unmarked, {row.person});
+        open.click<QToolButton>("RM");
+        EXPECT_EQ(open.marked(), row.marked) << row.person;
+    }
+}
+
+TEST(Moving, SaysWhereTheWalkEndedAtTheLimit)
+{
+    std::vector<TestPerson> persons{{.counter = 1, .listname = "Vater"}};
+    for (qint32 child = 2; child <= 1200; ++child)
+        persons.push_back({.counter = child, .listname = QString("Kind %1").arg(child), .father = 1});
+    OpenWindow open(persons);
+    open.control<QCheckBox>("quellenpincl_0").setChecked(true);
+    open.controller().move(PersonList::Unmarked, {1}, open.window->selectionPanel().relatives());
+    ASSERT_EQ(open.desktop.messages.size(), 1U);
+    EXPECT_EQ(open.desktop.messages[0].text, open.program.language.text(926));
+    EXPECT_EQ(open.desktop.messages[0].title, open.program.language.text(1201));
+    EXPECT_EQ(open.marked().size(), 1001U) << "the marks stay";
+}
+
+TEST(Moving, TheNextPersonIsInHandAndTheMovedOneIsShown)
+{
+    std::vector<TestPerson> persons;
+    for (qint32 i = 1; i <= 500; ++i)
+        persons.push_back({.counter = i, .listname = QString("Person %1").arg(i, 4, 10, QChar(u'0'))});
+    OpenWindow open(persons);
+    auto &left = open.view(PersonList::Unmarked);
+    open.select(PersonList::Unmarked, {250, 251});
+    left.scrollTo(left.currentIndex(), QAbstractItemView::PositionAtTop);
+    left.verticalScrollBar()->setValue(left.verticalScrollBar()->value() - 7);
+    const auto pixelsAbove = [&] {
+        return left.visualRect(left.currentIndex()).top();
+    };
+    const int before = pixelsAbove();
+    QTest::keyClick(&left, Qt::Key_Return);
+    EXPECT_EQ(left.selectedCounters(), Counters{252});
+    EXPECT_EQ(pixelsAbove(), before) << "the list stays where it was";
+    EXPECT_EQ(open.view(PersonList::Marked).selectedCounters(), (Counters{250, 251}));
+    QTest::keyClick(&left, Qt::Key_Return);
+    EXPECT_EQ(open.marked(), (Counters{250, 251, 252}));
+
+    // The last one goes: the one before it is next.
+    open.select(PersonList::Unmarked, {500});
+    QTest::keyClick(&left, Qt::Key_Return);
+    EXPECT_EQ(left.selectedCounters(), Counters{499});
+}
+
+TEST(Moving, ErrorsAreShownOnceAndTheListsStay)
+{
+    OpenWindow open(smallFamily());
+    QFile file(open.family());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.resize(5000)); // what another program left of it
+    file.close();
+    open.select(PersonList::Unmarked, {1});
+    open.click<QToolButton>("RM");
+    EXPECT_EQ(open.desktop.messages.size(), 1U);
+    EXPECT_EQ(open.desktop.messages.at(0).style, MessageCritical);
+    EXPECT_EQ(open.shown(PersonList::Unmarked).size(), 7U);
+    EXPECT_EQ(open.desktop.pointers.back(), Pointer::Default);
+}
+
+TEST(Moving, FiguresAndNamesOfTheSelection)
+{
+    OpenWindow open(smallFamily());
+    open.select(PersonList::Unmarked, {2, 7});
+    EXPECT_EQ(open.control<QLabel>("Zahl_0").text(), "2 ausgewählt · 7 von 7");
+    open.control<QAction>("Kopieren").trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "Bär, Eva\nMüller, O'Neil\n");
+    open.click<QToolButton>("RM");
+    EXPECT_EQ(open.control<QLabel>("Zahl_1").text(), "2 ausgewählt · 2 von 7");
+    EXPECT_EQ(open.control<QLabel>("PanelMarkiert").text(), "Davon markiert: 2");
+}

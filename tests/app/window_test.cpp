@@ -1,0 +1,182 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/openwindow.h"
+#include <QAction>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QSplitter>
+#include <QToolButton>
+
+using namespace kalvenor;
+using namespace kalvenor::test;
+using Counters = std::vector<qint32>;
+
+namespace {
+
+void markElsewhere(const OpenWindow &open, const QString &statement)
+{
+    dao::Engine other;
+    other.workspace(0).openDatabase(open.family())->execute(statement);
+}
+
+} // namespace
+
+TEST(AnotherProgram, ItsChangeIsOfferedAndKeepsSelectionAndFilter)
+{
+    OpenWindow open(smallFamily());
+    auto &bar = open.control<QWidget>("Hinweisleiste");
+    auto &name = open.control<QLineEdit>("Presse");
+    name.setFocus();
+    QTest::keyClicks(&name, "a");
+    QTest::keyClick(&name, Qt::Key_Return);
+    open.select(PersonList::Unmarked, {2, 4});
+    const QString query = open.controller().query(PersonList::Unmarked);
+
+    open.select(PersonList::Unmarked, {6});
+    open.click<QToolButton>("RM"); // our own write is no news
+    open.select(PersonList::Unmarked, {2, 4});
+    QTest::qWait(600);
+    EXPECT_TRUE(bar.isHidden());
+
+    markElsewhere(open, "Update Daten SET Markierung = -1 WHERE Counter = 1");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.isVisible(); }, 5000));
+    EXPECT_EQ(open.shown(PersonList::Unmarked), (Counters{1, 2, 3, 4})) << "nothing moves under the hand";
+    open.click<QPushButton>("Jetztneuladen");
+    EXPECT_TRUE(bar.isHidden());
+    EXPECT_EQ(open.shown(PersonList::Unmarked), (Counters{2, 3, 4}));
+    EXPECT_EQ(open.shown(PersonList::Marked), (Counters{1, 6}));
+    EXPECT_EQ(open.view(PersonList::Unmarked).selectedCounters(), (Counters{2, 4}));
+    EXPECT_EQ(open.controller().query(PersonList::Unmarked), query);
+
+    // A file that was replaced is seen as well, and again after that.
+    for (const char *title : {"first", "second"}) {
+        SCOPED_TRACE(title);
+        writeFamily(open.family() + ".new", smallFamily());
+        ASSERT_TRUE(QFile::remove(open.family()));
+        ASSERT_TRUE(QFile::rename(open.family() + ".new", open.family()));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return bar.isVisible(); }, 5000));
+        open.control<QAction>("Neuladen").trigger();
+        EXPECT_TRUE(bar.isHidden());
+        EXPECT_EQ(open.view(PersonList::Unmarked).selectedCounters(), (Counters{2, 4}));
+    }
+}
+
+TEST(AnotherProgram, ItsChangeComesInWithTheNextAction)
+{
+    OpenWindow open(smallFamily());
+    markElsewhere(open, "Update Daten SET Markierung = -1 WHERE Counter = 3");
+    open.select(PersonList::Unmarked, {5});
+    open.click<QToolButton>("RM");
+    EXPECT_EQ(open.shown(PersonList::Marked), (Counters{3, 5}));
+    open.controller().undo();
+    EXPECT_EQ(open.marked(), Counters{3}) << "what the other program marked is not ours to take back";
+}
+
+TEST(Window, EndsTheDatabasesAndKeepsItsPlace)
+{
+    OpenWindow open(smallFamily());
+    open.window->resize(790, 640);
+    const QList<int> sizes{300, 140, 400};
+    open.window->selectionPanel().listSplitter().setSizes(sizes);
+    const QList<int> laidOut = open.window->selectionPanel().listSplitter().sizes();
+    const auto family = open.program.databases.Familiendatenbank;
+    EXPECT_TRUE(open.window->close());
+    EXPECT_FALSE(family->isOpen());
+    EXPECT_EQ(open.program.language.text(911), "Auswahlkriterien") << "the host's texts are open in the end";
+    EXPECT_TRUE(open.desktop.errors.empty());
+
+    open.program.Main(
+        [&open] { return open.window = std::make_unique<app::Auswahl>(open.program), open.window.get(); });
+    open.window->show();
+    EXPECT_EQ(open.window->size(), QSize(790, 640));
+    EXPECT_EQ(open.window->selectionPanel().listSplitter().sizes(), laidOut);
+}
+
+TEST(Window, ClosingCancelsRunningWorkFirst)
+{
+    OpenWindow open(smallFamily());
+    Work &work = open.controller().services().work;
+    bool cancelled = false;
+    work.run("x", [&](const Progress &progress) {
+        EXPECT_FALSE(open.window->close());
+        EXPECT_FALSE(work.run("y", [](const Progress &) { ADD_FAILURE() << "work within work"; }));
+        cancelled = !progress(1, 2);
+        EXPECT_TRUE(open.program.databases.Familiendatenbank->isOpen());
+    });
+    EXPECT_TRUE(cancelled);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !open.window->isVisible(); }, 5000));
+    EXPECT_FALSE(open.program.databases.Familiendatenbank->isOpen());
+}
+
+TEST(Window, InputWaitsWhileWorkRunsButCancelDoesNot)
+{
+    OpenWindow open(smallFamily());
+    Work &work = open.controller().services().work;
+    open.select(PersonList::Unmarked, {1});
+    auto &name = open.control<QLineEdit>("Presse");
+    const auto runUntilShown = [&](Work::Input input, const std::function<void()> &meanwhile) {
+        bool goesOn = true;
+        work.run(
+            "x",
+            [&](const Progress &progress) {
+                for (int i = 0; i < 20; ++i) {
+                    QTest::qSleep(20);
+                    progress(i, 20);
+                }
+                meanwhile();
+                goesOn = progress(20, 20);
+            },
+            input);
+        return goesOn;
+    };
+    EXPECT_TRUE(runUntilShown(Work::Input::CancelOnly, [&] {
+        EXPECT_TRUE(open.control<QWidget>("Fortschritt").isVisible());
+        QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_Return);
+        QTest::mouseClick(&open.control<QToolButton>("RMA"), Qt::LeftButton);
+        QTest::keyClicks(&name, "a");
+    }));
+    EXPECT_TRUE(open.control<QWidget>("Fortschritt").isHidden());
+    EXPECT_EQ(open.marked(), Counters{});
+    EXPECT_EQ(name.text(), "");
+    EXPECT_TRUE(runUntilShown(Work::Input::Typing, [&] { QTest::keyClicks(&name, "a"); }));
+    EXPECT_EQ(name.text(), "a");
+    EXPECT_FALSE(runUntilShown(Work::Input::CancelOnly,
+                               [&] { QTest::mouseClick(&open.control<QPushButton>("Abbrechen"), Qt::LeftButton); }));
+    EXPECT_FALSE(runUntilShown(Work::Input::CancelOnly,
+                               [&] { QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_Escape); }));
+}
+
+TEST(Window, ANewerFilterTakesTheRunningOnesPlace)
+{
+    OpenWindow open(smallFamily());
+    Work &work = open.controller().services().work;
+    bool once = true;
+    QObject::connect(&work, &Work::began, &work, [&] {
+        if (std::exchange(once, false))
+            open.controller().filter({.Presse = "dorn"}, true);
+    });
+    open.controller().filter({.Presse = "a"}, true);
+    EXPECT_EQ(open.shown(PersonList::Unmarked), Counters{4});
+    EXPECT_TRUE(open.statusText().startsWith("Filter: 1 "));
+}
+
+TEST(Window, IsCompleteInBothLanguagesAndForEveryHand)
+{
+    OpenWindow open(smallFamily());
+    for (const QString shortcut : {"Ctrl+Z", "Ctrl+Shift+Z", "Ctrl+Q", "Ctrl+F", "F5"}) {
+        bool found = false;
+        for (const QAction *action : open.window->findChildren<QAction *>())
+            found = found || action->shortcut() == QKeySequence(shortcut);
+        EXPECT_TRUE(found) << shortcut.toStdString();
+    }
+    for (const QAbstractButton *button : open.window->findChildren<QAbstractButton *>()) {
+        EXPECT_TRUE(!button->isVisible() || !(button->text() + button->accessibleName()).isEmpty())
+            << button->objectName().toStdString();
+    }
+    EXPECT_FALSE(open.view(PersonList::Unmarked).accessibleName().isEmpty());
+    for (const QWidget *widget : open.window->findChildren<QWidget *>())
+        EXPECT_FALSE(widget->accessibleName().contains("????")) << widget->objectName().toStdString();
+    EXPECT_LE(open.window->minimumSizeHint().width(), 1024);
+    EXPECT_LE(open.window->minimumSizeHint().height(), 650);
+}

@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/auswahl.h"
+#include "selection/personlistpanel.h"
+#include "selection/selectionpanel.h"
+#include "support/startedprogram.h"
+#include <algorithm>
+#include <functional>
+#include <gtest/gtest.h>
+#include <QFile>
+#include <QLabel>
+#include <QStatusBar>
+#include <QTest>
+#include <stdexcept>
+
+namespace kalvenor::test {
+
+using selection::PersonList;
+
+/// The main window over a host installation of its own.
+struct OpenWindow : Installation {
+    explicit OpenWindow(const std::vector<TestPerson> &persons) : Installation(persons)
+    {
+        program.Main([this] {
+            window = std::make_unique<app::Auswahl>(program);
+            window->show();
+            return window.get();
+        });
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get())); // a real desktop takes its time
+    }
+
+    /// The named control of the window.
+    template <typename Control>
+    Control &control(const QString &name)
+    {
+        auto *found = window->findChild<Control *>(name);
+        if (found == nullptr)
+            throw std::runtime_error("no control named " + name.toStdString());
+        return *found;
+    }
+    template <typename Control>
+    void click(const QString &name)
+    {
+        control<Control>(name).click();
+    }
+    selection::PersonListView &view(PersonList list) { return window->selectionPanel().listPanel(list).view(); }
+    selection::SelectionController &controller() { return window->controller(); }
+
+    /// Counters of the persons that the list shows.
+    std::vector<qint32> shown(PersonList list)
+    {
+        std::vector<qint32> counters;
+        const auto &model = controller().model(list);
+        for (int row = 0; row < model.rowCount(); ++row)
+            counters.push_back(model.counterAt(row));
+        return counters;
+    }
+    /// Counters that the SQL text gives when another program asks for them.
+    std::vector<qint32> inFile(const QString &query)
+    {
+        dao::Engine engine;
+        const auto persons = engine.workspace(0).openDatabase(family())->openQuery(query);
+        const int field = persons->fieldIndex(QStringLiteral("Counter"));
+        std::vector<qint32> counters;
+        for (; !persons->eof(); persons->moveNext())
+            counters.push_back(persons->integer(field).value_or(0));
+        return counters;
+    }
+    std::vector<qint32> marked() { return inFile(selection::plainListQuery(PersonList::Marked)); }
+    QString family() const { return hostFolder() + QStringLiteral("/Familie/familie.mdb"); }
+
+    void select(PersonList list, std::initializer_list<qint32> counters)
+    {
+        QItemSelection selection;
+        const auto &model = controller().model(list);
+        for (int row = 0; row < model.rowCount(); ++row) {
+            if (std::find(counters.begin(), counters.end(), model.counterAt(row)) != counters.end())
+                selection.select(model.index(row), model.index(row));
+        }
+        view(list).setFocus();
+        view(list).selectionModel()->setCurrentIndex(selection.first().topLeft(), QItemSelectionModel::NoUpdate);
+        view(list).selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    }
+    QString statusText() { return window->statusBar()->currentMessage(); }
+
+    FakeDesktop desktop;
+    app::Program program{programFolder(), desktop};
+    std::unique_ptr<app::Auswahl> window;
+};
+
+/// Seven persons in three generations; by name: 1 to 7. The women are 2, 4 and 6.
+inline std::vector<TestPerson> smallFamily()
+{
+    return {
+        {.counter = 1, .listname = "Adler, Hans", .birth = -36000, .death = -10000},
+        {.counter = 2, .listname = "Bär, Eva", .sex = "W", .birth = -35000, .death = 5000},
+        {.counter = 3, .listname = "Claus, Ernst", .birth = -25000, .death = 2000, .father = 1, .mother = 2},
+        {.counter = 4, .listname = "Dorn, Ida", .sex = "W", .birth = -24000, .death = 100, .father = 1, .mother = 2},
+        {.counter = 5, .listname = "Eck, Emil", .birth = -15000, .father = 3},
+        {.counter = 6, .listname = "Falk, Rosa", .sex = "W", .birth = -14000, .mother = 4},
+        {.counter = 7, .listname = "Müller, O'Neil", .birth = 20000, .changed = 40000}};
+}
+
+} // namespace kalvenor::test
