@@ -135,6 +135,7 @@ Execution Database::writeMarks(const std::function<UpdateResult(SqlSession &)> &
         const Bits old = view.marks(update.markColumn);
         try {
             for (const quint32 row : session->snapshot()->write(view, update.markColumn, update.marks, progress)) {
+                table.fetchAhead(row);
                 if (const auto key = table.integer(row, keyColumn); key && !before.contains(*key))
                     execution.changedKeys.push_back(*key);
             }

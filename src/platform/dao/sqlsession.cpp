@@ -315,6 +315,27 @@ QueryResult SqlSession::query(const QString &text, const Progress &progress)
     return result;
 }
 
+/// Finds the rows of an UPDATE as a query does: SQLite would carry all columns of each row through a table of its own,
+/// twice. False where that way is not open.
+bool SqlSession::collectMarks(const ConstantUpdate &wanted, UpdateResult &update) const
+{
+    const SqlText sql(wanted.rows, place());
+    const Statement statement(*m_parts, sql.adapted(knownNames()), place());
+    QueryResult found;
+    found.view = plainView(sql, statement, found.columns);
+    if (!found.view || found.view->typeOf(found.columns.front()) != jet::ColumnType::Boolean ||
+        !collectRows(sql, found))
+        return false;
+    if (found.rows.empty())
+        return true;
+    update.view = found.view;
+    update.markColumn = found.columns.front();
+    update.marks.reserve(found.rows.size());
+    for (const quint32 row : found.rows)
+        update.marks.push_back({row, wanted.on});
+    return true;
+}
+
 UpdateResult SqlSession::update(const QString &text, const Progress &progress)
 {
     const SqlText sql(text, place());
@@ -323,9 +344,12 @@ UpdateResult SqlSession::update(const QString &text, const Progress &progress)
     SqlRun run(m_parts->run, place(), progress);
     run.updating = true;
     declareTables(sql);
-    Statement statement(*m_parts, sql.adapted(knownNames()), place());
+    const QStringList known = knownNames();
+    Statement statement(*m_parts, sql.adapted(known), place()); // refuses what is not allowed
     if (!run.reached(0, 0))
         run.rethrow();
+    if (const auto constant = sql.constantUpdate(known); constant && collectMarks(*constant, run.update))
+        return std::move(run.update);
     while (statement.step()) {
     }
     return std::move(run.update);

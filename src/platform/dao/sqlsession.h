@@ -91,6 +91,7 @@ private:
     std::shared_ptr<TableView> plainView(const SqlText &sql, const Statement &statement,
                                          std::vector<int> &columns) const;
     bool collectRows(const SqlText &sql, QueryResult &result) const;
+    bool collectMarks(const ConstantUpdate &wanted, UpdateResult &update) const;
 
     struct Parts;
     std::shared_ptr<Snapshot> m_snapshot;

@@ -182,6 +182,12 @@ bool SqlText::isSign(std::size_t token, QStringView sign) const
     return token < m_tokens.size() && m_tokens[token].kind == Token::Kind::Sign && view(m_tokens[token]) == sign;
 }
 
+bool SqlText::isNameOrWord(std::size_t token) const
+{
+    return token < m_tokens.size() &&
+           (m_tokens[token].kind == Token::Kind::Word || m_tokens[token].kind == Token::Kind::Name);
+}
+
 bool SqlText::beginsWith(QStringView word) const
 {
     return isWord(0, word);
@@ -233,14 +239,44 @@ bool SqlText::deliversPlainRows() const
     return selects == 1 && beginsWith(u"SELECT") && indexOf(u"FROM") < m_tokens.size();
 }
 
+std::optional<ConstantUpdate> SqlText::constantUpdate(const QStringList &known) const
+{
+    if (!isWord(0, u"UPDATE") || !isNameOrWord(1) || !isWord(2, u"SET") || !isNameOrWord(3) || !isSign(4, u"="))
+        return {};
+    const std::size_t value = isSign(5, u"-") || isSign(5, u"+") ? 6 : 5;
+    if (value >= m_tokens.size())
+        return {};
+    ConstantUpdate update;
+    if (m_tokens[value].kind == Token::Kind::Number) {
+        bool isNumber = false;
+        update.on = view(m_tokens[value]).toDouble(&isNumber) != 0.0;
+        if (!isNumber)
+            return {};
+    } else {
+        update.on = isWord(value, u"TRUE");
+        if ((!update.on && !isWord(value, u"FALSE")) || known.contains(view(m_tokens[value]), Qt::CaseInsensitive))
+            return {};
+    }
+    const std::size_t where = value + 1;
+    if (where < m_tokens.size() && !isWord(where, u"WHERE"))
+        return {};
+    for (const char16_t *word : {u"ORDER", u"LIMIT", u"RETURNING"}) {
+        if (indexOf(word) < m_tokens.size())
+            return {};
+    }
+    update.rows = u"SELECT %1 FROM %2 "_s.arg(view(m_tokens[3]), view(m_tokens[1]));
+    if (where < m_tokens.size())
+        update.rows += QStringView(m_text).mid(m_tokens[where].start);
+    return update;
+}
+
 /// The word stands behind `column =`, `column <>` …
 bool SqlText::followsComparison(std::size_t token) const
 {
     std::size_t at = token;
     while (at > 0 && (isSign(at - 1, u"=") || isSign(at - 1, u"<") || isSign(at - 1, u">") || isSign(at - 1, u"!")))
         --at;
-    return at < token && at > 0 &&
-           (m_tokens[at - 1].kind == Token::Kind::Word || m_tokens[at - 1].kind == Token::Kind::Name);
+    return at < token && at > 0 && isNameOrWord(at - 1);
 }
 
 QString SqlText::adapted(const QStringList &known) const

@@ -2,12 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <functional>
+#include <optional>
 #include <QString>
 #include <QStringList>
 #include <vector>
 
 namespace kalvenor::dao {
+
+/// An UPDATE that sets one column to one value in all its rows.
+struct ConstantUpdate {
+    bool on = false; ///< the value, as a Yes/No column takes it
+    QString rows{};  ///< SELECT of that column in the rows that it changes
+};
 
 /// One SQL statement cut into its words, so that what Jet's dialect allows and SQLite's does not can be adapted
 /// word by word. Texts in quotes and names in brackets are never touched.
@@ -25,6 +31,9 @@ public:
     /// A single SELECT … FROM that neither joins, groups, combines nor drops equal rows: each row of its result is a
     /// row of one table, in the moment when it is delivered. Nor does it sort by the number of a field.
     bool deliversPlainRows() const;
+    /// Where the statement is UPDATE table SET column = number, True or False, with or without WHERE; `known` as in
+    /// adapted(). Nothing for any other statement.
+    std::optional<ConstantUpdate> constantUpdate(const QStringList &known) const;
 
     /// The statement for SQLite: a blank between a number and a letter directly behind it; a bare word that is one of
     /// `known` (without regard to case) and would not be understood as a name is quoted; a column compared with or set
@@ -46,6 +55,7 @@ private:
     QStringView view(const Token &token) const { return QStringView(m_text).mid(token.start, token.length); }
     bool isWord(std::size_t token, QStringView word) const;
     bool isSign(std::size_t token, QStringView sign) const;
+    bool isNameOrWord(std::size_t token) const;
     bool followsComparison(std::size_t token) const;
     QString nameOf(const Token &token) const;
     std::size_t indexOf(QStringView word) const;

@@ -70,6 +70,7 @@ const Bits &TableView::marks(int column)
         const quint32 count = m_table->rowCount();
         Bits bits(count);
         for (quint32 row = 0; row < count; ++row) {
+            m_table->fetchAhead(row);
             if (m_table->boolean(row, column))
                 bits.set(row, true);
         }
@@ -118,7 +119,8 @@ std::vector<quint32> Snapshot::write(TableView &view, int markColumn, std::span<
     try {
         std::vector<quint32> changed = writer->second.write(marks, progress);
         view.flipMarks(markColumn, changed);
-        std::sort(changed.begin(), changed.end()); // within a page, rows lie from its end to its beginning
+        if (!std::is_sorted(changed.begin(), changed.end()))
+            std::sort(changed.begin(), changed.end());
         return changed;
     } catch (...) {
         view.forgetMarks(markColumn);

@@ -4,7 +4,7 @@
 
 #include "platform/basic/error.h"
 #include "platform/dao/sqlsession.h"
-#include "platform/jet/like.h"
+#include "platform/jet/likescan.h"
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -258,14 +258,15 @@ int choosePattern(TableCursor &cursor, int column, sqlite3_value *value)
         nothing(cursor);
         return SQLITE_OK;
     }
-    const jet::LikePattern pattern(textOf(value));
     const jet::Table &table = *cursor.view->table();
+    jet::LikeScan scan(table, column, jet::LikePattern(textOf(value)));
     Bits choice(table.rowCount());
     for (quint32 i = 0; i < cursor.end; ++i) {
         if (i % rowsPerReport == 0 && !runOf(cursor.pVtab).reached(i, cursor.end))
             return SQLITE_INTERRUPT;
         const quint32 row = cursor.rowAt(i);
-        if (cursor.passes(row) && !table.isNull(row, column) && pattern.matches(table.text(row, column, cursor.buffer)))
+        table.fetchAhead(row);
+        if (cursor.passes(row) && scan.matches(row))
             choice.set(row, true);
     }
     cursor.choice = std::move(choice);

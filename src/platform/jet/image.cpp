@@ -12,6 +12,7 @@
 #include <chrono>
 #include <cstring>
 #include <new>
+#include <numeric>
 #include <thread>
 
 namespace kalvenor::jet {
@@ -155,6 +156,8 @@ void Image::takeBytes(std::unique_ptr<std::uint8_t[]> bytes, std::size_t size)
     m_encodingKey = load32(&header[0x3e]);
     if (m_version == Version::Jet3)
         m_characters = charactersOf(m_codePage);
+    else
+        std::iota(m_characters.begin(), m_characters.end(), u'\0');
     if (m_encodingKey == 0)
         return;
     for (std::uint32_t number = 1; number < m_pageCount; ++number)

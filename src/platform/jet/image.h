@@ -5,6 +5,7 @@
 #include "platform/jet/format.h"
 #include "platform/jet/textcodec.h"
 #include <memory>
+#include <optional>
 #include <QByteArray>
 #include <QString>
 #include <span>
@@ -56,6 +57,17 @@ public:
             decodeText4(bytes, into);
         else
             decodeText3(bytes, m_characters, into);
+    }
+
+    /// What a byte stands for in a text of one byte a character, as byteText() gives it.
+    const ByteCharacters &byteCharacters() const { return m_characters; }
+    /// Stored text that is one byte a character, as long as no zero byte comes (in Jet 4, from there on it is not).
+    /// Nothing for other text.
+    std::optional<std::span<const std::uint8_t>> byteText(std::span<const std::uint8_t> bytes) const
+    {
+        if (m_version == Version::Jet3)
+            return bytes;
+        return isCompressed4(bytes) ? std::optional(bytes.subspan(2)) : std::nullopt;
     }
 
     const Stamp &stamp() const { return m_stamp; }

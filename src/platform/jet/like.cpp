@@ -140,4 +140,24 @@ bool LikePattern::matches(QStringView text) const
     }
 }
 
+ByteLike::ByteLike(const LikePattern &pattern, const ByteCharacters &characters)
+{
+    using Kind = LikePattern::Token::Kind;
+    int place = 0;
+    for (const LikePattern::Token &token : pattern.m_tokens) {
+        if (token.kind == Kind::AnyRun) {
+            m_stays |= std::uint64_t{1} << place;
+            continue;
+        }
+        if (++place == 64)
+            return;
+        for (std::size_t byte = 0; byte < m_accepts.size(); ++byte) {
+            if (pattern.matchesOne(token, characters[byte]))
+                m_accepts[byte] |= std::uint64_t{1} << place;
+        }
+    }
+    m_start = 1;
+    m_end = std::uint64_t{1} << place;
+}
+
 } // namespace kalvenor::jet

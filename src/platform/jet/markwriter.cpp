@@ -74,6 +74,7 @@ std::vector<std::int32_t> repeatedKeys(const Table &table, int keyColumn)
     std::int64_t lowest = std::numeric_limits<std::int32_t>::max();
     std::int64_t highest = std::numeric_limits<std::int32_t>::min();
     for (std::uint32_t row = 0; row < table.rowCount(); ++row) {
+        table.fetchAhead(row);
         if (const std::optional<std::int32_t> key = table.integer(row, keyColumn)) {
             keys.push_back(*key);
             lowest = std::min<std::int64_t>(lowest, *key);
@@ -274,9 +275,11 @@ std::vector<MarkTarget> MarkWriter::plan(std::span<const Mark> marks)
         m_repeatedKeys = repeatedKeys(*m_table, m_keyColumn);
     std::vector<MarkTarget> targets;
     targets.reserve(marks.size());
+    bool inOrder = true; // as statements give them
     for (const Mark &wish : marks) {
         if (wish.row >= m_table->rowCount())
             throw Error(ErrorKind::NoCurrentRow, place(), QStringLiteral("There is no row %1.").arg(wish.row));
+        m_table->fetchAhead(wish.row);
         const std::optional<std::int32_t> key = m_table->integer(wish.row, m_keyColumn);
         if (!key)
             notMarkable(QStringLiteral("row %1 has no key").arg(wish.row));
@@ -289,9 +292,13 @@ std::vector<MarkTarget> MarkWriter::plan(std::span<const Mark> marks)
                             .arg(*key)
                             .arg(mark.name));
         const RowPlace &at = m_table->place(wish.row);
+        if (!targets.empty())
+            inOrder &= targets.back().row < wish.row && targets.back().place.recordPage <= at.recordPage;
         targets.push_back({wish.row, wish.on, at, at.recordStart + record.maskByte(mark.number),
                            static_cast<std::uint8_t>(1U << (mark.number % 8))});
     }
+    if (inOrder)
+        return targets;
     std::ranges::stable_sort(
         targets, {}, [](const MarkTarget &target) { return std::pair(target.place.recordPage, target.inPage); });
     // Of several wishes for one row the last one counts.

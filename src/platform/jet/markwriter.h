@@ -29,16 +29,16 @@ public:
     /// Throws ReadOnly (or FileNotFound) where write() would, and writes nothing.
     void requireWritable() const;
 
-    /// Writes the marks in file order, one sync at the end, and returns the rows whose bit changed. Before the first
-    /// write all rows are checked against the state in memory (NotMarkable: key not unique, row older than the column);
-    /// each page is read again from the file and compared before its first byte is written. Throws FileNotFound,
-    /// ReadOnly, NotMarkable, ChangedElsewhere, WriteFailed, Cancelled; the text says how many rows were changed
-    /// before. The image takes over every bit written, and the file's new stamp; after an error it keeps its old stamp,
-    /// so that the database is stale where anything was written. Progress counts rows.
+    /// Writes the marks page by page in the file's order, one sync at the end, and returns the rows whose bit changed.
+    /// Before the first write all rows are checked against the state in memory (NotMarkable: key not unique, row older
+    /// than the column); each page is read again from the file and compared before its first byte is written. Throws
+    /// FileNotFound, ReadOnly, NotMarkable, ChangedElsewhere, WriteFailed, Cancelled; the text says how many rows were
+    /// changed before. The image takes over every bit written, and the file's new stamp; after an error it keeps its
+    /// old stamp, so that the database is stale where anything was written. Progress counts rows.
     std::vector<std::uint32_t> write(std::span<const Mark> marks, const Progress &progress = {});
 
 private:
-    /// What is to be written, in file order, each row once. Throws NotMarkable.
+    /// What is to be written, page by page in the file's order, each row once. Throws NotMarkable.
     std::vector<MarkTarget> plan(std::span<const Mark> marks);
     QString place() const;
     [[noreturn]] void notMarkable(const QString &why) const;

@@ -50,7 +50,27 @@ public:
         const RowPlace &place = m_rows[row];
         return m_image->page(place.recordPage).subspan(place.recordStart, place.recordLength);
     }
-    const RecordLayout &layout() const { return m_layout; }
+    /// Lets the processor fetch the record some rows ahead. Pays where all rows are read one behind the other: within a
+    /// page they lie backwards, which it does not foresee.
+    Q_ALWAYS_INLINE void fetchAhead(std::uint32_t row) const // inline, else GCC takes the call for one without effect
+    {
+#ifdef __GNUC__
+        constexpr std::size_t rowsAhead = 16;
+        constexpr std::size_t cacheLine = 64;
+        if (row + rowsAhead >= m_rows.size())
+            return;
+        const RowPlace &place = m_rows[row + rowsAhead];
+        const std::uint8_t *bytes = m_image->page(place.recordPage).data() + place.recordStart;
+        for (std::size_t at = 0; at < place.recordLength; at += cacheLine)
+            __builtin_prefetch(bytes + at);
+#else
+        Q_UNUSED(row)
+#endif
+    }
+    const RecordLayout &layout() const
+    {
+        return m_layout;
+    }
 
     // Values. A column of another type than asked for gives nothing.
     bool isNull(std::uint32_t row, int column) const;

@@ -92,7 +92,7 @@ void decodeText3(std::span<const std::uint8_t> bytes, const ByteCharacters &char
 
 void decodeText4(std::span<const std::uint8_t> bytes, QString &into)
 {
-    if (bytes.size() >= 2 && bytes[0] == 0xff && bytes[1] == 0xfe)
+    if (isCompressed4(bytes))
         decodeCompressed(bytes.subspan(2), into);
     else
         decodeWide(bytes, into);

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "family.h"
+#include "platform/dao/sqltext.h"
 #include "platform/jet/creator.h"
 #include <QFile>
 
@@ -50,6 +51,92 @@ TEST_F(Family, SetsMarksByStatement)
             << row.sql;
     }
     EXPECT_EQ(database->generation(), 1U); // one's own writing is nobody else's change
+}
+
+TEST(SqlText, KnowsAnUpdateToOneValue)
+{
+    const struct {
+        const char *sql;
+        std::optional<bool> on;
+        const char *rows;
+    } cases[] = {
+        {"Update Daten SET Markierung = -1 ;", true, "SELECT Markierung FROM Daten "},
+        {"update [Daten] set [Markierung]=0where Counter = 1 ;;", false,
+         "SELECT [Markierung] FROM [Daten] where Counter = 1 ;;"},
+        {"UPDATE Daten SET Markierung = true WHERE a = 'ORDER'", true,
+         "SELECT Markierung FROM Daten WHERE a = 'ORDER'"},
+        {"UPDATE Daten SET Markierung = FALSE", false, "SELECT Markierung FROM Daten "},
+        {"UPDATE Daten SET Markierung = +0.0", false, "SELECT Markierung FROM Daten "},
+        {"UPDATE Daten SET Markierung = .5e2", true, "SELECT Markierung FROM Daten "},
+        {"UPDATE Daten SET Markierung = Yes", {}, ""},
+        {"UPDATE Daten SET Markierung = [True]", {}, ""},
+        {"UPDATE Daten SET Markierung = 'True'", {}, ""},
+        {"UPDATE Daten SET Markierung = Null", {}, ""},
+        {"UPDATE Daten SET Markierung = 1 - 1", {}, ""},
+        {"UPDATE Daten SET Markierung = 0x10", {}, ""},
+        {"UPDATE Daten SET Markierung = -", {}, ""},
+        {"UPDATE Daten SET Markierung = 0, Markierung = -1", {}, ""},
+        {"UPDATE Daten SET Markierung = 0 FROM Daten d WHERE d.Counter = 1", {}, ""},
+        {"UPDATE Daten SET Markierung = 0 WHERE Counter > 1 ORDER BY Vater LIMIT 2", {}, ""},
+        {"UPDATE Daten AS d SET Markierung = 0", {}, ""},
+        {"UPDATE OR IGNORE Daten SET Markierung = 0", {}, ""},
+        {"SELECT * FROM Daten", {}, ""},
+        {"UPDATE", {}, ""},
+    };
+    for (const auto &row : cases) {
+        const auto update = dao::SqlText(QString::fromUtf8(row.sql), {}).constantUpdate({QStringLiteral("Yes")});
+        ASSERT_EQ(update.has_value(), row.on.has_value()) << row.sql;
+        EXPECT_EQ(update ? update->on : false, row.on.value_or(false)) << row.sql;
+        EXPECT_EQ(update ? update->rows : QString(), QString::fromUtf8(row.rows)) << row.sql;
+    }
+    EXPECT_FALSE(dao::SqlText(QStringLiteral("UPDATE a SET b = True"), {}).constantUpdate({QStringLiteral("TRUE")}));
+}
+
+TEST_F(Family, SetsOneValueAsItSetsAComputedOne)
+{
+    for (const char *where : {"",
+                              "WHERE Markierung = 0",
+                              "WHERE Listname LIKE '*m*' AND Markierung = -1",
+                              "WHERE Vater = 10 OR Mutter = 30",
+                              "WHERE Vater = 10 OR Vater = 10 OR Counter = 20",
+                              "WHERE Counter IN (80, 10, 10, 5)",
+                              "WHERE Counter IN (SELECT Vater FROM Daten WHERE Markierung = 0)",
+                              "WHERE Geburtsdatum IS NULL",
+                              "WHERE Daten.Listname > 'N'",
+                              "WHERE [Counter] = '30'",
+                              "WHERE Counter = 99",
+                              "WHERE NOT Geburt_XX LIKE 'a*'",
+                              "WHERE rowid < 3",
+                              "WHERE Counter > 20 LIMIT 2",
+                              "WHERE Nichts = 1",
+                              "WHERE count(*) > 1",
+                              "WHERE",
+                              "WHERE Listname LIKE '*[z-a]'",
+                              "WHERE NOT Listname LIKE '['",
+                              "WHERE Markierung = True AND",
+                              "WHERE Counter = 10 GROUP BY Counter",
+                              "WHERE (SELECT count(*) FROM sqlite_master) = 0"}) {
+        for (const char *value : {"-1", "0", "True", "False", "5"}) {
+            std::optional<dao::Execution> done[2];
+            std::optional<ErrorKind> errors[2];
+            QList<int> markedThen[2];
+            for (const bool computed : {false, true}) {
+                writeFamily(file, persons);
+                const QString sql = QStringLiteral("UPDATE Daten SET Markierung = %1 %2 %3")
+                                        .arg(QString::fromUtf8(value), computed ? QStringLiteral("+ 0") : QString(),
+                                             QString::fromUtf8(where));
+                errors[computed] = errorOf([&] { done[computed] = database->execute(sql); });
+                markedThen[computed] = marked();
+            }
+            EXPECT_EQ(errors[0], errors[1]) << value << ' ' << where;
+            EXPECT_EQ(markedThen[0], markedThen[1]) << value << ' ' << where;
+            ASSERT_EQ(done[0].has_value(), done[1].has_value()) << value << ' ' << where;
+            if (done[0]) {
+                EXPECT_EQ(done[0]->matched, done[1]->matched) << value << ' ' << where;
+                EXPECT_EQ(done[0]->changedKeys, done[1]->changedKeys) << value << ' ' << where;
+            }
+        }
+    }
 }
 
 TEST_F(Family, ChangesNothingElse)

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "family.h"
+#include "platform/jet/creator.h"
+#include "platform/jet/like.h"
+#include <QFile>
+#include <random>
+
+namespace kalvenor::test {
+
+namespace {
+
+/// A table of names of all kinds; each text stands in a compressed, an uncompressed and a long column.
+class Names : public ::testing::Test {
+protected:
+    static constexpr int Count = 1500;
+
+    void SetUp() override
+    {
+        using T = jet::ColumnType;
+        jet::Creator creator;
+        auto &table = creator.addTable(QStringLiteral("Daten"),
+                                       {{.name = QStringLiteral("Counter"), .type = T::Long},
+                                        {.name = QStringLiteral("Listname"), .type = T::Text},
+                                        {.name = QStringLiteral("Weit"), .type = T::Text, .compressed = false},
+                                        {.name = QStringLiteral("Lang"), .type = T::Memo},
+                                        {.name = QStringLiteral("Markierung"), .type = T::Boolean}});
+        const QStringView pieces[] = {u"Müller", u"MÜLLER", u"Schmidt", u"o", u"?", u"#", u"7",   u"[x]",
+                                      u", ",     u"Ärmel",  u"ß",       u"*", u" ", u"-", u"%",   u"Αθήνα",
+                                      u"Жуков",  u"’",      u"😀",       u"é", u"E", u"'", u"ÿÿÿ", u"Ā"};
+        std::mt19937 random(11);
+        for (int i = 0; i < Count; ++i) {
+            std::optional<QString> text;
+            if (i % 9 != 0) { // else null
+                text.emplace(QStringLiteral(""));
+                for (auto length = random() % 5; length > 0; --length)
+                    *text += pieces[random() % std::size(pieces)];
+                if (i % 100 == 50)
+                    text = Placeholder;
+            }
+            const jet::NewValue value = text ? jet::NewValue(*text) : jet::NewValue();
+            table.addRow({jet::NewValue(i), value, value, value, jet::NewValue(i % 3 == 0)});
+            texts.push_back(text == Placeholder ? Switching : text);
+        }
+        const QString file = folder.filePath(QStringLiteral("namen.mdb"));
+        creator.write(file);
+        switchModes(file);
+        database = engine.workspace(0).openDatabase(file);
+    }
+
+    /// Puts text that changes between one and two bytes a character, which is never written so, in place of a
+    /// compressed text of the same size.
+    static void switchModes(const QString &name)
+    {
+        QFile file(name);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        QByteArray bytes = file.readAll();
+        ASSERT_GE(bytes.count("\xff\xfe"
+                              "QQQQQQQ"),
+                  Count / 100);
+        bytes.replace("\xff\xfe"
+                      "QQQQQQQ",
+                      QByteArray("\xff\xfe"
+                                 "M\0\x16\x04\0ox",
+                                 9));
+        file.seek(0);
+        file.write(bytes);
+    }
+
+    QList<int> numbers(const QString &condition) const
+    {
+        QList<int> found;
+        const auto rows = database->openQuery(QStringLiteral("SELECT Counter FROM Daten WHERE ") + condition);
+        for (; !rows->eof(); rows->moveNext())
+            found << rows->integer(0).value_or(-1);
+        return found;
+    }
+
+    const QString Placeholder = QStringLiteral("QQQQQQQ");
+    const QString Switching = QStringLiteral("MЖox");
+    QTemporaryDir folder;
+    dao::Engine engine;
+    std::shared_ptr<dao::Database> database;
+    std::vector<std::optional<QString>> texts;
+};
+
+TEST_F(Names, AnswerLikeAsSqliteItselfWould)
+{
+    const QStringView patterns[] = {
+        u"*",     u"**",    u"",      u"?",       u"*?*",   u"#",        u"*#*",     u"müller*", u"*SCHMIDT*",
+        u"*o",    u"*[?]*", u"*[*]*", u"*[[]x]*", u"[!m]*", u"*[é-ë]*",  u"*[!a-z]", u"*ß*",     u"*αθ*",
+        u"*ж*",   u"*’*",   u"?ж*x",  u"mж[op]x", u"*%",    u"*''*",     u"????",    u"*😀*",     u"*Ā",
+        u"* , *", u"*e*e*", u"[]",    u"*ÿÿ?",    u"m*r*",  u"QQQQQQQ*", u"*[0-9]*", u"*[А-Я]*",
+    };
+    int found = 0;
+    for (const QStringView pattern : patterns) {
+        QList<int> expected;
+        const jet::LikePattern like(pattern.toString().replace(QStringLiteral("''"), QStringLiteral("'")));
+        for (int i = 0; i < Count; ++i) {
+            const auto &text = texts[static_cast<std::size_t>(i)];
+            if (text && like.matches(*text))
+                expected << i;
+        }
+        EXPECT_EQ(numbers(QStringLiteral("Listname LIKE '%1'").arg(pattern)), expected)
+            << pattern.toString().toStdString();
+        found += expected.isEmpty() ? 0 : 1;
+        for (const char *column : {"Listname", "Weit", "Lang"}) {
+            const QString name = QString::fromLatin1(column);
+            // The comparison of a computed text is SQLite's own work.
+            for (const char *condition :
+                 {"%1 LIKE '%2'", "%1 LIKE '%2' AND Markierung = 0",
+                  "Markierung = -1 AND Counter > 700 AND %1 LIKE '%2'", "%1 LIKE '%2' OR Counter < 20",
+                  "%1 LIKE '%2' AND (%1 LIKE '*m*' OR Counter = 50)",
+                  "%1 LIKE '%2' AND Weit LIKE '*e*' ORDER BY Listname", "NOT (%1 LIKE '%2')",
+                  "Counter = 250 AND %1 LIKE '%2'", "Counter IN (50, 51, 52, 350) AND %1 LIKE '%2'"}) {
+                const QString plain = QString::fromLatin1(condition).arg(name, pattern.toString());
+                const QString computed =
+                    QString::fromLatin1(condition).arg(u'(' + name + QStringLiteral(" || '')"), pattern.toString());
+                EXPECT_EQ(numbers(plain), numbers(computed)) << plain.toStdString();
+            }
+        }
+    }
+    EXPECT_GT(found, static_cast<int>(std::size(patterns)) - 3); // nearly each finds somebody
+}
+
+} // namespace
+
+} // namespace kalvenor::test
