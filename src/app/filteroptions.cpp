@@ -17,7 +17,7 @@ QString maskText(const char *option, const std::string &word, DateOrder order)
 {
     if (word.empty())
         return EmptyMask;
-    const QString text = QString::fromStdString(word);
+    const QString text = QString::fromLocal8Bit(word.c_str());
     const QDate iso = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
     if (iso.isValid())
         return iso.toString(order == DateOrder::DayMonthYear ? QStringLiteral("dd-MM-yyyy")
@@ -52,7 +52,7 @@ std::optional<selection::Filter> FilterOptions::filter(selection::PersonList lis
     if (std::none_of(m_options.begin(), m_options.end(), [](const CLI::Option *option) { return option->count() > 0; }))
         return std::nullopt;
     selection::Filter filter;
-    filter.Presse = QString::fromStdString(m_name);
+    filter.Presse = QString::fromLocal8Bit(m_name.c_str());
     filter.Geschlechtfilter = {m_sex.find('m') != std::string::npos, m_sex.find('w') != std::string::npos};
     for (std::size_t kind = 0; kind < DateKinds.size(); ++kind)
         filter.Datumfilter[kind] = std::find(m_dates.begin(), m_dates.end(), DateKinds[kind]) != m_dates.end();

@@ -18,7 +18,7 @@ public:
 
     /// The filter for this list, nothing where no word of it was given. Dates are mask texts (dd-mm-yyyy in the
     /// system's order) or ISO dates, which are turned into mask texts. Throws CLI::ValidationError for a date that is
-    /// none, and for bounds without --dates or the other way round.
+    /// none.
     std::optional<selection::Filter> filter(selection::PersonList list, DateOrder order) const;
 
 private:

@@ -170,8 +170,8 @@ constexpr LanguageText texts[] = {
     {20421, u"Geschlecht", u"Sex"},
     {20422, u"Zeitraum", u"Period"},
     {20423, u"Liste", u"List"},
-    {20424, u"Personen ohne vollständiges Datum werden immer mit angezeigt.",
-     u"Persons without a full date are always shown too."},
+    {20424, u"Personen ohne vollständiges Datum erscheinen nur, wo eine Grenze leer ist.",
+     u"Persons without a full date are shown only where a bound is empty."},
 };
 // clang-format on
 

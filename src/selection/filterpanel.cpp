@@ -88,14 +88,14 @@ void FilterPanel::build()
                                "20417Nur Männer zeigen; beide oder keines zeigt alle"),
                made<QCheckBox>(this, "Geschlechtfilter", 1, "20404&Frauen",
                                "20418Nur Frauen zeigen; beide oder keines zeigt alle")};
-    const char *incomplete = "20424Personen ohne vollständiges Datum werden immer mit angezeigt.";
+    const char *incomplete = "20424Personen ohne vollständiges Datum erscheinen nur, wo eine Grenze leer ist.";
     m_dates = {made<QCheckBox>(this, "Datumfilter", 0, "20405&Geburtsdatum", incomplete),
                made<QCheckBox>(this, "Datumfilter", 1, "20406S&terbedatum", incomplete),
                made<QCheckBox>(this, "Datumfilter", 2, "20407&Letzte Änderung", "")};
     m_bounds = {made<QLineEdit>(this, "Presse_Datum", 0, "", "20414Erster Tag, als Tag, Monat und Jahr"),
                 made<QLineEdit>(this, "Presse_Datum", 1, "", "20415Letzter Tag, als Tag, Monat und Jahr")};
     for (QLineEdit *bound : m_bounds) {
-        bound->setInputMask(QStringLiteral("99-99-9999;_"));
+        bound->setInputMask(QStringLiteral("00-00-0000;_"));
         bound->setFixedWidth(bound->fontMetrics().horizontalAdvance(QStringLiteral("00-00-0000")) +
                              3 * bound->fontMetrics().averageCharWidth() + 8);
         bound->installEventFilter(this);

@@ -16,12 +16,14 @@ dao::Recordset &personTable(data::Datenbankmodul &databases)
     return *databases.Datentabelle;
 }
 
+constexpr qint64 PersonsBetweenReports = 64;
+
 /// Finds the direct line of persons. Each person is found once.
 class RelativesWalk {
 public:
-    RelativesWalk(data::Datenbankmodul &databases, std::span<const qint32> starts)
+    RelativesWalk(data::Datenbankmodul &databases, std::span<const qint32> starts, const Progress &progress)
         : m_databases(databases), m_persons(personTable(databases)), m_columns(m_persons),
-          m_found(starts.begin(), starts.end()), m_starts(starts)
+          m_found(starts.begin(), starts.end()), m_starts(starts), m_progress(progress)
     {
     }
 
@@ -47,6 +49,7 @@ private:
     data::PersonColumns m_columns;
     std::unordered_set<qint32> m_found;
     std::span<const qint32> m_starts;
+    const Progress &m_progress;
     std::vector<qint32> m_relatives;
 };
 
@@ -55,7 +58,10 @@ bool RelativesWalk::add(Kin kin)
     // Who was walked through here; a person found in the other direction is still walked through in this one.
     std::unordered_set<qint32> walked(m_starts.begin(), m_starts.end());
     std::deque<qint32> waiting(m_starts.begin(), m_starts.end());
-    while (!waiting.empty()) {
+    for (qint64 seen = 0; !waiting.empty(); ++seen) {
+        if (m_progress && seen % PersonsBetweenReports == 0 &&
+            !m_progress(seen, seen + static_cast<qint64>(waiting.size())))
+            throw Error(ErrorKind::Cancelled, {}, QStringLiteral("Stopped; nobody was marked."));
         const qint32 person = waiting.front();
         waiting.pop_front();
         for (const qint32 relative : (this->*kin)(person)) {
@@ -107,7 +113,7 @@ std::vector<qint32> RelativesWalk::parentsOf(qint32 counter)
 MarkingResult markPersons(data::Datenbankmodul &databases, std::span<const qint32> counters, bool marked,
                           Relatives relatives, const Progress &progress)
 {
-    RelativesWalk walk(databases, counters);
+    RelativesWalk walk(databases, counters, progress);
     MarkingResult result;
     if (relatives.children)
         result.limitReached = !walk.addChildren();

@@ -320,8 +320,8 @@ void PersonListView::restore(const std::shared_ptr<dao::Recordset> &before)
     QItemSelection selection = tracking.selection(m_state.selected);
     if (m_state.current >= 0) {
         const QModelIndex current = m_persons.index(tracking.rowOrNext(m_state.current));
-        // Where all the selected persons have gone, the one behind them is next in hand.
-        if (selection.isEmpty() && !m_state.selected.empty())
+        // Where all the selected persons have moved, the one behind them is next in hand.
+        if (selection.isEmpty() && !m_state.selected.empty() && tracking.hasMoved(m_state.selected.front().first))
             selection.select(current, current);
         selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     }
@@ -350,6 +350,9 @@ void PersonListView::keyPressEvent(QKeyEvent *event)
     case Qt::Key_Delete:
         if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier) {
             event->accept();
+            // The frame alone shows who is meant; Del asks for a selection.
+            if (event->key() != Qt::Key_Delete && !selectionModel()->hasSelection() && currentIndex().isValid())
+                selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
             Q_EMIT moveWanted();
             return;
         }

@@ -49,11 +49,22 @@ int RowTracking::rowOrNext(int formerRow) const
     if (last < 0 || m_there.empty() || formerRow < 0)
         return std::min(formerRow, last);
     const int formerCount = static_cast<int>(m_before.rows().size());
+    if (formerCount == 0)
+        return std::min(formerRow, last);
     for (int row = formerRow; row < formerCount; ++row) {
         if (const quint32 found = tableRow(row); found != Gone)
             return rowOf(found);
     }
     return last;
+}
+
+bool RowTracking::hasMoved(int formerRow) const
+{
+    if (!m_formerTable || m_formerTable != m_now.table())
+        return false;
+    const int mark = m_formerTable->columnOf(u"Markierung");
+    const quint32 row = m_before.rows()[static_cast<std::size_t>(formerRow)];
+    return m_formerTable->boolean(row, mark) != (m_now.list() == PersonList::Marked);
 }
 
 QItemSelection RowTracking::selection(const std::vector<std::pair<int, int>> &formerRanges) const

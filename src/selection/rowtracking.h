@@ -20,6 +20,9 @@ public:
     /// The row of now for a row of before: the same person, else the next one that is still there, else the last row;
     /// -1 where the list is empty.
     int rowOrNext(int formerRow) const;
+    /// The person of this row of before has the other list's mark now: moved, not only hidden by a filter. False where
+    /// the file was read anew meanwhile.
+    bool hasMoved(int formerRow) const;
     /// The same persons as a selection of rows of now.
     QItemSelection selection(const std::vector<std::pair<int, int>> &formerRanges) const;
 

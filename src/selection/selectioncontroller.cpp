@@ -117,13 +117,15 @@ void SelectionController::reloadPlain(PersonList list)
 
 // Filter
 
-void SelectionController::filter(const Filter &filter, bool typed)
+bool SelectionController::filter(const Filter &filter, bool typed)
 {
     m_wanted = WantedFilter{filter, typed};
+    m_filterShown = false;
     if (m_services.work.isRunning())
         giveUpFilter();
     else
         runFilters();
+    return m_filterShown;
 }
 
 void SelectionController::giveUpFilter()
@@ -143,14 +145,17 @@ void SelectionController::runFilters()
                 try {
                     const FilterQueries built = filtern(wanted.filter, systemDateOrder());
                     load(built.queries, false, progress);
+                    m_filterShown = true;
                     Q_EMIT filtered(built.pattern, wanted.typed);
                 } catch (const Error &error) {
                     if (error.kind() == ErrorKind::InvalidSql || error.kind() == ErrorKind::InvalidPattern ||
                         error.kind() == ErrorKind::Refused)
                         Q_EMIT filterRefused(
                             text(20419, QStringLiteral("Filter nicht verständlich: %1")).arg(error.text()));
-                    else if (error.kind() != ErrorKind::Cancelled || !m_wanted)
+                    else if (error.kind() == ErrorKind::Cancelled ? !m_wanted : !wanted.typed)
                         throw;
+                    else if (error.kind() != ErrorKind::Cancelled)
+                        Q_EMIT filterRefused(error.message()); // nobody wants a box while typing
                 }
             },
             Work::Input::Typing);

@@ -50,7 +50,8 @@ public:
     void reloadPlain(PersonList list);
     /// `typed`: while the user is still typing; the pattern is then not written back. A filter that is still running
     /// is given up for the newer one.
-    void filter(const Filter &filter, bool typed = false);
+    /// True where the lists show this filter when it returns.
+    bool filter(const Filter &filter, bool typed = false);
     /// What is being typed will make the running filter old.
     void giveUpFilter();
     void clearFilter();
@@ -109,6 +110,7 @@ private:
     DatabaseWatcher m_watcher;
     std::optional<WantedFilter> m_wanted;
     bool m_filtering = false;
+    bool m_filterShown = false; ///< the latest filter was carried out
 };
 
 } // namespace kalvenor::selection

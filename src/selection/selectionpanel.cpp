@@ -7,6 +7,7 @@
 #include "selection/filterpanel.h"
 #include "selection/personlistpanel.h"
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QFrame>
@@ -147,9 +148,11 @@ void SelectionPanel::connectFilter()
     connect(m_filter, &FilterPanel::wanted, this, [this](const Filter &filter, bool typed) {
         const bool filtered =
             m_controller.isFiltered(PersonList::Unmarked) || m_controller.isFiltered(PersonList::Marked);
-        if (typed && !filtered && m_filter->isEmpty())
+        if (typed && !filtered && m_filter->isEmpty()) {
+            Q_EMIT said({}); // what was wrong with the text is gone with it
             return;
-        m_controller.filter(filter, typed);
+        }
+        m_filterShown = m_controller.filter(filter, typed);
     });
     connect(m_filter, &FilterPanel::clearWanted, &m_controller, &SelectionController::clearFilter);
     connect(&m_controller, &SelectionController::filtered, this, [this](const QString &pattern, bool typed) {
@@ -186,16 +189,37 @@ bool SelectionPanel::hasSelection(PersonList list) const
     return m_lists[static_cast<std::size_t>(list)]->view().selectionModel()->hasSelection();
 }
 
+/// Carries out what was typed a moment ago. False where that did not work, so that the lists are not those meant.
+bool SelectionPanel::showPendingFilter()
+{
+    m_filterShown = true;
+    m_filter->flush();
+    return m_filterShown;
+}
+
 void SelectionPanel::moveSelected(PersonList from)
 {
-    m_filter->flush();
-    m_controller.move(from, listPanel(from).view().selectedCounters(), relatives());
+    // Those in hand now: a filter that is only about to narrow the list must not put others there.
+    const std::vector<qint32> counters = listPanel(from).view().selectedCounters();
+    if (!showPendingFilter())
+        return;
+    takeFocusFromFilter(from);
+    m_controller.move(from, counters, relatives());
 }
 
 void SelectionPanel::moveAll(PersonList from)
 {
-    m_filter->flush();
+    if (!showPendingFilter())
+        return;
+    takeFocusFromFilter(from);
     m_controller.moveAll(from);
+}
+
+/// After a move, undo means the marks and not the text typed before.
+void SelectionPanel::takeFocusFromFilter(PersonList to)
+{
+    if (m_filter->isAncestorOf(QApplication::focusWidget()))
+        listPanel(to).view().setFocus();
 }
 
 PersonListPanel &SelectionPanel::lastList()

@@ -41,6 +41,8 @@ Q_SIGNALS:
     void said(const QString &text);
 
 private:
+    bool showPendingFilter();
+    void takeFocusFromFilter(PersonList to);
     QWidget *makeMoveColumn();
     QWidget *makeNoticeBar();
     void connectFilter();
@@ -54,6 +56,7 @@ private:
     std::array<QCheckBox *, 2> m_relatives;
     QSplitter *m_splitter;
     FilterPanel *m_filter;
+    bool m_filterShown = true; ///< the latest filter was carried out
     QWidget *m_notice;
     PersonList m_last = PersonList::Unmarked;
 };

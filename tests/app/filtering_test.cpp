@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/openwindow.h"
+#include <QAction>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QPushButton>
@@ -164,4 +165,47 @@ TEST(Filtering, MarkAllMarksWhatTheFilterShows)
     QTest::keyClicks(&name, "claus");
     open.click<QToolButton>("RM2A");
     EXPECT_EQ(open.marked(), (Counters{1, 2, 4, 5, 6}));
+}
+
+TEST(Filtering, WhatWasTypedAMomentAgoCountsForTheNextMove)
+{
+    const auto typeFast = [](OpenWindow &open, const QString &text) {
+        auto &name = open.control<QLineEdit>("Presse");
+        name.setFocus();
+        QTest::keyClicks(&name, text);
+    };
+    {
+        OpenWindow open(smallFamily());
+        typeFast(open, "x'");
+        open.control<QAction>("Allemarkieren").trigger();
+        EXPECT_TRUE(open.marked().empty()) << "a refused filter must not mark everybody";
+        EXPECT_TRUE(open.statusText().contains("x'")) << open.statusText().toStdString();
+    }
+    {
+        OpenWindow open(smallFamily());
+        open.select(PersonList::Unmarked, {3});
+        typeFast(open, "Dorn");
+        open.control<QAction>("Markieren").trigger();
+        EXPECT_EQ(open.marked(), Counters{3}) << "who was selected, not who comes into its place";
+    }
+    {
+        OpenWindow open(smallFamily());
+        open.select(PersonList::Unmarked, {3});
+        typeFast(open, "Dorn");
+        ASSERT_TRUE(soon([&] { return open.shown(PersonList::Unmarked) == Counters{4}; }));
+        EXPECT_FALSE(open.window->selectionPanel().hasSelection(PersonList::Unmarked));
+    }
+}
+
+TEST(Filtering, AListComesBackFromEmptyAtItsTop)
+{
+    std::vector<TestPerson> persons;
+    for (qint32 i = 1; i <= 200; ++i)
+        persons.push_back({.counter = i, .listname = QString("Person %1").arg(i, 3, 10, QChar(u'0'))});
+    OpenWindow open(persons);
+    open.controller().filter({.Presse = "niemand"});
+    ASSERT_TRUE(open.shown(PersonList::Unmarked).empty());
+    open.controller().clearFilter();
+    auto &view = open.view(PersonList::Unmarked);
+    EXPECT_EQ(view.indexAt(QPoint(5, 5)).row(), 0);
 }
