@@ -17,7 +17,7 @@ QString maskText(const char *option, const std::string &word, DateOrder order)
 {
     if (word.empty())
         return EmptyMask;
-    const QString text = QString::fromLocal8Bit(word.c_str());
+    QString text = QString::fromLocal8Bit(word.c_str());
     const QDate iso = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
     if (iso.isValid())
         return iso.toString(order == DateOrder::DayMonthYear ? QStringLiteral("dd-MM-yyyy")
