@@ -20,6 +20,7 @@ public:
     PersonListPanel(SelectionController &controller, PersonList list, QWidget *parent = nullptr);
 
     PersonListView &view() { return *m_view; }
+    QToolButton &loadButton() { return *m_load; }
     PersonList list() const { return m_list; }
     /// Brings heading and figures up to date.
     void update();

@@ -361,6 +361,10 @@ void PersonListView::keyPressEvent(QKeyEvent *event)
         break;
     }
     QAbstractItemView::keyPressEvent(event);
+    // Home on the first person, which has the frame but is not selected yet, moves to nobody else: it selects.
+    if ((event->key() == Qt::Key_Home || event->key() == Qt::Key_End) && event->modifiers() == Qt::NoModifier &&
+        !selectionModel()->hasSelection() && currentIndex().isValid())
+        selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
 }
 
 void PersonListView::mouseDoubleClickEvent(QMouseEvent *event)

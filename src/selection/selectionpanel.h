@@ -46,6 +46,7 @@ private:
     QWidget *makeMoveColumn();
     QWidget *makeNoticeBar();
     void connectFilter();
+    void orderTabs();
     void updateAll();
     PersonListPanel &lastList();
 

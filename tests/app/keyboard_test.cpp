@@ -156,3 +156,18 @@ TEST(Keyboard, Filters)
     press(Qt::Key_Return);
     EXPECT_TRUE(open.controller().isFiltered(PersonList::Marked));
 }
+
+TEST(Keyboard, TabGoesInReadingOrder)
+{
+    OpenWindow open(smallFamily());
+    const QStringList wanted{
+        "Ladepersonenliste_0", "liste_0", "RM",    "RMA", "RM2", "RM2A", "quellenpincl_0", "quellenpincl_1",
+        "Ladepersonenliste_1", "liste_1", "Presse"};
+    QStringList found;
+    QWidget *first = &open.control<QWidget>(wanted.front());
+    for (QWidget *widget = first; found.isEmpty() || widget != first; widget = widget->nextInFocusChain()) {
+        if (wanted.contains(widget->objectName()))
+            found << widget->objectName();
+    }
+    EXPECT_EQ(found.join(' '), wanted.join(' '));
+}

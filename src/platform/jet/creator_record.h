@@ -17,7 +17,7 @@ inline constexpr std::uint32_t maximumRecordLength = 4060;
 /// Makes the records of one table. Long values go to pages of their own column at once.
 class RecordEncoder {
 public:
-    /// The spec must live as long as the encoder.
+    /// The table's description must live as long as the encoder.
     RecordEncoder(PageStore &store, const TableSpec &spec);
 
     /// One record, valid until the next call. Throws Error(InvalidProcedureCall) naming table and column.
