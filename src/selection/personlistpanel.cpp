@@ -51,7 +51,6 @@ PersonListPanel::PersonListPanel(SelectionController &controller, PersonList lis
     column->addWidget(title);
     column->addLayout(head);
     column->addWidget(m_view, 1);
-    setTabOrder(m_load, m_view);
 
     connect(m_load, &QToolButton::clicked, this, [this] {
         m_controller.reloadPlain(m_list);

@@ -88,15 +88,11 @@ SelectionPanel::SelectionPanel(SelectionController &controller, QWidget *parent)
 /// Reading order: left list, between the lists, right list, filter.
 void SelectionPanel::orderTabs()
 {
-    QWidget *before = &m_lists[0]->view();
-    const std::initializer_list<QWidget *> behind{m_move[0],
-                                                  m_moveAll[0],
-                                                  m_move[1],
-                                                  m_moveAll[1],
-                                                  m_relatives[0],
-                                                  m_relatives[1],
-                                                  &m_lists[1]->loadButton(),
-                                                  &m_lists[1]->view()};
+    QWidget *before = &m_lists[0]->loadButton();
+    const std::initializer_list<QWidget *> behind{
+        &m_lists[0]->view(), m_move[0],      m_moveAll[0],   m_move[1],
+        m_moveAll[1],        m_relatives[0], m_relatives[1], &m_lists[1]->loadButton(),
+        &m_lists[1]->view(), m_filter};
     for (QWidget *next : behind) {
         setTabOrder(before, next);
         before = next;

@@ -169,5 +169,5 @@ TEST(Keyboard, TabGoesInReadingOrder)
         if (wanted.contains(widget->objectName()))
             found << widget->objectName();
     }
-    EXPECT_EQ(found.join(' '), wanted.join(' '));
+    EXPECT_EQ(found.join(' ').toStdString(), wanted.join(' ').toStdString());
 }
