@@ -9,8 +9,6 @@ namespace kalvenor::data {
 
 /// Day number that stands for an unknown date: 1 January 4000.
 inline constexpr int UnknownDay = 767011;
-/// The earliest day in use: 1 January 200.
-inline constexpr int EarliestDay = -620910;
 
 /// The truth rule for switches in settings: WAHR, TRUE or #TRUE# in any case is true, everything else false.
 bool textwahr(const QString &text);

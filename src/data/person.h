@@ -26,7 +26,4 @@ struct PersonColumns {
     int nnamen;
 };
 
-/// What a companion column holds where the date is not a full day.
-inline constexpr QStringView PartialDateMark = u"XXX_______";
-
 } // namespace kalvenor::data
