@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/vorgabendatei.h"
+
+#include "platform/basic/error.h"
+#include "platform/basic/number.h"
+#include <cmath>
+
+namespace kalvenor::settings {
+
+namespace {
+
+constexpr double WidestColumn = 31680; // 22 inches
+constexpr double LargestFontfaktor = 20;
+constexpr int SmallestBildprozent = 50, LargestBildprozent = 600;
+const QString Grafik = QStringLiteral("Grafik");
+const QString Spalten = QStringLiteral("Spalten");
+const std::array<QString, 3> spaltenKeys = {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("4")};
+
+struct FontKey {
+    const char *name;
+    QString FontTexts::*text;
+};
+constexpr std::array<FontKey, 8> fontKeys = {{{"Fontname", &FontTexts::Fontname},
+                                              {"Fontsize", &FontTexts::Fontsize},
+                                              {"Fontbold", &FontTexts::Fontbold},
+                                              {"Fontunderline", &FontTexts::Fontunderline},
+                                              {"Fontstrikethru", &FontTexts::Fontstrikethru},
+                                              {"Fontitalic", &FontTexts::Fontitalic},
+                                              {"Fontcolor", &FontTexts::Fontcolor},
+                                              {"Backcolor", &FontTexts::Backcolor}}};
+
+QString sectionOf(Element element)
+{
+    switch (element) {
+    case Titel:
+        return QStringLiteral("Titel");
+    case TitelKriterien:
+        return QStringLiteral("TitelKriterien");
+    case Kriterien:
+        return QStringLiteral("Kriterien");
+    case TitelAltersliste:
+    case NeueSeite:
+        return QStringLiteral("TitelAltersliste");
+    case Altersliste:
+        return QStringLiteral("Altersliste");
+    case Header:
+        return QStringLiteral("Header");
+    case Footer:
+        return QStringLiteral("Footer");
+    }
+    return {};
+}
+
+/// The leading number of a text as one of the integer types, `fallback` where it does not fit.
+template <typename Integer>
+Integer wholeNumber(const QString &text, Integer fallback, Integer (*convert)(double))
+{
+    try {
+        return convert(leadingNumber(text));
+    } catch (const Error &) {
+        return fallback;
+    }
+}
+
+double finiteNumber(const QString &text, double fallback)
+{
+    const double value = leadingNumber(text);
+    return std::isfinite(value) ? value : fallback;
+}
+
+/// Reads each value with what it is given as its default.
+class Reader {
+public:
+    explicit Reader(const host::Host &host) : m_host(host), m_file(host.ownSettingsFile()) {}
+
+    void text(const QString &section, const QString &key, QString &value) const { value = read(section, key, value); }
+    void integer(const QString &section, const QString &key, qint16 &value) const
+    {
+        value = wholeNumber<qint16>(read(section, key, QString::number(value)), value, toInteger16);
+    }
+    void number(const QString &section, const QString &key, double &value) const
+    {
+        value = finiteNumber(read(section, key, trimmedNumberText(value)), value);
+    }
+    void twips(const QString &section, const QString &key, Twips &value) const
+    {
+        value = wholeNumber<qint32>(read(section, key, QString::number(value)), value, toLong32);
+    }
+    void orientation(const QString &section, const QString &key, bool &landscape) const
+    {
+        landscape = wholeNumber<qint32>(read(section, key, QStringLiteral("0")), 0, toLong32) == 1;
+    }
+
+private:
+    QString read(const QString &section, const QString &key, const QString &fallback) const
+    {
+        return m_host.inilesen(m_file, section, key, fallback);
+    }
+
+    const host::Host &m_host;
+    QString m_file;
+};
+
+class Writer {
+public:
+    explicit Writer(const host::Host &host) : m_host(host), m_file(host.ownSettingsFile()) {}
+
+    void text(const QString &section, const QString &key, const QString &value)
+    {
+        const QString other = value == u"?" ? QStringLiteral("!") : QStringLiteral("?");
+        if (m_host.inilesen(m_file, section, key, other) != value)
+            m_allWritten = m_host.inischreiben(m_file, section, key, value) && m_allWritten;
+    }
+    void integer(const QString &section, const QString &key, qint16 value)
+    {
+        text(section, key, QString::number(value));
+    }
+    void number(const QString &section, const QString &key, double value)
+    {
+        text(section, key, trimmedNumberText(value));
+    }
+    void twips(const QString &section, const QString &key, Twips value) { text(section, key, QString::number(value)); }
+    void orientation(const QString &section, const QString &key, bool landscape)
+    {
+        text(section, key, QString::number(landscape ? 1 : 0));
+    }
+    bool allWritten() const { return m_allWritten; }
+
+private:
+    const host::Host &m_host;
+    QString m_file;
+    bool m_allWritten = true;
+};
+
+/// Every setting once, in the order of the file, for loading and saving alike.
+template <typename Access, typename Vorgaben, typename Page>
+void visit(Access &access, Vorgaben &vorgaben, Page &page)
+{
+    const auto integer = [&access](const QString &section, const char *key, auto &value) {
+        access.integer(section, QLatin1String(key), value);
+    };
+    const auto twips = [&access](const char *key, auto &value) {
+        access.twips(QStringLiteral("Druckrand"), QLatin1String(key), value);
+    };
+    for (const Element element : fontElements) {
+        const QString section = sectionOf(element);
+        for (const FontKey &key : fontKeys)
+            access.text(section, QLatin1String(key.name), vorgaben.font(element).*key.text);
+        switch (element) {
+        case Titel:
+            integer(Grafik, "Bildprint", vorgaben.Bildprint);
+            break;
+        case TitelKriterien:
+        case Header:
+        case Footer:
+            integer(section, "Print", vorgaben.print(element));
+            break;
+        case TitelAltersliste:
+            integer(section, "Print", vorgaben.print(element));
+            integer(section, "Neueseite", vorgaben.print(NeueSeite));
+            break;
+        case Altersliste:
+            access.number(section, QStringLiteral("Abstand"), vorgaben.Abstand);
+            break;
+        default:
+            break;
+        }
+    }
+    twips("Links", page.left);
+    twips("Oben", page.top);
+    twips("Rechts", page.right);
+    twips("Unten", page.bottom);
+    access.orientation(QStringLiteral("Format"), QStringLiteral("Ausrichtung"), page.landscape);
+}
+
+void seed(const host::Host &host)
+{
+    const QString file = host.ownSettingsFile();
+    if (leadingNumber(host.inilesen(file, Spalten, spaltenKeys[0], QStringLiteral("1"))) != 1)
+        return;
+    for (std::size_t i = 0; i < spaltenKeys.size(); ++i)
+        host.inischreiben(file, Spalten, spaltenKeys[i], QString::number(defaultSpaltenbreiten[i]));
+    host.inischreiben(file, Grafik, QStringLiteral("Fontfaktor"), trimmedNumberText(defaultFontfaktor));
+}
+
+} // namespace
+
+void initladen(const host::Host &host, Druckvorgaben &vorgaben, PageSetup &page)
+{
+    Reader reader(host);
+    vorgaben = defaultVorgaben();
+    visit(reader, vorgaben, page);
+    seed(host);
+}
+
+bool initspeichern(const host::Host &host, const Druckvorgaben &vorgaben, const PageSetup &page)
+{
+    Writer writer(host);
+    visit(writer, vorgaben, page);
+    return writer.allWritten();
+}
+
+std::array<Twips, 3> spaltenbreiten(const host::Host &host)
+{
+    std::array<Twips, 3> widths = defaultSpaltenbreiten;
+    for (std::size_t i = 0; i < widths.size(); ++i) {
+        const double width =
+            leadingNumber(host.inilesen(host.ownSettingsFile(), Spalten, spaltenKeys[i], QString::number(widths[i])));
+        if (width >= 0 && width <= WidestColumn)
+            widths[i] = toLong32(width);
+    }
+    return widths;
+}
+
+double fontfaktor(const host::Host &host)
+{
+    const double factor = leadingNumber(host.inilesen(host.ownSettingsFile(), Grafik, QStringLiteral("Fontfaktor"),
+                                                      trimmedNumberText(defaultFontfaktor)));
+    return factor > 0 && factor <= LargestFontfaktor ? factor : defaultFontfaktor;
+}
+
+int bildprozent(const host::Host &host)
+{
+    const double percent = leadingNumber(host.inilesen(host.ownSettingsFile(), Grafik, QStringLiteral("Bildgroesse"),
+                                                       QString::number(defaultBildprozent)));
+    return percent >= SmallestBildprozent && percent <= LargestBildprozent ? toLong32(percent) : defaultBildprozent;
+}
+
+} // namespace kalvenor::settings

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/host.h"
+#include "settings/druckvorgaben.h"
+#include <array>
+
+// The print settings in the program's own settings file.
+namespace kalvenor::settings {
+
+/// Loads all settings: fonts, switches and spacing into `vorgaben`, margins and orientation into `page` (that of the
+/// print control, whose margins are the defaults). A missing key gives its default, a text without a number 0; a
+/// number that its type cannot hold gives the default. At the first run (`Spalten`/1 is missing or 1) column widths
+/// and font factor are written. Never fails.
+void initladen(const host::Host &host, Druckvorgaben &vorgaben, PageSetup &page);
+
+/// Saves all of it, in the order of initladen; a key that already reads so is left as it is. Column widths and font
+/// factor are not written. False where something could not be written; the rest is.
+bool initspeichern(const host::Host &host, const Druckvorgaben &vorgaben, const PageSetup &page);
+
+/// Widths of the age list's columns (keys "1", "2", "4": age, sex, name). 0, also for a text without a number, is an
+/// equal share; a width below 0 or above 31680 is the default.
+std::array<Twips, 3> spaltenbreiten(const host::Host &host);
+inline constexpr std::array<Twips, 3> defaultSpaltenbreiten = {400, 1000, 3000};
+
+/// Scale of the chart's fonts, above 0 to 20; others are the default, 3.
+double fontfaktor(const host::Host &host);
+inline constexpr double defaultFontfaktor = 3;
+
+/// Height of the printed chart in percent of the height that its shape on the screen gives it at the printable width:
+/// 50 to 600, others are the default, 100. The width does not change; the page limits the height.
+int bildprozent(const host::Host &host);
+inline constexpr int defaultBildprozent = 100;
+
+} // namespace kalvenor::settings
