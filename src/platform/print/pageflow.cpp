@@ -4,6 +4,7 @@
 
 #include "platform/basic/error.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kalvenor {
@@ -31,6 +32,8 @@ void PageFlow::setHeading(std::vector<Strip> heading)
         height += strip.spaceBefore + strip.height;
     if (height > (m_bottom - m_top) / 2)
         heading.clear();
+    for (Strip &strip : heading)
+        strip.headings.clear(); // the outline names it once
     m_heading = std::move(heading);
 }
 
@@ -38,6 +41,14 @@ void PageFlow::breakPage()
 {
     placeGroup();
     newPage();
+}
+
+double PageFlow::roomForNext() const
+{
+    double taken = 0;
+    for (const Strip &strip : m_group)
+        taken += strip.spaceBefore + strip.height;
+    return std::max(m_bottom - m_top - taken, (m_bottom - m_top) / 2);
 }
 
 std::vector<Page> PageFlow::take()
@@ -73,6 +84,14 @@ void PageFlow::place(Strip &&strip)
     for (PlacedText &text : strip.texts) {
         text.baseline += static_cast<float>(m_y);
         page.texts.push_back(std::move(text));
+    }
+    for (PlacedPicture &picture : strip.pictures) {
+        picture.area.translate(0, m_y);
+        page.pictures.push_back(std::move(picture));
+    }
+    for (PlacedHeading &heading : strip.headings) {
+        heading.y += m_y;
+        page.headings.push_back(std::move(heading));
     }
     m_y += strip.height;
     m_pageIsBare = false;

@@ -8,14 +8,16 @@
 
 namespace kalvenor {
 
-/// What is never cut across pages: one line of text, or the n-th lines of a row's cells. Places count from its own
-/// top, x from the paper's left edge.
+/// What is never cut across pages: one line of text, the n-th lines of a row's cells, or a picture. Places count from
+/// its own top, x from the paper's left edge.
 struct Strip {
     double spaceBefore = 0; ///< left out at the top of a page
     double height = 0;
     bool keepWithNext = false;
     std::vector<PlacedGround> grounds;
     std::vector<PlacedText> texts;
+    std::vector<PlacedPicture> pictures;
+    std::vector<PlacedHeading> headings;
 };
 
 /// Puts strips on pages, one below the other.
@@ -27,6 +29,8 @@ public:
     /// What is repeated on top of each page from the next one on; empty ends the repetition.
     void setHeading(std::vector<Strip> heading);
     void breakPage();
+    /// What a page has left for a strip that is kept with those added last; at least half a page.
+    double roomForNext() const;
     /// The pages; the flow is empty afterwards.
     std::vector<Page> take();
 

@@ -6,6 +6,7 @@
 #include "platform/print/printdocument.h"
 #include "platform/print/textface.h"
 
+#include <QImage>
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
@@ -28,15 +29,30 @@ struct PlacedGround {
     StyleId style = 0;
 };
 
+struct PlacedPicture {
+    QRectF area;
+    QImage image;
+};
+
+/// Where a heading of the outline stands; y in twips from the paper's top.
+struct PlacedHeading {
+    double y = 0;
+    int level = 1;
+    QString title;
+};
+
 struct Page {
     std::vector<PlacedGround> grounds;
     std::vector<PlacedText> texts;
+    std::vector<PlacedPicture> pictures;
+    std::vector<PlacedHeading> headings;
 };
 
 /// The pages of a document, computed once and the same for screen, printer and PDF. There is always one page at least.
 /// Rules: a text is wrapped or elided as its column says and never runs into the next; a row stays together where a
 /// page can hold it; a heading (a table's, or a paragraph kept with the next) never ends a page; a paragraph leaves
-/// no single line behind; a table's heading is repeated on each of its pages where it takes less than half of one.
+/// no single line behind; a table's heading is repeated on each of its pages where it takes less than half of one; a
+/// picture is made smaller where page or line cannot hold it with what is kept with it.
 class PageLayout {
 public:
     /// Throws Error(InvalidProcedureCall) where margins leave no room for text or a single line is higher than the
@@ -48,8 +64,11 @@ public:
     QSizeF paperSize() const { return m_paper; }
     /// Faces of the document's styles, by StyleId.
     const std::vector<TextFace> &faces() const { return m_faces; }
+    /// Of the document's texts, "de" or "en".
+    const QString &language() const { return m_language; }
 
 private:
+    QString m_language;
     QSizeF m_paper;
     std::vector<TextFace> m_faces;
     std::vector<Page> m_pages;

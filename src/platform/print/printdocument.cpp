@@ -31,6 +31,18 @@ std::optional<Alignment> alignmentOf(QChar sign)
     }
 }
 
+void checkSpace(Twips before, Twips after)
+{
+    if (before < 0 || after < 0)
+        refuse(QStringLiteral("The space around a paragraph or picture cannot be negative."));
+}
+
+void checkLevel(int level)
+{
+    if (level < 0 || level > deepestOutlineLevel)
+        refuse(u"There is no outline level %1."_qs.arg(level));
+}
+
 } // namespace
 
 std::vector<Column> columnsFromFormat(QStringView format)
@@ -80,34 +92,65 @@ StyleId PrintDocument::addStyle(const TextStyle &style)
 
 void PrintDocument::add(Block block)
 {
-    if (const auto *paragraph = std::get_if<Paragraph>(&block)) {
-        checkStyle(paragraph->style);
-        if (paragraph->spaceBefore < 0 || paragraph->spaceAfter < 0)
-            refuse(QStringLiteral("The space around a paragraph cannot be negative."));
-        m_columns = 0;
-    } else if (const auto *table = std::get_if<TableStart>(&block)) {
-        if (table->columns.empty())
-            refuse(QStringLiteral("A table needs at least one column."));
-        if (table->rowSpacing < 0 || std::any_of(table->columns.begin(), table->columns.end(),
-                                                 [](const Column &column) { return column.width < 0; }))
-            refuse(QStringLiteral("Column widths and row spacing cannot be negative."));
-        for (const auto &row : table->heading)
-            checkCells(row, table->columns.size());
+    std::visit([this](const auto &b) { check(b); }, block);
+    if (const auto *table = std::get_if<TableStart>(&block))
         m_columns = table->columns.size();
-    } else if (const auto *row = std::get_if<TableRow>(&block)) {
-        if (m_columns == 0)
-            refuse(QStringLiteral("A table row stands outside a table."));
-        checkCells(row->cells, m_columns);
-    }
+    else if (!std::holds_alternative<TableRow>(block) && !std::holds_alternative<PageBreak>(block))
+        m_columns = 0;
     m_blocks.push_back(std::move(block));
+}
+
+void PrintDocument::check(const Paragraph &paragraph) const
+{
+    checkStyle(paragraph.style);
+    checkSpace(paragraph.spaceBefore, paragraph.spaceAfter);
+    checkLevel(paragraph.outlineLevel);
+}
+
+void PrintDocument::check(const RichParagraph &paragraph) const
+{
+    for (const TextRun &run : paragraph.runs)
+        checkStyle(run.style);
+    checkStyle(paragraph.bullet.style);
+    checkSpace(paragraph.spaceBefore, paragraph.spaceAfter);
+    checkLevel(paragraph.outlineLevel);
+    if (paragraph.leftIndent < 0)
+        refuse(QStringLiteral("A paragraph cannot be indented by less than nothing."));
+}
+
+void PrintDocument::check(const Picture &picture) const
+{
+    checkSpace(picture.spaceBefore, picture.spaceAfter);
+    if (picture.image.isNull() || picture.width <= 0 || picture.height <= 0)
+        refuse(QStringLiteral("A picture without content or size cannot be printed."));
+}
+
+void PrintDocument::check(const TableStart &table) const
+{
+    if (table.columns.empty())
+        refuse(QStringLiteral("A table needs at least one column."));
+    if (table.rowSpacing < 0 ||
+        std::any_of(table.columns.begin(), table.columns.end(), [](const Column &column) { return column.width < 0; }))
+        refuse(QStringLiteral("Column widths and row spacing cannot be negative."));
+    for (const auto &row : table.heading)
+        checkCells(row, table.columns.size());
+}
+
+void PrintDocument::check(const TableRow &row) const
+{
+    if (m_columns == 0)
+        refuse(QStringLiteral("A table row stands outside a table."));
+    checkCells(row.cells, m_columns);
 }
 
 void PrintDocument::checkCells(const std::vector<Cell> &cells, std::size_t columns) const
 {
     if (cells.size() > columns)
         refuse(u"A row of %1 cells does not fit a table of %2 columns."_qs.arg(cells.size()).arg(columns));
-    for (const Cell &cell : cells)
+    for (const Cell &cell : cells) {
         checkStyle(cell.style);
+        checkLevel(cell.outlineLevel);
+    }
 }
 
 void PrintDocument::checkStyle(StyleId style) const

@@ -5,6 +5,7 @@
 #include <array>
 #include <optional>
 #include <QColor>
+#include <QImage>
 #include <QString>
 #include <QStringView>
 #include <variant>
@@ -56,10 +57,14 @@ struct Column {
 /// left without one) and width. Throws Error(InvalidProcedureCall) for anything else.
 std::vector<Column> columnsFromFormat(QStringView format);
 
+/// The outline of a document has this many levels.
+constexpr int deepestOutlineLevel = 3;
+
 struct Cell {
     QString text = {};
     StyleId style = 0;
     std::optional<Alignment> alignment = {}; ///< instead of the column's
+    int outlineLevel = 0; ///< from 1: its text stands in the outline; in a table's heading it does not
 };
 
 /// Line ends inside the text begin new lines.
@@ -70,10 +75,52 @@ struct Paragraph {
     Twips spaceBefore = 0; ///< left out at the top of a page
     Twips spaceAfter = 0;
     bool keepWithNext = false; ///< a heading: never the last line of a page
+    int outlineLevel = 0;      ///< from 1: a heading, its text stands in the outline
 };
 
-/// Begins a table. The rows that follow belong to it, until a paragraph or another table. Columns wider in sum than
-/// the line are narrowed in proportion. The heading rows stand here and again on each page the table goes on to.
+/// A stretch of text in one style.
+struct TextRun {
+    QString text = {};
+    StyleId style = 0;
+
+    bool operator==(const TextRun &) const = default;
+};
+
+/// A paragraph of several styles; each line is as high as its tallest. Line ends inside a run begin new lines, tabs
+/// go to the next stop, one every half inch from the left margin. Background colours lie behind the words alone.
+struct RichParagraph {
+    std::vector<TextRun> runs;
+    Alignment alignment = Alignment::Left;
+    Twips leftIndent = 0;
+    Twips hanging = 0;     ///< the first line begins so much further left, negative: further right
+    TextRun bullet = {};   ///< stands where the first line begins; the line itself then begins at the left indent
+    Twips spaceBefore = 0; ///< left out at the top of a page
+    Twips spaceAfter = 0;
+    bool keepWithNext = false;
+    int outlineLevel = 0;
+
+    bool operator==(const RichParagraph &) const = default;
+};
+
+/// A picture stands on one page. It is made smaller in proportion where it is wider than the line or higher than a
+/// page.
+struct Picture {
+    QImage image;
+    Twips width = 0;
+    Twips height = 0;
+    Alignment alignment = Alignment::Left; ///< Justified stands left
+    QString alternativeText = {};
+    /// Where the composer writes a picture file of its own for HTML, and the tag with it: the HTML writer then leaves
+    /// this picture out. Empty: it is put into the page.
+    QString fileName = {};
+    Twips spaceBefore = 0; ///< left out at the top of a page
+    Twips spaceAfter = 0;
+    bool keepWithNext = false;
+};
+
+/// Begins a table. The rows that follow belong to it, until a paragraph, a picture or another table. Columns wider in
+/// sum than the line are narrowed in proportion. The heading rows stand here and again on each page the table goes on
+/// to.
 struct TableStart {
     std::vector<Column> columns;
     std::vector<std::vector<Cell>> heading = {};
@@ -83,11 +130,12 @@ struct TableStart {
 /// Missing cells are empty; more cells than columns are an error. A row is kept on one page where it fits on one.
 struct TableRow {
     std::vector<Cell> cells;
+    bool keepWithNext = false;
 };
 
 struct PageBreak {};
 
-using Block = std::variant<Paragraph, TableStart, TableRow, PageBreak>;
+using Block = std::variant<Paragraph, TableStart, TableRow, PageBreak, RichParagraph, Picture>;
 
 /// The paper stands upright in these sizes; landscape turns it. Margins are those of the page as it is read.
 struct PageSetup {
@@ -114,7 +162,8 @@ std::array<QString, 3> runningTextParts(QStringView text, int pageNumber);
 
 class PrintDocument {
 public:
-    QString title;
+    QString title;                           ///< in the file's metadata
+    QString language = QStringLiteral("de"); ///< of its texts, "de" or "en"
     PageSetup page;
     RunningText header;
     RunningText footer;
@@ -125,12 +174,18 @@ public:
     const std::vector<TextStyle> &styles() const { return m_styles; }
 
     /// Throws Error(InvalidProcedureCall) where a block cannot stand: a row outside a table, too many cells, a style
-    /// that is none, a negative length.
+    /// or outline level that is none, a negative length, a picture without content.
     void add(Block block);
     const std::vector<Block> &blocks() const { return m_blocks; }
 
 private:
     void checkCells(const std::vector<Cell> &cells, std::size_t columns) const;
+    void check(const Paragraph &paragraph) const;
+    void check(const RichParagraph &paragraph) const;
+    void check(const Picture &picture) const;
+    void check(const TableStart &table) const;
+    void check(const TableRow &row) const;
+    void check(const PageBreak &) const {}
     void checkStyle(StyleId style) const;
 
     std::vector<TextStyle> m_styles{TextStyle()};

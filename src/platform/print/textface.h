@@ -25,6 +25,8 @@ public:
     explicit TextFace(const TextStyle &style);
 
     const TextStyle &style() const { return m_style; }
+    /// Its pixel is one twip.
+    const QFont &font() const { return m_font; }
     double ascent() const { return m_ascent; }
     double descent() const { return m_descent; }
     /// From one baseline to the next.

@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/print/richlines.h"
+
+#include <algorithm>
+#include <QTextLayout>
+
+namespace kalvenor {
+namespace {
+
+constexpr double leastLine = 720; // an indent leaves half an inch at least
+constexpr double tabDistance = 720;
+
+/// Line ends as Qt's text layout knows them; other control characters than the tab as blanks.
+QString layoutText(const QString &text)
+{
+    QString out = text;
+    out.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    for (QChar &c : out) {
+        if (c == u'\n' || c == u'\r')
+            c = QChar::LineSeparator;
+        else if (c < u' ' && c != u'\t')
+            c = u' ';
+    }
+    return out;
+}
+
+class RichLines {
+public:
+    RichLines(const RichParagraph &paragraph, const std::vector<TextFace> &faces)
+        : m_paragraph(paragraph), m_faces(faces)
+    {
+        for (const TextRun &run : paragraph.runs) {
+            const QString text = layoutText(run.text);
+            m_styles.insert(m_styles.end(), static_cast<std::size_t>(text.size()), run.style);
+            m_text += text;
+        }
+    }
+
+    std::vector<Strip> set(double left, double right)
+    {
+        const double indent = std::clamp(static_cast<double>(m_paragraph.leftIndent), 0.0, right - left - leastLine);
+        const double start = std::clamp(indent - m_paragraph.hanging, 0.0, right - left - leastLine);
+        double first = start;
+        if (!m_paragraph.bullet.text.isEmpty()) {
+            const TextFace &face = faceOf(m_paragraph.bullet.style);
+            m_bulletWidth = face.width(m_paragraph.bullet.text);
+            first = std::min(std::max(indent, start + m_bulletWidth + face.width(u" ")), right - left - leastLine);
+        }
+
+        QTextLayout layout(m_text, faceOf(firstStyle()).font());
+        layout.setFormats(formats());
+        layout.setTextOption(option());
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+            const double x = left + (m_strips.empty() ? first : indent);
+            line.setLineWidth(right - x);
+            line.setPosition(QPointF(x, 0));
+            m_strips.emplace_back();
+        }
+        layout.endLayout();
+        if (m_strips.empty())
+            m_strips.emplace_back();
+        for (std::size_t i = 0; i < m_strips.size(); ++i)
+            setLine(m_strips[i],
+                    static_cast<int>(i) < layout.lineCount() ? layout.lineAt(static_cast<int>(i)) : QTextLine(), i == 0,
+                    left + start);
+        return std::move(m_strips);
+    }
+
+private:
+    const TextFace &faceOf(StyleId style) const { return m_faces[static_cast<std::size_t>(style)]; }
+    StyleId styleAt(qsizetype place) const { return m_styles[static_cast<std::size_t>(place)]; }
+    StyleId firstStyle() const { return m_paragraph.runs.empty() ? 0 : m_paragraph.runs.front().style; }
+
+    QList<QTextLayout::FormatRange> formats() const
+    {
+        QList<QTextLayout::FormatRange> ranges;
+        int start = 0;
+        for (qsizetype i = 1; i <= m_text.size(); ++i) {
+            if (i < m_text.size() && styleAt(i) == styleAt(start))
+                continue;
+            QTextLayout::FormatRange range;
+            range.start = start;
+            range.length = static_cast<int>(i) - start;
+            range.format.setFont(faceOf(styleAt(start)).font());
+            ranges << range;
+            start = static_cast<int>(i);
+        }
+        return ranges;
+    }
+
+    QTextOption option() const
+    {
+        QTextOption option;
+        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        constexpr Qt::Alignment alignments[]{Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight, Qt::AlignJustify};
+        option.setAlignment(alignments[static_cast<int>(m_paragraph.alignment)]);
+        option.setTabStopDistance(tabDistance);
+        if (m_paragraph.hanging > 0)
+            option.setTabArray({static_cast<qreal>(m_paragraph.hanging)});
+        return option;
+    }
+
+    void setLine(Strip &strip, const QTextLine &line, bool isFirst, double bulletX) const
+    {
+        const qsizetype start = line.isValid() ? line.textStart() : 0;
+        qsizetype end = start + (line.isValid() ? line.textLength() : 0);
+        const bool goesOn = end < m_text.size() && m_text[end - 1] != QChar::LineSeparator;
+        while (end > start && (m_text[end - 1] == u' ' || m_text[end - 1] == QChar::LineSeparator))
+            --end;
+
+        double ascent = 0;
+        double below = 0;
+        const auto measure = [&](StyleId style) {
+            const TextFace &face = faceOf(style);
+            ascent = std::max(ascent, face.ascent());
+            below = std::max(below, face.lineHeight() - face.ascent());
+        };
+        for (qsizetype i = start; i < end; ++i) {
+            if (i == start || styleAt(i) != styleAt(i - 1))
+                measure(styleAt(i));
+        }
+        if (end == start)
+            measure(start < m_text.size() ? styleAt(start) : m_text.isEmpty() ? firstStyle() : m_styles.back());
+        const bool hasBullet = isFirst && !m_paragraph.bullet.text.isEmpty();
+        if (hasBullet)
+            measure(m_paragraph.bullet.style);
+        strip.height = ascent + below;
+        if (hasBullet)
+            strip.texts.push_back({static_cast<float>(bulletX), static_cast<float>(ascent),
+                                   static_cast<float>(m_bulletWidth), m_paragraph.bullet.style,
+                                   m_paragraph.bullet.text});
+
+        const bool spread = m_paragraph.alignment == Alignment::Justified && goesOn;
+        for (qsizetype from = start; from < end;) {
+            qsizetype to = from + 1;
+            // A spread line goes word by word; each takes its blank along, so that it can be searched and copied.
+            while (to < end && styleAt(to) == styleAt(from) && m_text[to] != u'\t' && m_text[from] != u'\t' &&
+                   !(spread && m_text[to - 1] == u' ' && m_text[to] != u' '))
+                ++to;
+            setPiece(strip, line, from, to, ascent);
+            from = to;
+        }
+    }
+
+    void setPiece(Strip &strip, const QTextLine &line, qsizetype from, qsizetype to, double ascent) const
+    {
+        const double begin = line.cursorToX(static_cast<int>(from));
+        const double end = line.cursorToX(static_cast<int>(to));
+        const double x = std::min(begin, end); // right to left it begins at the right
+        const double width = std::max(begin, end) - x;
+        const StyleId style = styleAt(from);
+        if (faceOf(style).style().background.isValid())
+            strip.grounds.push_back({QRectF(x, 0, width, strip.height), style});
+        if (m_text[from] != u'\t')
+            strip.texts.push_back({static_cast<float>(x), static_cast<float>(ascent), static_cast<float>(width), style,
+                                   m_text.mid(from, to - from)});
+    }
+
+    const RichParagraph &m_paragraph;
+    const std::vector<TextFace> &m_faces;
+    QString m_text;
+    std::vector<StyleId> m_styles; ///< of each unit of the text
+    double m_bulletWidth = 0;
+    std::vector<Strip> m_strips;
+};
+
+} // namespace
+
+std::vector<Strip> richLines(const RichParagraph &paragraph, const std::vector<TextFace> &faces, double left,
+                             double right)
+{
+    return RichLines(paragraph, faces).set(left, right);
+}
+
+} // namespace kalvenor
