@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/desktop/imagecomponent.h"
+
+#include <algorithm>
+#include <map>
+#include <mutex>
+#include <QImage>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QSaveFile>
+
+namespace kalvenor {
+
+namespace {
+
+struct Registry {
+    std::mutex mutex;
+    std::map<QString, ImageComponentFactory> factories{{QStringLiteral("Pictarex.Compendium"), createJpegComponent}};
+};
+
+Registry &registry()
+{
+    static Registry instance;
+    return instance;
+}
+
+QImage scaled(const QImage &image, int width, int height)
+{
+    if (width > 0 && height > 0)
+        return image.scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (width > 0)
+        return image.scaledToWidth(width, Qt::SmoothTransformation);
+    return height > 0 ? image.scaledToHeight(height, Qt::SmoothTransformation) : image;
+}
+
+class JpegComponent : public ImageComponent {
+public:
+    QString convertEx(const QString &bmpFile, const QString &outputFile, int quality, int width, int height,
+                      int resolution) override
+    {
+        QImageReader reader(bmpFile);
+        QImage image = reader.read();
+        if (image.isNull())
+            return bmpFile + QStringLiteral(": ") + reader.errorString();
+        image = scaled(image, width, height);
+        if (resolution > 0) {
+            const int dotsPerMeter = qRound(resolution / 0.0254);
+            image.setDotsPerMeterX(dotsPerMeter);
+            image.setDotsPerMeterY(dotsPerMeter);
+        }
+        QSaveFile file(outputFile); // an old picture stays whole until the new one is
+        if (!file.open(QIODevice::WriteOnly))
+            return outputFile + QStringLiteral(": ") + file.errorString();
+        QImageWriter writer(&file, "jpeg");
+        writer.setQuality(std::clamp(quality, 0, 100));
+        if (!writer.write(image))
+            return outputFile + QStringLiteral(": ") + writer.errorString();
+        return file.commit() ? QString() : outputFile + QStringLiteral(": ") + file.errorString();
+    }
+};
+
+} // namespace
+
+void registerImageComponent(QStringView programId, ImageComponentFactory factory)
+{
+    Registry &components = registry();
+    const std::lock_guard lock(components.mutex);
+    components.factories[programId.toString()] = factory; // a copy: the text may be part of the library
+}
+
+bool unregisterImageComponent(const QString &programId)
+{
+    Registry &components = registry();
+    const std::lock_guard lock(components.mutex);
+    return components.factories.erase(programId) != 0;
+}
+
+std::unique_ptr<ImageComponent> createImageComponent(const QString &programId)
+{
+    Registry &components = registry();
+    ImageComponentFactory factory = nullptr;
+    {
+        const std::lock_guard lock(components.mutex);
+        const auto at = components.factories.find(programId);
+        if (at == components.factories.end())
+            return nullptr;
+        factory = at->second;
+    }
+    return factory();
+}
+
+std::unique_ptr<ImageComponent> createJpegComponent()
+{
+    return std::make_unique<JpegComponent>();
+}
+
+} // namespace kalvenor
