@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QImage>
+#include <QLocale>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -9,7 +12,8 @@
 // What a chart shows and how. Columns are series (the legend), rows are categories along the axis.
 namespace kalvenor {
 
-/// Types by the numbers of the chart control. The solid ones are drawn as their flat kin.
+/// Types by the numbers of the chart control. The solid ones are drawn as their flat kin, any other number as bars.
+/// Combination: the last column is a line over the bars of the others. Pie: one slice a row, of the last column.
 enum class ChartType {
     Bar3D = 0,
     Bar = 1,
@@ -25,7 +29,9 @@ enum class ChartType {
     XY = 16,
 };
 
-/// The chart control's table: data[row][column] are number texts with a point.
+/// The chart control's table: data[row][column] are number texts with a point. What is no number counts as 0, as does a
+/// cell that a short row lacks; columns and rows without a label get none.
+/// A 0 is a row without persons: no bar, and a gap in lines, areas, steps and points.
 struct ChartTable {
     QStringList columnLabels;
     QStringList rowLabels;
@@ -38,13 +44,34 @@ struct ChartLook {
     ChartType type = ChartType::Bar;
     bool legend = true;
     bool grid = true;
-    bool values = false;   ///< the figures at the bars and points
-    double fontFactor = 3; ///< scales the fonts of legend and axes; 3 is the size of the surrounding text
+    bool values = false; ///< the figures at the bars and points, where there is room
+    /// Scales the fonts of legend, axes and figures: factor / 3 of the surrounding text, so that 3 is its size; at
+    /// least half of it, at most three times. Not a number, 0 and less count as 3. Where the texts do not fit the
+    /// picture, they are made smaller than that rather than cut.
+    double fontFactor = 3;
     QString title = {};
     QString categoryTitle = {}; ///< below the axis of the rows
     QString valueTitle = {};    ///< beside the axis of the figures
     QString emptyText = {};     ///< shown instead of a chart where the table is empty
     QString valueFormat = {};   ///< of a figure under the mouse: "%1: %2 years" (series, figure)
+    QLocale locale = {};        ///< how figures are written
 };
+
+/// The size of the surrounding text in a picture, in points.
+constexpr int chartTextPoints = 9;
+
+/// The chart on white paper, opaque. The layout follows from the picture's size on paper (pixels / dpi), so that 96 and
+/// 300 dpi give the same chart. Null for a size that cannot be (empty, or above 20000 pixels). `dpi` is held within 24
+/// to 2400. Qt Charts needs a QApplication; the platform "offscreen" will do.
+QImage chartImage(const ChartTable &table, const ChartLook &look, QSize pixels, double dpi);
+
+/// The same as a file, of the kind that its ending says: png, jpg, jpeg or svg. It is written beside and renamed, so
+/// that a failure leaves an old file as it was. `quality` is of JPEG, 0 to 100. Throws Error(Refused) for another
+/// ending or a size that cannot be, Error(WriteFailed) where the file cannot be written.
+void writeChart(const ChartTable &table, const ChartLook &look, QSize pixels, const QString &nativeFile,
+                int quality = 92, double dpi = 96);
+
+/// A figure as the chart shows it: completed tenths ("45,9" for 45.99), like the ages of the statistic.
+QString chartFigureText(double value, const QLocale &locale);
 
 } // namespace kalvenor

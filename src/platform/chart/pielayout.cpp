@@ -1,0 +1,156 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/chart/chartlayout.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <numeric>
+
+namespace kalvenor {
+namespace {
+
+constexpr double leastDiameter = 0.4; // of the shorter side
+constexpr double reach = 1.1;         // from a slice's rim to the bend of its leader, in radii
+
+struct Callout {
+    TextBlock block;
+    double angle; ///< degrees, clockwise from the top
+    double value;
+    double y = 0;
+    bool right() const { return angle <= 180; }
+};
+
+QPointF onCircle(QPointF centre, double radius, double degrees)
+{
+    const double angle = degrees * std::numbers::pi / 180;
+    return centre + QPointF(std::sin(angle), -std::cos(angle)) * radius;
+}
+
+// As near as can be to the wanted heights, one line apart, within top and bottom. Callouts by height.
+void spread(std::vector<Callout *> &column, double line, double top, double bottom)
+{
+    double lowest = top - line / 2;
+    for (Callout *callout : column) {
+        callout->y = std::max(callout->y, lowest + line);
+        lowest = callout->y;
+    }
+    double highest = bottom + line / 2;
+    for (auto it = column.rbegin(); it != column.rend(); ++it) {
+        (*it)->y = std::min((*it)->y, highest - line);
+        highest = (*it)->y;
+    }
+}
+
+std::vector<Callout> makeCallouts(LayoutTry &attempt)
+{
+    const ChartFigures &figures = attempt.subject.figures;
+    const std::vector<PieSlice> slices = pieSlices(figures);
+    std::vector<Callout> callouts;
+    for (int row = 0; row < figures.rowCount(); ++row) {
+        const double value = figures.value(0, row);
+        QString text = chartFigureText(value, attempt.subject.look.locale);
+        if (!figures.rows[row].isEmpty())
+            text = figures.rows[row] + QStringLiteral(": ") + text;
+        const PieSlice &slice = slices[static_cast<std::size_t>(row)];
+        callouts.push_back(
+            {attempt.fitted(attempt.font, text, attempt.area.width() * 0.38, 1), slice.begin + slice.span / 2, value});
+    }
+    // More than two columns can hold: the smallest are left to the tooltip.
+    const auto most = static_cast<std::size_t>(attempt.area.height() / attempt.lineHeight()) * 2;
+    if (attempt.force && callouts.size() > most) {
+        std::vector<double> values;
+        for (const Callout &callout : callouts)
+            values.push_back(callout.value);
+        std::sort(values.begin(), values.end(), std::greater<>());
+        const double least = values[most];
+        std::erase_if(callouts, [least](const Callout &callout) { return callout.value <= least; });
+    }
+    return callouts;
+}
+
+} // namespace
+
+std::vector<PieSlice> pieSlices(const ChartFigures &figures)
+{
+    const std::vector<double> &values = figures.values.front();
+    const double total = std::accumulate(values.begin(), values.end(), 0.0);
+    std::vector<PieSlice> slices;
+    double begin = 0;
+    for (const double value : values) {
+        const double span = total > 0 ? value / total * 360 : 0;
+        slices.push_back({begin, span});
+        begin += span;
+    }
+    return slices;
+}
+
+void layoutPie(LayoutTry &attempt)
+{
+    const ChartSubject &subject = attempt.subject;
+    const double line = attempt.lineHeight();
+    QRectF &area = attempt.area;
+
+    QString caption = subject.look.valueTitle.simplified();
+    if (const QString &column = subject.figures.series.front(); !caption.isEmpty() && !column.isEmpty())
+        caption += QStringLiteral(" (%1)").arg(column);
+    if (!caption.isEmpty()) {
+        const TextBlock block = attempt.fitted(attempt.font, caption, area.width(), 2);
+        area.setBottom(area.bottom() - block.size.height());
+        attempt.add(attempt.font.place(TextRole::ValueTitle, block,
+                                       {area.center().x(), area.bottom() + block.size.height() / 2}));
+        area.setBottom(area.bottom() - line * 0.3);
+    }
+
+    std::vector<Callout> callouts = makeCallouts(attempt);
+    std::vector<Callout *> left;
+    std::vector<Callout *> right;
+    const auto widest = [](const std::vector<Callout *> &column) {
+        double width = 0;
+        for (const Callout *callout : column)
+            width = std::max(width, callout->block.size.width());
+        return width;
+    };
+    for (Callout &callout : callouts)
+        (callout.right() ? right : left).push_back(&callout);
+    std::reverse(left.begin(), left.end()); // from the top
+    const auto capacity = static_cast<std::ptrdiff_t>(area.height() / line);
+    while (std::ssize(right) > capacity && std::ssize(left) < capacity) {
+        left.push_back(right.back());
+        right.pop_back();
+    }
+    while (std::ssize(left) > capacity && std::ssize(right) < capacity) {
+        right.push_back(left.back());
+        left.pop_back();
+    }
+    const double bend = line * 0.8; // room for the leaders
+    const double across = area.width() - widest(left) - widest(right) - 4 * bend;
+    const double diameter = std::min(across, area.height() - line * 1.2) / 1.05;
+    if (diameter < std::min(attempt.size.width(), attempt.size.height()) * leastDiameter * (attempt.force ? 0.5 : 1) ||
+        std::max(std::ssize(left), std::ssize(right)) > capacity) {
+        attempt.cramped = true;
+        return;
+    }
+    const double radius = diameter / 2;
+    const double shift = (widest(left) - widest(right)) / 2;
+    const QPointF centre(area.center().x() + shift, area.center().y());
+    attempt.layout.plot = QRectF(centre - QPointF(radius, radius), QSizeF(diameter, diameter));
+
+    for (Callout &callout : callouts)
+        callout.y = onCircle(centre, radius * reach, callout.angle).y();
+    for (std::vector<Callout *> *column : {&left, &right}) {
+        spread(*column, line, area.top() + line / 2, area.bottom() - line / 2);
+        const double direction = column == &right ? 1 : -1;
+        for (const Callout *callout : *column) {
+            const double edge = centre.x() + direction * (radius + 2 * bend - line * 0.2);
+            attempt.add(attempt.font.place(
+                TextRole::Callout, callout->block,
+                {centre.x() + direction * (radius + 2 * bend + callout->block.size.width() / 2), callout->y}));
+            attempt.layout.leaders.push_back(QPolygonF{{onCircle(centre, radius, callout->angle),
+                                                        {edge - direction * bend * 0.5, callout->y},
+                                                        {edge, callout->y}}});
+        }
+    }
+}
+
+} // namespace kalvenor
