@@ -1,0 +1,130 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/basic/sequential.h"
+
+#include "platform/basic/error.h"
+#include <algorithm>
+#include <utility>
+
+namespace kalvenor {
+
+namespace {
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+} // namespace
+
+void SequentialWriter::writeText(QByteArrayView ansi)
+{
+    m_content += '"';
+    for (const char c : ansi) {
+        m_content += c;
+        if (c == '"')
+            m_content += c;
+    }
+    m_content += "\"\r\n";
+}
+
+void SequentialWriter::writeNumber(qint64 number)
+{
+    m_content += QByteArray::number(number) + "\r\n";
+}
+
+void SequentialWriter::writeTruth(bool truth)
+{
+    m_content += truth ? "#TRUE#\r\n" : "#FALSE#\r\n";
+}
+
+SequentialReader::SequentialReader(QByteArray content, QString file)
+    : m_content(std::move(content)), m_file(std::move(file))
+{
+}
+
+bool SequentialReader::atEnd() const
+{
+    return std::all_of(m_content.begin() + m_position, m_content.end(),
+                       [](char c) { return isBlank(c) || c == '\r' || c == '\n'; });
+}
+
+QString SequentialReader::place() const
+{
+    return QStringLiteral("%1, line %2").arg(m_file).arg(m_itemLine);
+}
+
+SequentialItem SequentialReader::next()
+{
+    skipBlanks();
+    m_itemLine = m_line;
+    if (m_position >= m_content.size())
+        throw Error(ErrorKind::Damaged, place(), QStringLiteral("The file ends here, but something is still missing."));
+    SequentialItem item;
+    if (at(m_position) == '"')
+        readQuoted(item);
+    else
+        readPlain(item);
+    item.ended = passSeparator();
+    return item;
+}
+
+void SequentialReader::skipBlanks()
+{
+    while (isBlank(at(m_position)))
+        ++m_position;
+}
+
+void SequentialReader::readQuoted(SequentialItem &item)
+{
+    item.quoted = true;
+    for (qsizetype from = m_position + 1;;) {
+        const qsizetype quote = m_content.indexOf('"', from);
+        if (quote < 0)
+            throw Error(ErrorKind::Damaged, place(),
+                        QStringLiteral("The text that begins here has no closing quote; the file was probably cut."));
+        item.bytes += QByteArrayView(m_content).sliced(from, quote - from);
+        if (at(quote + 1) != '"') {
+            countLines(m_position, quote);
+            m_position = quote + 1;
+            break;
+        }
+        item.bytes += '"';
+        from = quote + 2;
+    }
+    skipBlanks();
+    if (m_position < m_content.size() && at(m_position) != ',' && !isLineEnd(m_position))
+        throw Error(ErrorKind::Damaged, place(),
+                    QStringLiteral("Something stands behind the closing quote of the text that begins here."));
+}
+
+void SequentialReader::readPlain(SequentialItem &item)
+{
+    const qsizetype from = m_position;
+    while (m_position < m_content.size() && at(m_position) != ',' && !isLineEnd(m_position))
+        ++m_position;
+    item.bytes = m_content.mid(from, m_position - from);
+    while (!item.bytes.isEmpty() && isBlank(item.bytes.back()))
+        item.bytes.chop(1);
+}
+
+/// False at the end of the file.
+bool SequentialReader::passSeparator()
+{
+    if (m_position >= m_content.size())
+        return false;
+    const qsizetype from = m_position;
+    m_position += at(m_position) == '\r' && at(m_position + 1) == '\n' ? 2 : 1;
+    countLines(from, m_position);
+    return true;
+}
+
+void SequentialReader::countLines(qsizetype from, qsizetype to)
+{
+    for (qsizetype i = from; i < to; ++i) {
+        if (at(i) == '\n' || (at(i) == '\r' && at(i + 1) != '\n'))
+            ++m_line;
+    }
+}
+
+} // namespace kalvenor

@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "selection/vorlageoeffnen.h"
+
+#include "selection/marksnapshot.h"
+#include <QFileInfo>
+#include <unordered_set>
+#include <utility>
+
+namespace kalvenor::selection {
+
+namespace {
+
+constexpr qint64 PersonsBetweenReports = 1024;
+
+Error withRemark(const Error &error, const QString &remark)
+{
+    return Error(error.kind(), error.place(), error.text() + u' ' + remark);
+}
+
+/// Goes over to another family database, and back where something fails.
+class DatabaseSwitch {
+public:
+    explicit DatabaseSwitch(const VorlageServices &services)
+        : m_services(services), m_former(services.host.Familienpfad)
+    {
+    }
+
+    void goOver(const QString &familienpfad)
+    {
+        m_changed = true;
+        if (m_services.closing)
+            m_services.closing();
+        open(familienpfad);
+    }
+    bool changed() const { return m_changed; }
+    /// Throws `why` again once the former database is open.
+    [[noreturn]] void goBack(const Error &why)
+    {
+        if (!m_changed)
+            throw why;
+        try {
+            if (m_services.closing)
+                m_services.closing();
+            open(m_former);
+        } catch (const Error &error) {
+            throw withRemark(why, QStringLiteral("The former database could not be opened again either (%1). Quit the "
+                                                 "program and start it again.")
+                                      .arg(error.message()));
+        }
+        throw why;
+    }
+
+private:
+    void open(const QString &familienpfad)
+    {
+        host::Host &host = m_services.host;
+        m_services.language.datenbankenschliessen(familienpfad); // a name: the host's own texts stay closed
+        m_services.databases.datenbankoeffnen(familienpfad);
+        m_services.language.spracheoeffnen(host.Hostverzeichnis + QStringLiteral("\\ADD-IN-LANGUAGE.MDB"));
+        host.Familienpfad = familienpfad;
+        if (m_services.opened)
+            m_services.opened();
+    }
+
+    const VorlageServices &m_services;
+    QString m_former;
+    bool m_changed = false;
+};
+
+bool isOpen(const VorlageServices &services, const QString &familienpfad)
+{
+    const QString open = QFileInfo(services.databases.Familiendatenbank->file()).canonicalFilePath();
+    return !open.isEmpty() && open == QFileInfo(services.host.native(familienpfad)).canonicalFilePath();
+}
+
+/// Whether the database has to be changed for the template's one.
+bool needsOtherDatabase(const VorlageServices &services, const QString &File, const QString &familienpfad)
+{
+    if (isOpen(services, familienpfad))
+        return false;
+    if (!services.host.dir(familienpfad).isEmpty())
+        return true;
+    if (!services.useOpenDatabase)
+        throw Error(ErrorKind::FileNotFound, services.host.native(File),
+                    QStringLiteral("The template belongs to a family database that does not exist: %1.%2")
+                        .arg(familienpfad, services.host.hasUnmappedDrive(familienpfad)
+                                               ? QStringLiteral(" No folder is known for its drive letter; name it in "
+                                                                "Kalvenor.ini, section [Laufwerke].")
+                                               : QString()));
+    if (!services.useOpenDatabase(familienpfad))
+        throw Error(ErrorKind::Cancelled, {}, QStringLiteral("Stopped; the template was not opened."));
+    return false;
+}
+
+/// Looks every person of the template up; those that are there, each once.
+std::vector<qint32> findPersons(data::Datenbankmodul &databases, OpenedVorlage &opened, const Progress &progress)
+{
+    databases.Datentabelle->setIndex(QStringLiteral("Counter"));
+    std::vector<qint32> found;
+    std::unordered_set<qint32> seen;
+    const auto count = static_cast<qint64>(opened.vorlage.counters.size());
+    const auto look = [&](qint64 done) {
+        if (progress && !progress(done, count))
+            throw Error(ErrorKind::Cancelled, {}, QStringLiteral("Stopped; no mark was changed."));
+    };
+    for (qint64 i = 0; i < count; ++i) {
+        if (i % PersonsBetweenReports == 0)
+            look(i);
+        const qint32 counter = opened.vorlage.counters[static_cast<std::size_t>(i)];
+        if (!seen.insert(counter).second)
+            continue;
+        databases.Datentabelle->seekEqual(counter);
+        (databases.Datentabelle->noMatch() ? opened.missing : found).push_back(counter);
+    }
+    look(count);
+    return found;
+}
+
+/// Marks exactly these persons, and gives back what that changed. Once begun, it is not cancelled.
+MarkStep markExactly(data::Datenbankmodul &databases, const std::vector<qint32> &persons, const Progress &progress)
+{
+    const std::shared_ptr<dao::Database> family = databases.Familiendatenbank;
+    const QString table = QStringLiteral("Daten");
+    const Progress watch = [&](qint64 done, qint64 total) {
+        if (progress)
+            progress(done, total);
+        return true;
+    };
+    const MarkSnapshot before(databases);
+    try {
+        family->execute(QStringLiteral("Update Daten SET Markierung = 0 Where Markierung = -1 ;"), watch);
+        family->setMarks(table, persons, true, watch);
+    } catch (const Error &error) {
+        try {
+            const MarkStep step = before.changesSince(databases);
+            family->setMarks(table, step.marked, false);
+            family->setMarks(table, step.unmarked, true);
+        } catch (const Error &) {
+            throw withRemark(error, QStringLiteral("Some marks were changed and could not be put back."));
+        }
+        throw;
+    }
+    return before.changesSince(databases);
+}
+
+} // namespace
+
+OpenedVorlage vorlageoeffnen(const VorlageServices &services, const QString &File, const Progress &progress)
+{
+    OpenedVorlage opened;
+    opened.vorlage = readVorlage(services.host.native(File));
+    const QString &familienpfad = opened.vorlage.familienpfad;
+    opened.otherDatabase = needsOtherDatabase(services, File, familienpfad);
+    DatabaseSwitch databaseSwitch(services);
+    try {
+        if (opened.otherDatabase)
+            databaseSwitch.goOver(familienpfad);
+        else
+            services.databases.Familiendatenbank->refresh();
+        const std::vector<qint32> persons = findPersons(services.databases, opened, progress);
+        MarkStep changes = markExactly(services.databases, persons, progress);
+        if (!opened.otherDatabase)
+            opened.changes = std::move(changes);
+        opened.found = static_cast<qsizetype>(persons.size());
+    } catch (const Error &error) {
+        databaseSwitch.goBack(error);
+    }
+    return opened;
+}
+
+} // namespace kalvenor::selection

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "data/datenbankmodul.h"
+#include "language/sprache.h"
+#include "selection/markhistory.h"
+#include "selection/vorlage.h"
+#include <functional>
+
+namespace kalvenor::selection {
+
+/// What opening a template works with.
+struct VorlageServices {
+    host::Host &host;
+    language::Sprachmodul &language;
+    data::Datenbankmodul &databases;
+    /// All databases are about to be closed: whoever shows persons lets go of them.
+    std::function<void()> closing = {};
+    /// They are open again, the template's one or, after a failure, the former one: the event kinds are loaded again.
+    std::function<void()> opened = {};
+    /// The template's database does not exist: true goes on with the open one, false gives up. None is an error.
+    std::function<bool(const QString &familienpfad)> useOpenDatabase = {};
+};
+
+struct OpenedVorlage {
+    Vorlage vorlage;
+    qsizetype found = 0;         ///< persons marked now
+    std::vector<qint32> missing; ///< persons that the database does not hold
+    MarkStep changes;            ///< for undo, where the database stayed the same
+    bool otherDatabase = false;  ///< another one is open now; steps before this one belong to the former
+};
+
+/// Opens a template; `File` is a path in Windows notation. Everything is read, checked and looked up before the first
+/// mark changes; progress can cancel until then. Where anything fails, the open database and the marks are as before,
+/// or the error says what is not. Throws Error: as readVorlage and the engine, FileNotFound for a missing database,
+/// Cancelled.
+OpenedVorlage vorlageoeffnen(const VorlageServices &services, const QString &File, const Progress &progress = {});
+
+} // namespace kalvenor::selection

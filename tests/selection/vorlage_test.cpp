@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "selection/vorlage.h"
+
+#include "platform/basic/error.h"
+#include <gtest/gtest.h>
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace kalvenor;
+using namespace kalvenor::selection;
+
+namespace {
+
+const QByteArray WholeFile =
+    "\"C:\\QV\\B\xE4r.mdb\"\r\n\"Der \"\"alte\"\" Stamm\"\r\n\"{\\rtf1\r\nA, \"\"B\"\"\r\n}\"\r\n"
+    "5\r\n0\r\n1\r\n0\r\n1\r\n0\r\n#FALSE#\r\n7\r\n-3\r\n2147483647\r\n";
+
+Vorlage wholeVorlage()
+{
+    Vorlage vorlage;
+    vorlage.familienpfad = QStringLiteral("C:\\QV\\Bär.mdb");
+    vorlage.titel = QStringLiteral("Der \"alte\" Stamm");
+    vorlage.rtf = "{\\rtf1\r\nA, \"B\"\r\n}";
+    vorlage.grafiktyp = 5;
+    vorlage.legende = 0;
+    vorlage.geschlechtalter = {1, 0, 1, 0};
+    vorlage.nachGeburtsjahr = false;
+    vorlage.counters = {7, -3, 2147483647};
+    return vorlage;
+}
+
+struct VorlageFile : testing::Test {
+    QTemporaryDir folder;
+    QString file = folder.filePath("a.kvl");
+
+    void put(const QByteArray &content) const
+    {
+        QFile out(file);
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(content);
+    }
+    QByteArray content() const
+    {
+        QFile in(file);
+        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray("nothing there");
+    }
+    /// What reading says, or "" where it succeeds.
+    QString refusal() const
+    {
+        try {
+            readVorlage(file);
+        } catch (const Error &error) {
+            return error.message();
+        }
+        return {};
+    }
+};
+
+} // namespace
+
+TEST_F(VorlageFile, IsWrittenAndReadByteForByte)
+{
+    writeVorlage(file, wholeVorlage());
+    EXPECT_EQ(content(), WholeFile);
+    EXPECT_EQ(readVorlage(file), wholeVorlage());
+
+    Vorlage empty;
+    empty.familienpfad = QStringLiteral("x");
+    writeVorlage(file, empty);
+    EXPECT_EQ(content(), "\"x\"\r\n\"\"\r\n\"\"\r\n1\r\n1\r\n1\r\n1\r\n1\r\n1\r\n#TRUE#\r\n");
+    EXPECT_EQ(readVorlage(file), empty);
+}
+
+TEST_F(VorlageFile, IsReadAsOtherProgramsLeaveIt)
+{
+    Vorlage unixLines = wholeVorlage();
+    unixLines.rtf.replace("\r\n", "\n");
+    const std::pair<QByteArray, Vorlage> rows[] = {
+        {QByteArray(WholeFile).replace("\r\n", "\n"), unixLines},
+        {QByteArray(WholeFile).replace("\r\n5\r\n0", " \t\r\n \t5\t\r\n  0 "), wholeVorlage()},
+        {WholeFile + "\r\n \n", wholeVorlage()},
+        {QByteArray(WholeFile).replace("\r\n5\r\n0\r\n", ",5,0\r\n"), wholeVorlage()},
+    };
+    for (const auto &[bytes, expected] : rows) {
+        put(bytes);
+        EXPECT_EQ(refusal(), QString()) << bytes.toStdString();
+        EXPECT_EQ(readVorlage(file), expected) << bytes.toStdString();
+    }
+}
+
+// Every cut inside a record is seen; behind a person's line the file is a shorter template.
+TEST_F(VorlageFile, ACutFileIsRefused)
+{
+    const qsizetype header = WholeFile.indexOf("\n7\r\n-3");
+    for (qsizetype length = 0; length < WholeFile.size(); ++length) {
+        put(WholeFile.left(length));
+        const char last = length > 0 ? WholeFile[length - 1] : '\0';
+        EXPECT_EQ(refusal().isEmpty(), length >= header && (last == '\r' || last == '\n')) << length;
+    }
+}
+
+TEST_F(VorlageFile, RefusalsNameTheLineAndWhatIsWrong)
+{
+    const struct {
+        QByteArray from, to;
+        QString line, named;
+    } rows[] = {
+        {"\"C:\\QV\\B\xE4r.mdb\"", "Standard Jet DB", "line 1:", "not a selection template"},
+        {"\"C:\\QV\\B\xE4r.mdb\"", "\"\"", "line 1:", "not a selection template"},
+        {"\"Der \"\"alte\"\" Stamm\"\r\n", "", "line 5:", "introduction"}, // everything moves up
+        {"\"\"B\"\"", "\"B\"", "line 3:", "closing quote"},
+        {"}\"", "}", "line 3:", "no closing quote"},
+        {"5\r\n", "12\r\n", "line 6:", "chart"},
+        {"5\r\n", "\"5\"\r\n", "line 6:", "\"5\""},
+        {"5\r\n", "\r\n", "line 6:", "\"\""},
+        {"5\r\n0", "5\r\n2", "line 7:", "legend"},
+        {"#FALSE#", "0", "line 12:", "#TRUE#"},
+        {"-3", "-3x", "line 14:", "-3x"},
+        {"-3", "3.0", "line 14:", "3.0"},
+        {"2147483647", "2147483648", "line 15:", "2147483648"},
+        {"2147483647", "99999999999999999999999", "line 15:", "person"},
+        {"2147483647", QByteArray(3, '\0'), "line 15:", "???"},
+    };
+    for (const auto &row : rows) {
+        put(QByteArray(WholeFile).replace(row.from, row.to));
+        const QString said = refusal();
+        EXPECT_TRUE(said.startsWith(file + ", ") && said.contains(row.line) && said.contains(row.named))
+            << row.from.toStdString() << " -> " << row.to.toStdString() << ": " << said.toStdString();
+    }
+    ASSERT_TRUE(QFile::remove(file));
+    EXPECT_TRUE(refusal().contains("not found"));
+    file = folder.path();
+    EXPECT_TRUE(refusal().contains("folder"));
+}
+
+TEST_F(VorlageFile, NothingIsLostWhereItCannotBeWritten)
+{
+    put("before");
+    const auto refused = [&](const Vorlage &vorlage) {
+        try {
+            writeVorlage(file, vorlage);
+        } catch (const Error &error) {
+            return error.text();
+        }
+        return QString();
+    };
+    Vorlage vorlage = wholeVorlage();
+    vorlage.titel = QStringLiteral("Łódź ☺ 😀 Žďár");
+    EXPECT_TRUE(refused(vorlage).contains("title holds characters that a template cannot keep (Ł ź ☺ 😀 ď)"))
+        << refused(vorlage).toStdString();
+    vorlage = wholeVorlage();
+    vorlage.familienpfad += QStringLiteral("Ж");
+    EXPECT_TRUE(refused(vorlage).contains("path"));
+    EXPECT_EQ(content(), "before");
+    file = folder.filePath("no/such/folder.kvl");
+    EXPECT_TRUE(refused(wholeVorlage()).contains("not saved"));
+}

@@ -1,0 +1,222 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "selection/vorlageoeffnen.h"
+
+#include "selection/listquery.h"
+#include "selection/vorlagespeichern.h"
+#include "support/startedprogram.h"
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <QFile>
+
+using namespace kalvenor;
+using namespace kalvenor::selection;
+
+namespace {
+
+/// Persons 1 to 9, of whom 2 and 3 are marked, and a second database beside theirs with 3 to 5, of whom 5 is.
+struct Opening : testing::Test, test::StartedProgram {
+    Opening() : test::StartedProgram(nine())
+    {
+        test::writeFamily(native(other), {{.counter = 3, .listname = "C"},
+                                          {.counter = 4, .listname = "D"},
+                                          {.counter = 5, .listname = "E", .marked = true}});
+    }
+    static std::vector<test::TestPerson> nine()
+    {
+        std::vector<test::TestPerson> persons;
+        for (qint32 i = 1; i <= 9; ++i)
+            persons.push_back({.counter = i, .listname = QString("Person %1").arg(i), .marked = i == 2 || i == 3});
+        return persons;
+    }
+    QString native(const QString &path) const { return program.host.native(path); }
+    QString save(const QString &familienpfad, std::vector<qint32> counters) const
+    {
+        Vorlage vorlage;
+        vorlage.familienpfad = familienpfad;
+        vorlage.titel = QStringLiteral("Titel");
+        vorlage.counters = std::move(counters);
+        writeVorlage(native(file), vorlage);
+        return file;
+    }
+    OpenedVorlage open(const QString &path, const Progress &progress = {}) const
+    {
+        return vorlageoeffnen(services, path, progress);
+    }
+    std::vector<qint32> marked() { return inFile(native(family)); }
+    static std::vector<qint32> inFile(const QString &nativeFile)
+    {
+        dao::Engine engine;
+        const auto rows = engine.workspace(0).openDatabase(nativeFile)->openQuery(plainListQuery(PersonList::Marked));
+        std::vector<qint32> counters;
+        for (; !rows->eof(); rows->moveNext())
+            counters.push_back(rows->integer(rows->fieldIndex("Counter")).value_or(0));
+        return counters;
+    }
+    /// What opening says where it must fail; everything is then as before.
+    QString refusal(const QString &path, const Progress &progress = {})
+    {
+        QString said;
+        try {
+            open(path, progress);
+        } catch (const Error &error) {
+            said = error.message();
+        }
+        EXPECT_EQ(marked(), (std::vector<qint32>{2, 3}));
+        EXPECT_EQ(program.host.Familienpfad, family);
+        EXPECT_EQ(program.databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked))->recordCount(), 2);
+        EXPECT_EQ(program.language.text(20000), texts);
+        return said;
+    }
+
+    QString family = program.host.Familienpfad;
+    QString texts = program.language.text(20000);
+    QString other = family.left(family.lastIndexOf('\\')) + QStringLiteral("\\andere.mdb");
+    QString file = windowsPath(folder.filePath("a.kvl"));
+    int closings = 0, openings = 0;
+    VorlageServices services{program.host, program.language, program.databases, [this] { ++closings; },
+                             [this] {
+                                 ++openings;
+                             }};
+};
+
+} // namespace
+
+TEST_F(Opening, MarksExactlyThePersonsOfTheTemplate)
+{
+    const OpenedVorlage opened = open(save(family, {9, 3, 77, 3, -1, 1}));
+    EXPECT_EQ(marked(), (std::vector<qint32>{1, 3, 9}));
+    EXPECT_EQ(opened.found, 3);
+    EXPECT_EQ(opened.missing, (std::vector<qint32>{77, -1}));
+    EXPECT_EQ(opened.vorlage.titel, QStringLiteral("Titel"));
+    EXPECT_FALSE(opened.otherDatabase);
+    EXPECT_EQ(closings, 0);
+
+    MarkHistory history;
+    history.record(opened.changes);
+    history.undo(program.databases);
+    EXPECT_EQ(marked(), (std::vector<qint32>{2, 3}));
+    history.redo(program.databases);
+    EXPECT_EQ(marked(), (std::vector<qint32>{1, 3, 9}));
+    EXPECT_EQ(open(save(family, {})).found, 0);
+    EXPECT_TRUE(marked().empty());
+}
+
+TEST_F(Opening, WhatWasSavedComesBack)
+{
+    Statistikwerte werte;
+    werte.titel = QStringLiteral("Ä \"B\"");
+    werte.rtf = "{\\rtf1 x\r\n}";
+    werte.grafiktyp = 11;
+    EXPECT_EQ(vorlagespeichern(program.host, program.databases, {}, werte), 0);
+    EXPECT_EQ(vorlagespeichern(program.host, program.databases, file, werte), 2);
+    program.databases.Familiendatenbank->setMarks("Daten", std::vector<qint32>{2, 5}, false);
+    const OpenedVorlage opened = open(file);
+    EXPECT_EQ(static_cast<const Statistikwerte &>(opened.vorlage), werte);
+    EXPECT_EQ(opened.vorlage.familienpfad, family);
+    EXPECT_EQ(marked(), (std::vector<qint32>{2, 3}));
+}
+
+TEST_F(Opening, GoesOverToTheTemplatesDatabase)
+{
+    const OpenedVorlage opened = open(save(other, {3, 4, 9}));
+    EXPECT_TRUE(opened.otherDatabase);
+    EXPECT_TRUE(opened.changes.isEmpty());
+    EXPECT_EQ(opened.missing, std::vector<qint32>{9});
+    EXPECT_EQ(inFile(native(other)), (std::vector<qint32>{3, 4}));
+    EXPECT_EQ(marked(), (std::vector<qint32>{2, 3})); // the former database is left alone
+    EXPECT_EQ(program.host.Familienpfad, other);
+    EXPECT_EQ(program.databases.Familiendatenbank->file(), native(other));
+    EXPECT_EQ(program.language.text(20000), texts);
+    EXPECT_EQ(std::pair(closings, openings), std::pair(1, 1));
+}
+
+TEST_F(Opening, AMissingDatabaseIsTheUsersChoice)
+{
+    save(QStringLiteral("C:\\weg.mdb"), {1});
+    EXPECT_TRUE(refusal(file).contains("C:\\weg.mdb. No folder is known"));
+    QString asked;
+    bool answer = false;
+    services.useOpenDatabase = [&](const QString &familienpfad) {
+        asked = familienpfad;
+        return answer;
+    };
+    EXPECT_TRUE(refusal(file).contains("Stopped"));
+    EXPECT_EQ(asked, QStringLiteral("C:\\weg.mdb"));
+    answer = true;
+    EXPECT_EQ(open(file).found, 1);
+    EXPECT_EQ(marked(), std::vector<qint32>{1});
+    EXPECT_EQ(program.host.Familienpfad, family);
+}
+
+TEST_F(Opening, AFailureLeavesMarksAndDatabaseAsTheyWere)
+{
+    const auto atOnce = [](qint64, qint64) {
+        return false;
+    };
+    const auto atTheEnd = [](qint64 done, qint64 total) {
+        return done < total;
+    };
+    EXPECT_TRUE(refusal(save(family, {1}), atOnce).contains("Stopped"));
+    EXPECT_TRUE(refusal(save(family, {1}), atTheEnd).contains("Stopped"));
+    EXPECT_TRUE(refusal(windowsPath(folder.filePath("nicht.kvl"))).contains("nicht.kvl"));
+    EXPECT_EQ(closings, 0);
+
+    EXPECT_TRUE(refusal(save(other, {3}), atOnce).contains("Stopped"));
+    EXPECT_EQ(inFile(native(other)), std::vector<qint32>{5});
+    test::writeFamily(native(other), {{.counter = 3, .listname = "C"}}, 0, "Galerie");
+    EXPECT_TRUE(refusal(save(other, {3})).contains("Galerie"));
+    QFile broken(native(other));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write("no database");
+    broken.close();
+    EXPECT_TRUE(refusal(save(other, {3})).contains("andere.mdb"));
+    EXPECT_EQ(closings, 6); // there and back, three times
+    EXPECT_EQ(openings, 4); // the first one got there
+}
+
+TEST_F(Opening, AWriteThatFailsHalfWayIsTakenBack)
+{
+    save(family, {1, 4});
+    bool readOnly = false;
+    const auto failOnceCleared = [&](qint64, qint64) {
+        if (!marked().empty())
+            return true;
+        if (readOnly)
+            QFile::setPermissions(native(family), QFile::ReadOwner);
+        throw Error(ErrorKind::WriteFailed, {}, QStringLiteral("disk full"));
+    };
+    EXPECT_EQ(refusal(file, failOnceCleared), QStringLiteral("disk full"));
+    readOnly = true;
+    try {
+        open(file, failOnceCleared);
+        ADD_FAILURE() << "opened";
+    } catch (const Error &error) {
+        EXPECT_TRUE(error.text().contains("could not be put back")) << error.what();
+    }
+    QFile::setPermissions(native(family), QFile::ReadOwner | QFile::WriteOwner);
+}
+
+TEST_F(Opening, ResetTakesTheOptionsFromThePrintSettings)
+{
+    const struct {
+        const char *ini;
+        int type, legend, box;
+        bool byBirth;
+    } rows[] = {
+        {"", 1, 1, 1, true},
+        {"[Grafik]\nGrafiktyp=4\nLegende=0\nGebgest=0\n[Geschlecht]\n0=0\n1=0\n2=0\n3=0\n", 4, 0, 1, false},
+        {"[Geschlecht]\na%=0\n[Grafik]\nGebgest=Wahr\nGrafiktyp=0\n", 0, 1, 0, true},
+        {"[Grafik]\nGebgest=Falsch\nGrafiktyp=12\nLegende=-1\n", 1, 1, 1, false},
+        {"[Grafik]\nGebgest=-1\nGrafiktyp=1e99\nLegende=\n[Geschlecht]\na%=x\n", 1, 0, 0, true},
+    };
+    for (const auto &row : rows) {
+        QFile ini(native(program.host.ownSettingsFile()));
+        ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
+        ini.write(row.ini);
+        ini.close();
+        const auto box = static_cast<qint16>(row.box);
+        const Statistikwerte expected{{}, {}, row.type, row.legend, {box, box, box, box}, row.byBirth};
+        EXPECT_EQ(vorlageclear(program.host), expected) << row.ini;
+    }
+}
