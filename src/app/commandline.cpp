@@ -5,6 +5,7 @@
 #include "app/check.h"
 #include "app/commands.h"
 #include "app/filteroptions.h"
+#include "app/templatecommands.h"
 #include "app/windowprogram.h"
 #include "platform/basic/path.h"
 #include "platform/desktop/terminal.h"
@@ -92,6 +93,7 @@ public:
     Words words;
     CLI::App *demo, *check, *list, *mark, *unmark, *ages, *report;
     FilterOptions listFilter, markFilter, unmarkFilter;
+    TemplateCommands templates;
 
 private:
     void addProgram(CLI::App *to);
@@ -179,6 +181,7 @@ Parser::Parser()
     report->add_option("--title", words.title, "The report's title")->type_name("T");
     addSex(report);
     report->add_option("--output", words.output, "The file to write, ending in .pdf")->required()->type_name("F.pdf");
+    templates.addTo(app, [this](CLI::App *to) { addProgram(to); });
 }
 
 int wrongUsage(const QString &line)
@@ -261,6 +264,8 @@ int dispatch(const Parser &parser)
         return runMarkWords(words, false, parser.unmarkFilter);
     if (parser.ages->parsed())
         return runAges(programFolder(words), {sexOf(words), formatOf(words)});
+    if (parser.templates.parsed())
+        return parser.templates.run(programFolder(words));
     return runReportWords(words);
 }
 

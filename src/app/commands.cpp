@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/commands.h"
 
-#include "app/program.h"
+#include "app/startedprogram.h"
 #include "demo/demohost.h"
 #include "platform/desktop/terminal.h"
 #include "report/agelistreport.h"
@@ -11,35 +11,6 @@
 namespace kalvenor::app {
 
 namespace {
-
-constexpr int Done = 0;
-constexpr int Failed = 1;
-
-/// A started program; `ready` is false where start-up ended it with its own message.
-struct StartedProgram {
-    explicit StartedProgram(const QString &programFolder) : program(programFolder, desktop), ready(program.Main()) {}
-    TerminalDesktop desktop;
-    Program program;
-    bool ready;
-
-    /// The exit code of a command that did its work; says on stderr where damage of the file made the result short.
-    int done() const
-    {
-        const dao::Database &family = *program.databases.Familiendatenbank;
-        const QStringList damage = family.warnings();
-        if (!damage.isEmpty())
-            writeError(QStringLiteral("%1 is damaged and what could not be read was left out, so the result is not "
-                                      "complete (%2 places, the first: %3); kalvenor check lists them")
-                           .arg(family.file(), QString::number(damage.size()), damage.first()));
-        return Done;
-    }
-};
-
-void printLine(const QString &line)
-{
-    writeOutput((line + u'\n').toUtf8());
-    flushOutput();
-}
 
 constexpr qint16 TextLimitReached = 926;
 constexpr qint16 TextLimitReachedTitle = 1201;

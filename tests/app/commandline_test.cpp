@@ -87,6 +87,9 @@ TEST_F(CommandLine, RefusesWrongUsageInOneLineThatHelps)
         {{"report", "--output", "x.doc"}, ".pdf"},
         {{"report", "--output", "x.rtf"}, ".rtf"},
         {{"demo"}, "DIR"},
+        {{"template"}, "subcommand"},
+        {{"template", "save"}, "FILE"},
+        {{"template", "save", "x.kvl", "--type", "12"}, "--type"},
         {{"demo", "x", "--persons", "0"}, "--persons"},
         {{"statistics"}, "statistics"},
     };
@@ -266,4 +269,40 @@ TEST_F(CommandLine, SaysInOneLineWhyNoWindowCanBeOpened)
         EXPECT_EQ(lineCount(outcome.err), 1) << outcome.err.toStdString();
         EXPECT_TRUE(outcome.err.contains(row.named)) << outcome.err.toStdString();
     }
+}
+
+TEST_F(CommandLine, TemplatesKeepThePersonsAndTheOptions)
+{
+    const QString file = folder->filePath("a.kvl");
+    const auto command = [&](const char *what, const QStringList &more = {}) {
+        return run(QStringList{"template", what, "--program", folder->filePath("QV/Kalvenor"), file} + more);
+    };
+    ASSERT_EQ(onDemo({"mark", "--counter", "5,6,7"}).exitCode, 0);
+    EXPECT_EQ(command("save", {"--title", "Ä", "--type", "14", "--sex", "w", "--by", "death", "--no-legend"}).out,
+              file + ": 3 persons\n");
+    EXPECT_EQ(onDemo({"unmark", "--all"}).exitCode, 0);
+
+    const Outcome opened = command("open");
+    EXPECT_EQ(opened.exitCode, 0) << opened.err.toStdString();
+    for (const char *line : {"title:         Ä", "chart type:    14", "legend:        no", "sex, list:     w",
+                             "by:            death", "found:         3", "not found:     0"})
+        EXPECT_TRUE(opened.out.split('\n').contains(QString::fromUtf8(line))) << opened.out.toStdString();
+    EXPECT_EQ(lineCount(onDemo({"list", "--list", "marked"}).out), 3);
+
+    EXPECT_TRUE(command("reset").out.contains("by:            birth"));
+    QFile kvl(file);
+    ASSERT_TRUE(kvl.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(kvl.readAll().endsWith("\r\n\"\"\r\n\"\"\r\n1\r\n1\r\n1\r\n1\r\n1\r\n1\r\n#TRUE#\r\n5\r\n6\r\n7\r\n"));
+    EXPECT_EQ(onDemo({"unmark", "--all"}).exitCode, 0);
+    const QByteArray before = familyBytes();
+    for (const char *rtf : {"", "no rtf"}) {
+        QFile intro(folder->filePath("intro.rtf"));
+        ASSERT_TRUE(intro.open(QIODevice::WriteOnly));
+        intro.write(rtf);
+        intro.close();
+        const Outcome refused = command("save", {"--intro", intro.fileName()});
+        EXPECT_EQ(refused.exitCode, 1);
+        EXPECT_TRUE(refused.err.contains("intro.rtf")) << refused.err.toStdString();
+    }
+    EXPECT_EQ(familyBytes(), before);
 }
