@@ -7,6 +7,7 @@
 #include <cmath>
 #include <QChart>
 #include <QGraphicsItem>
+#include <QGraphicsLayout>
 #include <QGraphicsScene>
 #include <QPainter>
 #include <QPalette>
@@ -92,6 +93,7 @@ QChart *makeChart(const ChartSubject &subject, const ChartLayout &layout, const 
     prepareAxis(*rows, style, false);
     prepareAxis(*values, style, subject.look.grid);
     addSeries(*chart, subject, style);
+    chart->layout()->activate(); // places the axes, which otherwise waits for the event loop
     return chart;
 }
 

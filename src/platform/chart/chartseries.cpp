@@ -19,7 +19,7 @@ namespace {
 
 constexpr double lineWidth = 2;
 constexpr double markSize = 9;
-constexpr float areaAlpha = 0.3F;
+constexpr float areaAlpha = 0.18F;
 constexpr double loneHalfWidth = 0.2; // of an area that has one row only, in rows
 
 // The hues of Okabe and Ito, set apart in lightness as well: the first three differ by 20 of 100 or more in grey.
@@ -172,6 +172,13 @@ void drawMark(QPainter &painter, int index, QPointF centre, double size)
     }
 }
 
+// The last slice touches the first.
+int pieColorIndex(int row, int rows)
+{
+    const bool sameAsFirst = row == rows - 1 && row > 0 && row % static_cast<int>(lightColors.size()) == 0;
+    return sameAsFirst ? row + 1 : row;
+}
+
 } // namespace
 
 QColor seriesColor(int index, bool dark)
@@ -195,8 +202,12 @@ void addPie(QChart &chart, const ChartSubject &subject, const ChartStyle &style)
     pie->setPieSize(1);
     for (int row = 0; row < subject.figures.rowCount(); ++row) {
         QPieSlice *slice = pie->append(subject.figures.rows[row], subject.figures.value(0, row));
-        slice->setColor(seriesColor(row, style.dark));
+        slice->setColor(seriesColor(pieColorIndex(row, subject.figures.rowCount()), style.dark));
         slice->setPen(QPen(style.ground, 1));
+    }
+    for (QPieSlice *slice : pie->slices()) {
+        if (pie->sum() > 0 && slice->value() == pie->sum())
+            slice->setPen(Qt::NoPen); // no spoke in a full circle
     }
     if (pie->sum() <= 0) { // the outline of nothing
         pie->clear();
@@ -209,7 +220,7 @@ void addPie(QChart &chart, const ChartSubject &subject, const ChartStyle &style)
 
 void drawSwatch(QPainter &painter, const ChartSubject &subject, int index, const QRectF &box, bool dark)
 {
-    const QColor color = seriesColor(index, dark);
+    const QColor color = seriesColor(index, dark); // a pie has a legend only while no colour is used twice
     const ChartKind kind = subject.kind;
     const QPointF middle = box.center();
     if (kind == ChartKind::Pie || isBarColumn(subject, index)) {

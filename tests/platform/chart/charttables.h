@@ -23,7 +23,7 @@ inline ChartTable centuries(int rows, bool longLabels = false)
     for (int row = 0; row < rows; ++row) {
         table.rowLabels << (longLabels
                                 ? QStringLiteral("Achtzehnhundertfünfzig bis %1. Jahrhundertviertel").arg(row + 1)
-                                : QStringLiteral(" %100-99").arg(row + 3));
+                                : QStringLiteral(" %1-99").arg((row + 3) * 100));
         QStringList cells;
         for (int column = 0; column < 3; ++column)
             cells << QString::number(row == 2 ? 0 : 38 + (row * 37 + column * 11) % 29 + column * 3.7 + row * 0.9);
