@@ -9,7 +9,14 @@
 // The age rules of all statistics. A year is always 365 days.
 namespace kalvenor::statistics {
 
-/// Days from birth to death, where both are known (not null, not the unknown day) and death lies after birth.
+enum class Geschlecht { Unbekannt, Mann, Frau };
+/// "M" and "W" as the field `Geschlecht` holds them; anything else is unknown.
+Geschlecht geschlechtAus(QStringView text);
+
+/// Not null and not the unknown day.
+bool istBekannt(std::optional<double> datum);
+
+/// Days from birth to death, where both are known and death lies after birth.
 std::optional<double> lebenstage(std::optional<double> geburtsdatum, std::optional<double> sterbedatum);
 
 /// Whole tenths of years, rounded down, in years: 3652 days are 10 years, 3653 too, 3700 are 10.1.

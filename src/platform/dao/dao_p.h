@@ -53,6 +53,8 @@ struct Recordset::Private {
     int column(int field) const { return result.columns[static_cast<std::size_t>(field)]; }
     void requireField(int field) const;
     void stand(qint64 where);
+    /// A sorted query leads all over the file: lets the processor fetch what the next rows need.
+    void fetchAhead() const;
     /// Goes over to another state of the file; the current row is then none.
     void adopt(const std::shared_ptr<Snapshot> &other);
     void setResult(QueryResult &&given);

@@ -46,6 +46,18 @@ void Recordset::Private::stand(qint64 where)
     edited.reset();
 }
 
+void Recordset::Private::fetchAhead() const
+{
+    constexpr std::size_t recordsAhead = 16;
+    constexpr std::size_t placesAhead = 2 * recordsAhead;
+    const auto at = static_cast<std::size_t>(position);
+    if (at + placesAhead >= result.rows.size())
+        return;
+    const jet::Table &table = *result.view->table();
+    table.fetchPlace(result.rows[at + placesAhead]);
+    table.fetch(result.rows[at + recordsAhead]);
+}
+
 void Recordset::Private::setResult(QueryResult &&given)
 {
     result = std::move(given);
@@ -133,6 +145,7 @@ void Recordset::moveNext()
     if (eof())
         throw Error(ErrorKind::NoCurrentRow, d->place, u"There is no row behind the last one."_s);
     d->stand(d->position + 1);
+    d->fetchAhead();
 }
 
 void Recordset::moveTo(qint64 position)
@@ -325,6 +338,14 @@ bool Recordset::boolean(int field) const
     if (const auto &view = d->result.view; view && view->typeOf(d->column(field)) == jet::ColumnType::Boolean)
         return view->table()->boolean(d->row(), d->column(field));
     return number(field).value_or(0.0) != 0.0;
+}
+
+QStringView Recordset::text(int field, QString &buffer) const
+{
+    d->requireField(field);
+    if (const auto &view = d->result.view; view && view->isText(d->column(field)))
+        return view->table()->text(d->row(), d->column(field), buffer);
+    return buffer = text(field);
 }
 
 QString Recordset::text(int field) const

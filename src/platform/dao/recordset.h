@@ -69,6 +69,8 @@ public:
     bool boolean(int field) const;
     /// Null gives the empty text.
     QString text(int field) const;
+    /// The same for many rows, without an allocation each; valid until the buffer's next use.
+    QStringView text(int field, QString &buffer) const;
 
 private:
     friend class Database;

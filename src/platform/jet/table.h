@@ -50,22 +50,35 @@ public:
         const RowPlace &place = m_rows[row];
         return m_image->page(place.recordPage).subspan(place.recordStart, place.recordLength);
     }
-    /// Lets the processor fetch the record some rows ahead. Pays where all rows are read one behind the other: within a
-    /// page they lie backwards, which it does not foresee.
-    Q_ALWAYS_INLINE void fetchAhead(std::uint32_t row) const // inline, else GCC takes the call for one without effect
+    /// Lets the processor fetch a record that is needed a little later, from a place that it cannot foresee. For that
+    /// it needs the row's entry in the table of places, which fetchPlace() has it fetch still earlier.
+    Q_ALWAYS_INLINE void fetch(std::uint32_t row) const // inline, else GCC takes the call for one without effect
     {
 #ifdef __GNUC__
-        constexpr std::size_t rowsAhead = 16;
         constexpr std::size_t cacheLine = 64;
-        if (row + rowsAhead >= m_rows.size())
-            return;
-        const RowPlace &place = m_rows[row + rowsAhead];
+        const RowPlace &place = m_rows[row];
         const std::uint8_t *bytes = m_image->page(place.recordPage).data() + place.recordStart;
         for (std::size_t at = 0; at < place.recordLength; at += cacheLine)
             __builtin_prefetch(bytes + at);
 #else
         Q_UNUSED(row)
 #endif
+    }
+    Q_ALWAYS_INLINE void fetchPlace(std::uint32_t row) const
+    {
+#ifdef __GNUC__
+        __builtin_prefetch(&m_rows[row]);
+#else
+        Q_UNUSED(row)
+#endif
+    }
+    /// The record some rows ahead. Pays where all rows are read one behind the other: within a page they
+    /// lie backwards.
+    Q_ALWAYS_INLINE void fetchAhead(std::uint32_t row) const
+    {
+        constexpr std::size_t rowsAhead = 16;
+        if (row + rowsAhead < m_rows.size())
+            fetch(row + rowsAhead);
     }
     const RecordLayout &layout() const
     {
