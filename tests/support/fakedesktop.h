@@ -33,10 +33,26 @@ public:
         return true;
     }
 
+    QString openFileName(QWidget *, const FileQuestion &question) override { return answered(question); }
+    QString saveFileName(QWidget *, const FileQuestion &question) override { return answered(question); }
+
     std::vector<Message> messages;
     std::vector<QString> errors;
     std::vector<Pointer> pointers;
     std::vector<Placement> placements;
+    std::vector<FileQuestion> fileQuestions;
+    std::vector<QString> fileAnswers; ///< given to the next file dialogs in turn; none left: cancelled
+
+private:
+    QString answered(const FileQuestion &question)
+    {
+        fileQuestions.push_back(question);
+        if (fileAnswers.empty())
+            return {};
+        const QString answer = fileAnswers.front();
+        fileAnswers.erase(fileAnswers.begin());
+        return answer;
+    }
 };
 
 } // namespace kalvenor::test

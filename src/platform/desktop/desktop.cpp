@@ -27,6 +27,16 @@ bool Desktop::setStackPlace(QWindow *window, StackPlace place, bool activate)
     return true;
 }
 
+QString Desktop::openFileName(QWidget *, const FileQuestion &)
+{
+    return {};
+}
+
+QString Desktop::saveFileName(QWidget *, const FileQuestion &)
+{
+    return {};
+}
+
 int TerminalDesktop::messageBox(const QString &text, int, const QString &title)
 {
     writeError(title.isEmpty() ? text : title + QStringLiteral(": ") + text);

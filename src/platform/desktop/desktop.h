@@ -5,6 +5,7 @@
 #include "platform/basic/error.h"
 #include <QString>
 
+class QWidget;
 class QWindow;
 
 namespace kalvenor {
@@ -19,6 +20,15 @@ inline constexpr int ResultOk = 1;
 /// Where a window is put in the stack.
 enum class StackPlace { TopMost, NotTopMost, Top };
 
+/// What a file dialog asks.
+struct FileQuestion {
+    QString title;
+    QString folder = {};  ///< where it opens, a native path; empty: where the last one ended
+    QString filters = {}; ///< "RTF texts (*.rtf);;All files (*)", empty: all files
+    QString suffix = {};  ///< without a dot, given to a name to save that has none
+    QString name = {};    ///< proposed, without a folder
+};
+
 /// The desktop as far as the program speaks to it: one seam, so that a terminal or a test can stand in its place.
 class Desktop {
 public:
@@ -31,6 +41,10 @@ public:
     virtual void setPointer(Pointer pointer) = 0;
     /// Puts the window in its place without moving or resizing it. False where there is no window or it was refused.
     virtual bool setStackPlace(QWindow *window, StackPlace place, bool activate);
+    /// Lets the user choose an existing file. The native path, empty where they gave up or nobody can be asked.
+    virtual QString openFileName(QWidget *parent, const FileQuestion &question);
+    /// Lets the user choose a file to write; an existing one only after they agreed to replace it. As above.
+    virtual QString saveFileName(QWidget *parent, const FileQuestion &question);
 };
 
 /// The desktop of a command: messages go to stderr, answers are OK.

@@ -3,6 +3,7 @@
 #include "platform/desktop/widgetdesktop.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QWindow>
 
@@ -67,6 +68,45 @@ void WidgetDesktop::setPointer(Pointer pointer)
         QApplication::setOverrideCursor(Qt::WaitCursor);
     else
         QApplication::restoreOverrideCursor();
+}
+
+QString WidgetDesktop::openFileName(QWidget *parent, const FileQuestion &question)
+{
+    QFileDialog dialog(parent);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return askForFile(dialog, question);
+}
+
+QString WidgetDesktop::saveFileName(QWidget *parent, const FileQuestion &question)
+{
+    QFileDialog dialog(parent);
+    dialog.setAcceptMode(QFileDialog::AcceptSave); // asks before an existing file is replaced
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(question.suffix);
+    return askForFile(dialog, question);
+}
+
+QString WidgetDesktop::askForFile(QFileDialog &dialog, const FileQuestion &question)
+{
+    dialog.setObjectName(QStringLiteral("Dateidialog"));
+    dialog.setWindowTitle(question.title);
+    dialog.setWindowFlag(Qt::WindowStaysOnTopHint, anyWindowOnTop());
+    if (!question.filters.isEmpty())
+        dialog.setNameFilters(question.filters.split(QStringLiteral(";;")));
+    const QString folder = question.folder.isEmpty() ? m_lastFolder : question.folder;
+    if (!folder.isEmpty())
+        dialog.setDirectory(folder);
+    if (!question.name.isEmpty())
+        dialog.selectFile(question.name);
+    const bool hourglass = m_hourglass;
+    setPointer(Pointer::Default);
+    const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
+    setPointer(hourglass ? Pointer::Hourglass : Pointer::Default);
+    if (!chosen)
+        return {};
+    m_lastFolder = dialog.directory().absolutePath();
+    return dialog.selectedFiles().constFirst();
 }
 
 } // namespace kalvenor

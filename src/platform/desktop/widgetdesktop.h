@@ -4,6 +4,8 @@
 
 #include "platform/desktop/desktop.h"
 
+class QFileDialog;
+
 namespace kalvenor {
 
 /// The desktop of a program with windows. A QApplication must exist.
@@ -14,9 +16,14 @@ public:
     void runtimeError(const Error &error) override;
     /// The pointer over all windows. `Custom` shows none of its own here: windows set it where they need it.
     void setPointer(Pointer pointer) override;
+    QString openFileName(QWidget *parent, const FileQuestion &question) override;
+    QString saveFileName(QWidget *parent, const FileQuestion &question) override;
 
 private:
+    QString askForFile(QFileDialog &dialog, const FileQuestion &question);
+
     bool m_hourglass = false;
+    QString m_lastFolder; ///< where the last file dialog ended
 };
 
 } // namespace kalvenor
