@@ -23,7 +23,11 @@ public:
     int messageBox(const QString &text, int style, const QString &title) override
     {
         messages.push_back({text, style, title});
-        return ResultOk;
+        if (answers.empty())
+            return ResultOk;
+        const int answer = answers.front();
+        answers.erase(answers.begin());
+        return answer;
     }
     void runtimeError(const Error &error) override { errors.push_back(error.message()); }
     void setPointer(Pointer pointer) override { pointers.push_back(pointer); }
@@ -36,6 +40,7 @@ public:
     QString openFileName(QWidget *, const FileQuestion &question) override { return answered(question); }
     QString saveFileName(QWidget *, const FileQuestion &question) override { return answered(question); }
 
+    std::vector<int> answers; ///< to the next message boxes in turn; none left: OK
     std::vector<Message> messages;
     std::vector<QString> errors;
     std::vector<Pointer> pointers;

@@ -15,7 +15,14 @@ enum class Pointer { Default = 0, Hourglass = 11, Custom = 99 };
 
 /// Message box styles and results by the numbers of the classic runtime.
 inline constexpr int MessageCritical = 16;
+inline constexpr int MessageQuestion = 32;
+inline constexpr int ButtonsOkCancel = 1;
+inline constexpr int ButtonsYesNoCancel = 3;
+inline constexpr int ButtonsYesNo = 4;
 inline constexpr int ResultOk = 1;
+inline constexpr int ResultCancel = 2;
+inline constexpr int ResultYes = 6;
+inline constexpr int ResultNo = 7;
 
 /// Where a window is put in the stack.
 enum class StackPlace { TopMost, NotTopMost, Top };
@@ -34,7 +41,8 @@ class Desktop {
 public:
     virtual ~Desktop() = default;
 
-    /// Shows a message and waits for the answer (a result number, 1 = OK).
+    /// Shows a message and waits for the answer (a result number, 1 = OK). The style is the sum of buttons and icon; a
+    /// closed box answers Cancel where there is such a button, else OK or No.
     virtual int messageBox(const QString &text, int style, const QString &title) = 0;
     /// The report of an error that nothing in the program caught; the program ends after it.
     virtual void runtimeError(const Error &error) = 0;

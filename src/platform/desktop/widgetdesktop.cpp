@@ -13,9 +13,28 @@ namespace {
 
 constexpr int MessageInformation = 64;
 
+constexpr int ButtonMask = 7;
+constexpr int IconMask = 0x70;
+
+QMessageBox::StandardButtons buttonsOf(int style)
+{
+    switch (style & ButtonMask) {
+    case ButtonsOkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case ButtonsYesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case ButtonsYesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    default:
+        return QMessageBox::Ok;
+    }
+}
+
 QMessageBox::Icon iconOf(int style)
 {
-    switch (style) {
+    switch (style & IconMask) {
+    case MessageQuestion:
+        return QMessageBox::Question;
     case MessageCritical:
         return QMessageBox::Critical;
     case MessageInformation:
@@ -42,15 +61,24 @@ int WidgetDesktop::messageBox(const QString &text, int style, const QString &tit
     const bool hourglass = m_hourglass;
     setPointer(Pointer::Default);
     QMessageBox box(iconOf(style), title.isEmpty() ? QApplication::applicationDisplayName() : title, text,
-                    QMessageBox::Ok, QApplication::activeWindow());
+                    buttonsOf(style), QApplication::activeWindow());
     box.setObjectName(QStringLiteral("Meldung"));
     box.setTextFormat(Qt::PlainText); // file names and names of persons are no markup
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     // Behind a window that stays on top nobody would see it.
     box.setWindowFlag(Qt::WindowStaysOnTopHint, anyWindowOnTop());
-    box.exec();
+    const int answer = box.exec();
     setPointer(hourglass ? Pointer::Hourglass : Pointer::Default);
-    return ResultOk;
+    switch (answer) {
+    case QMessageBox::Yes:
+        return ResultYes;
+    case QMessageBox::No:
+        return ResultNo;
+    case QMessageBox::Cancel:
+        return ResultCancel;
+    default:
+        return ResultOk;
+    }
 }
 
 void WidgetDesktop::runtimeError(const Error &error)

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <QCoreApplication>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScopeGuard>
 
@@ -108,7 +109,8 @@ bool Work::reaches(const QObject *watched) const
 
 bool Work::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!isUserInput(event->type()))
+    // A question that the work itself asks must be answered; a modal window blocks the others.
+    if (!isUserInput(event->type()) || QGuiApplication::modalWindow() != nullptr)
         return false;
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape &&
         !watched->isWindowType())
