@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/desktop/desktop.h"
+#include <functional>
 #include <vector>
 
 namespace kalvenor::test {
@@ -39,6 +40,7 @@ public:
 
     QString openFileName(QWidget *, const FileQuestion &question) override { return answered(question); }
     QString saveFileName(QWidget *, const FileQuestion &question) override { return answered(question); }
+    bool runDialog(QDialog &dialog) override { return dialogAnswer && dialogAnswer(dialog); }
 
     std::vector<int> answers; ///< to the next message boxes in turn; none left: OK
     std::vector<Message> messages;
@@ -46,7 +48,8 @@ public:
     std::vector<Pointer> pointers;
     std::vector<Placement> placements;
     std::vector<FileQuestion> fileQuestions;
-    std::vector<QString> fileAnswers; ///< given to the next file dialogs in turn; none left: cancelled
+    std::vector<QString> fileAnswers;            ///< given to the next file dialogs in turn; none left: cancelled
+    std::function<bool(QDialog &)> dialogAnswer; ///< fills in a dialog and says whether it is accepted
 
 private:
     QString answered(const FileQuestion &question)

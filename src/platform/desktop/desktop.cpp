@@ -37,6 +37,11 @@ QString Desktop::saveFileName(QWidget *, const FileQuestion &)
     return {};
 }
 
+bool Desktop::runDialog(QDialog &)
+{
+    return false;
+}
+
 int TerminalDesktop::messageBox(const QString &text, int, const QString &title)
 {
     writeError(title.isEmpty() ? text : title + QStringLiteral(": ") + text);

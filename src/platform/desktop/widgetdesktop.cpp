@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QWindow>
 
 namespace kalvenor {
@@ -112,6 +113,12 @@ QString WidgetDesktop::saveFileName(QWidget *parent, const FileQuestion &questio
     dialog.setAcceptMode(QFileDialog::AcceptSave); // asks before an existing file is replaced
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(question.suffix);
+    // Who chooses a type of file means its suffix.
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
+        static const QRegularExpression oneSuffix(QStringLiteral("\\(\\*\\.(\\w+)\\)"));
+        if (const auto match = oneSuffix.match(filter); match.hasMatch())
+            dialog.setDefaultSuffix(match.captured(1));
+    });
     return askForFile(dialog, question);
 }
 
@@ -119,7 +126,6 @@ QString WidgetDesktop::askForFile(QFileDialog &dialog, const FileQuestion &quest
 {
     dialog.setObjectName(QStringLiteral("Dateidialog"));
     dialog.setWindowTitle(question.title);
-    dialog.setWindowFlag(Qt::WindowStaysOnTopHint, anyWindowOnTop());
     if (!question.filters.isEmpty())
         dialog.setNameFilters(question.filters.split(QStringLiteral(";;")));
     const QString folder = question.folder.isEmpty() ? m_lastFolder : question.folder;
@@ -127,14 +133,20 @@ QString WidgetDesktop::askForFile(QFileDialog &dialog, const FileQuestion &quest
         dialog.setDirectory(folder);
     if (!question.name.isEmpty())
         dialog.selectFile(question.name);
-    const bool hourglass = m_hourglass;
-    setPointer(Pointer::Default);
-    const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
-    setPointer(hourglass ? Pointer::Hourglass : Pointer::Default);
-    if (!chosen)
+    if (!runDialog(dialog) || dialog.selectedFiles().isEmpty())
         return {};
     m_lastFolder = dialog.directory().absolutePath();
     return dialog.selectedFiles().constFirst();
+}
+
+bool WidgetDesktop::runDialog(QDialog &dialog)
+{
+    dialog.setWindowFlag(Qt::WindowStaysOnTopHint, anyWindowOnTop());
+    const bool hourglass = m_hourglass;
+    setPointer(Pointer::Default);
+    const bool accepted = dialog.exec() == QDialog::Accepted;
+    setPointer(hourglass ? Pointer::Hourglass : Pointer::Default);
+    return accepted;
 }
 
 } // namespace kalvenor

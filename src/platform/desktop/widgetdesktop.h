@@ -18,6 +18,8 @@ public:
     void setPointer(Pointer pointer) override;
     QString openFileName(QWidget *parent, const FileQuestion &question) override;
     QString saveFileName(QWidget *parent, const FileQuestion &question) override;
+    /// Modal to its parent, above windows that stay on top, with the usual pointer.
+    bool runDialog(QDialog &dialog) override;
 
 private:
     QString askForFile(QFileDialog &dialog, const FileQuestion &question);
