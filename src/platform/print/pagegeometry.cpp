@@ -3,6 +3,7 @@
 #include "platform/print/pagegeometry.h"
 
 #include "platform/basic/error.h"
+#include "platform/print/textface.h"
 
 #include <algorithm>
 
@@ -65,7 +66,7 @@ QSizeF fittedSize(const Picture &picture, QSizeF room)
 
 QString outlineTitle(const QString &text)
 {
-    return text.simplified();
+    return printable(text).simplified();
 }
 
 QString outlineTitle(const RichParagraph &paragraph)

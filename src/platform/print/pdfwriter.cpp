@@ -2,62 +2,42 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/print/pdfwriter.h"
 
-#include "platform/basic/error.h"
+#include "platform/print/outputfile.h"
 #include "platform/print/pagepainter.h"
+#include "platform/print/pdfoutline.h"
 
-#include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 namespace kalvenor {
 namespace {
 
-[[noreturn]] void fail(const QString &path, const QString &reason)
-{
-    throw Error(ErrorKind::WriteFailed, path,
-                u"The PDF file cannot be written (%1). Choose another folder or name, or make room on the disk; "
-                "an older file of this name is unchanged."_qs.arg(reason));
-}
-
-/// Passes all on to a file. The PDF engine does not look at what its device answers, and a disk that becomes full takes
-/// a part of a write without an error.
-class WholeWrites : public QIODevice {
+/// The file, with an eye on what goes into it.
+class PdfFile : public OutputFile {
 public:
-    explicit WholeWrites(QSaveFile &file) : m_file(file) { open(WriteOnly | Unbuffered); }
-    bool failed() const { return m_failed; }
-    bool isSequential() const override { return true; }
+    PdfFile(const QString &path, PdfOutline &outline) : OutputFile(path, QStringLiteral("PDF")), m_outline(outline) {}
 
 protected:
-    qint64 readData(char *, qint64) override { return -1; }
     qint64 writeData(const char *data, qint64 size) override
     {
-        for (qint64 done = 0; done < size && !m_failed;) {
-            const qint64 taken = m_file.write(data + done, size - done);
-            m_failed = taken <= 0;
-            done += taken;
-        }
-        return m_failed ? -1 : size;
+        m_outline.watch(data, size);
+        return OutputFile::writeData(data, size);
     }
 
 private:
-    QSaveFile &m_file;
-    bool m_failed = false;
+    PdfOutline &m_outline;
 };
 
 } // namespace
 
-void writePdf(const PageLayout &layout, const QString &title, const QString &path, const Progress &progress)
+void writePdf(const PageLayout &layout, const QString &title, const QString &path, const Progress &progress,
+              PdfKind kind)
 {
-    const QFileInfo place(path);
-    if (place.exists() && !place.isFile()) // a device would be replaced, too
-        fail(path, QStringLiteral("this is a folder or a device"));
-    QSaveFile file(path); // leaves nothing behind unless it is committed
-    if (!file.open(QIODevice::WriteOnly))
-        fail(path, file.errorString());
-
-    WholeWrites device(file);
-    QPdfWriter writer(&device);
+    PdfOutline outline(layout);
+    PdfFile file(path, outline);
+    QPdfWriter writer(&file);
+    if (kind == PdfKind::Archive)
+        writer.setPdfVersion(QPagedPaintDevice::PdfVersion_A1b);
     writer.setTitle(title);
     writer.setCreator(QStringLiteral("Kalvenor " KALVENOR_VERSION));
     writer.setResolution(1440); // twips
@@ -77,15 +57,13 @@ void writePdf(const PageLayout &layout, const QString &title, const QString &pat
             writer.newPage();
         pages.paint(painter, page);
         ++done;
-        if (device.failed())
-            break;
+        file.check();
         if (progress && !progress(done, total))
-            throw Error(ErrorKind::Cancelled, path, QStringLiteral("Stopped by the user; nothing was written."));
+            file.cancel();
     }
     painter.end();
-    // commit() does not notice that the rest of its buffer finds no room (Qt 6.4).
-    if (device.failed() || !file.flush() || !file.commit())
-        fail(path, QStringLiteral("the disk may be full"));
+    file.write(outline.update());
+    file.commit();
 }
 
 } // namespace kalvenor
