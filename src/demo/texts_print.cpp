@@ -54,6 +54,13 @@ constexpr LanguageText texts[] = {
     {20856, u"%1 %", u"%1 %"},
     {20857, u"Twips", u"twips"},
     {20858, u"Bildgröße", u"Picture size"},
+    {20859, u"Gedruckt wird", u"What is printed"},
+    {20860, u"Grafik", u"Chart"},
+    {20861, u"Höhe der Grafik; bei 100 % ist sie geformt wie im Fenster",
+     u"Height of the chart; at 100 % it has the shape that it has in the window"},
+    {20862, u"Bei 3 sind die Schriften so groß wie der Text der Umgebung",
+     u"At 3 the fonts are as large as the surrounding text"},
+    {20863, u"übriger Platz", u"remaining space"},
     // Print settings: buttons and messages
     {20870, u"OK", u"OK"},
     {20871, u"Abbrechen", u"Cancel"},

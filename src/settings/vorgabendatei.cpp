@@ -14,6 +14,8 @@ constexpr double WidestColumn = 31680; // 22 inches
 constexpr double LargestFontfaktor = 20;
 constexpr int SmallestBildprozent = 50, LargestBildprozent = 600;
 const QString Grafik = QStringLiteral("Grafik");
+const QString Fontfaktor = QStringLiteral("Fontfaktor");
+const QString Bildgroesse = QStringLiteral("Bildgroesse");
 const QString Spalten = QStringLiteral("Spalten");
 const std::array<QString, 3> spaltenKeys = {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("4")};
 
@@ -179,9 +181,10 @@ void seed(const host::Host &host)
     const QString file = host.ownSettingsFile();
     if (leadingNumber(host.inilesen(file, Spalten, spaltenKeys[0], QStringLiteral("1"))) != 1)
         return;
+    const ReportMeasures defaults;
     for (std::size_t i = 0; i < spaltenKeys.size(); ++i)
-        host.inischreiben(file, Spalten, spaltenKeys[i], QString::number(defaultSpaltenbreiten[i]));
-    host.inischreiben(file, Grafik, QStringLiteral("Fontfaktor"), trimmedNumberText(defaultFontfaktor));
+        host.inischreiben(file, Spalten, spaltenKeys[i], QString::number(defaults.spaltenbreiten[i]));
+    host.inischreiben(file, Grafik, Fontfaktor, trimmedNumberText(defaults.fontfaktor));
 }
 
 } // namespace
@@ -201,30 +204,40 @@ bool initspeichern(const host::Host &host, const Druckvorgaben &vorgaben, const 
     return writer.allWritten();
 }
 
-std::array<Twips, 3> spaltenbreiten(const host::Host &host)
+ReportMeasures ReportMeasures::read(const host::Host &host)
 {
-    std::array<Twips, 3> widths = defaultSpaltenbreiten;
-    for (std::size_t i = 0; i < widths.size(); ++i) {
-        const double width =
-            leadingNumber(host.inilesen(host.ownSettingsFile(), Spalten, spaltenKeys[i], QString::number(widths[i])));
-        if (width >= 0 && width <= WidestColumn)
-            widths[i] = toLong32(width);
+    const auto number = [&host](const QString &section, const QString &key, double fallback, auto fits) {
+        const double value =
+            leadingNumber(host.inilesen(host.ownSettingsFile(), section, key, trimmedNumberText(fallback)));
+        return fits(value) ? value : fallback;
+    };
+    ReportMeasures measures;
+    for (std::size_t i = 0; i < spaltenKeys.size(); ++i) {
+        measures.spaltenbreiten[i] = toLong32(number(Spalten, spaltenKeys[i], measures.spaltenbreiten[i],
+                                                     [](double width) { return width >= 0 && width <= WidestColumn; }));
     }
-    return widths;
+    measures.fontfaktor = number(Grafik, Fontfaktor, measures.fontfaktor,
+                                 [](double factor) { return factor > 0 && factor <= LargestFontfaktor; });
+    measures.bildprozent = toLong32(number(Grafik, Bildgroesse, measures.bildprozent, [](double percent) {
+        return percent >= SmallestBildprozent && percent <= LargestBildprozent;
+    }));
+    return measures;
 }
 
-double fontfaktor(const host::Host &host)
+bool ReportMeasures::write(const host::Host &host) const
 {
-    const double factor = leadingNumber(host.inilesen(host.ownSettingsFile(), Grafik, QStringLiteral("Fontfaktor"),
-                                                      trimmedNumberText(defaultFontfaktor)));
-    return factor > 0 && factor <= LargestFontfaktor ? factor : defaultFontfaktor;
-}
-
-int bildprozent(const host::Host &host)
-{
-    const double percent = leadingNumber(host.inilesen(host.ownSettingsFile(), Grafik, QStringLiteral("Bildgroesse"),
-                                                       QString::number(defaultBildprozent)));
-    return percent >= SmallestBildprozent && percent <= LargestBildprozent ? toLong32(percent) : defaultBildprozent;
+    bool allWritten = true;
+    const auto put = [&](const QString &section, const QString &key, double value, double before) {
+        if (value != before)
+            allWritten =
+                host.inischreiben(host.ownSettingsFile(), section, key, trimmedNumberText(value)) && allWritten;
+    };
+    const ReportMeasures before = read(host);
+    for (std::size_t i = 0; i < spaltenKeys.size(); ++i)
+        put(Spalten, spaltenKeys[i], spaltenbreiten[i], before.spaltenbreiten[i]);
+    put(Grafik, Fontfaktor, fontfaktor, before.fontfaktor);
+    put(Grafik, Bildgroesse, bildprozent, before.bildprozent);
+    return allWritten;
 }
 
 } // namespace kalvenor::settings

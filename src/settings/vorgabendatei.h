@@ -19,18 +19,22 @@ void initladen(const host::Host &host, Druckvorgaben &vorgaben, PageSetup &page)
 /// factor are not written. False where something could not be written; the rest is.
 bool initspeichern(const host::Host &host, const Druckvorgaben &vorgaben, const PageSetup &page);
 
-/// Widths of the age list's columns (keys "1", "2", "4": age, sex, name). 0, also for a text without a number, is an
-/// equal share; a width below 0 or above 31680 is the default.
-std::array<Twips, 3> spaltenbreiten(const host::Host &host);
-inline constexpr std::array<Twips, 3> defaultSpaltenbreiten = {400, 1000, 3000};
+/// Measures of the report that other keys of the same file hold. As made, the defaults.
+struct ReportMeasures {
+    /// Widths of the age list's columns (section `Spalten`, keys "1", "2", "4": age, sex, name). 0, also for a text
+    /// without a number, is an equal share; a width below 0 or above 31680 is the default.
+    std::array<Twips, 3> spaltenbreiten = {400, 1000, 3000};
+    /// Scale of the chart's fonts (`Grafik`/`Fontfaktor`), above 0 to 20; others are the default.
+    double fontfaktor = 3;
+    /// Height of the printed chart (`Grafik`/`Bildgroesse`) in percent of the height that its shape on the screen gives
+    /// it at the printable width: 50 to 600, others are the default. The width does not change; the page limits the
+    /// height.
+    int bildprozent = 100;
 
-/// Scale of the chart's fonts, above 0 to 20; others are the default, 3.
-double fontfaktor(const host::Host &host);
-inline constexpr double defaultFontfaktor = 3;
-
-/// Height of the printed chart in percent of the height that its shape on the screen gives it at the printable width:
-/// 50 to 600, others are the default, 100. The width does not change; the page limits the height.
-int bildprozent(const host::Host &host);
-inline constexpr int defaultBildprozent = 100;
+    /// Never fails.
+    static ReportMeasures read(const host::Host &host);
+    /// Writes those that the file does not give already. False where one could not be written.
+    bool write(const host::Host &host) const;
+};
 
 } // namespace kalvenor::settings

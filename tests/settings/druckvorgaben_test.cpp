@@ -115,7 +115,7 @@ TEST(Druckvorgaben, ReadsWhatAHandWroteIntoTheFile)
     EXPECT_EQ(settings.page.right, -20);
     EXPECT_EQ(settings.page.bottom, 0);
     EXPECT_TRUE(settings.page.landscape);
-    EXPECT_EQ(spaltenbreiten(settings.host), (std::array<Twips, 3>{500, 1000, 3000}));
+    EXPECT_EQ(ReportMeasures::read(settings.host).spaltenbreiten, (std::array<Twips, 3>{500, 1000, 3000}));
 
     // What was read is written back, and once more changes nothing.
     ASSERT_TRUE(settings.save());
@@ -230,8 +230,8 @@ TEST(Druckvorgaben, FiguresOfTheChartAndTheSpacingStayInTheirBounds)
         settings.load();
         EXPECT_EQ(settings.vorgaben.rowSpacing(), row.spacing) << row.text;
         Settings unseeded("[Grafik]\nFontfaktor=" + value + "\nBildgroesse=" + value);
-        EXPECT_EQ(fontfaktor(unseeded.host), row.factor) << row.text;
-        EXPECT_EQ(bildprozent(unseeded.host), row.percent) << row.text;
+        EXPECT_EQ(ReportMeasures::read(unseeded.host).fontfaktor, row.factor) << row.text;
+        EXPECT_EQ(ReportMeasures::read(unseeded.host).bildprozent, row.percent) << row.text;
     }
 }
 
