@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/commandline.h"
 
+#include "app/chartcommand.h"
 #include "app/check.h"
 #include "app/commands.h"
 #include "app/filteroptions.h"
@@ -13,6 +14,7 @@
 #include <limits>
 #include <map>
 #include <memory>
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -93,6 +95,7 @@ public:
     Words words;
     CLI::App *demo, *check, *list, *mark, *unmark, *ages, *report;
     FilterOptions listFilter, markFilter, unmarkFilter;
+    ChartCommand chart;
     TemplateCommands templates;
 
 private:
@@ -177,6 +180,11 @@ Parser::Parser()
     ages = command("ages", "Writes the age list of the marked persons");
     addSex(ages);
     addFormat(ages);
+    chart.addTo(app, [this](CLI::App *to) {
+        addProgram(to);
+        addSex(to);
+        addFormat(to);
+    });
     report = command("report", "Writes the report of the marked persons");
     report->add_option("--title", words.title, "The report's title")->type_name("T");
     addSex(report);
@@ -264,6 +272,8 @@ int dispatch(const Parser &parser)
         return runMarkWords(words, false, parser.unmarkFilter);
     if (parser.ages->parsed())
         return runAges(programFolder(words), {sexOf(words), formatOf(words)});
+    if (parser.chart.parsed())
+        return parser.chart.run(programFolder(words), sexOf(words), formatOf(words));
     if (parser.templates.parsed())
         return parser.templates.run(programFolder(words));
     return runReportWords(words);
@@ -276,13 +286,16 @@ void onlyFaults(QtMsgType type, const QMessageLogContext &, const QString &text)
         writeError(text);
 }
 
-/// Fonts and pages need a GUI application, which a command runs without a desktop; all else starts faster without.
+/// Fonts and pages need a GUI application and charts a widget one, which a command runs without a desktop; all else
+/// starts faster without.
 std::unique_ptr<QCoreApplication> makeApplication(const Parser &parser, int &argc, char **argv)
 {
-    if (!parser.report->parsed())
+    if (!parser.report->parsed() && !parser.chart.draws())
         return std::make_unique<QCoreApplication>(argc, argv);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (parser.chart.draws())
+        return std::make_unique<QApplication>(argc, argv);
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

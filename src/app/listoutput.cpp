@@ -10,7 +10,6 @@ namespace {
 
 constexpr qsizetype BufferSize = 1 << 16;
 
-/// A JSON string. Names come from a foreign file, so control characters and lone surrogates occur.
 void appendJsonText(QByteArray &json, QStringView text)
 {
     json += '"';
@@ -37,6 +36,13 @@ QByteArray tsvText(QStringView text)
 }
 
 } // namespace
+
+QByteArray jsonText(QStringView text)
+{
+    QByteArray json;
+    appendJsonText(json, text);
+    return json;
+}
 
 ListOutput::ListOutput(Format format, const char *textKey) : m_format(format), m_textKey(textKey)
 {

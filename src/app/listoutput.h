@@ -10,6 +10,9 @@ namespace kalvenor::app {
 
 enum class Format { Text, Tsv, Json };
 
+/// A JSON string. Names come from a foreign file, so control characters and lone surrogates occur.
+QByteArray jsonText(QStringView text);
+
 /// Writes a list of persons to stdout as lines, tab-separated values or a JSON array, without keeping it.
 class ListOutput {
 public:

@@ -77,6 +77,8 @@ constexpr LanguageText texts[] = {
     {20631, u"Als Tabelle zeigen", u"Show as table"},
     {20632, u"Grafik des Durchschnittsalters nach Jahrhunderten", u"Chart of the average age by century"},
     {20633, u"%1 Personen", u"%1 persons"},
+    {20640, u"Keine markierte Person des gewählten Geschlechts hat ein berechenbares Alter.",
+     u"No marked person of the chosen sex has an age that can be computed."},
     // Editor of the introduction
     {20700, u"Fett", u"Bold"},
     {20701, u"Kursiv", u"Italic"},

@@ -4,6 +4,10 @@
 #include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
+#include <QImageReader>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -83,6 +87,13 @@ TEST_F(CommandLine, RefusesWrongUsageInOneLineThatHelps)
         {{"list", "--dates", "birth", "--from", "31-02-1900"}, "31-02-1900"},
         {{"list", "--dates", "birth", "--to", "1900"}, "1900"},
         {{"list", "--dates", "baptism"}, "--dates"},
+        {{"chart", "--type", "10"}, "--type"},
+        {{"chart", "--type", "1.5"}, "--type"},
+        {{"chart", "--by", "baptism"}, "--by"},
+        {{"chart", "--output", "x.gif"}, ".png"},
+        {{"chart", "--output", ""}, ".png"},
+        {{"chart", "--size", "900x"}, "900x"},
+        {{"chart", "--size", "20001x9"}, "20001x9"},
         {{"report"}, "--output"},
         {{"report", "--output", "x.doc"}, ".pdf"},
         {{"report", "--output", "x.rtf"}, ".rtf"},
@@ -212,6 +223,44 @@ TEST_F(CommandLine, WritesAgesAndReport)
     const Outcome refused = onDemo({"report", "--output", folder->filePath("fehlt/Bericht.pdf")});
     EXPECT_EQ(refused.exitCode, 1);
     EXPECT_TRUE(refused.err.contains("fehlt")) << refused.err.toStdString();
+    ASSERT_EQ(onDemo({"unmark", "--all"}).exitCode, 0);
+}
+
+TEST_F(CommandLine, WritesTheChartsFiguresAndPicture)
+{
+    EXPECT_EQ(
+        onDemo({"chart", "--sex", "m", "--format", "json"}).out,
+        "{\"columns\":[\"M\"],\"rows\":[],\"counts\":{\"men\":\"0\",\"women\":\"0\",\"all\":\"0\"},\"averages\":{"
+        "\"men\":\"-\",\"women\":\"-\",\"all\":\"-\"},\"range\":null,\"without_date\":\" 0 ohne * / + Datum\"}\n");
+    ASSERT_EQ(onDemo({"mark", "--all"}).exitCode, 0);
+    const auto json = QJsonDocument::fromJson(onDemo({"chart", "--format", "json"}).out.toUtf8()).object();
+    const auto rows = json["rows"].toArray();
+    ASSERT_GE(rows.size(), 2);
+    const QString tsv = onDemo({"chart", "--format", "tsv"}).out;
+    EXPECT_EQ(tsv.section('\n', 0, 0), "century\tM\tW\tAlle");
+    EXPECT_EQ(lineCount(tsv), rows.size() + 1);
+    const auto first = rows[0].toObject();
+    QStringList cells{first["label"].toString()};
+    for (const auto &value : first["values"].toArray())
+        cells << value.toString();
+    EXPECT_EQ(tsv.section('\n', 1, 1), cells.join('\t'));
+    EXPECT_EQ(QString::number(lineCount(onDemo({"ages"}).out)),
+              QString::number(json["counts"]["men"].toString().toInt() + json["counts"]["women"].toString().toInt()));
+    const QString text = onDemo({"chart"}).out;
+    EXPECT_TRUE(text.contains("400 persons marked") && text.contains(json["range"].toString())) << text.toStdString();
+    EXPECT_NE(onDemo({"chart", "--by", "death", "--format", "tsv"}).out, tsv);
+
+    for (const char *name : {"Grafik.png", "Grafik.jpg"}) {
+        const QString file = folder->filePath(name);
+        const Outcome drawn =
+            onDemo({"chart", "--format", "tsv", "--output", file, "--size", "320x240", "--type", "3"});
+        EXPECT_EQ(drawn.exitCode, 0) << drawn.err.toStdString();
+        EXPECT_EQ(drawn.out, tsv);
+        EXPECT_EQ(QImageReader(file).size(), QSize(320, 240)) << name;
+    }
+    const Outcome refused = onDemo({"chart", "--output", folder->filePath("fehlt/Grafik.svg")});
+    EXPECT_EQ(refused.exitCode, 1);
+    EXPECT_TRUE(refused.err.contains("fehlt") && refused.out.isEmpty()) << refused.err.toStdString();
     ASSERT_EQ(onDemo({"unmark", "--all"}).exitCode, 0);
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/altersliste.h"
 
+#include "platform/basic/number.h"
 #include "statistics/alter.h"
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
@@ -21,6 +22,15 @@ TEST(Alterstext, IsSevenCharactersWide)
     };
     for (const auto &row : rows)
         EXPECT_EQ(alterstext(row.days), row.text) << row.days;
+}
+
+TEST(Alterstext, IsTheNumberTextSetInColumns)
+{
+    for (int days = 0; days < 400'000; days += 7) {
+        QString text = "     " + trimmedNumberText(altersjahre(days));
+        text += text.contains('.') ? "" : ".0";
+        EXPECT_EQ(alterstext(days), text.replace(" 0.0", "  .0").append("  ").right(7)) << days;
+    }
 }
 
 TEST(Alterszeile, LeavesOutEightCharactersOfLongNames)

@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/host.h"
+#include "language/sprache.h"
+#include "platform/chart/chart.h"
+#include "statistics/grafik.h"
+
+// How the chart looks in the window, in the report and as a picture.
+namespace kalvenor::statistics {
+
+/// The chart control's number as a type, nothing where there is no such type.
+std::optional<ChartType> grafiktyp(int number);
+
+/// Texts in the person's language, fonts by the setting `Fontfaktor` (default 3). `emptyText` asks to mark persons.
+ChartLook grafiklook(language::Sprachmodul &texts, const host::Host &host, ChartType type, bool legend, bool byBirth);
+
+/// Why there is no chart, for a table that is empty.
+QString leererText(language::Sprachmodul &texts, const Personenzahlen &persons);
+
+} // namespace kalvenor::statistics
