@@ -12,6 +12,8 @@ constexpr double slope = 0.70710678; // sine and cosine of 45 degrees
 constexpr double leastPlotWidth = 0.45;
 constexpr double leastPlotHeight = 0.38;
 constexpr double mostLabelHeight = 0.4;
+constexpr int smallestFigure = 6; // pixels
+constexpr int mostPointFigures = 400;
 
 // The labels below the rows: one for every `every`-th row, and what they take beside the rows' own width.
 struct RowLabels {
@@ -33,9 +35,9 @@ RowLabels arrangeRowLabels(LayoutTry &attempt, double slot)
     labels.gap = line * 0.3;
 
     bool whole = true;
-    for (const QString &row : rows) {
-        labels.blocks.push_back(attempt.font.wrapped(row, slot - line * 0.35, 3));
-        whole = whole && labels.blocks.back().whole;
+    for (auto row = rows.begin(); whole && row != rows.end(); ++row) {
+        labels.blocks.push_back(attempt.font.wrapped(*row, slot - line * 0.35, 3));
+        whole = labels.blocks.back().whole;
         labels.height = std::max(labels.height, labels.blocks.back().size.height());
     }
     const double mostHeight = attempt.size.height() * mostLabelHeight;
@@ -43,11 +45,12 @@ RowLabels arrangeRowLabels(LayoutTry &attempt, double slot)
         return labels;
 
     double widest = 0;
-    for (int row = 0; row < count; ++row) {
-        TextBlock &block = labels.blocks[static_cast<std::size_t>(row)];
-        block = attempt.force ? attempt.font.forced(rows[row], std::max(mostHeight, attempt.size.width() * 0.3), 1)
-                              : attempt.font.line(rows[row]);
-        widest = std::max(widest, block.size.width());
+    labels.blocks.clear();
+    for (const QString &row : rows) {
+        labels.blocks.push_back(attempt.force
+                                    ? attempt.font.forced(row, std::max(mostHeight, attempt.size.width() * 0.3), 1)
+                                    : attempt.font.line(row));
+        widest = std::max(widest, labels.blocks.back().size.width());
     }
     const int everySlanted = std::max(1, static_cast<int>(std::ceil(line / slope / slot)));
     const int everyLevel = std::max(1, static_cast<int>(std::ceil((widest + line * 0.6) / slot)));
@@ -57,10 +60,11 @@ RowLabels arrangeRowLabels(LayoutTry &attempt, double slot)
         labels.slanted = true;
         labels.every = everySlanted;
         labels.height = slantedHeight;
+        labels.gap = std::max(labels.gap, line * 0.6 - slot / 2); // below the lowest figure of the axis, as below
     } else if (count == 1 || (attempt.thinning && everyLevel < count)) {
         labels.every = everyLevel;
         labels.height = line;
-        labels.gap = line * 0.6; // the first one may reach below the lowest figure of the axis
+        labels.gap = line * 0.6;
     } else {
         attempt.cramped = true;
     }
@@ -145,7 +149,9 @@ BarFigures arrangeBarFigures(const LayoutTry &attempt, double slot)
 {
     const ChartSubject &subject = attempt.subject;
     const double room = barWidth(subject) * slot;
-    for (double pixels = attempt.font.font().pixelSize(); pixels >= 6; --pixels) {
+    if (room < smallestFigure)
+        return {false, false, attempt.font};
+    for (int pixels = attempt.font.font().pixelSize(); pixels >= smallestFigure; --pixels) {
         const ChartFont font(attempt.font.font(), pixels);
         double widest = 0;
         for (int column = 0; column < subject.figures.seriesCount(); ++column) {
@@ -155,7 +161,7 @@ BarFigures arrangeBarFigures(const LayoutTry &attempt, double slot)
         }
         if (widest <= room)
             return {true, false, font, font.lineHeight()};
-        if (font.lineHeight() * 0.9 <= room && widest < attempt.size.height() * 0.2)
+        if (font.lineHeight() <= room && widest < attempt.size.height() * 0.2)
             return {true, true, font, widest};
     }
     return {false, false, attempt.font};
@@ -250,7 +256,7 @@ void layoutAxes(LayoutTry &attempt)
     BarFigures figures{false, false, attempt.font};
     for (int pass = 0; pass < 3; ++pass) {
         ticks = arrangeTicks(attempt, plot.height());
-        labels = arrangeRowLabels(attempt, std::max(1.0, plot.width() / rows));
+        labels = arrangeRowLabels(attempt, std::max(1.0, plot.width()) / rows);
         if (attempt.cramped && !attempt.force)
             return;
         if (look.values)
@@ -284,7 +290,7 @@ void layoutAxes(LayoutTry &attempt)
     placeRowLabels(attempt, labels);
     if (figures.shown)
         placeBarFigures(attempt, figures);
-    if (look.values)
+    if (look.values && rows * attempt.subject.figures.seriesCount() <= mostPointFigures)
         placePointFigures(attempt);
 }
 

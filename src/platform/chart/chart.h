@@ -53,7 +53,7 @@ struct ChartLook {
     QString categoryTitle = {}; ///< below the axis of the rows
     QString valueTitle = {};    ///< beside the axis of the figures
     QString emptyText = {};     ///< shown instead of a chart where the table is empty
-    QString valueFormat = {};   ///< of a figure under the mouse: "%1: %2 years" (series, figure)
+    QString valueFormat = {};   ///< of a figure under the mouse: "%1: %2 years" (series and row, figure)
     QLocale locale = {};        ///< how figures are written
 };
 

@@ -4,6 +4,7 @@
 
 #include "platform/chart/chartdrawing.h"
 
+#include <algorithm>
 #include <QClipboard>
 #include <QEvent>
 #include <QFontInfo>
@@ -60,10 +61,11 @@ ChartControl::ChartControl(QWidget *parent)
         Q_EMIT lookChanged();
     });
     connect(tableAction, &QAction::toggled, this, [this](bool on) {
-        m_figures->setVisible(on);
+        const bool focused = hasFocus();
         setFocusProxy(on ? m_figures : nullptr);
-        if (on && hasFocus())
-            m_figures->setFocus();
+        m_figures->setVisible(on);
+        if (focused)
+            setFocus();
     });
 }
 
@@ -115,7 +117,7 @@ const ChartDrawing &ChartControl::drawing() const
 {
     if (!m_drawing) {
         QFont base = font();
-        base.setPixelSize(QFontInfo(base).pixelSize());
+        base.setPixelSize(std::max(1, QFontInfo(base).pixelSize()));
         m_drawing = std::make_unique<ChartDrawing>(m_table, m_look, size(), paletteStyle(palette(), base));
     }
     return *m_drawing;

@@ -34,7 +34,7 @@ std::optional<ChartHit> sliceAt(const ChartFigures &figures, const QRectF &squar
 std::optional<ChartHit> figureAt(const ChartSubject &subject, const ChartLayout &layout, QPointF place)
 {
     const ChartFigures &figures = subject.figures;
-    if (figures.isEmpty())
+    if (figures.isEmpty() || layout.plot.isEmpty())
         return {};
     if (subject.kind == ChartKind::Pie)
         return sliceAt(figures, layout.plot, place);

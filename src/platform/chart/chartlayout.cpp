@@ -12,8 +12,8 @@ constexpr double defaultFontFactor = 3;
 constexpr double smallestScale = 0.5;
 constexpr double largestScale = 3;
 constexpr double shrinkStep = 0.92;
-constexpr double wellReadable = 8; // pixels
-constexpr double readable = 6;
+constexpr int wellReadable = 8; // pixels
+constexpr int readable = 6;
 constexpr int mostPieColours = 8;
 
 double fontScale(double factor)
@@ -132,7 +132,7 @@ std::optional<ChartLayout> tryLayout(const ChartSubject &full, QSizeF size, cons
 ChartLayout layoutMessage(const QString &message, QSizeF size, const QFont &base)
 {
     ChartLayout layout;
-    for (double pixels = base.pixelSize(); pixels > 1; pixels *= shrinkStep) {
+    for (int pixels = base.pixelSize(); pixels > 1; --pixels) {
         const ChartFont font(base, pixels);
         const TextBlock block = font.wrapped(message.simplified(), size.width() * 0.85, 20);
         if (!block.whole || block.size.height() > size.height() * 0.9)
@@ -157,13 +157,13 @@ ChartLayout layoutChart(const ChartSubject &subject, QSizeF size, const QFont &f
     if (subject.figures.isEmpty())
         return layoutMessage(subject.look.emptyText, size, font);
 
-    const double base = font.pixelSize();
-    const double wanted = base * fontScale(subject.look.fontFactor);
+    const int base = font.pixelSize();
+    const int wanted = std::max(1, static_cast<int>(std::lround(base * fontScale(subject.look.fontFactor))));
     struct Round {
         Relief relief;
-        double first, last;
+        int first, last;
     };
-    const double bodySize = std::min(wanted, base);
+    const int bodySize = std::min(wanted, base);
     const Round rounds[] = {
         {{false, true, true, true, false}, wanted, wellReadable},
         {{true, true, true, true, false}, bodySize, wellReadable},
@@ -174,11 +174,11 @@ ChartLayout layoutChart(const ChartSubject &subject, QSizeF size, const QFont &f
         {{true, false, false, false, true}, readable, readable},
     };
     for (const Round &round : rounds) {
-        const double last = std::min(round.first, round.last);
-        for (double pixels = round.first; pixels >= last - 0.01;
-             pixels = std::min(pixels * shrinkStep, std::round(pixels) - 1)) {
+        const int last = std::min(round.first, round.last);
+        for (int pixels = round.first; pixels >= last;
+             pixels = std::min(pixels - 1, static_cast<int>(pixels * shrinkStep))) {
             // The title does not follow the font factor, only the lack of room.
-            const double title = base * 1.2 * std::clamp(pixels / bodySize, 0.6, 1.0);
+            const double title = base * 1.2 * std::clamp(static_cast<double>(pixels) / bodySize, 0.6, 1.0);
             if (auto layout = tryLayout(subject, size, font, pixels, title, round.relief))
                 return *std::move(layout);
         }

@@ -51,7 +51,6 @@ QByteArray svgBytes(const ChartTable &table, const ChartLook &look, QSize pixels
     QBuffer buffer(&bytes);
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
-    generator.setTitle(look.title);
     generator.setResolution(static_cast<int>(drawingDpi));
     const QSizeF size = QSizeF(pixels) * (drawingDpi / dpi);
     generator.setSize(size.toSize());

@@ -18,12 +18,12 @@ namespace kalvenor {
 namespace {
 
 constexpr double lineWidth = 2;
-constexpr double markSize = 9;
+constexpr double markSize = 8;
 constexpr float areaAlpha = 0.18F;
 constexpr double loneHalfWidth = 0.2; // of an area that has one row only, in rows
 
 // The hues of Okabe and Ito, set apart in lightness as well: the first three differ by 20 of 100 or more in grey.
-constexpr std::array lightColors{0x005A9C, 0xDB8800, 0x262626, 0x00876A, 0x56B4E9, 0xB8460A, 0xCC79A7, 0xC9B800};
+constexpr std::array lightColors{0x005A9C, 0xDB8800, 0x1A1A1A, 0x00876A, 0x56B4E9, 0xB8460A, 0xCC79A7, 0xC9B800};
 constexpr std::array darkColors{0x3D9AE0, 0xF5B83D, 0xF2F2F2, 0x1FB890, 0x9AD4F5, 0xE8713A, 0xD98FBA, 0xF0E442};
 constexpr std::array lineStyles{Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine};
 
@@ -252,9 +252,11 @@ void drawMarks(QPainter &painter, const ChartSubject &subject, const ChartLayout
     painter.setPen(QPen(style.ground, 1)); // marks over one another stay apart
     for (int column = 0; column < subject.figures.seriesCount(); ++column) {
         painter.setBrush(seriesColor(column, style.dark));
+        // Large below small, so that each is seen where figures are the same.
+        const double size = markSize + 2 * std::min(2, subject.figures.seriesCount() - 1 - column);
         for (int row = 0; !isBarColumn(subject, column) && row < subject.figures.rowCount(); ++row) {
             if (subject.figures.value(column, row) != 0)
-                drawMark(painter, column, figurePoint(subject, layout, column, row), markSize);
+                drawMark(painter, column, figurePoint(subject, layout, column, row), size);
         }
     }
 }

@@ -27,19 +27,28 @@ QPointF onCircle(QPointF centre, double radius, double degrees)
     return centre + QPointF(std::sin(angle), -std::cos(angle)) * radius;
 }
 
-// As near as can be to the wanted heights, one line apart, within top and bottom. Callouts by height.
-void spread(std::vector<Callout *> &column, double line, double top, double bottom)
+// As near as can be to the wanted heights, `pitch` apart, within top and bottom. Callouts by height.
+void spread(std::vector<Callout *> &column, double pitch, double top, double bottom)
 {
-    double lowest = top - line / 2;
+    double lowest = top - pitch / 2; // the middle of the one above
     for (Callout *callout : column) {
-        callout->y = std::max(callout->y, lowest + line);
+        callout->y = std::max(callout->y, lowest + pitch);
         lowest = callout->y;
     }
-    double highest = bottom + line / 2;
+    double highest = bottom + pitch / 2;
     for (auto it = column.rbegin(); it != column.rend(); ++it) {
-        (*it)->y = std::min((*it)->y, highest - line);
+        (*it)->y = std::min((*it)->y, highest - pitch);
         highest = (*it)->y;
     }
+}
+
+// From one callout to the next; those of several lines need a gap to be told apart.
+double pitchOf(const std::vector<Callout> &callouts, double line)
+{
+    double highest = line;
+    for (const Callout &callout : callouts)
+        highest = std::max(highest, callout.block.size.height());
+    return highest > line * 1.5 ? highest + line * 0.25 : highest;
 }
 
 std::vector<Callout> makeCallouts(LayoutTry &attempt)
@@ -54,12 +63,13 @@ std::vector<Callout> makeCallouts(LayoutTry &attempt)
             text = figures.rows[row] + QStringLiteral(": ") + text;
         const PieSlice &slice = slices[static_cast<std::size_t>(row)];
         callouts.push_back(
-            {attempt.fitted(attempt.font, text, attempt.area.width() * 0.38, 1), slice.begin + slice.span / 2, value});
+            {attempt.fitted(attempt.font, text, attempt.area.width() * 0.3, 3), slice.begin + slice.span / 2, value});
     }
     // More than two columns can hold: the smallest are left to the tooltip.
-    const auto most = static_cast<std::size_t>(attempt.area.height() / attempt.lineHeight()) * 2;
+    const auto most = static_cast<std::size_t>(attempt.area.height() / pitchOf(callouts, attempt.lineHeight())) * 2;
     if (attempt.force && callouts.size() > most) {
         std::vector<double> values;
+        values.reserve(callouts.size());
         for (const Callout &callout : callouts)
             values.push_back(callout.value);
         std::sort(values.begin(), values.end(), std::greater<>());
@@ -103,6 +113,7 @@ void layoutPie(LayoutTry &attempt)
     }
 
     std::vector<Callout> callouts = makeCallouts(attempt);
+    const double pitch = pitchOf(callouts, line);
     std::vector<Callout *> left;
     std::vector<Callout *> right;
     const auto widest = [](const std::vector<Callout *> &column) {
@@ -114,7 +125,7 @@ void layoutPie(LayoutTry &attempt)
     for (Callout &callout : callouts)
         (callout.right() ? right : left).push_back(&callout);
     std::reverse(left.begin(), left.end()); // from the top
-    const auto capacity = static_cast<std::ptrdiff_t>(area.height() / line);
+    const auto capacity = static_cast<std::ptrdiff_t>(area.height() / pitch);
     while (std::ssize(right) > capacity && std::ssize(left) < capacity) {
         left.push_back(right.back());
         right.pop_back();
@@ -139,7 +150,7 @@ void layoutPie(LayoutTry &attempt)
     for (Callout &callout : callouts)
         callout.y = onCircle(centre, radius * reach, callout.angle).y();
     for (std::vector<Callout *> *column : {&left, &right}) {
-        spread(*column, line, area.top() + line / 2, area.bottom() - line / 2);
+        spread(*column, pitch, area.top(), area.bottom());
         const double direction = column == &right ? 1 : -1;
         for (const Callout *callout : *column) {
             const double edge = centre.x() + direction * (radius + 2 * bend - line * 0.2);
