@@ -53,6 +53,14 @@ bool Host::inischreiben(const QString &file, const QString &section, const QStri
     return writePrivateProfileString(encodeAnsi(section), encodeAnsi(key), encodeAnsi(value), native(file));
 }
 
+bool Host::inischreiben(const QString &file, const std::vector<Setting> &settings) const
+{
+    std::vector<ProfileValue> values;
+    for (const Setting &each : settings)
+        values.push_back({encodeAnsi(each.section), encodeAnsi(each.key), encodeAnsi(each.value)});
+    return writePrivateProfileStrings(values, native(file));
+}
+
 bool Host::staysOnTop() const
 {
     // A text that holds a number is compared as a number: "1", " 1" and "1.0" are equal to 1.

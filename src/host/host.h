@@ -6,6 +6,7 @@
 #include "platform/desktop/desktop.h"
 #include <QPointer>
 #include <QString>
+#include <vector>
 
 namespace kalvenor::host {
 
@@ -39,6 +40,11 @@ public:
     /// Writes one value. As with the platform's own function nothing is reported on failure; the result says whether
     /// it was written, for callers that want to know.
     bool inischreiben(const QString &file, const QString &section, const QString &key, const QString &value) const;
+    /// Several values in their order, all or none.
+    struct Setting {
+        QString section, key, value;
+    };
+    bool inischreiben(const QString &file, const std::vector<Setting> &settings) const;
 
     /// Only when `AddInonTop` equals 1: puts the window on top of all others (`onTop` -1), back among them (0), or
     /// before its equals (any other value), keeping place and size. True when the window's place was changed.

@@ -62,8 +62,8 @@ void PaperSketch::paintEvent(QPaintEvent *)
     }
     // Lines of text
     painter.setClipRect(text);
-    for (double y = text.top() + 1; y < text.bottom(); y += 6)
-        painter.fillRect(QRectF(text.left(), y, text.width(), 2), QColor(190, 190, 200));
+    for (int line = 0; line < text.height() / 6; ++line)
+        painter.fillRect(QRectF(text.left(), text.top() + 2 + 6 * line, text.width(), 2), QColor(190, 190, 200));
     painter.setClipping(false);
     painter.setPen(QPen(QColor(90, 120, 190), 1, Qt::DashLine));
     painter.drawRect(text);

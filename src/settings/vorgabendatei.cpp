@@ -112,7 +112,7 @@ public:
     {
         const QString other = value == u"?" ? QStringLiteral("!") : QStringLiteral("?");
         if (m_host.inilesen(m_file, section, key, other) != value)
-            m_allWritten = m_host.inischreiben(m_file, section, key, value) && m_allWritten;
+            m_changed.push_back({section, key, value});
     }
     void integer(const QString &section, const QString &key, qint16 value)
     {
@@ -127,12 +127,12 @@ public:
     {
         text(section, key, QString::number(landscape ? 1 : 0));
     }
-    bool allWritten() const { return m_allWritten; }
+    bool write() const { return m_host.inischreiben(m_file, m_changed); }
 
 private:
     const host::Host &m_host;
     QString m_file;
-    bool m_allWritten = true;
+    std::vector<host::Host::Setting> m_changed;
 };
 
 /// Every setting once, in the order of the file, for loading and saving alike.
@@ -182,9 +182,11 @@ void seed(const host::Host &host)
     if (leadingNumber(host.inilesen(file, Spalten, spaltenKeys[0], QStringLiteral("1"))) != 1)
         return;
     const ReportMeasures defaults;
+    std::vector<host::Host::Setting> settings;
     for (std::size_t i = 0; i < spaltenKeys.size(); ++i)
-        host.inischreiben(file, Spalten, spaltenKeys[i], QString::number(defaults.spaltenbreiten[i]));
-    host.inischreiben(file, Grafik, Fontfaktor, trimmedNumberText(defaults.fontfaktor));
+        settings.push_back({Spalten, spaltenKeys[i], QString::number(defaults.spaltenbreiten[i])});
+    settings.push_back({Grafik, Fontfaktor, trimmedNumberText(defaults.fontfaktor)});
+    host.inischreiben(file, settings); // not told: the next load tries again
 }
 
 } // namespace
@@ -201,7 +203,7 @@ bool initspeichern(const host::Host &host, const Druckvorgaben &vorgaben, const 
 {
     Writer writer(host);
     visit(writer, vorgaben, page);
-    return writer.allWritten();
+    return writer.write();
 }
 
 ReportMeasures ReportMeasures::read(const host::Host &host)
@@ -226,18 +228,17 @@ ReportMeasures ReportMeasures::read(const host::Host &host)
 
 bool ReportMeasures::write(const host::Host &host) const
 {
-    bool allWritten = true;
-    const auto put = [&](const QString &section, const QString &key, double value, double before) {
+    std::vector<host::Host::Setting> changed;
+    const auto put = [&changed](const QString &section, const QString &key, double value, double before) {
         if (value != before)
-            allWritten =
-                host.inischreiben(host.ownSettingsFile(), section, key, trimmedNumberText(value)) && allWritten;
+            changed.push_back({section, key, trimmedNumberText(value)});
     };
     const ReportMeasures before = read(host);
     for (std::size_t i = 0; i < spaltenKeys.size(); ++i)
         put(Spalten, spaltenKeys[i], spaltenbreiten[i], before.spaltenbreiten[i]);
     put(Grafik, Fontfaktor, fontfaktor, before.fontfaktor);
     put(Grafik, Bildgroesse, bildprozent, before.bildprozent);
-    return allWritten;
+    return host.inischreiben(host.ownSettingsFile(), changed);
 }
 
 } // namespace kalvenor::settings

@@ -16,7 +16,7 @@ namespace kalvenor::settings {
 void initladen(const host::Host &host, Druckvorgaben &vorgaben, PageSetup &page);
 
 /// Saves all of it, in the order of initladen; a key that already reads so is left as it is. Column widths and font
-/// factor are not written. False where something could not be written; the rest is.
+/// factor are not written. False where it could not be written: nothing was then.
 bool initspeichern(const host::Host &host, const Druckvorgaben &vorgaben, const PageSetup &page);
 
 /// Measures of the report that other keys of the same file hold. As made, the defaults.
@@ -33,7 +33,7 @@ struct ReportMeasures {
 
     /// Never fails.
     static ReportMeasures read(const host::Host &host);
-    /// Writes those that the file does not give already. False where one could not be written.
+    /// Writes those that the file does not give already. False where that failed: none was then.
     bool write(const host::Host &host) const;
 };
 

@@ -189,6 +189,46 @@ void insertLines(QString &text, qsizetype at, const QString &lines)
     text.insert(at, (lineIsOpen ? LineEnd : QString()) + lines + LineEnd);
 }
 
+// The file's content for a change; nothing where it cannot be read or its folder is missing.
+std::optional<Units> contentToChange(const QString &nativeFile)
+{
+    if (nativeFile.isEmpty())
+        return std::nullopt;
+    FileFault fault = FileFault::None;
+    Units file(readWhole(nativeFile, fault));
+    if (fault == FileFault::NotFound ? !QFileInfo(QFileInfo(nativeFile).absolutePath()).isDir()
+                                     : fault != FileFault::None)
+        return std::nullopt;
+    return file;
+}
+
+// Sets or deletes one value; false where there was nothing to delete.
+bool change(Units &file, const QByteArray &section, const std::optional<QByteArray> &key,
+            const std::optional<QByteArray> &value)
+{
+    const QString sectionName = file.fromAnsi(trimmedName(section));
+    const QString keyName = file.fromAnsi(trimmedName(key.value_or(QByteArray())));
+    const Found found = find(file.text, sectionName, keyName);
+    if (key && value) {
+        const QString newValue = file.fromAnsi(*value);
+        const QString newLine = keyName + u'=' + newValue;
+        if (found.key)
+            file.text.replace(found.key->valueBegin, found.key->textEnd - found.key->valueBegin,
+                              found.key->value ? newValue : u'=' + newValue);
+        else if (found.header)
+            insertLines(file.text, found.behindLastKey, newLine);
+        else
+            insertLines(file.text, file.text.size(), u'[' + sectionName + u']' + LineEnd + newLine);
+    } else if (key && found.key) {
+        file.text.remove(found.key->begin, found.key->next - found.key->begin);
+    } else if (!key && found.header) {
+        file.text.remove(found.header->begin, found.sectionEnd - found.header->begin);
+    } else {
+        return false;
+    }
+    return true;
+}
+
 } // namespace
 
 QByteArray getPrivateProfileString(const QByteArray &section, const QByteArray &key, const QByteArray &fallback,
@@ -213,35 +253,22 @@ QByteArray getPrivateProfileString(const QByteArray &section, const QByteArray &
 bool writePrivateProfileString(const QByteArray &section, const std::optional<QByteArray> &key,
                                const std::optional<QByteArray> &value, const QString &nativeFile)
 {
-    if (nativeFile.isEmpty())
+    std::optional<Units> file = contentToChange(nativeFile);
+    if (!file)
         return false;
-    FileFault fault = FileFault::None;
-    Units file(readWhole(nativeFile, fault));
-    if (fault == FileFault::NotFound ? !QFileInfo(QFileInfo(nativeFile).absolutePath()).isDir()
-                                     : fault != FileFault::None)
-        return false;
+    return !change(*file, section, key, value) || replaceFileSafely(nativeFile, file->toBytes(), nullptr);
+}
 
-    const QString sectionName = file.fromAnsi(trimmedName(section));
-    const QString keyName = file.fromAnsi(trimmedName(key.value_or(QByteArray())));
-    const Found found = find(file.text, sectionName, keyName);
-    if (key && value) {
-        const QString newValue = file.fromAnsi(*value);
-        const QString newLine = keyName + u'=' + newValue;
-        if (found.key)
-            file.text.replace(found.key->valueBegin, found.key->textEnd - found.key->valueBegin,
-                              found.key->value ? newValue : u'=' + newValue);
-        else if (found.header)
-            insertLines(file.text, found.behindLastKey, newLine);
-        else
-            insertLines(file.text, file.text.size(), u'[' + sectionName + u']' + LineEnd + newLine);
-    } else if (key && found.key) {
-        file.text.remove(found.key->begin, found.key->next - found.key->begin);
-    } else if (!key && found.header) {
-        file.text.remove(found.header->begin, found.sectionEnd - found.header->begin);
-    } else {
-        return true; // nothing to delete
-    }
-    return replaceFileSafely(nativeFile, file.toBytes(), nullptr);
+bool writePrivateProfileStrings(std::span<const ProfileValue> values, const QString &nativeFile)
+{
+    if (values.empty())
+        return true;
+    std::optional<Units> file = contentToChange(nativeFile);
+    if (!file)
+        return false;
+    for (const ProfileValue &each : values)
+        change(*file, each.section, each.key, each.value);
+    return replaceFileSafely(nativeFile, file->toBytes(), nullptr);
 }
 
 } // namespace kalvenor

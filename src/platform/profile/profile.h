@@ -5,6 +5,7 @@
 #include <optional>
 #include <QByteArray>
 #include <QString>
+#include <span>
 
 // Profile (INI) files with the semantics of GetPrivateProfileStringA and WritePrivateProfileStringA.
 // Behaviour after github.com/WelliSolutions/IniFileFormatReverseEngineering and Microsoft's documentation.
@@ -19,5 +20,13 @@ QByteArray getPrivateProfileString(const QByteArray &section, const QByteArray &
 /// byte. False where the file cannot be written; the old file is then untouched.
 bool writePrivateProfileString(const QByteArray &section, const std::optional<QByteArray> &key,
                                const std::optional<QByteArray> &value, const QString &nativeFile);
+
+struct ProfileValue {
+    QByteArray section, key, value;
+};
+
+/// Writes the values in their order as single writes would, but the file changes once: all of them or none. False where
+/// it cannot be written.
+bool writePrivateProfileStrings(std::span<const ProfileValue> values, const QString &nativeFile);
 
 } // namespace kalvenor

@@ -154,6 +154,16 @@ TEST_F(Profile, Utf16KeepsWhatWindows1252Lacks)
     EXPECT_EQ(get(), wide(u"[Sec]\r\nA=\u0416\u20AC\u00E4\r\nB=\u20AC\r\n;\u4E2D\r\n"));
 }
 
+TEST_F(Profile, SeveralValuesChangeTheFileOnce)
+{
+    put("[B]\nX=1\n");
+    const ProfileValue values[] = {{"Sec", "Key", "1"}, {"b", "x", "2"}, {"Sec", "Key", "3"}, {"Sec", "L", ""}};
+    EXPECT_TRUE(writePrivateProfileStrings(values, m_file));
+    EXPECT_EQ(get(), "[B]\nX=2\n[Sec]\r\nKey=3\r\nL=\r\n");
+    EXPECT_FALSE(writePrivateProfileStrings(values, m_folder.path()));
+    EXPECT_TRUE(writePrivateProfileStrings({}, m_folder.path()));
+}
+
 TEST_F(Profile, WriteMakesOrRefuses)
 {
     EXPECT_TRUE(writePrivateProfileString("Sec", "Key", {}, m_file));
