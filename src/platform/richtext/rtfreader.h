@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QString>
+
+class QTextDocument;
+
+// Rich text of classic controls and of office programs (Rich Text Format Specification 1.9.1) into a text document.
+namespace kalvenor {
+
+/// Lengths of block formats are pixels at 96 to the inch, so many twips each.
+constexpr int twipsPerPixel = 15;
+/// A list's level moves its text so many twips to the right (the indent width of a QTextDocument).
+constexpr int twipsPerListLevel = 40 * twipsPerPixel;
+/// Font sizes beyond are made smaller, in half points.
+constexpr int largestHalfPoints = 1600;
+
+/// What a text held beside what the document now shows.
+struct RtfResult {
+    bool isRtf = true;     ///< false: it was taken as plain text
+    bool damaged = false;  ///< groups do not match or it ends in the middle; what could be read was read
+    bool tooLarge = false; ///< only the beginning was read
+    bool pictures = false; ///< or embedded objects: left out
+    bool tables = false;   ///< shown as lines with tabs
+    bool others = false;   ///< headers, footers, notes, text boxes, hidden or deleted text: left out
+
+    bool everythingShown() const { return !(damaged || tooLarge || pictures || tables || others); }
+};
+
+/// Begins as RTF does: `{\rtf`, or a colour table and then `\rtf`, as rtfanpassen makes it.
+bool looksLikeRtf(QByteArrayView text);
+
+/// Replaces the document's content; its default font stays and its undo history is cleared. Every character of RTF gets
+/// a size and, where the text names one, a font family; bullets become lists of discs. What is not RTF is read as plain
+/// text (UTF-8, UTF-16 with its mark, else Windows-1252). Never fails.
+RtfResult readRtf(QByteArrayView rtf, QTextDocument &document);
+
+/// The bytes for RTF that is kept in a string read as Windows-1252: what that lacks becomes `\uN?`. Plain text gives
+/// UTF-8. readRtf takes both.
+QByteArray rtfBytes(const QString &rtf);
+
+} // namespace kalvenor

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArrayView>
+
+namespace kalvenor {
+
+struct RtfToken {
+    enum class Kind {
+        GroupStart,
+        GroupEnd,
+        Word,   ///< `\name`, `\nameN`; \bin with its bytes is passed over
+        Symbol, ///< `\` and one character that is no letter: bytes holds it
+        Hex,    ///< `\'xx`: value is the byte, without hasValue the two digits are not there
+        Text,   ///< bytes as they stand, without line ends
+        End
+    };
+    Kind kind = Kind::End;
+    QByteArrayView bytes = {}; ///< a word's name, a symbol's character, the text
+    int value = 0;             ///< clamped to 32 bits
+    bool hasValue = false;
+};
+
+/// Takes RTF apart (Rich Text Format Specification 1.9.1, "RTF Syntax"). The bytes must outlive it.
+class RtfTokenizer {
+public:
+    explicit RtfTokenizer(QByteArrayView rtf) : m_rtf(rtf) {}
+
+    /// The next token, End for ever once there is none.
+    RtfToken next();
+    /// The bytes ended inside a control word or inside the data of \bin.
+    bool isCut() const { return m_cut; }
+
+private:
+    bool atEnd() const { return m_at >= m_rtf.size(); }
+    RtfToken control();
+    RtfToken hex();
+    RtfToken word();
+    RtfToken text();
+    void passOver(int bytes);
+
+    QByteArrayView m_rtf;
+    qsizetype m_at = 0;
+    bool m_cut = false;
+};
+
+} // namespace kalvenor
