@@ -98,6 +98,13 @@ constexpr LanguageText texts[] = {
     {21309, u"Drucken und speichern", u"Printing and saving"},
     {21310, u"Vorlagen", u"Templates"},
     {21311, u"Tastenkürzel", u"Keyboard shortcuts"},
+    {21312, u"Anleitung", u"Manual"},
+    {21313, u"In der Anleitung suchen", u"Search the manual"},
+    {21314, u"Größere Schrift", u"Larger text"},
+    {21315, u"Kleinere Schrift", u"Smaller text"},
+    {21316, u"Nächste Fundstelle", u"Next match"},
+    {21317, u"Vorige Fundstelle", u"Previous match"},
+    {21318, u"%1 von %2", u"%1 of %2"},
     // Templates
     {21400, u"Vorlage öffnen", u"Open template"},
     {21401, u"Vorlage speichern unter", u"Save template as"},
