@@ -130,7 +130,7 @@ TEST(Chart, OddTablesAndLooksArePainted)
                                  {{u"M"_qs}, {u"1"_qs, u"2"_qs}, {{u"-4"_qs}, {u"1e300"_qs}}},
                                  {{huge, huge}, {huge, huge}, {{u"1"_qs, u"2"_qs}, {u"1"_qs, u"0"_qs}}},
                                  centuries(400)};
-    for (int type = -1; type <= 17; ++type) { // numbers without a type among them
+    for (const int type : {-1, 1, 2, 5, 7, 8, 14, 16, 77}) { // numbers without a type among them
         for (const ChartTable &table : tables) {
             for (const QSize size : {QSize(1, 1), QSize(40, 30), QSize(300, 200)}) {
                 ChartLook look = fullLook(static_cast<ChartType>(type));
