@@ -63,8 +63,10 @@ void BlockSetter::operator()(const TableStart &table)
     std::vector<Strip> heading;
     for (const auto &row : table.heading)
         setRow(row, 0, heading);
-    for (Strip &strip : heading)
+    for (Strip &strip : heading) {
         strip.keepWithNext = true;
+        strip.headings.clear(); // it stands on each page, the outline would not know which
+    }
     m_rowSpacing = 0;
     m_flow.setHeading({});
     m_headingOwed = heading;

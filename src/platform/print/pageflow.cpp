@@ -32,8 +32,6 @@ void PageFlow::setHeading(std::vector<Strip> heading)
         height += strip.spaceBefore + strip.height;
     if (height > (m_bottom - m_top) / 2)
         heading.clear();
-    for (Strip &strip : heading)
-        strip.headings.clear(); // the outline names it once
     m_heading = std::move(heading);
 }
 
@@ -47,7 +45,7 @@ double PageFlow::roomForNext() const
 {
     double taken = 0;
     for (const Strip &strip : m_group)
-        taken += strip.spaceBefore + strip.height;
+        taken += (&strip == &m_group.front() ? 0 : strip.spaceBefore) + strip.height;
     return std::max(m_bottom - m_top - taken, (m_bottom - m_top) / 2);
 }
 

@@ -89,7 +89,7 @@ struct TextRun {
 /// A paragraph of several styles; each line is as high as its tallest. Line ends inside a run begin new lines, tabs
 /// go to the next stop, one every half inch from the left margin. Background colours lie behind the words alone.
 struct RichParagraph {
-    std::vector<TextRun> runs;
+    std::vector<TextRun> runs = {};
     Alignment alignment = Alignment::Left;
     Twips leftIndent = 0;
     Twips hanging = 0;     ///< the first line begins so much further left, negative: further right
@@ -105,7 +105,7 @@ struct RichParagraph {
 /// A picture stands on one page. It is made smaller in proportion where it is wider than the line or higher than a
 /// page.
 struct Picture {
-    QImage image;
+    QImage image = {};
     Twips width = 0;
     Twips height = 0;
     Alignment alignment = Alignment::Left; ///< Justified stands left

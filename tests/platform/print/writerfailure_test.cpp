@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/basic/error.h"
+#include "platform/print/htmlwriter.h"
+#include "platform/print/pdfwriter.h"
+#include "platform/print/rtfwriter.h"
+
+#include <gtest/gtest.h>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace kalvenor {
+namespace {
+
+using Writer = void (*)(const PrintDocument &, const QString &, const Progress &);
+
+const struct {
+    const char *name;
+    Writer write;
+} writers[] = {
+    {"PDF",
+     [](const PrintDocument &document, const QString &path, const Progress &progress) {
+         writePdf(PageLayout(document), document.title, path, progress);
+     }},
+    {"RTF", writeRtfFile},
+    {"HTML", writeHtmlFile},
+};
+
+class WriterFailure : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        m_document.add(TableStart{columnsFromFormat(u"<5000|>1200")});
+        for (int i = 1; i <= 2000; ++i)
+            m_document.add(TableRow{{{u"Müller-Łódź, Jürgen Ελένη "_qs + QString::number(i)}, {u"77 J."_qs}}});
+    }
+
+    QString path() const { return m_folder.filePath(u"out"_qs); }
+
+    void writeOld() const
+    {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
+    }
+
+    /// The kind of the error of writing, after which the old file must stand there alone.
+    ErrorKind failure(Writer write, const Progress &progress = {}) const
+    {
+        std::optional<ErrorKind> kind;
+        try {
+            write(m_document, path(), progress);
+        } catch (const Error &error) {
+            kind = error.kind();
+            EXPECT_EQ(error.place(), path());
+        }
+        QFile file(path());
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_EQ(file.readAll(), "old");
+        EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{u"out"_qs});
+        return kind.value();
+    }
+
+    PrintDocument m_document;
+    QTemporaryDir m_folder;
+};
+
+TEST_F(WriterFailure, CancellingKeepsTheOldFile)
+{
+    for (const auto &writer : writers) {
+        writeOld();
+        qint64 last = 0;
+        const auto stop = [&](qint64 done, qint64 total) {
+            last = done;
+            return done < total / 3;
+        };
+        EXPECT_EQ(failure(writer.write, stop), ErrorKind::Cancelled) << writer.name;
+        EXPECT_LT(last, 1100) << writer.name << " went on";
+    }
+}
+
+TEST_F(WriterFailure, UnwritablePlaceIsSaid)
+{
+    QStringList places{m_folder.filePath(u"none/out"_qs), m_folder.path(), QString()};
+#ifdef Q_OS_UNIX
+    places << u"/dev/full"_qs << m_folder.filePath(u"pipe"_qs); // what is no file must not be replaced by one
+    ASSERT_EQ(mkfifo(QFile::encodeName(places.back()).constData(), 0600), 0);
+    if (geteuid() != 0) { // nothing is closed to root
+        const QString closed = m_folder.filePath(u"closed"_qs);
+        ASSERT_EQ(mkdir(QFile::encodeName(closed).constData(), 0500), 0);
+        places << closed + u"/out"_qs;
+    }
+#endif
+    for (const auto &writer : writers) {
+        for (const QString &place : places) {
+            try {
+                writer.write(m_document, place, {});
+                ADD_FAILURE() << writer.name << ' ' << qPrintable(place);
+            } catch (const Error &error) {
+                EXPECT_EQ(error.kind(), ErrorKind::WriteFailed) << error.what();
+                EXPECT_TRUE(error.text().contains(QLatin1String(writer.name))) << error.what();
+            }
+        }
+    }
+}
+
+#ifdef Q_OS_UNIX
+TEST_F(WriterFailure, FullDiskKeepsTheOldFile)
+{
+    // A limit on file sizes stands for the full disk: writing beyond it fails half way.
+    rlimit old{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    for (const auto &writer : writers) {
+        writer.write(m_document, path(), {});
+        const auto whole = static_cast<rlim_t>(QFileInfo(path()).size());
+        writeOld();
+        for (const rlim_t bytes : {rlim_t(100), whole / 2, whole - 10}) {
+            const rlimit few{bytes, old.rlim_max};
+            ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &few), 0);
+            EXPECT_EQ(failure(writer.write), ErrorKind::WriteFailed) << writer.name << ' ' << bytes;
+            ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &old), 0);
+        }
+    }
+    std::signal(SIGXFSZ, handler);
+}
+#endif
+
+} // namespace
+} // namespace kalvenor
