@@ -1,0 +1,120 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/richtext/rtfreader.h"
+
+#include "platform/richtext/formats.h"
+#include <gtest/gtest.h>
+
+using namespace kalvenor;
+
+namespace {
+
+constexpr const char *classic =
+    R"({\rtf1\ansi\ansicpg1252\deff0\deftab720{\fonttbl{\f0\fswiss MS Sans Serif;}{\f1\froman\fcharset2 Symbol;}{\f2\fnil\fcharset204 Arial{\*\falt X};}}{\colortbl ;\red255\green0\blue0;\red0\green0\blue128;}\deflang1031)";
+
+/// `body` in a document with the fonts and colours above.
+QByteArray inClassic(const char *body)
+{
+    return QByteArray(classic) + body + "}";
+}
+
+} // namespace
+
+TEST(RtfReader, ReadsWhatControlsAndOfficeProgramsWrite)
+{
+    const struct {
+        const char *body;
+        const char *shown; ///< see described(); the font MS Sans Serif is left out
+    } rows[] = {
+        {R"(\pard\plain\f0\fs17 Text\par )", "[8.5]Text"},
+        {R"(\pard a\b b\i c\b0 d\i0\ul e\uldb f\ulnone\strike g\strike0 h\par)", "a[b]b[b i]c[i]d[u]ef[s]gh"},
+        {R"(a{\b\cf1 b{\i c}}\cf2\highlight1 d\plain e)", "a[b #ff0000]b[b i #ff0000]c[#000080 on #ff0000]de"},
+        {R"(\pard\qc a\par\qr b\par\qj c\par\pard d\par)", "(centre)a|(right)b|(justified)c|d"},
+        {R"(\pard\li300\fi-150 a\line b\par\par c)", "(20,-10)a/b|(20,-10)|(20,-10)c"},
+        // bullets of a classic control, of Word (before \pard), numbers as text, levels
+        {R"(\pard{\pntext\f1\'B7\tab}{\*\pn\pnlvlblt\pnf1\pnindent0{\pntxtb\'B7}}\fi-200\li200 a\par{\pntext\f1\'B7\tab}b\par\pard c)",
+         "* a|* b|c"},
+        {R"({\listtext\pard\plain\f1 \'b7\tab}\pard\fi-360\li720\ilvl0\ls1 a\par{\listtext o\tab}\pard\ilvl1\ls1\li1440 b\par)",
+         "* a|** b"},
+        {R"({\listtext 1.\tab}\pard\ls2 a\par\pard b)", "1.>a|b"},
+        // characters
+        {R"(\'fc\'80 \u8364?\u-10179?\u-8704?\uc2\u937 xy\uc0\u945 z\~\_\-\emdash\{\\\})",
+         "ü€ €😀Ωαz\u00A0\u2011\u00AD—{\\}"},
+        {R"({\f2\'cf\'f0\'e8}\f1 a\'b7\u-3913?\par)", "[Arial]При[]α••"},
+        {R"(\uc1\u8217\rquote s\u8364{}x\u-10179?y)", "’s€x\uFFFDy"},
+        {"a\r\nb\\\nc\xfc", "ab|cü"},
+        // what is not shown
+        {R"(a{\*\unknown x{y}}{\pict 00ff}{\header h}\bin3 }}}{\field{\*\fldinst LINK}{\fldrslt b}}{\v no}c)", "abc"},
+        {R"(\trowd\cellx1\intbl a\cell b\cell\row\intbl c\cell\cell\row\pard d)", "a>b|c|d"},
+        {R"(a\line\lined )", "a/"},
+        {R"(x\line{\pntext\f1\'B7\tab}a\line{\pntext\f1\'B7\tab}b)", "x|* a|* b"},
+        {R"(\fs0 a\fs99999 b\fs1 c\cf99 d)", "a[800]b[1]cd"},
+        {"", ""},
+    };
+    for (const auto &row : rows) {
+        QTextDocument document;
+        const RtfResult result = readRtf(inClassic(row.body), document);
+        QString shown = test::described(document);
+        shown.replace(QStringLiteral(" MS Sans Serif"), QString())
+            .replace(QStringLiteral("MS Sans Serif "), QString())
+            .replace(QStringLiteral("[MS Sans Serif]"), QString());
+        EXPECT_EQ(shown.toStdString(), QString::fromUtf8(row.shown).remove(QStringLiteral("[]")).toStdString())
+            << row.body;
+        EXPECT_TRUE(result.isRtf);
+        EXPECT_FALSE(result.damaged || result.tooLarge) << row.body;
+    }
+}
+
+TEST(RtfReader, SaysWhatItLeavesOut)
+{
+    const struct {
+        QByteArray text;
+        bool rtf, damaged, pictures, tables, others;
+    } rows[] = {
+        {"{\\rtf1 a}", true, false, false, false, false},
+        {"\xEF\xBB\xBF\r\n{\\rtf1 a}\0", true, false, false, false, false},
+        {"{{\\colortbl;}\\rtf1 a}", true, false, false, false, false},
+        {"{\\rtf1 a", true, true, false, false, false},
+        {"{\\rtf1 a\\'zz}", true, true, false, false, false},
+        {"{\\rtf1 a\\bin9 }", true, true, false, false, false},
+        {"{\\rtf1 a{\\*\\shppict{\\pict 00}}}", true, false, true, false, false},
+        {"{\\rtf1\\trowd a\\cell\\row}", true, false, false, true, false},
+        {"{\\rtf1{\\footnote x}}", true, false, false, false, true},
+        {"a {\\rtf1", false, false, false, false, false},
+        {"", false, false, false, false, false},
+    };
+    for (const auto &row : rows) {
+        QTextDocument document;
+        const RtfResult result = readRtf(row.text, document);
+        EXPECT_TRUE(result.isRtf == row.rtf && result.damaged == row.damaged && result.pictures == row.pictures &&
+                    result.tables == row.tables && result.others == row.others)
+            << row.text.toStdString();
+    }
+}
+
+TEST(RtfReader, TakesOtherTextsAsPlain)
+{
+    const struct {
+        QByteArray text;
+        const char *shown;
+    } rows[] = {{"a\r\nb\\par", "a|b\\par"}, {"\xc3\xbc", "ü"}, {"\xfc", "ü"}, {QByteArray("\xff\xfe\xfc\0", 4), "ü"}};
+    for (const auto &row : rows) {
+        QTextDocument document;
+        readRtf(row.text, document);
+        EXPECT_EQ(document.toPlainText().replace(u'\n', u'|').toStdString(), row.shown);
+    }
+}
+
+TEST(RtfReader, ReturnsFromEveryPrefixAndFromDeepNesting)
+{
+    const QByteArray whole =
+        inClassic(R"(\pard\b a\u-10179?\'fc{\pntext\f1\'B7\tab}{\*\pn\pnlvlblt{\pntxtb\'B7}}x\cell\row\par\bin2 xx)");
+    for (qsizetype length = 5; length < whole.size(); ++length) {
+        QTextDocument document;
+        EXPECT_TRUE(readRtf(whole.first(length), document).damaged) << length;
+    }
+    QTextDocument document;
+    EXPECT_TRUE(readRtf("{\\rtf1 " + QByteArray(1'000'000, '{') + "x", document).damaged);
+    EXPECT_TRUE(readRtf("{\\rtf1 a" + QByteArray("\\par").repeated(200'000) + "}", document).tooLarge);
+    EXPECT_LE(document.blockCount(), 100'002);
+}

@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/richtext/rtfwriter.h"
+
+#include "platform/richtext/formats.h"
+#include <gtest/gtest.h>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+using namespace kalvenor;
+
+namespace {
+
+constexpr const char *html =
+    "<p align=center><b>Tit\"el_\\fs9</b> <span style='font-size:8.5pt;font-family:My_Font'>klein</span></p><p></p>"
+    "<ul><li>eins<li><i>zwei</i><ul><li>tief</ul></ul>"
+    "<p style='color:#ff0000;background:#00ff00'>{\xE2\x82\xAC\xCE\xA9\xF0\x9F\x98\x80\xC2\xA0\xC2\xAD}<br>neu</p>";
+
+} // namespace
+
+TEST(RtfWriter, WritesTheClassicForm)
+{
+    QTextDocument document;
+    document.setDefaultFont(QFont(QStringLiteral("Arial"), 10));
+    EXPECT_EQ(writeRtf(document), "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1031{\\fonttbl{\\f0\\fnil\\fcharset0 "
+                                  "Arial;}}\r\n\\viewkind4\\uc1\\pard\\f0\\fs20\\par\r\n}\r\n");
+    document.setHtml(QString::fromUtf8(html));
+    const QByteArray rtf = writeRtf(document);
+    for (const char *part :
+         {"\\qc\\b\\f0\\fs20 Tit\\'22el_\\'5cfs9\\b0  ", "\\fnil\\fcharset0 My\\'5fFont;", "\\fs17 klein",
+          "{\\*\\pn\\pnlvlblt\\pnf2", "\\i zwei\\par", "\\li1200", "\\{\\'80\\u937?\\u-10179?\\u-8704?\\~\\-\\}"})
+        EXPECT_TRUE(rtf.contains(part)) << part << "\n" << rtf.toStdString();
+    EXPECT_TRUE(std::all_of(rtf.begin(), rtf.end(), [](char c) { return c > 0; }));
+}
+
+TEST(RtfWriter, IsReadAgainAsItWas)
+{
+    QTextDocument document;
+    document.setHtml(QString::fromUtf8(html));
+    const QByteArray rtf = writeRtf(document);
+    QTextDocument again;
+    EXPECT_TRUE(readRtf(rtf, again).everythingShown());
+    EXPECT_EQ(again.toPlainText(), document.toPlainText());
+    EXPECT_EQ(writeRtf(again).toStdString(), rtf.toStdString());
+    EXPECT_EQ(again.findBlockByNumber(3).textList()->format().indent(), 2);
+}
+
+TEST(RtfWriter, IsReadByAnOfficeProgram)
+{
+    const QString soffice = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+    if (soffice.isEmpty())
+        GTEST_SKIP() << "soffice is not installed";
+    QTextDocument document;
+    document.setHtml(QString::fromUtf8(html));
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("a.rtf")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(writeRtf(document));
+    file.close();
+    QProcess office;
+    office.start(soffice, {QStringLiteral("-env:UserInstallation=file://") + folder.filePath(QStringLiteral("profile")),
+                           QStringLiteral("--headless"), QStringLiteral("--convert-to"), QStringLiteral("html"),
+                           QStringLiteral("--outdir"), folder.path(), file.fileName()});
+    ASSERT_TRUE(office.waitForFinished(120'000));
+    QFile made(folder.filePath(QStringLiteral("a.html")));
+    ASSERT_TRUE(made.open(QIODevice::ReadOnly)) << office.readAllStandardError().toStdString();
+    QTextDocument shown;
+    shown.setHtml(QString::fromUtf8(made.readAll()));
+    const QRegularExpression blanks(QStringLiteral("\\s"));
+    EXPECT_EQ(shown.toPlainText().remove(blanks).toStdString(), document.toPlainText().remove(blanks).toStdString());
+    EXPECT_TRUE(test::described(shown).contains(QStringLiteral("* ")));
+}

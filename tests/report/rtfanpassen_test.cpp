@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "report/rtfanpassen.h"
+
+#include "platform/basic/error.h"
+#include "platform/richtext/rtfreader.h"
+#include <gtest/gtest.h>
+#include <limits>
+#include <QTextBlock>
+#include <QTextDocument>
+
+using namespace kalvenor;
+using namespace kalvenor::report;
+
+namespace {
+
+constexpr const char *head = R"({\rtf1\ansi\ansicpg1252\deff0\deflang1031{\fonttbl{\f0\fnil\fcharset0 Arial;}})";
+constexpr const char *black =
+    R"({{\colortbl\red0\green0\blue0;\red255\green0\blue0;\red0\green0\blue128;}\rtf1\ansi\ansicpg1252\deff0\deflang1031{\fonttbl{\f0\fnil\fcharset0 Arial;}})";
+
+} // namespace
+
+TEST(Rtfanpassen, RewritesBluntly)
+{
+    const QString line = QStringLiteral("\r\n");
+    const struct {
+        const char *in; ///< behind the head
+        double scale;
+        const char *out; ///< behind head and colour table; without line ends
+    } rows[] = {
+        {R"(\fs20 a_b\par c})", 1, R"(\viewkind4\uc1\lined\f0\fs20 a b\linec\line})"},
+        {R"(\fs20 a\fs17\b b\par})", 2, R"(\viewkind4\uc1\lined\f0\fs40 a\b\fs34 b\line})"},
+        {R"(\fs17 a\par})", 1.5, R"(\viewkind4\uc1\lined\f0\fs25.5 a\line})"},
+        {R"(\fs20 a\par})", 0, R"(\viewkind4\uc1\lined\f0\fs0 a\line})"},
+        {R"(\fs20\qc \\fs9 \\par\_x\par\pard y})", 1,
+         R"(\viewkind4\uc1\lined\qc\f0\fs20\'5cfs9 \'5cpar\u8209?x\line\lined y\line})"},
+        {R"(\fs0 a})", 2, R"(\viewkind4\uc1\lined\f0\fs48 a\line})"},
+    };
+    for (const auto &row : rows) {
+        QString rtf = QLatin1String(head) + QLatin1String(row.in);
+        rtfanpassen(7, rtf, row.scale);
+        EXPECT_EQ(rtf.remove(line).toStdString(), std::string(black) + row.out);
+    }
+}
+
+TEST(Rtfanpassen, KeepsColoursAndBlankTexts)
+{
+    QString colored = QLatin1String(head) + QStringLiteral(R"({\colortbl ;\red1\green2\blue3;}\cf1 a})");
+    rtfanpassen(0, colored);
+    EXPECT_TRUE(colored.startsWith(QStringLiteral("{\\rtf1")));
+    EXPECT_EQ(colored.count(QStringLiteral("colortbl")), 1);
+
+    for (const char *blank : {"", "   ", "{\\rtf1\\fs20   \\par}", "{\\rtf1}"}) {
+        QString rtf = QLatin1String(blank);
+        rtfanpassen(0, rtf, 2);
+        EXPECT_EQ(rtf, QLatin1String(blank));
+    }
+    QString text = QStringLiteral("a");
+    EXPECT_THROW(rtfanpassen(0, text, std::numeric_limits<double>::infinity()), Error);
+    EXPECT_EQ(text, "a");
+}
+
+TEST(Rtfanpassen, ResultIsStillReadAsWritten)
+{
+    QString rtf =
+        QLatin1String(head) +
+        QStringLiteral(R"(\fs20\b Titel\b0\par {\pntext\'B7\tab}\li200 eins\par{\pntext\'B7\tab}zwei \u8364?\par})");
+    rtfanpassen(0, rtf);
+    QTextDocument document;
+    EXPECT_TRUE(readRtf(rtfBytes(rtf), document).everythingShown());
+    EXPECT_EQ(document.toPlainText().toStdString(), "Titel\neins\nzwei €\n");
+    EXPECT_NE(document.findBlockByNumber(2).textList(), nullptr);
+
+    QString plain = QStringLiteral("Ω_ü");
+    rtfanpassen(0, plain);
+    readRtf(rtfBytes(plain), document);
+    EXPECT_EQ(document.toPlainText(), QStringLiteral("Ω ü\n"));
+}
