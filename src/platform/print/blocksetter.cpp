@@ -6,9 +6,24 @@
 #include "platform/print/richlines.h"
 
 #include <algorithm>
+#include <QPainter>
 #include <utility>
 
 namespace kalvenor {
+namespace {
+
+/// A printed page knows no transparency, and PDF/A-1 forbids it.
+QImage opaque(const QImage &image)
+{
+    if (!image.hasAlphaChannel())
+        return image;
+    QImage made(image.size(), QImage::Format_RGB32);
+    made.fill(Qt::white);
+    QPainter(&made).drawImage(QRect(QPoint(), image.size()), image);
+    return made;
+}
+
+} // namespace
 
 void BlockSetter::operator()(const Paragraph &paragraph)
 {
@@ -41,7 +56,7 @@ void BlockSetter::operator()(const Picture &picture)
     endTable();
     Strip strip;
     strip.spaceBefore = picture.spaceBefore + m_spaceOwed;
-    const QSizeF size = fittedSize(picture, {m_right - m_left, m_flow.roomForNext() - strip.spaceBefore});
+    const QSizeF size = fittedSize(picture, {m_right - m_left, m_flow.roomForNext(strip.spaceBefore)});
     const double rest = m_right - m_left - size.width();
     double x = m_left;
     if (picture.alignment == Alignment::Right)
@@ -50,7 +65,7 @@ void BlockSetter::operator()(const Picture &picture)
         x += rest / 2;
     strip.height = size.height();
     strip.keepWithNext = picture.keepWithNext;
-    strip.pictures.push_back({QRectF(QPointF(x, 0), size), picture.image});
+    strip.pictures.push_back({QRectF(QPointF(x, 0), size), opaque(picture.image)});
     m_spaceOwed = picture.spaceAfter;
     m_flow.add(std::move(strip));
 }

@@ -41,9 +41,9 @@ void PageFlow::breakPage()
     newPage();
 }
 
-double PageFlow::roomForNext() const
+double PageFlow::roomForNext(double spaceBefore) const
 {
-    double taken = 0;
+    double taken = m_group.empty() ? 0 : spaceBefore;
     for (const Strip &strip : m_group)
         taken += (&strip == &m_group.front() ? 0 : strip.spaceBefore) + strip.height;
     return std::max(m_bottom - m_top - taken, (m_bottom - m_top) / 2);

@@ -29,8 +29,8 @@ public:
     /// What is repeated on top of each page from the next one on; empty ends the repetition.
     void setHeading(std::vector<Strip> heading);
     void breakPage();
-    /// What a page has left for a strip that is kept with those added last; at least half a page.
-    double roomForNext() const;
+    /// What a page has left for a strip that is kept with those added last, `spaceBefore` it; at least half a page.
+    double roomForNext(double spaceBefore) const;
     /// The pages; the flow is empty afterwards.
     std::vector<Page> take();
 

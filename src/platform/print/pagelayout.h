@@ -31,7 +31,7 @@ struct PlacedGround {
 
 struct PlacedPicture {
     QRectF area;
-    QImage image;
+    QImage image; ///< on white where the document's was transparent, as paper is
 };
 
 /// Where a heading of the outline stands; y in twips from the paper's top.

@@ -10,14 +10,10 @@ void PagePainter::paint(QPainter &painter, const Page &page)
 {
     for (const PlacedGround &ground : page.grounds)
         painter.fillRect(ground.area, m_faces[static_cast<std::size_t>(ground.style)].style().background);
-    for (const PlacedPicture &picture : page.pictures) {
-        // Paper is white, and a printed page knows no transparency.
-        QImage opaque(picture.image.size(), QImage::Format_RGB32);
-        opaque.fill(Qt::white);
-        QPainter(&opaque).drawImage(0, 0, picture.image);
+    if (!page.pictures.empty())
         painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::LosslessImageRendering);
-        painter.drawImage(picture.area, opaque);
-    }
+    for (const PlacedPicture &picture : page.pictures)
+        painter.drawImage(picture.area, picture.image);
     QColor pen;
     for (const PlacedText &text : page.texts) {
         TextFace &face = m_faces[static_cast<std::size_t>(text.style)];

@@ -16,7 +16,7 @@ public:
     explicit PagePainter(const PageLayout &layout) : m_faces(layout.faces()) {}
 
     /// The painter's unit must be one twip and its origin the paper's top left corner; the paper itself is not painted.
-    /// Leaves the painter's pen and font changed.
+    /// Leaves the painter's pen, font and hints for pictures changed.
     void paint(QPainter &painter, const Page &page);
 
 private:
