@@ -3,7 +3,11 @@
 #include "platform/print/richlines.h"
 
 #include <algorithm>
+#include <limits>
+#include <QGlyphRun>
+#include <QRawFont>
 #include <QTextLayout>
+#include <utility>
 
 namespace kalvenor {
 namespace {
@@ -35,6 +39,8 @@ public:
             m_styles.insert(m_styles.end(), static_cast<std::size_t>(text.size()), run.style);
             m_text += text;
         }
+        m_turns = std::any_of(m_text.begin(), m_text.end(),
+                              [](QChar c) { return c.direction() == QChar::DirR || c.direction() == QChar::DirAL; });
     }
 
     std::vector<Strip> set(double left, double right)
@@ -137,19 +143,53 @@ private:
             qsizetype to = from + 1;
             // A spread line goes word by word; each takes its blank along, so that it can be searched and copied.
             while (to < end && styleAt(to) == styleAt(from) && m_text[to] != u'\t' && m_text[from] != u'\t' &&
-                   !(spread && m_text[to - 1] == u' ' && m_text[to] != u' '))
+                   !(spread && m_text[to - 1] == u' ' && m_text[to] != u' ') && !(m_turns && turns(to)))
                 ++to;
             setPiece(strip, line, from, to, ascent);
             from = to;
         }
     }
 
+    /// Whether a right to left text begins or ends here; what has no direction goes with the text before it.
+    bool turns(qsizetype place) const
+    {
+        const auto isRight = [](QChar c) {
+            return c.direction() == QChar::DirR || c.direction() == QChar::DirAL;
+        };
+        const auto isLeft = [](QChar c) {
+            return c.direction() == QChar::DirL || c.direction() == QChar::DirEN;
+        };
+        qsizetype before = place - 1;
+        while (before > 0 && !isRight(m_text[before]) && !isLeft(m_text[before]))
+            --before;
+        return isRight(m_text[before]) ? isLeft(m_text[place]) : isRight(m_text[place]);
+    }
+
+    /// Left and right edge of a piece in one direction.
+    std::pair<double, double> extent(const QTextLine &line, qsizetype from, qsizetype to) const
+    {
+        double left = line.cursorToX(static_cast<int>(from));
+        double right = line.cursorToX(static_cast<int>(to));
+        if (!m_turns)
+            return std::minmax(left, right);
+        // Where directions meet a place of the text is two places on the line: the glyphs know.
+        left = std::numeric_limits<double>::max();
+        right = 0;
+        for (const QGlyphRun &run : line.glyphRuns(static_cast<int>(from), static_cast<int>(to - from))) {
+            const QList<QPointF> positions = run.positions();
+            const QList<QPointF> advances = run.rawFont().advancesForGlyphIndexes(run.glyphIndexes());
+            for (qsizetype i = 0; i < positions.size(); ++i) {
+                left = std::min(left, positions[i].x());
+                right = std::max(right, positions[i].x() + advances[i].x());
+            }
+        }
+        return {std::min(left, right), right};
+    }
+
     void setPiece(Strip &strip, const QTextLine &line, qsizetype from, qsizetype to, double ascent) const
     {
-        const double begin = line.cursorToX(static_cast<int>(from));
-        const double end = line.cursorToX(static_cast<int>(to));
-        const double x = std::min(begin, end); // right to left it begins at the right
-        const double width = std::max(begin, end) - x;
+        const auto [x, end] = extent(line, from, to);
+        const double width = end - x;
         const StyleId style = styleAt(from);
         if (faceOf(style).style().background.isValid())
             strip.grounds.push_back({QRectF(x, 0, width, strip.height), style});
@@ -162,6 +202,7 @@ private:
     const std::vector<TextFace> &m_faces;
     QString m_text;
     std::vector<StyleId> m_styles; ///< of each unit of the text
+    bool m_turns = false;          ///< parts of it are written from right to left
     double m_bulletWidth = 0;
     std::vector<Strip> m_strips;
 };

@@ -5,6 +5,7 @@
 
 #include "platform/basic/error.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 #include <QTextBlockFormat>
 #include <QTextCursor>
@@ -79,6 +80,24 @@ TEST(RichLayout, SetsRunsOnLines)
         sheet.add(c.paragraph);
         EXPECT_EQ(pieces(PageLayout(sheet).pages().at(0)), c.pieces);
     }
+}
+
+TEST(RichLayout, PutsDirectionsInTheirPlaces)
+{
+    Sheet sheet;
+    sheet.add(RichParagraph{.runs = {{u"a שלום "_qs, sheet.plain}, {u"עולם"_qs, sheet.bold}, {u" b"_qs, sheet.plain}}});
+    const PageLayout layout(sheet);
+    std::vector<PlacedText> texts = layout.pages().at(0).texts;
+    std::sort(texts.begin(), texts.end(), [](const auto &a, const auto &b) { return a.x < b.x; });
+    QStringList order;
+    float end = 0;
+    for (const PlacedText &text : texts) {
+        order << text.text.trimmed();
+        EXPECT_GE(text.x, end - 15) << qPrintable(text.text) << " lies on the one before it";
+        end = text.x + text.width;
+    }
+    order.removeAll(QString());
+    EXPECT_EQ(order, (QStringList{u"a"_qs, u"עולם"_qs, u"שלום"_qs, u"b"_qs}));
 }
 
 TEST(RichLayout, SpreadsJustifiedLinesButTheLast)
