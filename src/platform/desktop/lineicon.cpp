@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
+#include <utility>
 
 namespace kalvenor {
 
@@ -117,7 +118,7 @@ QPainterPath pathOf(LineIcon which)
 
 class LineEngine : public QIconEngine {
 public:
-    explicit LineEngine(LineIcon which) : m_which(which) {}
+    explicit LineEngine(QPainterPath path, const QColor &bar = {}) : m_path(std::move(path)), m_bar(bar) {}
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
@@ -130,7 +131,9 @@ public:
         painter->translate(QRectF(rect).center() - QPointF(Field, Field) * scale / 2);
         painter->scale(scale, scale);
         painter->setPen(QPen(palette.brush(group, role), 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter->drawPath(pathOf(m_which));
+        painter->drawPath(m_path);
+        if (m_bar.isValid())
+            painter->fillRect(QRectF(4, 18.5, 16, 3.5), m_bar);
         painter->restore();
     }
 
@@ -143,17 +146,23 @@ public:
         return pixmap;
     }
 
-    QIconEngine *clone() const override { return new LineEngine(m_which); }
+    QIconEngine *clone() const override { return new LineEngine(m_path, m_bar); }
 
 private:
-    LineIcon m_which;
+    QPainterPath m_path;
+    QColor m_bar;
 };
 
 } // namespace
 
 QIcon lineIcon(LineIcon which)
 {
-    return QIcon(new LineEngine(which));
+    return QIcon(new LineEngine(pathOf(which)));
+}
+
+QIcon pathIcon(const QPainterPath &path, const QColor &bar)
+{
+    return QIcon(new LineEngine(path, bar));
 }
 
 } // namespace kalvenor

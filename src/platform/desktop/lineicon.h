@@ -2,7 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QColor>
 #include <QIcon>
+
+class QPainterPath;
 
 namespace kalvenor {
 
@@ -10,5 +13,7 @@ enum class LineIcon { Right, AllRight, Left, AllLeft, Undo, Redo, Reload, Quit, 
 
 /// A line drawing, sharp at any size, in the colour that the palette gives to texts of buttons at that moment.
 QIcon lineIcon(LineIcon which);
+/// The same for a drawing on a field of 24 × 24 units; a valid colour adds a bar of that colour at its foot.
+QIcon pathIcon(const QPainterPath &path, const QColor &bar = {});
 
 } // namespace kalvenor
