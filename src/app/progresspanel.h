@@ -2,22 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/desktop/work.h"
-#include <QWidget>
-
-class QProgressBar;
+#include "language/progresspanel.h"
 
 namespace kalvenor::app {
-
-/// How far long work is, with a button to cancel it; hidden unless work takes longer than a moment.
-class ProgressPanel : public QWidget {
-    Q_OBJECT
-public:
-    explicit ProgressPanel(Work &work, QWidget *parent = nullptr);
-
-private:
-    void advance(qint64 done, qint64 total);
-    QProgressBar *m_bar;
-};
-
-} // namespace kalvenor::app
+using language::ProgressPanel;
+}

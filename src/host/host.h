@@ -53,6 +53,8 @@ public:
 
     /// The native path for a path text, with the drive letters of this installation.
     QString native(const QString &path) const { return nativePath(path, m_drives); }
+    /// The path text for a native path.
+    QString windows(const QString &nativeFile) const { return windowsPath(nativeFile, m_drives); }
     /// The path names a drive that no folder is known for, so that nothing can be found there.
     bool hasUnmappedDrive(const QString &path) const { return kalvenor::hasUnmappedDrive(path, m_drives); }
     /// The file's own name where exactly that file is there, else "".

@@ -3,6 +3,7 @@
 #include "platform/desktop/lineicon.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
@@ -61,6 +62,55 @@ QPainterPath keyboardPath()
     return path;
 }
 
+QPainterPath polygon(std::initializer_list<QPointF> points)
+{
+    QPainterPath path;
+    path.addPolygon(QPolygonF(QList<QPointF>(points)));
+    return path;
+}
+
+QPainterPath printPath()
+{
+    QPainterPath path;
+    path.addRect(QRectF(7, 13, 10, 7));
+    path.addPath(polygon({{7, 8}, {7, 4}, {17, 4}, {17, 8}}));
+    path.addPath(polygon({{7, 16}, {4, 16}, {4, 8}, {20, 8}, {20, 16}, {17, 16}}));
+    return path;
+}
+
+QPainterPath savePath()
+{
+    QPainterPath path = polygon({{4, 4}, {16, 4}, {20, 8}, {20, 20}, {4, 20}, {4, 4}});
+    path.addPath(polygon({{8, 4}, {8, 9}, {15, 9}, {15, 4}}));
+    path.addPath(polygon({{7, 20}, {7, 13}, {17, 13}, {17, 20}}));
+    return path;
+}
+
+QPainterPath slidersPath()
+{
+    QPainterPath path;
+    const std::initializer_list<QPointF> knobs{{8, 6}, {15, 12}, {10, 18}};
+    for (const QPointF &knob : knobs) {
+        path.addEllipse(knob, 2, 2);
+        path.moveTo(4, knob.y());
+        path.lineTo(knob.x() - 2, knob.y());
+        path.moveTo(knob.x() + 2, knob.y());
+        path.lineTo(20, knob.y());
+    }
+    return path;
+}
+
+QPainterPath pagePath()
+{
+    QPainterPath path = polygon({{6, 3}, {14, 3}, {18, 7}, {18, 21}, {6, 21}, {6, 3}});
+    path.addPath(polygon({{14, 3}, {14, 7}, {18, 7}}));
+    for (const qreal y : {11.0, 14.0, 17.0}) {
+        path.moveTo(9, y);
+        path.lineTo(15, y);
+    }
+    return path;
+}
+
 QPainterPath pathOf(LineIcon which)
 {
     QPainterPath path;
@@ -112,6 +162,33 @@ QPainterPath pathOf(LineIcon which)
         path.lineTo(4, 16);
         path.lineTo(5.5, 16);
         break;
+    case LineIcon::First:
+        path.moveTo(7, 6);
+        path.lineTo(7, 18);
+        addAngle(path, 11, 1);
+        break;
+    case LineIcon::Last:
+        return mirrored(pathOf(LineIcon::First));
+    case LineIcon::Up:
+        return polygon({{6, 15}, {12, 9}, {18, 15}});
+    case LineIcon::Down:
+        return polygon({{6, 9}, {12, 15}, {18, 9}});
+    case LineIcon::Plus:
+        path.moveTo(12, 5);
+        path.lineTo(12, 19);
+        [[fallthrough]];
+    case LineIcon::Minus:
+        path.moveTo(5, 12);
+        path.lineTo(19, 12);
+        break;
+    case LineIcon::Print:
+        return printPath();
+    case LineIcon::Save:
+        return savePath();
+    case LineIcon::Sliders:
+        return slidersPath();
+    case LineIcon::Page:
+        return pagePath();
     }
     return path;
 }

@@ -9,7 +9,30 @@ class QPainterPath;
 
 namespace kalvenor {
 
-enum class LineIcon { Right, AllRight, Left, AllLeft, Undo, Redo, Reload, Quit, Keyboard, Clear, Find, Copy };
+enum class LineIcon {
+    Right,
+    AllRight,
+    Left,
+    AllLeft,
+    Undo,
+    Redo,
+    Reload,
+    Quit,
+    Keyboard,
+    Clear,
+    Find,
+    Copy,
+    First,
+    Last,
+    Up,
+    Down,
+    Plus,
+    Minus,
+    Print,
+    Save,
+    Sliders,
+    Page
+};
 
 /// A line drawing, sharp at any size, in the colour that the palette gives to texts of buttons at that moment.
 QIcon lineIcon(LineIcon which);

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/progresspanel.h"
+#include "language/progresspanel.h"
 
 #include "language/widgetform.h"
 #include <QHBoxLayout>
 #include <QProgressBar>
 #include <QPushButton>
 
-namespace kalvenor::app {
+namespace kalvenor::language {
 
 namespace {
 constexpr int Steps = 1000;
@@ -19,7 +19,7 @@ ProgressPanel::ProgressPanel(Work &work, QWidget *parent) : QWidget(parent), m_b
     auto *cancel = new QPushButton(this);
     cancel->setObjectName(QStringLiteral("Abbrechen"));
     cancel->setFocusPolicy(Qt::NoFocus); // Escape does the same; the focus stays where the user works
-    language::setDesignText(cancel, QStringLiteral("20341Abbrechen"));
+    setDesignText(cancel, QStringLiteral("20341Abbrechen"));
     m_bar->setFixedWidth(160);
     m_bar->setTextVisible(false);
     auto *row = new QHBoxLayout(this);
@@ -42,4 +42,4 @@ void ProgressPanel::advance(qint64 done, qint64 total)
     show();
 }
 
-} // namespace kalvenor::app
+} // namespace kalvenor::language

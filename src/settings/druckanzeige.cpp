@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/druckanzeige.h"
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace kalvenor::settings {
+
+Druckanzeige::Druckanzeige(Work &work, QWidget *parent)
+    : QDialog(parent), m_work(work), m_device(new QLabel(this)), m_page(new QLabel(this)),
+      m_bar(new QProgressBar(this)), m_cancel(new QPushButton(this))
+{
+    setObjectName(QStringLiteral("Druckanzeige"));
+    m_device->setObjectName(QStringLiteral("Geraet"));
+    m_device->setTextFormat(Qt::PlainText);
+    m_page->setObjectName(QStringLiteral("Fortgang"));
+    m_cancel->setObjectName(QStringLiteral("Druckabbrechen"));
+    m_bar->setTextVisible(false);
+    auto *column = new QVBoxLayout(this);
+    column->addWidget(m_page);
+    column->addWidget(m_device);
+    column->addWidget(m_bar);
+    column->addWidget(m_cancel, 0, Qt::AlignRight);
+    setMinimumWidth(360);
+    work.letThrough(m_cancel);
+    connect(m_cancel, &QPushButton::clicked, this, &Druckanzeige::reject);
+    connect(&work, &Work::advanced, this, &Druckanzeige::advance);
+    connect(&work, &Work::ended, this, [this] {
+        m_active = false;
+        hide();
+    });
+}
+
+void Druckanzeige::setTexts(const ControlTexts &texts)
+{
+    m_texts = texts;
+    setWindowTitle(texts.printingCaption);
+    m_cancel->setText(texts.cancel);
+}
+
+void Druckanzeige::begin(const QString &printer, const QString &place)
+{
+    m_active = true;
+    m_device->setText(m_texts.deviceLine(printer, place));
+}
+
+void Druckanzeige::advance(qint64 done, qint64 total)
+{
+    if (!m_active)
+        return;
+    m_page->setText(m_texts.pageLine(static_cast<int>(done), static_cast<int>(total)));
+    m_bar->setMaximum(static_cast<int>(total));
+    m_bar->setValue(static_cast<int>(done));
+    if (!isVisible())
+        show();
+}
+
+void Druckanzeige::reject()
+{
+    m_work.cancel(); // the end of the work hides the dialog
+}
+
+} // namespace kalvenor::settings

@@ -1,0 +1,316 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/druckvorschau.h"
+
+#include "platform/print/pdfwriter.h"
+#include "settings/pageview.h"
+#include "settings/previewfixture.h"
+#include "settings/printing.h"
+#include "settings/savequestion.h"
+#include <functional>
+#include <gtest/gtest.h>
+#include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPrintDialog>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QTest>
+
+using namespace kalvenor;
+using namespace kalvenor::settings;
+
+namespace {
+
+/// Stands in the main window's place and writes down what is called.
+class MainWindow : public QWidget {
+    Q_OBJECT
+public:
+    QStringList calls;
+    std::function<void()> compose;
+
+public Q_SLOTS:
+    void auswahldrucken()
+    {
+        calls << QStringLiteral("auswahldrucken");
+        if (compose)
+            compose();
+    }
+    void initladen() { calls << QStringLiteral("initladen"); }
+    void initspeichern() { calls << QStringLiteral("initspeichern"); }
+    void init() { calls << QStringLiteral("init"); }
+    void panelaufruf(const QString &topic) { calls << QStringLiteral("panelaufruf ") + topic; }
+};
+
+struct Preview : testing::Test, test::Texts {
+    explicit Preview(const QString &language = QStringLiteral("Deutsch")) : Texts(test::shippedTexts(), language)
+    {
+        host.Hauptform = &main;
+        host.AddInonTop = QStringLiteral("1");
+        host.Hostverzeichnis = windowsPath(folder.path());
+        control.setDocument(test::pagesOf(12));
+        window = std::make_unique<Druckvorschau>(host, module, control, work);
+        window->show();
+        window->activateWindow();
+    }
+    template <typename T>
+    T &child(const char *name)
+    {
+        T *found = window->findChild<T *>(QLatin1String(name));
+        if (found == nullptr)
+            throw std::runtime_error(name);
+        return *found;
+    }
+    QString path(const char *name) const { return folder.filePath(QLatin1String(name)); }
+    QString said() const { return window->statusBar()->currentMessage(); }
+    void save(const QStringList &answers)
+    {
+        desktop.fileAnswers.assign(answers.begin(), answers.end());
+        window->toolbarbuttonclick(QStringLiteral("save"));
+    }
+    static void write(const QString &file, const QByteArray &content)
+    {
+        QFile output(file);
+        ASSERT_TRUE(output.open(QIODevice::WriteOnly));
+        output.write(content);
+    }
+    /// Answers the print dialog.
+    void onPrintDialog(const std::function<void(QPrinter &)> &fill)
+    {
+        desktop.dialogAnswer = [fill](QDialog &dialog) {
+            fill(*dynamic_cast<QPrintDialog &>(dialog).printer());
+            return true;
+        };
+    }
+    static int pagesOfPdf(const QString &file)
+    {
+        QFile pdf(file);
+        EXPECT_TRUE(pdf.open(QIODevice::ReadOnly));
+        return static_cast<int>(pdf.readAll().count("/Type /Page\n"));
+    }
+
+    MainWindow main;
+    PrintControl control;
+    Work work{desktop};
+    std::unique_ptr<Druckvorschau> window;
+};
+
+} // namespace
+
+TEST_F(Preview, ShowsTextsAndPages)
+{
+    EXPECT_EQ(child<QMenu>("MD").title(), "&Drucken");
+    EXPECT_EQ(child<QAction>("MDINI").text(), "&Druckvorlage");
+    EXPECT_EQ(child<QAction>("MHH").text(), "&Hilfe");
+    EXPECT_EQ(child<QAction>("INITVorgaben").text(), "Druckeinstellungen");
+    EXPECT_EQ(window->controlTexts().device, "auf %s an %s");
+    EXPECT_EQ(child<QDialog>("Druckanzeige").windowTitle(), "Drucken...");
+    EXPECT_EQ(child<QComboBox>("Zoom").itemText(1), "Seitenbreite");
+    auto &page = child<QSpinBox>("Seite");
+    EXPECT_EQ(page.text(), "Seite 1 von 12");
+    page.setValue(5);
+    EXPECT_EQ(window->pageView().currentPage(), 4);
+    child<QAction>("Letzte").trigger();
+    EXPECT_EQ(page.text(), "Seite 12 von 12");
+    EXPECT_FALSE(child<QAction>("Naechste").isEnabled());
+    child<QAction>("Originalgroesse").trigger();
+    EXPECT_EQ(child<QComboBox>("Zoom").currentText(), "100 %");
+    control.setDocument(test::pagesOf(3));
+    EXPECT_EQ(page.text(), "Seite 3 von 3") << "a new document is shown at once";
+}
+
+TEST_F(Preview, CallsTheMainWindow)
+{
+    window->toolbarbuttonclick("INITVorgaben");
+    child<QAction>("MHH").trigger();
+    EXPECT_EQ(main.calls, (QStringList{"init", "panelaufruf Hilfe"}));
+    host.Hauptform = this->window.get(); // knows none of them
+    window->toolbarbuttonclick("INITVorgaben");
+    child<QAction>("MHH").trigger();
+    ASSERT_EQ(desktop.messages.size(), 2u);
+    EXPECT_TRUE(desktop.messages[0].text.contains("init")) << desktop.messages[0].text.toStdString();
+    window->toolbarbuttonclick("nothing of that name");
+    EXPECT_EQ(desktop.messages.size(), 2u);
+}
+
+TEST_F(Preview, TakesItselfOffTheTopForDialogs)
+{
+    desktop.placements.clear();
+    window->toolbarbuttonclick("INITVorgaben");
+    ASSERT_EQ(desktop.placements.size(), 2u);
+    EXPECT_EQ(desktop.placements[0].place, StackPlace::NotTopMost);
+    EXPECT_EQ(desktop.placements[1].place, StackPlace::TopMost);
+    desktop.placements.clear();
+    EXPECT_FALSE(main.isVisible());
+    child<QAction>("MDE").trigger();
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(main.isVisible());
+    ASSERT_EQ(desktop.placements.size(), 2u);
+    EXPECT_EQ(desktop.placements[0].place, StackPlace::NotTopMost);
+    EXPECT_EQ(desktop.placements[1].place, StackPlace::TopMost);
+}
+
+TEST_F(Preview, SavesByTheEndingOfTheName)
+{
+    const struct {
+        const char *name;
+        ExportFormat format;
+        int questions;
+    } rows[] = {
+        {"a.RTF", ExportFormat::Rtf, 1},   {"b.rtf", ExportFormat::Rtf, 1},   {"c.html", ExportFormat::Html, 1},
+        {"d.htm", ExportFormat::Pages, 1}, {"e.txt", ExportFormat::Pages, 2}, {"f.pdf", ExportFormat::Pages, 1},
+    };
+    ExportFormat seen = ExportFormat::Pages;
+    QString file;
+    main.compose = [&] {
+        seen = control.exportFormat;
+        if (seen == ExportFormat::Html)
+            control.exportFile.replace(".html", "-Alter.html");
+        file = host.native(control.exportFile);
+        write(file, "content");
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        seen = ExportFormat::Pages;
+        desktop.fileQuestions.clear();
+        main.calls.clear();
+        save({path(row.name)});
+        EXPECT_EQ(seen, row.format);
+        EXPECT_EQ(main.calls.size(), row.format == ExportFormat::Pages ? 0 : 1);
+        EXPECT_EQ(desktop.fileQuestions.size(), static_cast<std::size_t>(row.questions));
+        EXPECT_EQ(control.exportFormat, ExportFormat::Pages) << "later compositions make pages";
+        EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
+        if (seen != ExportFormat::Pages) {
+            EXPECT_EQ(said(), "Gespeichert: " + file);
+        }
+    }
+    EXPECT_EQ(pagesOfPdf(path("f.pdf")), 12);
+    EXPECT_TRUE(child<QPushButton>("Oeffnen").isVisible());
+    EXPECT_FALSE(QFile::exists(path("d.htm")));
+    EXPECT_EQ(desktop.fileQuestions[0].filters, "RTF-Texte (*.rtf);;PDF-Files (*.pdf);;HTML (*.html)");
+    EXPECT_EQ(desktop.fileQuestions[0].suffix, "pdf");
+    EXPECT_EQ(desktop.fileQuestions[0].title, "Statistik speichern unter");
+
+    save({});
+    EXPECT_EQ(said(), "") << "cancelled";
+    main.compose = {};
+    save({path("b.rtf")});
+    EXPECT_EQ(said(), "Nicht gespeichert: " + path("b.rtf")) << "an old file of that name is no new one";
+    save({path("missing/folder.pdf")});
+    EXPECT_EQ(desktop.messages.size(), 1u);
+    EXPECT_TRUE(desktop.errors.empty());
+}
+
+TEST_F(Preview, SetsThePageUp)
+{
+    PageSetup &page = control.page;
+    page.left = 1001; // no whole number of tenths of a millimetre
+    const PageSetup before = page;
+    desktop.dialogAnswer = [](QDialog &) {
+        return false;
+    };
+    window->toolbarbuttonclick("INI");
+    EXPECT_TRUE(main.calls.isEmpty());
+    desktop.dialogAnswer = [](QDialog &dialog) {
+        dialog.findChild<QAbstractButton *>("Ausrichtung_1")->click();
+        auto *paper = dialog.findChild<QComboBox *>("Papier");
+        EXPECT_EQ(paper->currentText(), "A4");
+        paper->setCurrentIndex(paper->findText("A5"));
+        return true;
+    };
+    window->toolbarbuttonclick("INI");
+    EXPECT_EQ(main.calls, (QStringList{"initspeichern", "initladen", "auswahldrucken"}));
+    EXPECT_TRUE(page.landscape);
+    EXPECT_NEAR(page.paperHeight, 11906, 30);
+    EXPECT_EQ(page.left, before.left);
+    EXPECT_EQ(page.bottom, before.bottom);
+}
+
+TEST_F(Preview, PrintsWhatItShows)
+{
+    onPrintDialog([&](QPrinter &printer) { printer.setOutputFileName(path("all.pdf")); });
+    window->toolbarbuttonclick("drucker");
+    EXPECT_EQ(pagesOfPdf(path("all.pdf")), window->pageView().pageCount());
+    EXPECT_EQ(said(), "Gespeichert: " + path("all.pdf"));
+    onPrintDialog([&](QPrinter &printer) {
+        printer.setOutputFileName(path("some.pdf"));
+        printer.setPrintRange(QPrinter::PageRange);
+        printer.setPageRanges(QPageRanges::fromString("2-3,11-20"));
+    });
+    window->toolbarbuttonclick("drucker");
+    EXPECT_EQ(pagesOfPdf(path("some.pdf")), 4);
+
+    onPrintDialog([&](QPrinter &printer) { printer.setOutputFileName(path("missing/folder.pdf")); });
+    window->toolbarbuttonclick("drucker");
+    ASSERT_EQ(desktop.messages.size(), 1u);
+    EXPECT_TRUE(desktop.messages[0].text.contains("folder.pdf"));
+    desktop.dialogAnswer = {};
+    window->toolbarbuttonclick("drucker");
+    EXPECT_EQ(said(), "") << "cancelled";
+    EXPECT_FALSE(work.isRunning());
+}
+
+TEST_F(Preview, StopsPrintingWhenAsked)
+{
+    control.setDocument(test::pagesOf(3000));
+    onPrintDialog([&](QPrinter &printer) { printer.setOutputFileName(path("long.pdf")); });
+    bool shown = false;
+    QObject::connect(&work, &Work::advanced, window.get(), [&] {
+        auto &dialog = child<QDialog>("Druckanzeige");
+        shown = dialog.isVisible() && child<QLabel>("Fortgang").text().startsWith("Drucke Seite ");
+        window->toolbarbuttonclick("drucker"); // not twice at once
+        QTest::mouseClick(&child<QPushButton>("Druckabbrechen"), Qt::LeftButton);
+    });
+    window->toolbarbuttonclick("drucker");
+    EXPECT_TRUE(shown);
+    EXPECT_EQ(said(), "Der Druck wurde abgebrochen.");
+    EXPECT_FALSE(child<QDialog>("Druckanzeige").isVisible());
+    EXPECT_FALSE(QFile::exists(path("long.pdf"))) << "no half file is left";
+}
+
+TEST_F(Preview, FindsTextWhileTheUserTypes)
+{
+    child<QAction>("Finden").trigger();
+    auto &entry = child<QLineEdit>("Suchtext");
+    const auto count = [&] {
+        return child<QLabel>("Fundstellen").text();
+    };
+    QTest::keyClicks(&entry, "blatt");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return count() == "1 / 12 Fundstellen"; })) << count().toStdString();
+    QTest::keyClick(&entry, Qt::Key_Return);
+    EXPECT_EQ(window->pageView().currentPage(), 1);
+    child<QAction>("Rueckwaertssuchen").trigger();
+    child<QAction>("Rueckwaertssuchen").trigger();
+    EXPECT_EQ(window->pageView().currentPage(), 11) << "round the beginning";
+    control.setDocument(test::pagesOf(2));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return count() == "2 / 2 Fundstellen"; })) << "in the new pages";
+    QTest::keyClicks(&entry, "x");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return count() == "Nicht gefunden: blattx"; }));
+    QTest::keyClick(&entry, Qt::Key_Escape);
+    EXPECT_FALSE(entry.isVisible());
+}
+
+TEST(Printing, PutsPagesInOrder)
+{
+    const struct {
+        const char *what;
+        PrintChoice choice;
+        std::vector<int> pages;
+    } rows[] = {
+        {"all", {}, {0, 1, 2, 3}},
+        {"range", {.ranges = QPageRanges::fromString("2,4-9")}, {1, 3}},
+        {"outside", {.ranges = QPageRanges::fromString("7-9")}, {}},
+        {"last first", {.lastFirst = true}, {3, 2, 1, 0}},
+        {"collated", {.ranges = QPageRanges::fromString("1-2"), .copies = 2}, {0, 1, 0, 1}},
+        {"not collated", {.ranges = QPageRanges::fromString("1-2"), .copies = 2, .collated = false}, {0, 0, 1, 1}},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(pagesToPrint(4, row.choice), row.pages) << row.what;
+}
+
+#include "druckvorschau_test.moc"
