@@ -7,6 +7,7 @@
 #include "platform/print/writerparts.h"
 
 #include <algorithm>
+#include <array>
 
 namespace kalvenor {
 namespace {
@@ -63,11 +64,11 @@ const char *genericFamily(const QString &family)
 /// The page box's corner texts that hold a page number.
 QByteArray marginBoxes(const PrintDocument &document, const RunningText &text, const char *edge)
 {
-    constexpr const char *places[]{"left", "center", "right"};
-    const auto parts = runningTextParts(QString(text.text).replace(QLatin1String("%d"), pageMark), 0);
+    constexpr std::array<const char *, 3> places{"left", "center", "right"};
+    const std::array<QString, 3> parts = runningTextParts(QString(text.text).replace(QLatin1String("%d"), pageMark), 0);
     const TextStyle &style = document.styles().at(static_cast<std::size_t>(text.style));
     QByteArray out;
-    for (std::size_t i = 0; i < parts.size(); ++i) {
+    for (std::size_t i = 0; i < places.size(); ++i) {
         const QStringList pieces = printable(parts[i]).split(pageMark);
         if (pieces.size() < 2)
             continue;
