@@ -63,6 +63,9 @@ constexpr LanguageText texts[] = {
     {21105, u"Altersstatistik zu einer Familiendatenbank", u"Age statistic of a family database"},
     {21106, u"Kalvenor ist freie Software unter der GNU General Public License, Version 3 oder später.",
      u"Kalvenor is free software under the GNU General Public License, version 3 or later."},
+    {21107, u"Bild", u"Picture"},
+    {21108, u"Zeichen", u"Symbol"},
+    {21109, u"Ereignis", u"Event"},
     // First run
     {21200, u"Willkommen", u"Welcome"},
     {21201, u"Kalvenor wird aus einem Ordner unterhalb des Hauptprogramms gestartet. Hier wurde kein Hauptprogramm "
