@@ -4,6 +4,7 @@
 #include "platform/jet/sortkey.h"
 #include "platform/print/pdfwriter.h"
 #include "statistics/alter.h"
+#include "statistics/grafik.h"
 
 #include <benchmark/benchmark.h>
 #include <QGuiApplication>
@@ -71,6 +72,20 @@ void ageLine(benchmark::State &state)
     }
 }
 BENCHMARK(ageLine);
+
+void chartPerson(benchmark::State &state)
+{
+    statistics::Grafikermittlung figures({});
+    int i = 0;
+    for (auto _ : state) {
+        const double birth = -i * 7919LL % 146'000;
+        figures.add(birth, birth + i % 36'500,
+                    i % 2 == 0 ? statistics::Geschlecht::Mann : statistics::Geschlecht::Frau);
+        ++i;
+    }
+    benchmark::DoNotOptimize(figures);
+}
+BENCHMARK(chartPerson);
 
 /// The argument is the number of rows.
 void pdf(benchmark::State &state)

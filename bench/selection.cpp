@@ -6,6 +6,7 @@
 #include "selection/filtern.h"
 #include "selection/marking.h"
 #include "statistics/altersliste.h"
+#include "statistics/grafik.h"
 #include <algorithm>
 #include <cstdio>
 #include <functional>
@@ -101,6 +102,7 @@ int main(int argc, char **argv)
         phase("mark", [&] { family.execute(QStringLiteral("Update Daten SET Markierung = -1 ;")); });
         statistics::Altersliste ages;
         phase("ages", [&] { statistics::alterslistenausgabe(databases, {1, 1, 1, 1}, ages); });
+        phase("chart", [&] { statistics::grafikermitteln(databases, {}); });
         phase("unmark", [&] { family.execute(QStringLiteral("Update Daten SET Markierung = 0 ;")); });
 
         const QString pattern = QString::fromLocal8Bit(argv[2]);
