@@ -133,6 +133,7 @@ QWidget *Infoform::makeLegend(Ereignisarten &kinds)
     list->setFrameShape(QFrame::NoFrame);
     list->setIconSize({20, 20});
     list->setColumnCount(3);
+    list->setMinimumHeight(300);
     setDesignText(list, QStringLiteral("21101Zeichen der Ereignisse"));
     setDesignHeading(list->header(), 0, QStringLiteral("21107Bild"));
     setDesignHeading(list->header(), 1, QStringLiteral("21108Zeichen"));

@@ -109,6 +109,11 @@ void Druckvorschau::save()
     }
     if (file.isEmpty())
         return;
+    // Compositions to come make pages again.
+    const auto pagesAgain = qScopeGuard([this] {
+        m_control.exportFormat = ExportFormat::Pages;
+        m_control.exportFile.clear();
+    });
     m_control.exportFile = m_host.windows(file);
     switch (savedAs(file)) {
     case SavedAs::Rtf:
@@ -138,11 +143,6 @@ void Druckvorschau::savePdf(const QString &file)
 void Druckvorschau::saveByComposing(ExportFormat format, const QString &file)
 {
     const FilesBefore before(file);
-    // Compositions to come make pages again.
-    const auto pagesAgain = qScopeGuard([this] {
-        m_control.exportFormat = ExportFormat::Pages;
-        m_control.exportFile.clear();
-    });
     m_control.exportFormat = format;
     callMain("auswahldrucken");
     const QString written = m_host.native(m_control.exportFile);

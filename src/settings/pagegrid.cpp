@@ -28,7 +28,7 @@ PageGrid::PageGrid(int pages, QSize page, int columns, QSize room, int captionHe
     const int height = rows() * m_rowHeight + Gap;
     m_sheet = QSize(width, height).expandedTo(room);
     m_left = (m_sheet.width() - width) / 2 + Gap;
-    m_top = (rows() == 1 ? (m_sheet.height() - height) / 2 : 0) + Gap;
+    m_top = (rows() == 1 && captionHeight == 0 ? (m_sheet.height() - height) / 2 : 0) + Gap;
 }
 
 QRect PageGrid::pageRect(int page) const
@@ -82,9 +82,8 @@ Shown shownAs(Fit fit, int percent, QSizeF paper, QSize room, double actualSize,
         shown.columns = std::max(1, static_cast<int>((room.width() - PageGrid::Gap) / width));
         break;
     }
-    const double rows = (pages + shown.columns - 1) / shown.columns;
-    const double largest =
-        std::min(actualSize * LargestZoom / 100, (LargestSheet / std::max(rows, 1.0) - 100) / paper.height());
+    const int rows = std::max(1, (pages + shown.columns - 1) / shown.columns);
+    const double largest = std::min(actualSize * LargestZoom / 100, (LargestSheet / rows - 100) / paper.height());
     shown.scale = std::clamp(shown.scale, actualSize * 0.02, std::max(largest, actualSize * 0.02));
     return shown;
 }

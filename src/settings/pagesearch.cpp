@@ -73,20 +73,28 @@ std::size_t PageSearch::firstFrom(int page) const
     return static_cast<std::size_t>(found - m_matches.begin());
 }
 
-std::vector<QRectF> PageSearch::areas(const Match &match) const
+std::vector<PageSearch::Area> PageSearch::areas(int page) const
 {
-    std::vector<QRectF> found;
+    std::vector<Area> found;
+    std::size_t number = firstFrom(page);
     QString whole;
-    join(m_layout->pages()[static_cast<std::size_t>(match.page)], whole, [&](const PlacedText &text, qsizetype start) {
-        const qsizetype from = std::max<qsizetype>(match.start - start, 0);
-        const qsizetype to = std::min(match.start + match.length - start, text.text.size());
-        if (from >= to)
-            return;
+    join(m_layout->pages()[static_cast<std::size_t>(page)], whole, [&](const PlacedText &text, qsizetype start) {
         const TextFace &face = m_layout->faces()[static_cast<std::size_t>(text.style)];
         const QStringView shown = text.text;
-        const double left = static_cast<double>(text.x) + face.width(shown.left(from));
-        const double top = static_cast<double>(text.baseline) - face.ascent();
-        found.emplace_back(left, top, face.width(shown.mid(from, to - from)), face.ascent() + face.descent());
+        for (; number < m_matches.size() && m_matches[number].page == page; ++number) {
+            const Match &match = m_matches[number];
+            const qsizetype from = std::max<qsizetype>(match.start - start, 0);
+            const qsizetype end = match.start + match.length - start;
+            const qsizetype to = std::min(end, shown.size());
+            if (from < to) {
+                const double left = static_cast<double>(text.x) + face.width(shown.left(from));
+                const double top = static_cast<double>(text.baseline) - face.ascent();
+                found.push_back({number, QRectF(left, top, face.width(shown.mid(from, to - from)),
+                                                face.ascent() + face.descent())});
+            }
+            if (end > shown.size())
+                return; // goes on, or begins, in a text to come
+        }
     });
     return found;
 }

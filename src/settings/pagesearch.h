@@ -31,8 +31,13 @@ public:
     const std::vector<Match> &matches() const { return m_matches; }
     /// Number of the first match on or behind the page; matches().size() where there is none.
     std::size_t firstFrom(int page) const;
-    /// Where the match stands on its page, in twips.
-    std::vector<QRectF> areas(const Match &match) const;
+    /// Where a match stands on its page, in twips; it may have several parts.
+    struct Area {
+        std::size_t match; ///< number in matches()
+        QRectF place;
+    };
+    /// Of all matches of the page.
+    std::vector<Area> areas(int page) const;
 
 private:
     std::shared_ptr<const PageLayout> m_layout;

@@ -45,7 +45,7 @@ void PageTiles::setPaper(const QColor &paper)
 void PageTiles::setRoom(QSize room)
 {
     const auto tiles = [](int length) {
-        return static_cast<qsizetype>(length / Side + 2);
+        return static_cast<qsizetype>(length) / Side + 2;
     };
     // Pages smaller than a tile have smaller ones; gaps only make it less.
     m_tiles.setMaxCost(

@@ -18,8 +18,8 @@ namespace {
 
 constexpr double TwipsPerInch = 1440;
 constexpr int PaintingMs = 30; ///< then the rest waits for the next round of events
-const QColor Found(255, 213, 0, 110);
-const QColor FoundAtHand(255, 120, 0, 150);
+const QColor Found(255, 236, 130);
+const QColor FoundAtHand(255, 170, 80);
 
 } // namespace
 
@@ -135,8 +135,10 @@ void PageView::showMatch(std::size_t number)
     setCurrent(match.page);
     const QRect page = m_grid.pageRect(match.page);
     QRectF area;
-    for (const QRectF &part : m_search->areas(match))
-        area |= part;
+    for (const PageSearch::Area &part : m_search->areas(match.page)) {
+        if (part.match == number)
+            area |= part.place;
+    }
     const QRect seen(scrolled(), viewport()->size());
     const QRect wanted = QRectF(area.topLeft() * m_scale + page.topLeft(), area.size() * m_scale)
                              .toAlignedRect()
@@ -292,12 +294,11 @@ void PageView::paintMatches(QPainter &painter, int page, const QRect &place) con
 {
     if (m_search == nullptr)
         return;
-    const auto &matches = m_search->matches();
-    for (std::size_t i = m_search->firstFrom(page); i < matches.size() && matches[i].page == page; ++i) {
-        for (const QRectF &area : m_search->areas(matches[i]))
-            painter.fillRect(QRectF(area.topLeft() * m_scale + place.topLeft(), area.size() * m_scale),
-                             m_match == i ? FoundAtHand : Found);
-    }
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply); // as a marker pen: the text stays black
+    for (const PageSearch::Area &area : m_search->areas(page))
+        painter.fillRect(QRectF(area.place.topLeft() * m_scale + place.topLeft(), area.place.size() * m_scale),
+                         m_match == area.match ? FoundAtHand : Found);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
 }
 
 void PageView::resizeEvent(QResizeEvent *event)
@@ -367,10 +368,12 @@ void PageView::wheelEvent(QWheelEvent *event)
         QAbstractScrollArea::wheelEvent(event);
         return;
     }
-    const int turned = event->angleDelta().y();
-    if (turned != 0)
-        reshape(Fit::None, nextZoom(zoom(), turned > 0), event->position().toPoint());
     event->accept();
+    m_wheel += event->angleDelta().y();
+    if (std::abs(m_wheel) < QWheelEvent::DefaultDeltasPerStep) // a touchpad turns in small parts
+        return;
+    reshape(Fit::None, nextZoom(zoom(), m_wheel > 0), event->position().toPoint());
+    m_wheel = 0;
 }
 
 void PageView::mousePressEvent(QMouseEvent *event)

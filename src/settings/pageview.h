@@ -88,6 +88,7 @@ private:
     double m_scale = 0;  ///< pixels of the screen a twip
     double m_ratio = 1;  ///< pixels of the device a pixel of the screen
     int m_current = 0;
+    int m_wheel = 0;       ///< turned with Ctrl, not yet a step
     bool m_moving = false; ///< the view scrolls by itself
     bool m_complete = false;
     QColor m_paper = Qt::white;

@@ -67,7 +67,7 @@ QString askForSaveFile(QWidget &parent, const host::Host &host, const QString &t
                                 .filters = dialogFilters(filter),
                                 .suffix = defaultExtension(filter).mid(2).toLower()};
     while (true) {
-        const QString chosen = host.desktop().saveFileName(&parent, question);
+        QString chosen = host.desktop().saveFileName(&parent, question);
         parent.setCursor(Qt::WaitCursor);
         if (chosen.isEmpty() || filter.toUpper().contains(lastFour(chosen)))
             return chosen;
