@@ -2,22 +2,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/auswahl.h"
 
+#include "app/helpwindow.h"
 #include "app/mainactions.h"
 #include "app/progresspanel.h"
 #include "app/windowstate.h"
+#include "language/infoform.h"
 #include "language/widgetform.h"
 #include "selection/filterpanel.h"
 #include "selection/personlistpanel.h"
 #include "selection/selectionpanel.h"
+#include "statistics/statisticspanel.h"
 #include <QAction>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QFileInfo>
 #include <QLabel>
+#include <QMenu>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
+#include <QUrl>
 
 namespace kalvenor::app {
 
@@ -29,31 +36,42 @@ constexpr int SayMs = 8000;
 constexpr int SayUntilNext = 0;
 constexpr qsizetype DamageLinesShown = 12;
 const QString ListsKey = QStringLiteral("Listen");
+const QString PanelsKey = QStringLiteral("Teiler");
 
 } // namespace
 
 Auswahl::Auswahl(Program &program, QWidget *parent)
     : QMainWindow(parent), m_program(program), m_work(program.host.desktop()),
       m_controller({program.host, program.language, program.databases, m_work}),
-      m_selection(new selection::SelectionPanel(m_controller, this)), m_splitter(new QSplitter(this)),
-      m_actions(std::make_unique<MainActions>(*this))
+      m_statistics({program.host, program.language, program.databases, m_work}),
+      m_selection(new selection::SelectionPanel(m_controller, this)),
+      m_statisticsPanel(new statistics::StatisticsPanel(m_statistics, this)),
+      m_templates({program, m_work, m_controller, m_statistics, *m_statisticsPanel}, this),
+      m_report({program, m_work, m_controller, *m_selection, m_statistics, *m_statisticsPanel}),
+      m_splitter(new QSplitter(this)), m_actions(std::make_unique<MainActions>(*this))
 {
     setObjectName(QStringLiteral("Auswahl"));
     language::setDesignText(this, QStringLiteral("20000Altersstatistik"));
     m_splitter->setObjectName(QStringLiteral("Teiler"));
+    setAcceptDrops(true);
     m_splitter->setChildrenCollapsible(false);
     m_splitter->addWidget(m_selection);
+    m_splitter->addWidget(m_statisticsPanel);
+    m_splitter->setStretchFactor(0, 1);
+    m_splitter->setStretchFactor(1, 1);
     setCentralWidget(m_splitter);
     makeStatusBar();
     connectActions();
     language::formuebersetzen(*this, program.language, program.host);
     unsetCursor();
+    updateTitle();
 
     m_controller.reloadLists();
     m_selection->listPanel(PersonList::Unmarked).view().setFocus();
-    resize(980, 660);
+    resize(1240, 720);
     restoreWindow(*this, program.host);
     restoreSplitter(m_selection->listSplitter(), ListsKey, program.host);
+    restoreSplitter(*m_splitter, PanelsKey, program.host);
 }
 
 Auswahl::~Auswahl() = default;
@@ -140,6 +158,129 @@ void Auswahl::connectActions()
             [this](const QString &why) { say(why, SayUntilNext); });
     connect(&m_controller, &SelectionController::changed, this, &Auswahl::updateState);
     connect(m_selection, &selection::SelectionPanel::selectionChanged, this, &Auswahl::updateState);
+    connectStatistic();
+}
+
+void Auswahl::connectStatistic()
+{
+    using selection::SelectionController;
+    using statistics::StatisticsPanel;
+    const MainActions &actions = *m_actions;
+    const auto on = [this](QAction *action, auto slot) {
+        connect(action, &QAction::triggered, this, slot);
+    };
+    const std::array<QAction *, 3> tabs{actions.introduction, actions.chart, actions.ageList};
+    for (std::size_t i = 0; i < tabs.size(); ++i)
+        on(tabs[i], [this, i] { m_statisticsPanel->showTab(static_cast<StatisticsPanel::Tab>(i)); });
+    on(actions.openTemplate, [this] { m_templates.open(); });
+    on(actions.saveTemplate, [this] { m_templates.save(); });
+    on(actions.saveTemplateAs, [this] { m_templates.saveAs(); });
+    on(actions.reset, [this] { m_templates.reset(); });
+    on(actions.preview, [this] { m_report.auswahldrucken(); });
+    on(actions.print, [this] { m_report.run(QStringLiteral("drucker")); });
+    on(actions.exportFile, [this] { m_report.run(QStringLiteral("save")); });
+    on(actions.settings, [this] { m_report.init(); });
+    on(actions.manual, [this] { panelaufruf(QStringLiteral("Hilfe")); });
+    on(actions.about, [this] {
+        language::Infoform form(m_program.host, m_program.language, m_program.events, this);
+        m_program.host.desktop().runDialog(form);
+    });
+    connect(actions.recent, &QMenu::aboutToShow, this, &Auswahl::fillRecent);
+
+    const auto saySome = [this](const QString &what) {
+        say(what, SayMs);
+    };
+    connect(&m_controller, &SelectionController::personsChanged, m_statisticsPanel, &StatisticsPanel::personsChanged);
+    connect(m_statisticsPanel, &StatisticsPanel::said, this, saySome);
+    connect(m_statisticsPanel, &StatisticsPanel::personWanted, this, &Auswahl::showMarkedPerson);
+    connect(m_statisticsPanel, &StatisticsPanel::edited, this, &Auswahl::updateTitle);
+    connect(&m_report, &ReportDesk::said, this, saySome);
+    connect(&m_templates, &TemplateDesk::said, this, saySome);
+    connect(&m_templates, &TemplateDesk::currentChanged, this, &Auswahl::updateTitle);
+    connect(&m_templates, &TemplateDesk::reopened, this,
+            [this] { m_database->setText(QFileInfo(m_program.databases.Familiendatenbank->file()).fileName()); });
+}
+
+/// Which template is current, and whether title or introduction still want saving.
+void Auswahl::updateTitle()
+{
+    const QString &current = m_templates.current();
+    m_actions->reset->setEnabled(!current.isEmpty() || m_templates.isModified());
+    const QString name = text(20000, QStringLiteral("Altersstatistik"));
+    setWindowTitle(current.isEmpty() ? QStringLiteral("%1[*]").arg(name)
+                                     : QStringLiteral("%1[*] – %2").arg(QFileInfo(current).fileName(), name));
+    setWindowModified(m_templates.isModified());
+}
+
+void Auswahl::fillRecent()
+{
+    QMenu &menu = *m_actions->recent;
+    menu.clear();
+    const QStringList files = m_templates.recent();
+    for (const QString &file : files) {
+        QAction *entry = menu.addAction(QFileInfo(file).fileName());
+        entry->setStatusTip(file);
+        entry->setToolTip(file);
+        connect(entry, &QAction::triggered, this, [this, file] {
+            if (m_templates.mayDiscard())
+                m_templates.openFile(file);
+        });
+    }
+    if (files.isEmpty())
+        menu.addAction(text(21410, QStringLiteral("Keine Vorlage")))->setEnabled(false);
+}
+
+void Auswahl::panelaufruf(const QString &thema)
+{
+    if (!m_help)
+        m_help = std::make_unique<HelpWindow>(m_program.language, m_program.host);
+    m_help->showTopic(thema);
+}
+
+namespace {
+
+/// The template that is dragged, a native path; else "".
+QString draggedTemplate(const QMimeData &data)
+{
+    const QList<QUrl> urls = data.urls();
+    if (urls.size() != 1 || !urls.first().isLocalFile())
+        return {};
+    const QString file = urls.first().toLocalFile();
+    return file.endsWith(u".kvl", Qt::CaseInsensitive) ? file : QString();
+}
+
+} // namespace
+
+void Auswahl::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!draggedTemplate(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void Auswahl::dropEvent(QDropEvent *event)
+{
+    const QString file = draggedTemplate(*event->mimeData());
+    if (file.isEmpty())
+        return;
+    event->acceptProposedAction();
+    // The program that it was dragged from waits for an answer.
+    QTimer::singleShot(0, this, [this, file] {
+        if (m_templates.mayDiscard())
+            m_templates.openFile(file);
+    });
+}
+
+void Auswahl::showMarkedPerson(qint32 counter)
+{
+    if (m_controller.isFiltered(PersonList::Marked))
+        m_controller.reloadPlain(PersonList::Marked);
+    dao::Recordset &persons = *m_program.databases.Datentabelle;
+    persons.seekEqual(counter);
+    if (persons.noMatch() || persons.table() != m_controller.model(PersonList::Marked).table())
+        return;
+    selection::PersonListView &view = m_selection->listPanel(PersonList::Marked).view();
+    view.selectTableRows({static_cast<quint32>(persons.position())});
+    view.setFocus();
 }
 
 void Auswahl::say(const QString &what, int milliseconds)
@@ -217,10 +358,18 @@ void Auswahl::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    if (!m_closed && !m_templates.mayDiscard()) {
+        event->ignore();
+        return;
+    }
     if (!m_closed) {
         m_closed = true;
+        m_report.closePreview();
+        m_help.reset();
         saveWindow(*this, m_program.host);
         saveSplitter(m_selection->listSplitter(), ListsKey, m_program.host);
+        saveSplitter(*m_splitter, PanelsKey, m_program.host);
+        statistics::writeOptions(m_program.host, m_statisticsPanel->options());
         m_controller.release();
         try {
             m_program.language.datenbankenschliessen({});

@@ -3,8 +3,11 @@
 #pragma once
 
 #include "app/program.h"
+#include "app/reportdesk.h"
+#include "app/templatedesk.h"
 #include "platform/desktop/work.h"
 #include "selection/selectioncontroller.h"
+#include "statistics/statisticscontroller.h"
 #include <QMainWindow>
 
 class QLabel;
@@ -13,13 +16,18 @@ class QSplitter;
 namespace kalvenor::selection {
 class SelectionPanel;
 }
+namespace kalvenor::statistics {
+class StatisticsPanel;
+}
 
 namespace kalvenor::app {
 
+class HelpWindow;
 struct MainActions;
 
 /// The main window: a frame around the panels, with menus, tool bar and status bar. Closing it closes all databases;
-/// while work is running, the work is cancelled first.
+/// while work is running, the work is cancelled first, and what is not saved is asked for. The preview calls its slots
+/// by their names.
 class Auswahl : public QMainWindow {
     Q_OBJECT
 public:
@@ -29,11 +37,26 @@ public:
 
     selection::SelectionController &controller() { return m_controller; }
     selection::SelectionPanel &selectionPanel() { return *m_selection; }
+    statistics::StatisticsController &statisticsController() { return m_statistics; }
+    statistics::StatisticsPanel &statisticsPanel() { return *m_statisticsPanel; }
+    TemplateDesk &templates() { return m_templates; }
+    ReportDesk &report() { return m_report; }
+
+public Q_SLOTS:
+    void auswahldrucken() { m_report.auswahldrucken(); }
+    void initladen() { m_report.initladen(); }
+    void initspeichern() { m_report.initspeichern(); }
+    void init() { m_report.init(); }
+    /// The manual, at the chapter with this name.
+    void panelaufruf(const QString &thema);
+    void vorlageoeffnen(const QString &nativeFile) { m_templates.openFile(nativeFile); }
 
 protected:
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     void makeStatusBar();
@@ -41,17 +64,26 @@ private:
     void updateState();
     void say(const QString &text, int milliseconds);
     void showShortcuts();
+    void showMarkedPerson(qint32 counter);
+    void connectStatistic();
+    void fillRecent();
+    void updateTitle();
     QString text(qint16 id, const QString &germanText);
 
     Program &m_program;
     Work m_work;
     selection::SelectionController m_controller;
+    statistics::StatisticsController m_statistics;
     selection::SelectionPanel *m_selection;
+    statistics::StatisticsPanel *m_statisticsPanel;
+    TemplateDesk m_templates;
+    ReportDesk m_report;
     QSplitter *m_splitter;
     std::unique_ptr<MainActions> m_actions;
     QLabel *m_database, *m_damage, *m_persons, *m_marked;
-    QString m_progressText; ///< in the status bar while work runs
-    bool m_closing = false; ///< as soon as the running work has ended
+    std::unique_ptr<HelpWindow> m_help; ///< from the first call on
+    QString m_progressText;             ///< in the status bar while work runs
+    bool m_closing = false;             ///< as soon as the running work has ended
     bool m_closed = false;
     bool m_shown = false;
 };

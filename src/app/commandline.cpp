@@ -6,6 +6,7 @@
 #include "app/check.h"
 #include "app/commands.h"
 #include "app/filteroptions.h"
+#include "app/reportcommand.h"
 #include "app/templatecommands.h"
 #include "app/windowprogram.h"
 #include "platform/basic/path.h"
@@ -31,12 +32,11 @@ constexpr int WrongUsage = 2;
 /// The words of the command line as CLI11 leaves them.
 struct Words {
     std::string program;
+    std::string templateFile;
     std::string sex = "mw";
     std::string format = "text";
     std::string list = "unmarked";
     std::string folder;
-    std::string title;
-    std::string output;
     std::vector<std::string> counters;
     bool all = false;
     bool children = false;
@@ -78,6 +78,13 @@ statistics::GeschlechtAlter sexOf(const Words &words)
 const CLI::Validator
     NotEmpty([](const std::string &word) { return word.empty() ? "the name is empty" : std::string(); }, "");
 
+std::string isTemplate(const std::string &word)
+{
+    return toText(word).endsWith(u".kvl", Qt::CaseInsensitive)
+               ? std::string()
+               : "there is no command " + word + ", and a template ends in .kvl";
+}
+
 /// Decimal digits only: a leading zero or 0x must not mean another person.
 std::optional<qint32> counterOf(const std::string &word)
 {
@@ -93,9 +100,10 @@ public:
     Parser();
     CLI::App app{"Age statistics for a family database; without a command, in a window", "kalvenor"};
     Words words;
-    CLI::App *demo, *check, *list, *mark, *unmark, *ages, *report;
+    CLI::App *demo, *check, *list, *mark, *unmark, *ages;
     FilterOptions listFilter, markFilter, unmarkFilter;
     ChartCommand chart;
+    ReportCommand report;
     TemplateCommands templates;
 
 private:
@@ -153,6 +161,9 @@ Parser::Parser()
     app.set_version_flag("--version", KALVENOR_VERSION);
     app.require_subcommand(0, 1);
     addProgram(&app);
+    app.add_option("TEMPLATE", words.templateFile, "Opens the window with this template")
+        ->check(isTemplate)
+        ->type_name("F.kvl");
 
     demo = app.add_subcommand("demo", "Makes a demonstration host installation");
     demo->add_option("DIR", words.folder, "Where; DIR/QV becomes the host folder")
@@ -185,10 +196,10 @@ Parser::Parser()
         addSex(to);
         addFormat(to);
     });
-    report = command("report", "Writes the report of the marked persons");
-    report->add_option("--title", words.title, "The report's title")->type_name("T");
-    addSex(report);
-    report->add_option("--output", words.output, "The file to write, ending in .pdf")->required()->type_name("F.pdf");
+    report.addTo(app, [this](CLI::App *to) {
+        addProgram(to);
+        addSex(to);
+    });
     templates.addTo(app, [this](CLI::App *to) { addProgram(to); });
 }
 
@@ -245,18 +256,6 @@ int runMarkWords(const Words &words, bool mark, const FilterOptions &filter)
                    {mark, named ? std::nullopt : std::optional(query), counters, {words.children, words.parents}});
 }
 
-int runReportWords(const Words &words)
-{
-    const QString output = absoluteNative(words.output);
-    const QString ending = QFileInfo(output).suffix().toLower();
-    if (ending == u"rtf" || ending == u"html")
-        return wrongUsage(
-            QStringLiteral("a report as .%1 cannot be written yet; use a file name ending in .pdf").arg(ending));
-    if (ending != u"pdf")
-        return wrongUsage(QStringLiteral("the report's file name must end in .pdf: %1").arg(output));
-    return runReport(programFolder(words), {toText(words.title), sexOf(words), output});
-}
-
 int dispatch(const Parser &parser)
 {
     const Words &words = parser.words;
@@ -276,7 +275,7 @@ int dispatch(const Parser &parser)
         return parser.chart.run(programFolder(words), sexOf(words), formatOf(words));
     if (parser.templates.parsed())
         return parser.templates.run(programFolder(words));
-    return runReportWords(words);
+    return parser.report.run(programFolder(words), sexOf(words));
 }
 
 /// Qt's own remarks about the session (no runtime folder, …) say nothing about what a command does.
@@ -286,17 +285,15 @@ void onlyFaults(QtMsgType type, const QMessageLogContext &, const QString &text)
         writeError(text);
 }
 
-/// Fonts and pages need a GUI application and charts a widget one, which a command runs without a desktop; all else
-/// starts faster without.
+/// Fonts, pages and charts need an application of widgets, which a command runs without a desktop; all else starts
+/// faster without.
 std::unique_ptr<QCoreApplication> makeApplication(const Parser &parser, int &argc, char **argv)
 {
-    if (!parser.report->parsed() && !parser.chart.draws())
+    if (!parser.report.parsed() && !parser.chart.draws())
         return std::make_unique<QCoreApplication>(argc, argv);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (parser.chart.draws())
-        return std::make_unique<QApplication>(argc, argv);
-    return std::make_unique<QGuiApplication>(argc, argv);
+    return std::make_unique<QApplication>(argc, argv);
 }
 
 } // namespace
@@ -314,7 +311,9 @@ int runCommandLine(int argc, char **argv)
 
     qInstallMessageHandler(onlyFaults);
     if (parser.app.get_subcommands().empty())
-        return runWindow(argc, argv, [&parser] { return programFolder(parser.words); });
+        return runWindow(
+            argc, argv, [&parser] { return programFolder(parser.words); },
+            parser.words.templateFile.empty() ? QString() : absoluteNative(parser.words.templateFile));
     const auto application = makeApplication(parser, argc, argv);
     catchInterrupt();
     try {

@@ -5,7 +5,6 @@
 #include "app/startedprogram.h"
 #include "demo/demohost.h"
 #include "platform/desktop/terminal.h"
-#include "report/agelistreport.h"
 #include "selection/listquery.h"
 
 namespace kalvenor::app {
@@ -98,21 +97,6 @@ int runAges(const QString &programFolder, const AgesCommand &command)
     for (const statistics::Alterszeile &line : list)
         output.add(line.Counter, line.text);
     output.finish();
-    return started.done();
-}
-
-int runReport(const QString &programFolder, const ReportCommand &command)
-{
-    StartedProgram started(programFolder);
-    if (!started.ready)
-        return Failed;
-    TerminalProgress terminal(QStringLiteral("composing the report"));
-    statistics::Altersliste list;
-    statistics::alterslistenausgabe(started.program.databases, command.sex, list, terminal.progress());
-    const int pages =
-        report::writeAgeListReport(command.title, list, started.program.language, command.output, terminal.progress());
-    printLine(QStringLiteral("%1: %2 persons on %3 pages")
-                  .arg(command.output, QString::number(list.size()), QString::number(pages)));
     return started.done();
 }
 

@@ -37,16 +37,9 @@ struct AgesCommand {
     Format format = Format::Text;
 };
 
-struct ReportCommand {
-    QString title;
-    statistics::GeschlechtAlter sex{1, 1, 1, 1};
-    QString output; ///< native path
-};
-
 int runDemo(const DemoCommand &command);
 int runList(const QString &programFolder, const ListCommand &command);
 int runMark(const QString &programFolder, const MarkCommand &command);
 int runAges(const QString &programFolder, const AgesCommand &command);
-int runReport(const QString &programFolder, const ReportCommand &command);
 
 } // namespace kalvenor::app

@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QKeySequence>
 #include <QList>
 
 class QAction;
 class QMainWindow;
+class QMenu;
 class QToolBar;
 
 namespace kalvenor::app {
@@ -14,14 +16,30 @@ namespace kalvenor::app {
 struct MainActions {
     explicit MainActions(QMainWindow &window);
 
-    QAction *quit, *undo, *redo, *copy, *selectAll, *mark, *unmark, *markAll, *unmarkAll, *find;
-    QAction *showTools, *showStatus, *showFilter, *reload, *shortcuts;
+    // Statistic; the templates' commands are found by the names "oeffnen", "speichern" and "loeschen"
+    QAction *openTemplate, *saveTemplate, *saveTemplateAs, *reset, *database, *preview, *print, *exportFile, *settings;
+    QAction *quit;
+    // Edit
+    QAction *undo, *redo, *copy, *selectAll, *mark, *unmark, *markAll, *unmarkAll, *find;
+    // View
+    QAction *introduction, *chart, *ageList, *showTools, *showStatus, *showFilter, *reload;
+    // Help
+    QAction *manual, *shortcuts, *about;
+
+    QMenu *recent;
     QToolBar *tools;
     QList<QAction *> all;
 
 private:
-    void makeMenus(QMainWindow &window);
-    void makeToolBar(QMainWindow &window);
+    QAction *make(const char *name, const char *caption, const QKeySequence &keys = {});
+    QMenu *makeMenu(const char *caption, const QList<QAction *> &actions);
+    void makeStatistic();
+    void makeEdit();
+    void makeView();
+    void makeHelp();
+    void makeToolBar();
+
+    QMainWindow &m_window;
 };
 
 } // namespace kalvenor::app

@@ -4,6 +4,7 @@
 
 #include "data/datenbankmodul.h"
 #include "host/host.h"
+#include "language/ereignisart.h"
 #include "language/sprache.h"
 #include "platform/dao/dao.h"
 #include <functional>
@@ -21,6 +22,7 @@ public:
     host::Host host;
     language::Sprachmodul language{host, engine};
     data::Datenbankmodul databases{host, engine};
+    language::Ereignisarten events{host, engine}; ///< empty until they are needed
 
     /// Makes and shows the main window and gives it back; a command has none.
     using ShowMainWindow = std::function<QObject *()>;

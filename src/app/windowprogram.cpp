@@ -9,6 +9,11 @@
 #include <memory>
 #include <new>
 #include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTimer>
+#include <QTranslator>
 
 namespace kalvenor::app {
 
@@ -47,9 +52,18 @@ std::unique_ptr<Desktop> makeDesktop()
     return std::make_unique<WidgetDesktop>();
 }
 
+/// Qt's own dialogs in the language of the host.
+void speakLanguage(const QString &sprache, QTranslator &translator)
+{
+    const bool german = sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0;
+    QLocale::setDefault(QLocale(german ? QLocale::German : QLocale::English));
+    if (german && translator.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&translator);
+}
+
 } // namespace
 
-int runWindow(int &argc, char **argv, const std::function<QString()> &programFolder)
+int runWindow(int &argc, char **argv, const std::function<QString()> &programFolder, const QString &templateFile)
 {
     if (!mayHaveDisplay()) {
         writeError(QStringLiteral("there is no display to open a window on; name a command, --help lists them"));
@@ -60,15 +74,26 @@ int runWindow(int &argc, char **argv, const std::function<QString()> &programFol
     qInstallMessageHandler(before);
     QApplication::setApplicationName(QStringLiteral("Kalvenor"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kalvenor"));
+    QApplication::setDesktopFileName(QStringLiteral("kalvenor"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/kalvenor.svg")));
 
     const std::unique_ptr<Desktop> desktop = makeDesktop();
     Program program(programFolder(), *desktop);
+    QTranslator translator;
     std::unique_ptr<Auswahl> window;
     try {
         const bool started = program.Main([&]() -> QObject * {
             try {
+                speakLanguage(program.host.Sprache, translator);
                 window = std::make_unique<Auswahl>(program);
                 window->show();
+                // The window is to be seen before a long template begins.
+                QTimer::singleShot(0, window.get(), [&window, templateFile] {
+                    if (templateFile.isEmpty())
+                        window->templates().openDefault();
+                    else
+                        window->templates().openFile(templateFile);
+                });
             } catch (const Error &error) {
                 desktop->runtimeError(error);
                 throw;

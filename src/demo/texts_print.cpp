@@ -131,6 +131,7 @@ constexpr LanguageText texts[] = {
     {20969, u"Name", u"Name"},
     {20970, u"Jahrhundert", u"Century"},
     {20971, u"alle", u"all"},
+    {20972, u"Person", u"Person"},
 };
 // clang-format on
 

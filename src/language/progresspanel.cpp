@@ -15,7 +15,8 @@ constexpr int Steps = 1000;
 
 ProgressPanel::ProgressPanel(Work &work, QWidget *parent) : QWidget(parent), m_bar(new QProgressBar(this))
 {
-    setObjectName(QStringLiteral("Fortschritt"));
+    setObjectName(QStringLiteral("Fortschrittrahmen"));
+    m_bar->setObjectName(QStringLiteral("fertig"));
     auto *cancel = new QPushButton(this);
     cancel->setObjectName(QStringLiteral("Abbrechen"));
     cancel->setFocusPolicy(Qt::NoFocus); // Escape does the same; the focus stays where the user works

@@ -11,8 +11,7 @@ namespace kalvenor::selection {
 
 using namespace std::chrono_literals;
 
-DatabaseWatcher::DatabaseWatcher(std::shared_ptr<dao::Database> database, QObject *parent)
-    : QObject(parent), m_database(std::move(database))
+DatabaseWatcher::DatabaseWatcher(std::shared_ptr<dao::Database> database, QObject *parent) : QObject(parent)
 {
     m_pause.setSingleShot(true);
     m_pause.setInterval(300ms);
@@ -23,6 +22,15 @@ DatabaseWatcher::DatabaseWatcher(std::shared_ptr<dao::Database> database, QObjec
     };
     connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, changed);
     connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, changed);
+    watch(std::move(database));
+}
+
+void DatabaseWatcher::watch(std::shared_ptr<dao::Database> database)
+{
+    const QStringList former = m_watcher.files() + m_watcher.directories();
+    if (!former.isEmpty())
+        m_watcher.removePaths(former);
+    m_database = std::move(database);
     m_watcher.addPath(QFileInfo(m_database->file()).absolutePath());
     watchFile();
 }

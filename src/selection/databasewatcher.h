@@ -16,6 +16,8 @@ class DatabaseWatcher : public QObject {
 public:
     explicit DatabaseWatcher(std::shared_ptr<dao::Database> database, QObject *parent = nullptr);
 
+    /// Another database, or the same opened again.
+    void watch(std::shared_ptr<dao::Database> database);
     /// Looks at once, for file systems that tell nothing.
     void look();
 

@@ -91,6 +91,7 @@ void SelectionController::load(const std::array<QString, 2> &queries, bool all, 
             results[i] = database->openQuery(queries[i], progress);
         }
     }
+    const bool newer = all || m_lists[0].generation != generation;
     for (std::size_t i = 0; i < results.size(); ++i) {
         m_lists[i].query = queries[i];
         if (results[i]) {
@@ -98,6 +99,8 @@ void SelectionController::load(const std::array<QString, 2> &queries, bool all, 
             m_lists[i].generation = generation;
         }
     }
+    if (newer)
+        Q_EMIT personsChanged();
     Q_EMIT changed();
 }
 
@@ -298,6 +301,20 @@ void SelectionController::redo()
     if (finished)
         Q_EMIT said(text(20208, QStringLiteral("Wiederherstellen")));
     Q_EMIT changed();
+}
+
+void SelectionController::afterTemplate(bool opened, const MarkStep &changes, bool otherDatabase)
+{
+    m_watcher.watch(m_services.databases.Familiendatenbank);
+    if (opened && otherDatabase)
+        m_history.clear();
+    else if (opened)
+        m_history.record(changes);
+    m_wanted.reset();
+    const std::array<QString, 2> plain{plainListQuery(PersonList::Unmarked), plainListQuery(PersonList::Marked)};
+    const std::array<QString, 2> wanted = opened ? plain : queries();
+    perform(text(20346, QStringLiteral("Die Datenbank wird gelesen ...")),
+            [&](const Progress &progress) { load(wanted, true, progress); });
 }
 
 void SelectionController::release()

@@ -65,12 +65,17 @@ public:
 
     /// The databases are about to be closed.
     void release();
+    /// A template was opened: both lists become plain ones and what it changed can be undone, unless another database
+    /// is open now. Or (`opened` false) that failed, and the lists show again what they showed.
+    void afterTemplate(bool opened, const MarkStep &changes, bool otherDatabase);
     /// Looks whether another program changed the database.
     void lookForChanges() { m_watcher.look(); }
 
 Q_SIGNALS:
     /// Lists, filter state, figures or undo have changed.
     void changed();
+    /// Marks, or what is known of the persons, may have changed.
+    void personsChanged();
     /// A filter was carried out; its pattern goes back into the text box unless the user is typing there.
     void filtered(const QString &pattern, bool typed);
     void filterRefused(const QString &why);

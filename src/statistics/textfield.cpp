@@ -62,6 +62,7 @@ TextField::TextField(QWidget *parent) : QTextEdit(parent)
     setPalette(paperPalette(palette()));
     setFont(QFont(QStringLiteral("Arial"), 10)); // the report's own
     setAutoFormatting(QTextEdit::AutoNone);
+    setTabChangesFocus(true); // the window is walked through by keys
 }
 
 void TextField::pastePlain()

@@ -93,7 +93,8 @@ TEST(Window, SaysThatTheDatabaseIsDamaged)
 TEST(Window, EndsTheDatabasesAndKeepsItsPlace)
 {
     OpenWindow open(smallFamily());
-    open.window->resize(790, 640);
+    open.window->resize(open.window->minimumSizeHint().width(), 700);
+    const QSize size = open.window->size();
     const QList<int> sizes{300, 140, 400};
     open.window->selectionPanel().listSplitter().setSizes(sizes);
     const QList<int> laidOut = open.window->selectionPanel().listSplitter().sizes();
@@ -106,7 +107,7 @@ TEST(Window, EndsTheDatabasesAndKeepsItsPlace)
     open.program.Main(
         [&open] { return open.window = std::make_unique<app::Auswahl>(open.program), open.window.get(); });
     open.window->show();
-    EXPECT_EQ(open.window->size(), QSize(790, 640));
+    EXPECT_EQ(open.window->size(), size);
     EXPECT_EQ(open.window->selectionPanel().listSplitter().sizes(), laidOut);
 }
 
@@ -148,12 +149,12 @@ TEST(Window, InputWaitsWhileWorkRunsButCancelDoesNot)
         return goesOn;
     };
     EXPECT_TRUE(runUntilShown(Work::Input::CancelOnly, [&] {
-        EXPECT_TRUE(open.control<QWidget>("Fortschritt").isVisible());
+        EXPECT_TRUE(open.control<QWidget>("Fortschrittrahmen").isVisible());
         QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_Return);
         QTest::mouseClick(&open.control<QToolButton>("RMA"), Qt::LeftButton);
         QTest::keyClicks(&name, "a");
     }));
-    EXPECT_TRUE(open.control<QWidget>("Fortschritt").isHidden());
+    EXPECT_TRUE(open.control<QWidget>("Fortschrittrahmen").isHidden());
     EXPECT_EQ(open.marked(), Counters{});
     EXPECT_EQ(name.text(), "");
     EXPECT_TRUE(runUntilShown(Work::Input::Typing, [&] { QTest::keyClicks(&name, "a"); }));
@@ -188,6 +189,8 @@ TEST(Window, IsCompleteInBothLanguagesAndForEveryHand)
         EXPECT_TRUE(found) << shortcut.toStdString();
     }
     for (const QAbstractButton *button : open.window->findChildren<QAbstractButton *>()) {
+        if (button->objectName().startsWith("qt_")) // Qt's own, for what does not fit the tool bar
+            continue;
         EXPECT_TRUE(!button->isVisible() || !(button->text() + button->accessibleName()).isEmpty())
             << button->objectName().toStdString();
     }

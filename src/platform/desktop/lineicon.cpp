@@ -111,6 +111,47 @@ QPainterPath pagePath()
     return path;
 }
 
+QPainterPath openPath()
+{
+    QPainterPath path; // a folder
+    path.moveTo(4, 18);
+    path.lineTo(4, 6);
+    path.lineTo(9, 6);
+    path.lineTo(11, 8.5);
+    path.lineTo(18, 8.5);
+    path.lineTo(18, 11);
+    path.moveTo(4, 18);
+    path.lineTo(7, 11);
+    path.lineTo(21, 11);
+    path.lineTo(18, 18);
+    path.closeSubpath();
+    return path;
+}
+
+QPainterPath sheetPath(QRectF sheet, qreal corner)
+{
+    QPainterPath path;
+    path.moveTo(sheet.topLeft());
+    path.lineTo(sheet.right() - corner, sheet.top());
+    path.lineTo(sheet.right(), sheet.top() + corner);
+    path.lineTo(sheet.bottomRight());
+    path.lineTo(sheet.bottomLeft());
+    path.closeSubpath();
+    return path;
+}
+
+QPainterPath helpPath()
+{
+    QPainterPath path;
+    path.addEllipse(QRectF(3.5, 3.5, 17, 17));
+    path.moveTo(9.3, 9.7);
+    path.arcTo(QRectF(9.2, 7, 5.6, 5.6), 180, -220);
+    path.quadTo(12, 13, 12, 14.3);
+    path.moveTo(11.9, 17);
+    path.lineTo(12.1, 17);
+    return path;
+}
+
 QPainterPath pathOf(LineIcon which)
 {
     QPainterPath path;
@@ -189,6 +230,19 @@ QPainterPath pathOf(LineIcon which)
         return slidersPath();
     case LineIcon::Page:
         return pagePath();
+    case LineIcon::Open:
+        return openPath();
+    case LineIcon::Reset:
+        path = sheetPath({5.5, 3.5, 13, 17}, 4);
+        break;
+    case LineIcon::Preview:
+        path = sheetPath({4.5, 3.5, 11, 17}, 3.5);
+        path.addEllipse(QPointF(15.5, 14), 4, 4);
+        path.moveTo(18.4, 16.9);
+        path.lineTo(21.5, 20);
+        break;
+    case LineIcon::Help:
+        return helpPath();
     }
     return path;
 }

@@ -31,7 +31,11 @@ enum class LineIcon {
     Print,
     Save,
     Sliders,
-    Page
+    Page,
+    Open,
+    Reset,
+    Preview,
+    Help,
 };
 
 /// A line drawing, sharp at any size, in the colour that the palette gives to texts of buttons at that moment.

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/reportdesk.h"
+
+#include "language/form.h"
+#include "platform/chart/chartcontrol.h"
+#include "selection/filterpanel.h"
+#include "selection/selectioncontroller.h"
+#include "selection/selectionpanel.h"
+#include "settings/druckvorschau.h"
+#include "settings/initform.h"
+#include "statistics/chartpanel.h"
+#include "statistics/statisticspanel.h"
+#include "statistics/texteditor.h"
+#include <new>
+#include <QApplication>
+#include <QLineEdit>
+
+namespace kalvenor::app {
+
+ReportDesk::ReportDesk(const Parts &parts, QObject *parent)
+    : QObject(parent), m_parts(parts),
+      m_bericht({parts.program.host, parts.program.language, parts.program.databases, m_print})
+{
+}
+
+ReportDesk::~ReportDesk() = default;
+
+QString ReportDesk::text(qint16 id, const QString &germanText) const
+{
+    return language::shownText(m_parts.program.language, id, germanText);
+}
+
+report::ReportContent ReportDesk::content() const
+{
+    statistics::StatisticsPanel &panel = m_parts.panel;
+    const ChartControl &chart = panel.chartPanel().chart();
+    const auto filtered = [this](selection::PersonList list) {
+        return m_parts.lists.isFiltered(list);
+    };
+    return {
+        .titel = panel.title().text(),
+        .rtf = QString::fromLatin1(panel.introduction().rtf()),
+        .list = m_parts.statistics.list(),
+        .figures = m_parts.statistics.figures(),
+        .look = chart.look(),
+        .chartShape = chart.size(),
+        .criteria = {.filter = m_parts.selection.filterPanel().filter(),
+                     .filtered = filtered(selection::PersonList::Unmarked) || filtered(selection::PersonList::Marked),
+                     .relatives = m_parts.selection.relatives(),
+                     .nachGeburtsjahr = panel.options().nachGeburtsjahr}};
+}
+
+bool ReportDesk::auswahldrucken()
+{
+    const bool toPages = m_print.exportFormat == ExportFormat::Pages;
+    if (m_parts.work.isRunning() || !m_parts.panel.computeAll())
+        return false;
+    QString failure;
+    bool done = false;
+    try {
+        done = m_parts.work.run(text(20349, QStringLiteral("Die Seiten werden zusammengestellt ...")),
+                                [this](const Progress &progress) { m_bericht.auswahldrucken(content(), progress); });
+    } catch (const Error &error) {
+        if (error.kind() == ErrorKind::Cancelled)
+            Q_EMIT said(text(20348, QStringLiteral("Abgebrochen")));
+        else
+            failure = error.message();
+    } catch (const std::bad_alloc &) {
+        failure = QStringLiteral("There is not enough memory for this.");
+    }
+    if (!failure.isEmpty())
+        m_parts.program.host.desktop().messageBox(
+            text(21053, QStringLiteral("Der Bericht konnte nicht erstellt werden: %1")).arg(failure), MessageCritical,
+            text(21020, QStringLiteral("Fehler")));
+    if (done && toPages)
+        showPreview();
+    return done;
+}
+
+void ReportDesk::showPreview()
+{
+    if (m_preview == nullptr)
+        m_preview = std::make_unique<settings::Druckvorschau>(m_parts.program.host, m_parts.program.language, m_print,
+                                                              m_parts.work);
+    m_preview->show();
+    m_preview->raise();
+    m_preview->activateWindow();
+}
+
+void ReportDesk::initspeichern()
+{
+    if (!m_bericht.initspeichern())
+        m_parts.program.host.desktop().messageBox(
+            text(20874, QStringLiteral("Die Einstellungen konnten nicht gespeichert werden: %1"))
+                .arg(m_parts.program.host.native(m_parts.program.host.ownSettingsFile())),
+            MessageCritical, text(21020, QStringLiteral("Fehler")));
+}
+
+void ReportDesk::init()
+{
+    settings::Initform form(m_parts.program.host, m_parts.program.language, m_bericht.vorgaben, m_print.page,
+                            QApplication::activeWindow());
+    if (!m_parts.program.host.desktop().runDialog(form))
+        return;
+    m_parts.panel.chartPanel().updateLook(); // the font factor may have changed
+    if (m_preview != nullptr && m_preview->isVisible())
+        auswahldrucken();
+}
+
+void ReportDesk::run(const QString &previewCommand)
+{
+    if (auswahldrucken() && m_preview != nullptr)
+        m_preview->toolbarbuttonclick(previewCommand);
+}
+
+void ReportDesk::closePreview()
+{
+    if (m_preview != nullptr)
+        m_preview->close();
+}
+
+} // namespace kalvenor::app

@@ -1,0 +1,254 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/templatedesk.h"
+
+#include "language/form.h"
+#include "selection/vorlageoeffnen.h"
+#include "selection/vorlagespeichern.h"
+#include "statistics/texteditor.h"
+#include <new>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QLocale>
+
+namespace kalvenor::app {
+
+namespace {
+
+constexpr qsizetype RecentTemplates = 8;
+constexpr qsizetype LongestEntry = 255; // what a profile file gives back
+const QString RecentSection = QStringLiteral("Vorlagen");
+const QString DefaultTemplate = QStringLiteral("\\Standart.kvl");
+const QString Suffix = QStringLiteral("kvl");
+
+} // namespace
+
+TemplateDesk::TemplateDesk(const Parts &parts, QObject *parent) : QObject(parent), m_parts(parts), m_saved(values())
+{
+}
+
+QString TemplateDesk::text(qint16 id, const QString &germanText) const
+{
+    return language::shownText(m_parts.program.language, id, germanText);
+}
+
+/// False where the task was not begun, failed or was cancelled; it was told.
+bool TemplateDesk::perform(const QString &what, const Work::Task &task)
+{
+    QString failure;
+    try {
+        return m_parts.work.run(what, task);
+    } catch (const Error &error) {
+        if (error.kind() == ErrorKind::Cancelled)
+            Q_EMIT said(text(20348, QStringLiteral("Abgebrochen")));
+        else
+            failure = error.message();
+    } catch (const std::bad_alloc &) {
+        failure = QStringLiteral("There is not enough memory for this.");
+    }
+    if (!failure.isEmpty())
+        m_parts.program.host.desktop().messageBox(failure, MessageCritical, text(21020, QStringLiteral("Fehler")));
+    return false;
+}
+
+selection::Statistikwerte TemplateDesk::values() const
+{
+    const statistics::StatisticsOptions options = m_parts.panel.options();
+    const statistics::TextEditor &introduction = m_parts.panel.introduction();
+    return {.titel = m_parts.panel.title().text(),
+            .rtf = introduction.isEmpty() ? QByteArray() : introduction.rtf(),
+            .grafiktyp = options.grafiktyp,
+            .legende = options.legende ? 1 : 0,
+            .geschlechtalter = options.geschlechtalter,
+            .nachGeburtsjahr = options.nachGeburtsjahr};
+}
+
+void TemplateDesk::show(const selection::Statistikwerte &values)
+{
+    m_parts.panel.title().setText(values.titel);
+    m_parts.panel.introduction().setRtf(values.rtf);
+    m_parts.panel.setOptions({.grafiktyp = values.grafiktyp,
+                              .legende = values.legende == 1,
+                              .geschlechtalter = values.geschlechtalter,
+                              .nachGeburtsjahr = values.nachGeburtsjahr});
+    m_saved = this->values();
+}
+
+bool TemplateDesk::isModified() const
+{
+    const selection::Statistikwerte now = values();
+    return now.titel != m_saved.titel || now.rtf != m_saved.rtf;
+}
+
+bool TemplateDesk::mayDiscard()
+{
+    if (!isModified())
+        return true;
+    switch (m_parts.program.host.desktop().messageBox(
+        text(21407, QStringLiteral("Titel oder Einleitung wurden geändert. Soll die Vorlage gespeichert werden?")),
+        ButtonsYesNoCancel + MessageQuestion, text(21023, QStringLiteral("Frage")))) {
+    case ResultYes:
+        return save();
+    case ResultNo:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// Opening
+
+QString TemplateDesk::folder() const
+{
+    return m_current.isEmpty() ? m_parts.program.host.native(m_parts.program.host.programFolder())
+                               : QFileInfo(m_current).absolutePath();
+}
+
+void TemplateDesk::open()
+{
+    if (!mayDiscard())
+        return;
+    const QString file = m_parts.program.host.desktop().openFileName(
+        qobject_cast<QWidget *>(parent()), {.title = text(21400, QStringLiteral("Vorlage öffnen")),
+                                            .folder = folder(),
+                                            .filters = text(21402, QStringLiteral("Vorlagen (*.kvl)"))});
+    if (!file.isEmpty())
+        openFile(file);
+}
+
+bool TemplateDesk::openFile(const QString &nativeFile)
+{
+    Program &program = m_parts.program;
+    selection::OpenedVorlage opened;
+    const selection::VorlageServices services{
+        .host = program.host,
+        .language = program.language,
+        .databases = program.databases,
+        .closing = [this] { m_parts.lists.release(); },
+        .opened =
+            [this, &program] {
+                program.events.ereignis_art_laden();
+                Q_EMIT reopened();
+            },
+        .useOpenDatabase =
+            [this, &program](const QString &database) {
+                const QString question =
+                    text(21404, QStringLiteral("Die Vorlage gehört zu einer Datenbank, die nicht vorhanden ist: %1"))
+                        .arg(database);
+                return program.host.desktop().messageBox(
+                           question + QStringLiteral("\n\n") +
+                               text(21405, QStringLiteral("Mit der geöffneten Datenbank öffnen")) + u'?',
+                           ButtonsOkCancel + MessageQuestion,
+                           text(21400, QStringLiteral("Vorlage öffnen"))) == ResultOk;
+            }};
+    const bool done =
+        perform(text(21409, QStringLiteral("Die Vorlage wird geöffnet ...")), [&](const Progress &progress) {
+            opened = selection::vorlageoeffnen(services, windowsPath(nativeFile), progress);
+        });
+    m_parts.lists.afterTemplate(done, opened.changes, opened.otherDatabase);
+    m_parts.statistics.forget();
+    if (!done)
+        return false;
+    show(opened.vorlage);
+    setCurrent(nativeFile);
+    remember(nativeFile);
+    m_parts.panel.computeAll();
+    const QLocale locale(program.host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0 ? QLocale::German
+                                                                                            : QLocale::English);
+    Q_EMIT said(text(20313, QStringLiteral("Geöffnet: %1")).arg(nativeFile));
+    if (!opened.missing.empty())
+        program.host.desktop().messageBox(
+            text(21406, QStringLiteral("%1 Personen der Vorlage sind nicht in der Datenbank."))
+                .arg(locale.toString(static_cast<qlonglong>(opened.missing.size()))),
+            0, text(21400, QStringLiteral("Vorlage öffnen")));
+    return true;
+}
+
+void TemplateDesk::openDefault()
+{
+    const host::Host &host = m_parts.program.host;
+    const QString file = host.programFolder() + DefaultTemplate;
+    if (!host.dir(file).isEmpty())
+        openFile(host.native(file));
+}
+
+// Saving
+
+bool TemplateDesk::save()
+{
+    return m_current.isEmpty() ? saveAs() : write(m_current);
+}
+
+bool TemplateDesk::saveAs()
+{
+    const QString file = m_parts.program.host.desktop().saveFileName(
+        qobject_cast<QWidget *>(parent()),
+        {.title = text(21401, QStringLiteral("Vorlage speichern unter")),
+         .folder = folder(),
+         .filters = text(21402, QStringLiteral("Vorlagen (*.kvl)")),
+         .suffix = Suffix,
+         .name = m_current.isEmpty() ? text(21412, QStringLiteral("Unbenannt")) + u'.' + Suffix
+                                     : QFileInfo(m_current).fileName()});
+    return !file.isEmpty() && write(file);
+}
+
+bool TemplateDesk::write(const QString &nativeFile)
+{
+    const Program &program = m_parts.program;
+    const selection::Statistikwerte now = values();
+    if (!perform(text(20340, QStringLiteral("Bitte warten ...")), [&](const Progress &progress) {
+            selection::vorlagespeichern(program.host, program.databases, windowsPath(nativeFile), now, progress);
+        }))
+        return false;
+    m_saved = now;
+    setCurrent(nativeFile);
+    remember(nativeFile);
+    Q_EMIT said(text(20312, QStringLiteral("Gespeichert: %1")).arg(nativeFile));
+    return true;
+}
+
+void TemplateDesk::reset()
+{
+    const selection::Statistikwerte now = values();
+    if (isModified() && (!now.titel.isEmpty() || !now.rtf.isEmpty()) &&
+        m_parts.program.host.desktop().messageBox(
+            text(21408, QStringLiteral("Die Statistik zurücksetzen? Titel und Einleitung werden gelöscht.")),
+            ButtonsOkCancel + MessageQuestion, text(21023, QStringLiteral("Frage"))) != ResultOk)
+        return;
+    show(selection::vorlageclear(m_parts.program.host));
+    setCurrent({});
+    m_parts.panel.personsChanged();
+}
+
+// Current and recent templates
+
+void TemplateDesk::setCurrent(const QString &nativeFile)
+{
+    m_current = nativeFile;
+    Q_EMIT currentChanged();
+}
+
+QStringList TemplateDesk::recent() const
+{
+    const host::Host &host = m_parts.program.host;
+    QStringList files;
+    for (qsizetype i = 1; i <= RecentTemplates; ++i) {
+        const QString file = host.inilesen(host.ownSettingsFile(), RecentSection, QString::number(i), {});
+        if (!file.isEmpty() && !host.dir(file).isEmpty())
+            files << host.native(file);
+    }
+    return files;
+}
+
+void TemplateDesk::remember(const QString &nativeFile)
+{
+    const host::Host &host = m_parts.program.host;
+    QStringList files = recent();
+    files.removeAll(nativeFile);
+    if (windowsPath(nativeFile).size() <= LongestEntry)
+        files.prepend(nativeFile);
+    for (qsizetype i = 0; i < RecentTemplates; ++i)
+        host.inischreiben(host.ownSettingsFile(), RecentSection, QString::number(i + 1), windowsPath(files.value(i)));
+}
+
+} // namespace kalvenor::app

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/program.h"
+#include "platform/desktop/work.h"
+#include "selection/selectioncontroller.h"
+#include "selection/vorlage.h"
+#include "statistics/statisticspanel.h"
+#include <QObject>
+
+namespace kalvenor::app {
+
+/// Templates in the main window: which one is current, what of it is not saved yet, and which were used last. Each
+/// action tells once what goes wrong and then leaves everything as it was.
+class TemplateDesk : public QObject {
+    Q_OBJECT
+public:
+    struct Parts {
+        Program &program;
+        Work &work;
+        selection::SelectionController &lists;
+        statistics::StatisticsController &statistics;
+        statistics::StatisticsPanel &panel;
+    };
+    explicit TemplateDesk(const Parts &parts, QObject *parent = nullptr);
+
+    /// Native path; empty where the statistic belongs to no template.
+    const QString &current() const { return m_current; }
+    /// Native paths, the latest first; those that are gone are left out.
+    QStringList recent() const;
+    /// Title or introduction are not as they were saved, opened or cleared.
+    bool isModified() const;
+    /// Lets the user save what is not saved. False where they want to go back.
+    bool mayDiscard();
+
+    void open();
+    bool openFile(const QString &nativeFile);
+    /// The default template of the program's folder, where there is one.
+    void openDefault();
+    bool save();
+    bool saveAs();
+    /// Title, introduction and options as at the start; asks where that loses something.
+    void reset();
+
+Q_SIGNALS:
+    /// Another template is current, or none.
+    void currentChanged();
+    /// Databases were closed and opened again.
+    void reopened();
+    void said(const QString &text);
+
+private:
+    QString text(qint16 id, const QString &germanText) const;
+    bool perform(const QString &what, const Work::Task &task);
+    selection::Statistikwerte values() const;
+    void show(const selection::Statistikwerte &values);
+    bool write(const QString &nativeFile);
+    void setCurrent(const QString &nativeFile);
+    void remember(const QString &nativeFile);
+    QString folder() const;
+
+    Parts m_parts;
+    QString m_current;
+    selection::Statistikwerte m_saved;
+};
+
+} // namespace kalvenor::app

@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "report/agelisttable.h"
+
+#include "data/person.h"
+#include "language/form.h"
+#include "platform/basic/text.h"
+#include "platform/print/textface.h"
+#include "report/bericht.h"
+#include "report/htmlexport.h"
+#include "settings/vorgabendatei.h"
+#include <cmath>
+#include <QDir>
+#include <QFile>
+#include <QPainter>
+
+namespace kalvenor::report {
+
+namespace {
+
+constexpr qint16 TextToPage = 36;
+constexpr qsizetype AgeTextWidth = 7; // a line of the age list is the age text and the name behind it
+constexpr qint64 RowsBetweenReports = 256;
+constexpr Twips CellPadding = 2 * 70; // both sides, as the print control has it
+const QString OutputFolder = QStringLiteral("\\Ausdrucke\\");
+constexpr std::size_t Age = 0, Sex = 1, Name = 2;
+
+} // namespace
+
+AgeListTable::AgeListTable(Setup setup)
+    : m_setup(std::move(setup)), m_html(m_setup.services.print.exportFormat == ExportFormat::Html)
+{
+}
+
+std::vector<Column> AgeListTable::columns() const
+{
+    const auto widths = settings::ReportMeasures::read(m_setup.services.host).spaltenbreiten;
+    const TextFace face(m_setup.style);
+    const auto fit = [&face](Twips width, const QString &widest) {
+        const auto needed = static_cast<Twips>(std::ceil(face.width(widest))) + CellPadding;
+        return std::max(width, needed);
+    };
+    language::Sprachmodul &texts = m_setup.services.language;
+    Twips age = fit(widths[Age], QStringLiteral("100.0"));
+    Twips sex = widths[Sex];
+    if (m_setup.headed) {
+        age = fit(age, language::shownText(texts, 20967, QStringLiteral("Alter")));
+        sex = fit(sex, language::shownText(texts, 20968, QStringLiteral("Geschlecht")));
+    }
+    std::vector<Column> columns{{.alignment = Alignment::Right, .width = age},
+                                {.alignment = Alignment::Left, .width = sex},
+                                {.alignment = Alignment::Left, .width = 0}};
+    if (m_html)
+        columns.push_back({.alignment = Alignment::Left, .width = 0});
+    return columns;
+}
+
+void AgeListTable::write(PrintDocument &document, const statistics::Altersliste &list, const Progress &progress)
+{
+    const ReportServices &services = m_setup.services;
+    language::Sprachmodul &texts = services.language;
+    const auto text = [&texts](qint16 id, const QString &germanText) {
+        return language::shownText(texts, id, germanText);
+    };
+    const StyleId style = document.addStyle(m_setup.style);
+    TableStart table{.columns = columns(), .rowSpacing = m_setup.rowSpacing};
+    if (m_setup.headed) {
+        TextStyle bold = m_setup.style;
+        bold.bold = true;
+        const StyleId heading = document.addStyle(bold);
+        table.heading = {{{.text = text(20967, QStringLiteral("Alter")), .style = heading},
+                          {.text = text(20968, QStringLiteral("Geschlecht")), .style = heading},
+                          {.text = text(20969, QStringLiteral("Name")), .style = heading}}};
+        if (m_html)
+            table.heading.front().push_back({.text = text(20972, QStringLiteral("Person")), .style = heading});
+    }
+    document.add(std::move(table));
+
+    const QString man = text(20950, QStringLiteral("Mann"));
+    const QString woman = text(20951, QStringLiteral("Frau"));
+    dao::Recordset &persons = *services.databases.Datentabelle;
+    const data::PersonColumns columns(persons);
+    qint64 row = 0;
+    for (const statistics::Alterszeile &line : list) {
+        if (progress && row % RowsBetweenReports == 0 && !progress(row, static_cast<qint64>(list.size())))
+            throw Error(ErrorKind::Cancelled, {}, QStringLiteral("The report was stopped."));
+        ++row;
+        persons.seekEqual(line.Counter);
+        const bool found = !persons.noMatch();
+        const bool isWoman = found && persons.text(columns.Geschlecht) == u"W";
+        TableRow cells{{{.text = trimBlanks(leftPart(line.text, AgeTextWidth)), .style = style},
+                        {.text = isWoman ? woman : man, .style = style},
+                        {.text = trimBlanks(midPart(line.text, AgeTextWidth + 1)), .style = style}}};
+        if (m_html && found) {
+            const QString name =
+                trimBlanks(persons.text(columns.vnamen)) + u' ' + trimBlanks(persons.text(columns.nnamen));
+            cells.cells.push_back({.text = link(line.Counter) + name, .style = style});
+        }
+        document.add(std::move(cells));
+    }
+}
+
+/// The file's own name where it lies in the host program's output folder, else "".
+QString AgeListTable::inOutputFolder(const QString &name)
+{
+    if (!m_outputFiles) { // one look for all persons
+        m_outputFiles.emplace();
+        const host::Host &host = m_setup.services.host;
+        const QDir folder(host.native(host.Hostverzeichnis + OutputFolder));
+        const QStringList files = folder.entryList(QDir::Files);
+        for (const QString &file : files)
+            m_outputFiles->insert(file.toUpper(), file);
+    }
+    return m_outputFiles->value(name.toUpper());
+}
+
+/// Empty where the host program has written no page of the person.
+QString AgeListTable::link(qint32 counter)
+{
+    const QString page = personPage(counter, m_setup.reportName);
+    if (inOutputFolder(page).isEmpty())
+        return {};
+    return personLink(page, pictureOf(page), m_setup.services.language.text(TextToPage));
+}
+
+/// The person's picture beside the page, under the page's name; a BMP is converted to JPEG first.
+QString AgeListTable::pictureOf(const QString &page)
+{
+    const host::Host &host = m_setup.services.host;
+    const QString folder = host.Hostverzeichnis + OutputFolder;
+    const QString name = leftPart(page, page.lastIndexOf(u'.') + 1);
+    for (const char *extension : {"JPG", "JPEG", "PNG", "GIF"}) {
+        const QString picture = inOutputFolder(name + QLatin1String(extension));
+        if (!picture.isEmpty())
+            return picture;
+    }
+    const QString bmp = inOutputFolder(name + QStringLiteral("BMP"));
+    if (bmp.isEmpty())
+        return symbol();
+    PictureControl picture{.Image = QImage(host.native(folder + bmp))};
+    if (picture.Image.isNull())
+        return bmp;
+    // Under a name of its own: converting deletes the BMP of the same name, which is the host program's.
+    QString written = folder + u'~' + name + QStringLiteral("JPG");
+    QString type;
+    m_setup.pictures.bildkonvertieren(picture, written, type);
+    const QString converted = leftPart(name, name.size() - 1) + written.mid(written.lastIndexOf(u'.'));
+    if (!host.dir(written).isEmpty() && type == u"JPG" &&
+        QFile::rename(host.native(written), host.native(folder + converted)))
+        return converted;
+    QFile::remove(host.native(written));
+    return bmp;
+}
+
+/// A small drawing of a page, written once beside the report.
+QString AgeListTable::symbol()
+{
+    if (!m_symbol.isEmpty())
+        return m_symbol;
+    QImage drawing(16, 16, QImage::Format_RGB32);
+    drawing.fill(Qt::white);
+    QPainter painter(&drawing);
+    painter.setPen(QColor(0, 0, 128));
+    painter.drawRect(3, 1, 9, 13);
+    for (const int y : {4, 7, 10})
+        painter.drawLine(5, y, 10, y);
+    painter.end();
+    QString file = folderOf(m_setup.services.print.exportFile) + QStringLiteral("Person.JPG");
+    QString type;
+    m_setup.pictures.bildkonvertieren({.Image = drawing}, file, type);
+    m_symbol = fileNameOf(file);
+    return m_symbol;
+}
+
+} // namespace kalvenor::report

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/print/printdocument.h"
+#include "report/bildkonvertieren.h"
+#include "statistics/altersliste.h"
+#include <optional>
+#include <QHash>
+
+namespace kalvenor::report {
+
+struct ReportServices;
+
+/// The age list of the report: age, sex and list name of each person, as they stand in the list, as a row of three
+/// columns. In HTML a fourth one holds the person's full name, linked to the page that the host program has written of
+/// the person, where it has. The columns are at least as wide as the settings say: that of the ages holds
+/// the widest of them, that of the names takes what is left of the line.
+class AgeListTable {
+public:
+    struct Setup {
+        const ReportServices &services;
+        Bildumwandlung &pictures;
+        QString reportName;
+        TextStyle style;
+        Twips rowSpacing = 0;
+        bool headed = true; ///< with column headings, again on each page
+    };
+    explicit AgeListTable(Setup setup);
+
+    /// Throws Error(Cancelled) where the watcher says so. Steps are rows.
+    void write(PrintDocument &document, const statistics::Altersliste &list, const Progress &progress);
+
+private:
+    std::vector<Column> columns() const;
+    QString inOutputFolder(const QString &name);
+    QString link(qint32 counter);
+    QString pictureOf(const QString &page);
+    QString symbol();
+
+    Setup m_setup;
+    bool m_html;
+    std::optional<QHash<QString, QString>> m_outputFiles; ///< by name in capitals
+    QString m_symbol;                                     ///< picture file for persons without one of their own
+};
+
+} // namespace kalvenor::report

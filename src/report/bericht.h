@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "data/datenbankmodul.h"
+#include "platform/chart/chart.h"
+#include "platform/print/printcontrol.h"
+#include "report/bildkonvertieren.h"
+#include "report/kriterien.h"
+#include "settings/druckvorgaben.h"
+#include "statistics/altersliste.h"
+#include <QDateTime>
+#include <QSize>
+
+namespace kalvenor::report {
+
+/// What the rooms below offer, as the report needs it.
+struct ReportServices {
+    host::Host &host;
+    language::Sprachmodul &language;
+    data::Datenbankmodul &databases;
+    PrintControl &print;
+};
+
+/// What one run of the report shows. List and figures must stay as they are until it ends.
+struct ReportContent {
+    QString titel;
+    QString rtf; ///< the introductory text
+    const statistics::Altersliste &list;
+    const statistics::Grafikzahlen &figures;
+    ChartLook look;
+    QSize chartShape{160, 100}; ///< of the chart control on the screen
+    Auswahlkriterien criteria;
+    QDateTime now = QDateTime::currentDateTime();
+};
+
+/// Composes the report and hands it to the print control, or writes it as the control's export format says.
+class Bericht {
+public:
+    explicit Bericht(const ReportServices &services);
+
+    settings::Druckvorgaben vorgaben; ///< loaded with every run
+    QString reportName;               ///< stands in the names of exported files; mostly empty
+
+    /// Reads the settings and the page into `vorgaben` and the print control.
+    void initladen();
+    /// False where the settings file could not be written.
+    bool initspeichern() const;
+
+    /// One run. With an export format the file is written and the control's `exportFile` becomes its final name; the
+    /// pages shown stay. Throws what went wrong, with the pointer restored; then nothing was handed over and no half
+    /// file is left.
+    void auswahldrucken(const ReportContent &content, const Progress &progress = {});
+
+    /// As if the once-only hint had been shown.
+    void hintShown() { m_hint = ResultOk; }
+
+    /// The document of one run for the control's export format.
+    PrintDocument compose(const ReportContent &content, const Progress &progress = {});
+
+private:
+    TextStyle style(int element) const { return settings::pageStyle(vorgaben, element); }
+    QString footerText() const;
+    QString now(const ReportContent &content) const;
+    void addRunningTexts(PrintDocument &document, const ReportContent &content) const;
+    void addIntroduction(PrintDocument &document, const ReportContent &content) const;
+    void addChart(PrintDocument &document, const ReportContent &content);
+    void addCriteria(PrintDocument &document, const ReportContent &content) const;
+    void addAgeList(PrintDocument &document, const ReportContent &content, const Progress &progress);
+    QString chartFileName() const;
+    QString writePicture(const QImage &picture, const QString &file);
+    void showHint();
+
+    ReportServices m_services;
+    Bildumwandlung m_pictures;
+    qint16 m_hint = -1; ///< true until the hint was shown
+};
+
+} // namespace kalvenor::report

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "report/htmlexport.h"
+
+#include "platform/basic/error.h"
+#include "platform/basic/file.h"
+#include "platform/basic/text.h"
+#include <QDir>
+#include <QFile>
+
+namespace kalvenor::report {
+
+namespace {
+
+constexpr QChar Quote(34);
+
+[[noreturn]] void failed(const QString &file, const QString &why)
+{
+    throw Error(
+        ErrorKind::WriteFailed, file,
+        QStringLiteral("The page could not be finished: %1. Save it in a folder that can be written.").arg(why));
+}
+
+QByteArray withTags(const QByteArray &page)
+{
+    QByteArray result;
+    result.reserve(page.size() + page.size() / 16);
+    for (qsizetype begin = 0; begin < page.size();) {
+        qsizetype end = page.indexOf('\n', begin);
+        if (end < 0)
+            end = page.size();
+        QByteArray line = page.mid(begin, end - begin);
+        if (line.endsWith('\r'))
+            line.chop(1);
+        line.replace("&lt;", "<").replace("&gt;", ">");
+        result += line + "\r\n";
+        begin = end + 1;
+    }
+    return result;
+}
+
+} // namespace
+
+QString exportName(const QString &chosen, const QString &reportName, const QString &text, const QString &extension)
+{
+    if (chosen.contains(u'*') || chosen.contains(u'?'))
+        throw Error(ErrorKind::InvalidProcedureCall, chosen,
+                    QStringLiteral("The file name must not hold * or ?. Choose another one."));
+    return leftPart(chosen, chosen.lastIndexOf(u'.')) + u'-' + reportName + text + extension;
+}
+
+QString fileNameOf(const QString &path)
+{
+    return path.mid(path.lastIndexOf(u'\\') + 1);
+}
+
+QString folderOf(const QString &path)
+{
+    return path.left(path.lastIndexOf(u'\\') + 1);
+}
+
+QString chartTag(const QString &pictureFile)
+{
+    return QStringLiteral("<img src=") + Quote + QStringLiteral("./") + fileNameOf(pictureFile) + Quote +
+           QStringLiteral(" Border=0 Alt=") + Quote + Quote + u'>';
+}
+
+QString personPage(qint32 counter, const QString &reportName)
+{
+    return QString::number(counter) + QStringLiteral("-D") + reportName + QStringLiteral(".html");
+}
+
+QString personLink(const QString &page, const QString &pictureFile, const QString &alternativeText)
+{
+    return QStringLiteral("<a href=./") + page + QStringLiteral("><img src=") + Quote + QStringLiteral("./") +
+           pictureFile + Quote + QStringLiteral(" Border=0 Alt=") + Quote + alternativeText + Quote + u'>';
+}
+
+void htmlnachbearbeiten(const host::Host &host, const QString &exportFile)
+{
+    if (host.dir(exportFile).isEmpty())
+        return;
+    const QString page = host.native(exportFile);
+    const QString copy = page + u'x';
+    QFile::remove(copy);
+    if (!QFile::copy(page, copy))
+        failed(exportFile, QStringLiteral("there is no room for a copy beside it"));
+    QFile source(copy);
+    if (!source.open(QIODevice::ReadOnly))
+        failed(exportFile, source.errorString());
+    QString why;
+    if (!replaceFileSafely(page, withTags(source.readAll()), &why))
+        failed(exportFile, why);
+    source.close();
+
+    QDir folder(host.native(folderOf(exportFile)));
+    const QStringList copies = folder.entryList({QStringLiteral("*.htmlx")}, QDir::Files);
+    for (const QString &name : copies) {
+        if (!folder.remove(name))
+            failed(folderOf(exportFile) + name, QStringLiteral("the file cannot be deleted"));
+    }
+}
+
+} // namespace kalvenor::report

@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/host.h"
+#include <QString>
+
+// What a page in HTML needs beyond the printed one. Paths are in Windows notation.
+namespace kalvenor::report {
+
+/// The chosen name up to its last ".", then "-", the report's name, the text and the extension (".html", ".jpg").
+/// Throws Error(InvalidProcedureCall) for a name without a ".", or with "*" or "?", which stand for other files.
+QString exportName(const QString &chosen, const QString &reportName, const QString &text, const QString &extension);
+
+/// Name without its folder.
+QString fileNameOf(const QString &path);
+/// Folder with its backslash at the end.
+QString folderOf(const QString &path);
+
+/// The chart's picture, a file beside the page.
+QString chartTag(const QString &pictureFile);
+
+/// Name of the page that the host program writes for a person.
+QString personPage(qint32 counter, const QString &reportName);
+
+/// The link to a person's page, around what follows in the cell. The page's name stands without quotes.
+QString personLink(const QString &page, const QString &pictureFile, const QString &alternativeText);
+
+/// Turns every "&lt;" and "&gt;" of the exported page back, so that the tags among the text are tags. Deletes every
+/// ".htmlx" file of the folder. Nothing where there is no such page. Throws Error(WriteFailed).
+void htmlnachbearbeiten(const host::Host &host, const QString &exportFile);
+
+} // namespace kalvenor::report

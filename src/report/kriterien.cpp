@@ -1,0 +1,107 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "report/kriterien.h"
+
+#include "language/form.h"
+#include "platform/basic/date.h"
+#include <array>
+
+namespace kalvenor::report {
+
+namespace {
+
+constexpr qint16 LabelName = 1215;
+constexpr qint16 LabelSex = 1222;
+constexpr std::array<qint16, 3> LabelDates{1223, 1224, 1225}; // birth, death, last change
+constexpr qint16 LabelList = 1226;
+constexpr qint16 LabelRelatives = 1227;
+constexpr qint16 LabelGrouping = 1228;
+constexpr qint16 LabelPersons = 1229;
+constexpr qint16 LabelAverages = 1206;
+constexpr qint16 LabelRange = 1209;
+constexpr qint16 LabelLeftOut = 1208;
+
+class Lines {
+public:
+    explicit Lines(language::Sprachmodul &language) : m_language(language) {}
+
+    QString text(qint16 id, const QString &germanText) { return language::shownText(m_language, id, germanText); }
+    void add(qint16 label, const QString &what) { lines << m_language.text(label) + what; }
+
+    QStringList lines;
+
+private:
+    language::Sprachmodul &m_language;
+};
+
+/// "" where neither bound is a date.
+QString range(Lines &lines, const std::array<QString, 2> &bounds)
+{
+    const DateOrder order = systemDateOrder();
+    const bool from = isDate(bounds[0], order);
+    const bool to = isDate(bounds[1], order);
+    if (from && to)
+        return lines.text(20963, QStringLiteral("%1 bis %2")).arg(bounds[0], bounds[1]);
+    if (from)
+        return lines.text(20961, QStringLiteral("ab %1")).arg(bounds[0]);
+    return to ? lines.text(20962, QStringLiteral("bis %1")).arg(bounds[1]) : QString();
+}
+
+void addFilter(Lines &lines, const selection::Filter &filter)
+{
+    if (!filter.Presse.trimmed().isEmpty())
+        lines.add(LabelName, filter.Presse);
+    const bool men = filter.Geschlechtfilter[0] == 1;
+    const bool women = filter.Geschlechtfilter[1] == 1;
+    if (men || women)
+        lines.add(LabelSex, men && women ? lines.text(20960, QStringLiteral("Männer und Frauen"))
+                            : men        ? lines.text(20958, QStringLiteral("Männer"))
+                                         : lines.text(20959, QStringLiteral("Frauen")));
+    const QString dates = range(lines, filter.Presse_Datum);
+    for (std::size_t i = 0; i < LabelDates.size(); ++i) {
+        if (filter.Datumfilter[i] == 1 && !dates.isEmpty())
+            lines.add(LabelDates[i], dates);
+    }
+    lines.add(LabelList, filter.Filterliste == selection::PersonList::Unmarked
+                             ? lines.text(20956, QStringLiteral("nicht markierte Personen"))
+                             : lines.text(20957, QStringLiteral("markierte Personen")));
+}
+
+QString joined(const std::array<QString, 3> &texts)
+{
+    return QStringLiteral("%1 | %2 | %3").arg(texts[0], texts[1], texts[2]);
+}
+
+} // namespace
+
+QStringList kriterien(const Auswahlkriterien &criteria, const statistics::Grafikzahlen &figures,
+                      language::Sprachmodul &language)
+{
+    Lines lines(language);
+    if (criteria.filtered)
+        addFilter(lines, criteria.filter);
+    QStringList relatives;
+    if (criteria.relatives.children)
+        relatives << lines.text(20954, QStringLiteral("Kinder und Nachkommen"));
+    if (criteria.relatives.parents)
+        relatives << lines.text(20955, QStringLiteral("Eltern und Vorfahren"));
+    if (!relatives.isEmpty())
+        lines.add(LabelRelatives, relatives.join(QStringLiteral(", ")));
+    lines.add(LabelGrouping, criteria.nachGeburtsjahr ? lines.text(20952, QStringLiteral("nach Geburtsjahr"))
+                                                      : lines.text(20953, QStringLiteral("nach Sterbejahr")));
+    lines.add(LabelPersons, joined(figures.anzahl));
+    lines.add(LabelAverages, joined(figures.durchschnitt));
+    if (figures.spanne)
+        lines.add(LabelRange, figures.spanne->trimmed());
+    QStringList leftOut;
+    if (figures.zahlen.ohneDatum > 0)
+        leftOut << lines.text(20964, QStringLiteral("%1 ohne Geburts- oder Sterbedatum")).arg(figures.zahlen.ohneDatum);
+    if (figures.zahlen.nichtNachGeburt > 0)
+        leftOut << lines.text(20965, QStringLiteral("%1 nicht nach der Geburt gestorben"))
+                       .arg(figures.zahlen.nichtNachGeburt);
+    if (!leftOut.isEmpty())
+        lines.add(LabelLeftOut, leftOut.join(QStringLiteral(", ")));
+    return lines.lines;
+}
+
+} // namespace kalvenor::report

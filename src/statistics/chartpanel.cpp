@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "statistics/chartpanel.h"
+
+#include "language/widgetform.h"
+#include "platform/chart/chartcontrol.h"
+#include "statistics/grafikbild.h"
+#include "statistics/sexbox.h"
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+namespace kalvenor::statistics {
+
+namespace {
+
+constexpr QSize SavedSize(1600, 1000);
+constexpr double SavedDpi = 160;
+
+QLabel *heading(QWidget *parent, const char *caption)
+{
+    auto *label = new QLabel(parent);
+    language::setDesignText(label, QString::fromUtf8(caption));
+    return label;
+}
+
+QLabel *figure(QWidget *parent, const QString &name)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setFocusPolicy(Qt::ClickFocus);
+    return label;
+}
+
+QAbstractButton *groupingButton(QWidget *parent, int index, const char *caption, const char *tooltip)
+{
+    auto *button = new QRadioButton(parent);
+    button->setObjectName(QStringLiteral("gt_ribbon_%1").arg(index));
+    language::setDesignText(button, QString::fromUtf8(caption), QString::fromUtf8(tooltip));
+    return button;
+}
+
+} // namespace
+
+ChartPanel::ChartPanel(StatisticsController &controller, QWidget *parent)
+    : QWidget(parent), m_controller(controller), m_chart(new ChartControl(this)), m_type(new QComboBox(this)),
+      m_grouping{
+          groupingButton(this, 0, "20516Geburtsjahr", "20518Die Grafik ordnet die Personen nach ihrem Geburtsjahr"),
+          groupingButton(this, 1, "20517Sterbejahr", "20519Die Grafik ordnet die Personen nach ihrem Sterbejahr")},
+      m_sexes{makeSexBox(this, 2, "20538Männer"), makeSexBox(this, 3, "20539Frauen")}, m_legend(new QCheckBox(this))
+{
+    m_chart->setObjectName(QStringLiteral("Grafik"));
+    nameActions();
+    auto *column = new QVBoxLayout(this);
+    column->addWidget(makeOptions());
+    column->addWidget(m_chart, 1);
+    column->addWidget(makeFigures());
+
+    connect(m_type, &QComboBox::activated, this, &ChartPanel::chartWanted);
+    for (const QAbstractButton *button : m_grouping)
+        connect(button, &QAbstractButton::clicked, this, &ChartPanel::chartWanted);
+    for (const QCheckBox *box : m_sexes)
+        connect(box, &QCheckBox::clicked, this, &ChartPanel::chartWanted);
+    connect(m_legend, &QCheckBox::clicked, this, &ChartPanel::chartWanted);
+    connect(m_chart, &ChartControl::saveWanted, this, &ChartPanel::savePicture);
+    connect(&controller, &StatisticsController::figuresChanged, this, &ChartPanel::showFigures);
+    showFigures();
+}
+
+QString ChartPanel::text(qint16 id, const QString &germanText) const
+{
+    return language::shownText(m_controller.services().language, id, germanText);
+}
+
+void ChartPanel::nameActions()
+{
+    language::setDesignText(m_chart->copyAction, QStringLiteral("20626Bild kopieren"));
+    language::setDesignText(m_chart->saveAction, QStringLiteral("20627Bild speichern ..."));
+    language::setDesignText(m_chart->gridAction, QStringLiteral("20629Gitterlinien"));
+    language::setDesignText(m_chart->valuesAction, QStringLiteral("20630Werte anzeigen"));
+    language::setDesignText(m_chart->tableAction, QStringLiteral("20631Als Tabelle zeigen"));
+}
+
+QWidget *ChartPanel::makeOptions()
+{
+    auto *box = new QWidget(this);
+    m_type->setObjectName(QStringLiteral("Grafiktyp"));
+    m_type->setAccessibleName(text(20600, QStringLiteral("Art der Grafik")));
+    for (const ChartTypeEntry &entry : chartTypeEntries())
+        m_type->addItem(text(entry.textId, QString::fromUtf8(entry.germanText)), static_cast<int>(entry.type));
+    m_legend->setObjectName(QStringLiteral("Legende"));
+    language::setDesignText(m_legend, QStringLiteral("20520Legende"),
+                            QStringLiteral("20521Die Legende der Grafik zeigen"));
+    auto *first = new QHBoxLayout;
+    first->addWidget(m_type, 1);
+    first->addWidget(m_legend);
+    auto *second = new QHBoxLayout;
+    second->addWidget(m_grouping[0]);
+    second->addWidget(m_grouping[1]);
+    second->addStretch(1);
+    second->addWidget(m_sexes[0]);
+    second->addWidget(m_sexes[1]);
+    auto *rows = new QVBoxLayout(box);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->addLayout(first);
+    rows->addLayout(second);
+    return box;
+}
+
+QWidget *ChartPanel::makeFigures()
+{
+    auto *box = new QWidget(this);
+    language::setDesignText(
+        box, QStringLiteral("20534Anzahl, Durchschnittsalter, niedrigstes und höchstes Alter der markierten Personen"));
+    auto *grid = new QGridLayout(box);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(16);
+    grid->setVerticalSpacing(2);
+    grid->addWidget(heading(box, "20508Anzahl"), 1, 0);
+    grid->addWidget(heading(box, "20509Durchschnittsalter"), 2, 0);
+    const std::array<const char *, 3> groups{"20505Männer", "20506Frauen", "20507Alle"};
+    for (int i = 0; i < 3; ++i) {
+        const auto place = static_cast<std::size_t>(i);
+        grid->addWidget(heading(box, groups[place]), 0, i + 1, Qt::AlignRight);
+        m_counts[place] = figure(box, QStringLiteral("Anzahl_%1").arg(i));
+        m_averages[place] = figure(box, QStringLiteral("Durchschnitt_%1").arg(i));
+        grid->addWidget(m_counts[place], 1, i + 1, Qt::AlignRight);
+        grid->addWidget(m_averages[place], 2, i + 1, Qt::AlignRight);
+    }
+    m_unknownSex = figure(box, QStringLiteral("OhneGeschlecht"));
+    grid->addWidget(m_unknownSex, 1, 4);
+    m_range = figure(box, QStringLiteral("Altersspanne"));
+    m_withoutDate = figure(box, QStringLiteral("OhneDatum"));
+    m_leftOut = figure(box, QStringLiteral("Ausgelassen"));
+    grid->addWidget(heading(box, "20510Niedrigstes | höchstes Alter"), 3, 0);
+    grid->addWidget(m_range, 3, 1, 1, 4);
+    grid->addWidget(heading(box, "20511Nicht berücksichtigt"), 4, 0, Qt::AlignTop);
+    grid->addWidget(m_withoutDate, 4, 1, 1, 4);
+    grid->addWidget(m_leftOut, 5, 1, 1, 4);
+    grid->setColumnStretch(4, 1);
+    return box;
+}
+
+StatisticsOptions ChartPanel::options() const
+{
+    StatisticsOptions options;
+    options.grafiktyp = m_type->currentIndex();
+    options.legende = m_legend->isChecked();
+    options.nachGeburtsjahr = m_grouping[0]->isChecked();
+    for (std::size_t i = 0; i < m_sexes.size(); ++i)
+        options.geschlechtalter[i + 2] = m_sexes[i]->isChecked() ? 1 : 0;
+    return options;
+}
+
+void ChartPanel::setOptions(const StatisticsOptions &options)
+{
+    if (options.grafiktyp >= 0 && options.grafiktyp < m_type->count())
+        m_type->setCurrentIndex(options.grafiktyp);
+    m_legend->setChecked(options.legende);
+    m_grouping[options.nachGeburtsjahr ? 0 : 1]->setChecked(true);
+    for (std::size_t i = 0; i < m_sexes.size(); ++i)
+        m_sexes[i]->setChecked(options.geschlechtalter[i + 2] == 1);
+    updateLook();
+}
+
+void ChartPanel::updateLook()
+{
+    const StatisticsServices &services = m_controller.services();
+    const StatisticsOptions shown = options();
+    ChartLook look = grafiklook(services.language, services.host, shown.type(), shown.legende, shown.nachGeburtsjahr);
+    look.grid = m_chart->gridAction->isChecked();
+    look.values = m_chart->valuesAction->isChecked();
+    if (m_controller.figures().zahlen.markiert == 0)
+        look.emptyText = text(20525, QStringLiteral("Markieren Sie Personen, um ihre Altersstatistik zu sehen."));
+    m_chart->setLook(look);
+}
+
+void ChartPanel::showFigures()
+{
+    const Grafikzahlen &figures = m_controller.figures();
+    for (std::size_t i = 0; i < m_counts.size(); ++i) {
+        m_counts[i]->setText(figures.anzahl[i]);
+        m_averages[i]->setText(figures.durchschnitt[i]);
+    }
+    m_range->setText(figures.spanne.value_or(QString()));
+    m_withoutDate->setText(figures.ohneDatum);
+    const QLocale locale(m_controller.services().host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0
+                             ? QLocale::German
+                             : QLocale::English);
+    QStringList left;
+    if (figures.zahlen.nichtNachGeburt > 0)
+        left << text(20528, QStringLiteral("%1 Personen, die nicht nach ihrer Geburt gestorben sind"))
+                    .arg(locale.toString(figures.zahlen.nichtNachGeburt));
+    m_unknownSex->setText(figures.zahlen.ohneGeschlecht == 0
+                              ? QString()
+                              : text(20540, QStringLiteral("(%1 ohne Angabe des Geschlechts)"))
+                                    .arg(locale.toString(figures.zahlen.ohneGeschlecht)));
+    m_leftOut->setText(left.join(u'\n'));
+    m_leftOut->setVisible(!left.isEmpty());
+    m_chart->setTable(figures.tabelle);
+    updateLook();
+}
+
+void ChartPanel::savePicture()
+{
+    Desktop &desktop = m_controller.services().host.desktop();
+    const QString file =
+        desktop.saveFileName(window(), {.title = text(20628, QStringLiteral("Bild speichern unter")),
+                                        .filters = QStringLiteral("PNG (*.png);;JPEG (*.jpg);;SVG (*.svg)"),
+                                        .suffix = QStringLiteral("png")});
+    if (file.isEmpty())
+        return;
+    try {
+        writeChart(m_chart->table(), m_chart->look(), SavedSize, file, 92, SavedDpi);
+        Q_EMIT said(text(20312, QStringLiteral("Gespeichert: %1")).arg(file));
+    } catch (const Error &error) {
+        desktop.messageBox(error.message(), MessageCritical, text(21020, QStringLiteral("Fehler")));
+    }
+}
+
+} // namespace kalvenor::statistics

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "statistics/statisticscontroller.h"
+
+#include "language/form.h"
+#include <new>
+#include <utility>
+
+namespace kalvenor::statistics {
+
+namespace {
+
+constexpr qint64 GrowEveryMs = 40;
+
+} // namespace
+
+StatisticsController::StatisticsController(const StatisticsServices &services, QObject *parent)
+    : QObject(parent), m_services(services)
+{
+}
+
+QString StatisticsController::text(qint16 id, const QString &germanText) const
+{
+    return language::shownText(m_services.language, id, germanText);
+}
+
+bool StatisticsController::perform(const QString &what, const Work::Task &task)
+{
+    QElapsedTimer clock;
+    clock.start();
+    bool done = false;
+    QString failure;
+    try {
+        done = m_services.work.run(what, task);
+    } catch (const Error &error) {
+        if (error.kind() == ErrorKind::Cancelled)
+            Q_EMIT said(text(20348, QStringLiteral("Abgebrochen")));
+        else
+            failure = error.message();
+    } catch (const std::bad_alloc &) {
+        failure = QStringLiteral("There is not enough memory for this.");
+    }
+    m_lastDuration = clock.elapsed();
+    if (!failure.isEmpty())
+        m_services.host.desktop().messageBox(failure, MessageCritical, text(21020, QStringLiteral("Fehler")));
+    return done;
+}
+
+bool StatisticsController::alterslistenausgabe(const GeschlechtAlter &geschlechtalter)
+{
+    if (m_services.work.isRunning())
+        return false;
+    m_list.clear();
+    Q_EMIT listCleared();
+    m_listCurrent = geschlechtalter[0] == 0 && geschlechtalter[1] == 0;
+    if (m_listCurrent) // nothing to wait for, the pointer stays as it is
+        return true;
+    QElapsedTimer clock;
+    clock.start();
+    qint64 shown = 0;
+    const bool done =
+        perform(text(20344, QStringLiteral("Die Altersliste wird berechnet ...")), [&](const Progress &progress) {
+            statistics::alterslistenausgabe(m_services.databases, geschlechtalter, m_list,
+                                            [&](qint64 step, qint64 total) {
+                                                if (clock.elapsed() - shown >= GrowEveryMs) {
+                                                    Q_EMIT listGrew();
+                                                    shown = clock.elapsed();
+                                                }
+                                                return progress(step, total);
+                                            });
+        });
+    m_listCurrent = done;
+    if (!m_list.empty())
+        m_services.host.desktop().setPointer(Pointer::Custom);
+    Q_EMIT listGrew();
+    return done;
+}
+
+bool StatisticsController::grafikermitteln(const Grafikwahl &wahl)
+{
+    const bool done =
+        perform(text(20345, QStringLiteral("Die Grafik wird berechnet ...")), [&](const Progress &progress) {
+            m_figures = statistics::grafikermitteln(m_services.databases, wahl, progress);
+        });
+    if (done) {
+        m_figuresCurrent = true;
+        Q_EMIT figuresChanged();
+    }
+    return done;
+}
+
+} // namespace kalvenor::statistics

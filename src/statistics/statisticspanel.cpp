@@ -1,0 +1,180 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "statistics/statisticspanel.h"
+
+#include "language/widgetform.h"
+#include "statistics/agelistpanel.h"
+#include "statistics/chartpanel.h"
+#include "statistics/texteditor.h"
+#include <QCheckBox>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace kalvenor::statistics {
+
+namespace {
+
+constexpr int PauseMs = 120;
+/// What takes longer is not computed unasked after each change of the marks.
+constexpr qint64 LongMs = 700;
+
+} // namespace
+
+StatisticsPanel::StatisticsPanel(StatisticsController &controller, QWidget *parent)
+    : QWidget(parent), m_controller(controller), m_title(new QLineEdit(this)),
+      m_introduction(new TextEditor(controller.services().language, controller.services().host, this)),
+      m_chart(new ChartPanel(controller, this)), m_list(new AgeListPanel(controller, this)),
+      m_tabs(new QTabWidget(this)), m_notice(makeNoticeBar())
+{
+    m_title->setObjectName(QStringLiteral("Statistiktitel"));
+    m_title->setMaxLength(250);
+    auto *titleLabel = new QLabel(this);
+    language::setDesignText(titleLabel, QStringLiteral("20535Tit&el"));
+    language::setDesignText(m_title, QStringLiteral("20504Altersstatistik der Familie"),
+                            QStringLiteral("20503Titel der Statistik"));
+    titleLabel->setBuddy(m_title);
+
+    m_tabs->setObjectName(QStringLiteral("statistiktab"));
+    m_tabs->addTab(m_introduction, {});
+    m_tabs->addTab(m_chart, {});
+    m_tabs->addTab(m_list, {});
+    language::setDesignTab(m_tabs, Introduction, QStringLiteral("20500Einleitung"));
+    language::setDesignTab(m_tabs, Chart, QStringLiteral("20501Grafik"));
+    language::setDesignTab(m_tabs, AgeList, QStringLiteral("20502Altersliste"));
+
+    auto *head = new QHBoxLayout;
+    head->addWidget(titleLabel);
+    head->addWidget(m_title, 1);
+    auto *column = new QVBoxLayout(this);
+    column->addLayout(head);
+    column->addWidget(m_notice);
+    column->addWidget(m_tabs, 1);
+
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(PauseMs);
+    connect(&m_pause, &QTimer::timeout, this, &StatisticsPanel::computeShown);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &StatisticsPanel::tabChosen);
+    connect(m_list, &AgeListPanel::listWanted, this, [this] {
+        alterslistenausgabe();
+        Q_EMIT edited();
+    });
+    connect(m_list, &AgeListPanel::personWanted, this, &StatisticsPanel::personWanted);
+    connect(m_chart, &ChartPanel::chartWanted, this, [this] {
+        grafikermitteln();
+        Q_EMIT edited();
+    });
+    connect(m_chart, &ChartPanel::said, this, &StatisticsPanel::said);
+    connect(m_introduction, &TextEditor::said, this, &StatisticsPanel::said);
+    connect(m_introduction, &TextEditor::changed, this, &StatisticsPanel::edited);
+    connect(m_title, &QLineEdit::textEdited, this, &StatisticsPanel::edited);
+    connect(&controller, &StatisticsController::said, this, &StatisticsPanel::said);
+    setOptions(readOptions(controller.services().host));
+}
+
+QWidget *StatisticsPanel::makeNoticeBar()
+{
+    auto *bar = new QFrame(this);
+    bar->setObjectName(QStringLiteral("Veraltet"));
+    bar->setFrameShape(QFrame::StyledPanel);
+    auto *label = new QLabel(bar);
+    label->setWordWrap(true);
+    language::setDesignText(label, QStringLiteral("20536Die Markierungen haben sich geändert."));
+    auto *compute = new QPushButton(bar);
+    compute->setObjectName(QStringLiteral("Neuberechnen"));
+    language::setDesignText(compute, QStringLiteral("20537Neu berechnen"));
+    connect(compute, &QPushButton::clicked, this, &StatisticsPanel::computeShown);
+    auto *row = new QHBoxLayout(bar);
+    row->setContentsMargins(8, 2, 2, 2);
+    row->addWidget(label, 1);
+    row->addWidget(compute);
+    bar->hide();
+    return bar;
+}
+
+void StatisticsPanel::showTab(Tab tab)
+{
+    m_tabs->setCurrentIndex(tab);
+    m_tabs->currentWidget()->setFocus();
+}
+
+StatisticsOptions StatisticsPanel::options() const
+{
+    StatisticsOptions options = m_chart->options();
+    for (std::size_t i = 0; i < 2; ++i)
+        options.geschlechtalter[i] = m_list->sexBoxes()[i]->isChecked() ? 1 : 0;
+    return options;
+}
+
+void StatisticsPanel::setOptions(const StatisticsOptions &options)
+{
+    for (std::size_t i = 0; i < 2; ++i)
+        m_list->sexBoxes()[i]->setChecked(options.geschlechtalter[i] == 1);
+    m_chart->setOptions(options);
+}
+
+bool StatisticsPanel::alterslistenausgabe()
+{
+    const bool done = m_controller.alterslistenausgabe(options().geschlechtalter);
+    m_notice->setVisible(!isShownCurrent());
+    return done;
+}
+
+bool StatisticsPanel::grafikermitteln()
+{
+    const bool done = m_controller.grafikermitteln(options().wahl());
+    m_notice->setVisible(!isShownCurrent());
+    return done;
+}
+
+void StatisticsPanel::personsChanged()
+{
+    m_controller.forget();
+    if (isShownCurrent())
+        return;
+    if (m_controller.lastDuration() > LongMs)
+        m_notice->show();
+    else
+        m_pause.start();
+}
+
+void StatisticsPanel::tabChosen()
+{
+    if (m_tabs->currentIndex() == AgeList)
+        alterslistenausgabe();
+    else if (!isShownCurrent())
+        computeShown();
+    m_notice->setVisible(!isShownCurrent());
+}
+
+bool StatisticsPanel::isShownCurrent() const
+{
+    switch (m_tabs->currentIndex()) {
+    case Chart:
+        return m_controller.areFiguresCurrent();
+    case AgeList:
+        return m_controller.isListCurrent();
+    default:
+        return true;
+    }
+}
+
+void StatisticsPanel::computeShown()
+{
+    if (isShownCurrent() || !isVisible())
+        return;
+    if (m_controller.services().work.isRunning()) {
+        m_pause.start();
+        return;
+    }
+    if (m_tabs->currentIndex() == Chart)
+        grafikermitteln();
+    else
+        alterslistenausgabe();
+}
+
+} // namespace kalvenor::statistics
