@@ -37,8 +37,8 @@ TextEditor::TextEditor(language::Sprachmodul &texts, host::Host &host, QWidget *
 {
     setObjectName(QStringLiteral("Einleitung"));
     m_field->setObjectName(QStringLiteral("RTFtextfeld0"));
-    m_field->setPlaceholderText(text(20723, "Schreiben Sie hier, was vor der Statistik stehen soll."));
-    language::setDesignText(m_field, QStringLiteral("20722Einleitender Text des Berichts"));
+    language::setDesignText(m_field, QStringLiteral("20723Schreiben Sie hier, was vor der Statistik stehen soll."));
+    m_field->setAccessibleName(text(20722, "Einleitender Text des Berichts"));
     auto *tools = new TextTools(*m_field, this);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

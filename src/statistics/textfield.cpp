@@ -61,6 +61,7 @@ TextField::TextField(QWidget *parent) : QTextEdit(parent)
 {
     setPalette(paperPalette(palette()));
     setFont(QFont(QStringLiteral("Arial"), 10)); // the report's own
+    document()->setDocumentMargin(8);
     setAutoFormatting(QTextEdit::AutoNone);
     setTabChangesFocus(true); // the window is walked through by keys
 }

@@ -315,7 +315,7 @@ void TextTools::showFormats()
     m_family->setEditText(family);
     if (!m_size->lineEdit()->hasFocus())
         m_size->setEditText(locale().toString(size, 'g', 4));
-    m_color->setIcon(colorIcon(foregroundOf(format).isValid() ? foregroundOf(format) : QColor(Qt::black)));
+    m_color->setIcon(colorIcon(foregroundOf(format)));
 }
 
 } // namespace kalvenor::statistics

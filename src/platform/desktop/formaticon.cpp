@@ -155,7 +155,10 @@ QIcon formatIcon(FormatIcon which)
 
 QIcon colorIcon(const QColor &color)
 {
-    return pathIcon(letterPath(), color);
+    QPainterPath path = letterPath();
+    if (!color.isValid())
+        addLine(path, {5, 20.2}, {19, 20.2});
+    return pathIcon(path, color);
 }
 
 } // namespace kalvenor

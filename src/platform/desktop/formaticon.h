@@ -10,7 +10,7 @@ namespace kalvenor {
 enum class FormatIcon { Bold, Italic, Underline, StrikeOut, Left, Centre, Right, Justify, Bullets, Plain, Open, Save };
 
 QIcon formatIcon(FormatIcon which);
-/// A letter over a bar of the colour; an invalid one gives the letter alone.
+/// A letter over a bar of the colour; an invalid one gives it that of the letter.
 QIcon colorIcon(const QColor &color);
 
 } // namespace kalvenor

@@ -80,6 +80,13 @@ QByteArray characterOf(QChar c)
     }
 }
 
+QString soundFontName(const QString &family)
+{
+    QString name = shownCharacters(family).simplified().left(longestRtfFontName);
+    name.removeIf([](QChar c) { return QStringLiteral("\\{};").contains(c) || !c.isPrint(); });
+    return name.simplified();
+}
+
 class Writer {
 public:
     explicit Writer(const QTextDocument &document) : m_document(document), m_default(document.defaultFont()) {}
@@ -216,8 +223,9 @@ Look Writer::lookOf(const QTextCharFormat &format)
 
 int Writer::fontIndex(const QString &named)
 {
-    QString family = shownCharacters(named).simplified().left(longestRtfFontName);
-    family.removeIf([](QChar c) { return QStringLiteral("\\{};").contains(c) || !c.isPrint(); });
+    QString family = soundFontName(named);
+    if (family.isEmpty())
+        family = soundFontName(m_default.family());
     for (qsizetype i = 0; i < m_fonts.size(); ++i) {
         if (m_fonts[i] == family && i != m_bulletFont)
             return static_cast<int>(i);
