@@ -27,7 +27,7 @@ const QStringList richTextTypes{QStringLiteral("text/rtf"), QStringLiteral("appl
 QByteArray richText(const QMimeData &source)
 {
     for (const QString &type : richTextTypes) {
-        if (const QByteArray rtf = source.data(type); looksLikeRtf(rtf))
+        if (QByteArray rtf = source.data(type); looksLikeRtf(rtf))
             return rtf;
     }
     return {};

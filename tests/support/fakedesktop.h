@@ -57,7 +57,7 @@ private:
         fileQuestions.push_back(question);
         if (fileAnswers.empty())
             return {};
-        const QString answer = fileAnswers.front();
+        QString answer = fileAnswers.front();
         fileAnswers.erase(fileAnswers.begin());
         return answer;
     }
