@@ -154,7 +154,7 @@ void TextTools::makeFonts()
 {
     m_family = new QFontComboBox(this);
     m_family->setObjectName(QStringLiteral("Schriftart"));
-    m_family->setMaximumWidth(m_family->fontMetrics().averageCharWidth() * 24);
+    m_family->setMaximumWidth(m_family->fontMetrics().averageCharWidth() * 20);
     language::setDesignText(m_family, QStringLiteral("20708Schriftart"), QStringLiteral("20708Schriftart"));
     connect(m_family, &QComboBox::textActivated, this, [this](const QString &family) {
         QTextCharFormat format;
@@ -165,8 +165,9 @@ void TextTools::makeFonts()
     m_size->setObjectName(QStringLiteral("Schriftgroesse"));
     m_size->setEditable(true);
     m_size->setInsertPolicy(QComboBox::NoInsert);
-    m_size->setMinimumContentsLength(4);
+    m_size->setMinimumContentsLength(3);
     m_size->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_size->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_size->setMaxVisibleItems(16);
     language::setDesignText(m_size, QStringLiteral("20709Schriftgröße"), QStringLiteral("20709Schriftgröße"));
     for (const int size : {8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 28, 36, 48, 72})
@@ -221,6 +222,8 @@ void TextTools::makeMenu()
     for (QAction *alignment : m_alignments)
         m_menu->addAction(alignment);
     m_menu->addAction(m_bullets);
+    m_menu->addSeparator();
+    m_menu->addActions({m_open, m_save});
     connect(m_menu, &QMenu::aboutToShow, this, [this] {
         m_paste->setEnabled(m_field.canPaste());
         m_pastePlain->setEnabled(m_field.canPaste());
