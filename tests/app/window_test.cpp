@@ -107,7 +107,7 @@ TEST(Window, EndsTheDatabasesAndKeepsItsPlace)
     open.program.Main(
         [&open] { return open.window = std::make_unique<app::Auswahl>(open.program), open.window.get(); });
     open.window->show();
-    EXPECT_EQ(open.window->size(), size);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return open.window->size() == size; })); // as small as its texts allow
     EXPECT_EQ(open.window->selectionPanel().listSplitter().sizes(), laidOut);
 }
 
