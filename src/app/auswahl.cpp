@@ -4,9 +4,9 @@
 
 #include "app/helpwindow.h"
 #include "app/mainactions.h"
-#include "app/progresspanel.h"
 #include "app/windowstate.h"
 #include "language/infoform.h"
+#include "language/progresspanel.h"
 #include "language/widgetform.h"
 #include "selection/filterpanel.h"
 #include "selection/personlistpanel.h"
@@ -91,7 +91,7 @@ void Auswahl::makeStatusBar()
         statusBar()->addPermanentWidget(label);
         return label;
     };
-    statusBar()->addPermanentWidget(new ProgressPanel(m_work, this));
+    statusBar()->addPermanentWidget(new language::ProgressPanel(m_work, this));
     m_database = panel("PanelDatenbank", "20303Die geöffnete Familiendatenbank");
     m_damage = new QLabel(this);
     m_damage->setObjectName(QStringLiteral("PanelSchaden"));

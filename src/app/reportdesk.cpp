@@ -18,6 +18,13 @@
 
 namespace kalvenor::app {
 
+namespace {
+
+/// Of a chart that was not laid out yet, because its tab is not shown.
+constexpr QSize DefaultShape(160, 100);
+
+} // namespace
+
 ReportDesk::ReportDesk(const Parts &parts, QObject *parent)
     : QObject(parent), m_parts(parts),
       m_bericht({parts.program.host, parts.program.language, parts.program.databases, m_print})

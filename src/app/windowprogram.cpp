@@ -3,13 +3,13 @@
 #include "app/windowprogram.h"
 
 #include "app/auswahl.h"
+#include "platform/desktop/appicon.h"
 #include "platform/desktop/terminal.h"
 #include "platform/desktop/widgetdesktop.h"
 #include <cstdlib>
 #include <memory>
 #include <new>
 #include <QApplication>
-#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTimer>
@@ -75,7 +75,7 @@ int runWindow(int &argc, char **argv, const std::function<QString()> &programFol
     QApplication::setApplicationName(QStringLiteral("Kalvenor"));
     QApplication::setApplicationDisplayName(QStringLiteral("Kalvenor"));
     QApplication::setDesktopFileName(QStringLiteral("kalvenor"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/kalvenor.svg")));
+    QApplication::setWindowIcon(applicationIcon());
 
     const std::unique_ptr<Desktop> desktop = makeDesktop();
     Program program(programFolder(), *desktop);
