@@ -70,6 +70,8 @@ TEST(Rtfanpassen, ResultIsStillReadAsWritten)
     EXPECT_TRUE(readRtf(rtfBytes(rtf), document).everythingShown());
     EXPECT_EQ(document.toPlainText().toStdString(), "Titel\neins\nzwei €\n");
     EXPECT_NE(document.findBlockByNumber(2).textList(), nullptr);
+    const QTextCharFormat first = document.firstBlock().begin().fragment().charFormat();
+    EXPECT_EQ(first.background().style(), Qt::NoBrush) << "black in the table is no ground of the text";
 
     QString plain = QStringLiteral("Ω_ü");
     rtfanpassen(0, plain);

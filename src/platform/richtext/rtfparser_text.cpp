@@ -142,7 +142,8 @@ const QTextCharFormat &RtfParser::format()
         format.setFontStrikeOut(true);
     if (const QColor foreground = color(state.foreground); foreground.isValid())
         format.setForeground(foreground);
-    if (const QColor background = color(state.background); background.isValid())
+    // 0 is no background, also where a colour table begins with a colour.
+    if (const QColor background = color(state.background); state.background > 0 && background.isValid())
         format.setBackground(background);
     m_format = format;
     m_formatKnown = true;
