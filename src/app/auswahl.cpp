@@ -272,15 +272,23 @@ void Auswahl::dropEvent(QDropEvent *event)
 
 void Auswahl::showMarkedPerson(qint32 counter)
 {
-    if (m_controller.isFiltered(PersonList::Marked))
-        m_controller.reloadPlain(PersonList::Marked);
     dao::Recordset &persons = *m_program.databases.Datentabelle;
-    persons.seekEqual(counter);
-    if (persons.noMatch() || persons.table() != m_controller.model(PersonList::Marked).table())
-        return;
-    selection::PersonListView &view = m_selection->listPanel(PersonList::Marked).view();
-    view.selectTableRows({static_cast<quint32>(persons.position())});
-    view.setFocus();
+    try {
+        persons.seekEqual(counter);
+        // The statistic may have seen what another program changed before the lists did.
+        if (m_controller.isFiltered(PersonList::Marked) ||
+            persons.table() != m_controller.model(PersonList::Marked).table()) {
+            m_controller.reloadPlain(PersonList::Marked);
+            persons.seekEqual(counter);
+        }
+        if (persons.noMatch() || persons.table() != m_controller.model(PersonList::Marked).table())
+            return;
+        selection::PersonListView &view = m_selection->listPanel(PersonList::Marked).view();
+        view.selectTableRows({static_cast<quint32>(persons.position())});
+        view.setFocus();
+    } catch (const Error &error) {
+        m_program.host.desktop().messageBox(error.message(), MessageCritical, text(21020, QStringLiteral("Fehler")));
+    }
 }
 
 void Auswahl::say(const QString &what, int milliseconds)

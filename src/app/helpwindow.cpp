@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/helpwindow.h"
 
+#include "language/form.h"
 #include "language/widgetform.h"
 #include "platform/desktop/lineicon.h"
 #include <algorithm>
@@ -74,8 +75,9 @@ HelpWindow::HelpWindow(language::Sprachmodul &language, const host::Host &host, 
     language::formuebersetzen(*this, m_language, m_host);
     unsetCursor();
 
-    const bool german = m_host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0;
-    m_text->setSource(QUrl(QStringLiteral("qrc:/help/%1.html#%2").arg(german ? u"de" : u"en", Beginning)));
+    m_text->setSource(
+        QUrl(QStringLiteral("qrc:/help/%1.html#%2")
+                 .arg(language::anzeigesprache(m_host).language() == QLocale::German ? u"de" : u"en", Beginning)));
     readContents();
     connect(m_contents, &QListWidget::currentRowChanged, this, [this](int row) {
         if (row >= 0)

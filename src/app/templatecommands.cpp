@@ -3,11 +3,10 @@
 #include "app/templatecommands.h"
 
 #include "app/startedprogram.h"
-#include "platform/chart/chart.h"
 #include "selection/vorlageoeffnen.h"
 #include "selection/vorlagespeichern.h"
+#include "statistics/statisticsoptions.h"
 #include <algorithm>
-#include <iterator>
 #include <QDir>
 #include <QFile>
 #include <QStringList>
@@ -16,14 +15,17 @@ namespace kalvenor::app {
 
 namespace {
 
-/// The types in the order of the list `Grafiktyp`.
-constexpr ChartType types[selection::Grafiktypen] = {
-    ChartType::Bar3D,         ChartType::Bar,         ChartType::Line3D, ChartType::Line,
-    ChartType::Area3D,        ChartType::Area,        ChartType::Step3D, ChartType::Step,
-    ChartType::Combination3D, ChartType::Combination, ChartType::Pie,    ChartType::XY};
-
 /// Numbers of persons that are named, of those that were not found.
 constexpr std::size_t NamedPersons = 20;
+
+/// In the list `Grafiktyp`, where it is known to be.
+int placeOf(ChartType type)
+{
+    const auto &entries = statistics::chartTypeEntries();
+    return static_cast<int>(
+        std::find_if(entries.begin(), entries.end(), [type](const auto &entry) { return entry.type == type; }) -
+        entries.begin());
+}
 
 QString toText(const std::string &word)
 {
@@ -59,7 +61,8 @@ QString lines(const selection::Statistikwerte &werte)
     return QStringLiteral(
                "title:         %1\nintroduction:  %2 bytes\nchart type:    %3\nlegend:        %4\nsex, list:     %5\n"
                "sex, chart:    %6\nby:            %7")
-        .arg(werte.titel, QString::number(werte.rtf.size()), QString::number(static_cast<int>(types[werte.grafiktyp])),
+        .arg(werte.titel, QString::number(werte.rtf.size()),
+             QString::number(static_cast<int>(statistics::StatisticsOptions{.grafiktyp = werte.grafiktyp}.type())),
              werte.legende == 1 ? "yes" : "no", sexText(boxes[0], boxes[1]), sexText(boxes[2], boxes[3]),
              werte.nachGeburtsjahr ? "birth" : "death");
 }
@@ -86,8 +89,8 @@ void TemplateCommands::addTo(CLI::App &app, const std::function<void(CLI::App *)
 void TemplateCommands::addOptions()
 {
     std::vector<int> numbers;
-    for (const ChartType type : types)
-        numbers.push_back(static_cast<int>(type));
+    for (const statistics::ChartTypeEntry &entry : statistics::chartTypeEntries())
+        numbers.push_back(static_cast<int>(entry.type));
     m_save->add_option("--title", m_title, "The statistic's title")->type_name("T");
     m_save->add_option("--intro", m_intro, "The introduction, a file")->type_name("F.rtf");
     m_save->add_option("--type", m_type, "Type of the chart: 0-9, 14 or 16")
@@ -120,7 +123,7 @@ int TemplateCommands::save(const QString &programFolder) const
     if (!m_intro.empty())
         werte.rtf = readRtf(absoluteNative(m_intro));
     if (m_save->count("--type") > 0)
-        werte.grafiktyp = static_cast<int>(std::find(std::begin(types), std::end(types), ChartType(m_type)) - types);
+        werte.grafiktyp = placeOf(ChartType(m_type));
     if (!m_sex.empty()) {
         const qint16 men = m_sex.find('m') != std::string::npos ? 1 : 0;
         const qint16 women = m_sex.find('w') != std::string::npos ? 1 : 0;

@@ -9,7 +9,6 @@
 #include <new>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QLocale>
 
 namespace kalvenor::app {
 
@@ -153,13 +152,11 @@ bool TemplateDesk::openFile(const QString &nativeFile)
     setCurrent(nativeFile);
     remember(nativeFile);
     m_parts.panel.computeAll();
-    const QLocale locale(program.host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0 ? QLocale::German
-                                                                                            : QLocale::English);
     Q_EMIT said(text(20313, QStringLiteral("Geöffnet: %1")).arg(nativeFile));
     if (!opened.missing.empty())
         program.host.desktop().messageBox(
             text(21406, QStringLiteral("%1 Personen der Vorlage sind nicht in der Datenbank."))
-                .arg(locale.toString(static_cast<qlonglong>(opened.missing.size()))),
+                .arg(language::anzeigesprache(program.host).toString(static_cast<qlonglong>(opened.missing.size()))),
             0, text(21400, QStringLiteral("Vorlage öffnen")));
     return true;
 }

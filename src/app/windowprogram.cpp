@@ -3,6 +3,7 @@
 #include "app/windowprogram.h"
 
 #include "app/auswahl.h"
+#include "language/form.h"
 #include "platform/desktop/appicon.h"
 #include "platform/desktop/terminal.h"
 #include "platform/desktop/widgetdesktop.h"
@@ -53,11 +54,12 @@ std::unique_ptr<Desktop> makeDesktop()
 }
 
 /// Qt's own dialogs in the language of the host.
-void speakLanguage(const QString &sprache, QTranslator &translator)
+void speakLanguage(const host::Host &host, QTranslator &translator)
 {
-    const bool german = sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0;
-    QLocale::setDefault(QLocale(german ? QLocale::German : QLocale::English));
-    if (german && translator.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    const QLocale locale = language::anzeigesprache(host);
+    QLocale::setDefault(locale);
+    if (locale.language() == QLocale::German &&
+        translator.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&translator);
 }
 
@@ -84,7 +86,7 @@ int runWindow(int &argc, char **argv, const std::function<QString()> &programFol
     try {
         const bool started = program.Main([&]() -> QObject * {
             try {
-                speakLanguage(program.host.Sprache, translator);
+                speakLanguage(program.host, translator);
                 window = std::make_unique<Auswahl>(program);
                 window->show();
                 // The window is to be seen before a long template begins.

@@ -49,7 +49,7 @@ constexpr LanguageText texts[] = {
     {20534, u"Anzahl, Durchschnittsalter, niedrigstes und höchstes Alter der markierten Personen",
      u"Number, average, lowest and highest age of the marked persons"},
     {20535, u"Tit&el", u"T&itle"},
-    {20536, u"Die Markierungen haben sich geändert.", u"The marks have changed."},
+    {20536, u"Was hier steht, ist nicht auf dem neuesten Stand.", u"What is shown here is not up to date."},
     {20537, u"Neu berechnen", u"Compute again"},
     {20538, u"Männer", u"Men"},
     {20539, u"Frauen", u"Women"},

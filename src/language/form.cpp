@@ -147,6 +147,11 @@ void formuebersetzen(Form &form, Sprachmodul &texts, const host::Host &host)
         translation.control(control);
 }
 
+QLocale anzeigesprache(const host::Host &host)
+{
+    return host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0 ? QLocale::German : QLocale::English;
+}
+
 QString shownText(Sprachmodul &texts, qint16 id, const QString &germanText)
 {
     const QVariant text = texts.sprachtext(id);

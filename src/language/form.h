@@ -4,6 +4,7 @@
 
 #include "host/host.h"
 #include "language/sprache.h"
+#include <QLocale>
 #include <QString>
 #include <vector>
 
@@ -34,6 +35,9 @@ struct Form {
 /// Translates title, captions and tooltips by the rules of each control's type. What has no readable identifier stays
 /// as it is; tooltips are emptied unless short help is switched on. The pointer is left an hourglass. Never fails.
 void formuebersetzen(Form &form, Sprachmodul &texts, const host::Host &host);
+
+/// How numbers are written for the host's language: German, else English.
+QLocale anzeigesprache(const host::Host &host);
 
 /// A text shown at run time: the identifier's text, or `germanText` where it is one of our own that the database lacks.
 /// Places such as %1 are left for the caller to fill.

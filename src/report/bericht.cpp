@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "report/bericht.h"
 
+#include "language/form.h"
 #include "platform/basic/text.h"
 #include "platform/print/htmlwriter.h"
 #include "platform/print/richtextblocks.h"
@@ -90,8 +91,7 @@ PrintDocument Bericht::compose(const ReportContent &content, const Progress &pro
 {
     PrintDocument document;
     document.title = content.titel.isEmpty() ? m_services.language.text(TextReportFile) : content.titel;
-    document.language = m_services.host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0 ? QStringLiteral("de")
-                                                                                              : QStringLiteral("en");
+    document.language = language::anzeigesprache(m_services.host).bcp47Name().left(2);
     document.page = settings::usablePage(m_services.print.page);
     addRunningTexts(document, content);
     if (!content.titel.isEmpty())

@@ -5,7 +5,6 @@
 #include "platform/jet/table.h"
 #include "selection/marksnapshot.h"
 #include <new>
-#include <QLocale>
 #include <QTimer>
 #include <utility>
 
@@ -40,8 +39,7 @@ QString SelectionController::text(qint16 id, const QString &germanText) const
 
 QString SelectionController::numberText(qint64 number) const
 {
-    const bool german = m_services.host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0;
-    return QLocale(german ? QLocale::German : QLocale::English).toString(number);
+    return language::anzeigesprache(m_services.host).toString(number);
 }
 
 qint64 SelectionController::personCount() const

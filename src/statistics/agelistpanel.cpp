@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/agelistpanel.h"
 
+#include "language/form.h"
 #include "language/widgetform.h"
 #include "statistics/agelistmodel.h"
 #include "statistics/sexbox.h"
@@ -14,7 +15,6 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLocale>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -110,10 +110,9 @@ void AgeListPanel::copy() const
 void AgeListPanel::updateFigures()
 {
     const StatisticsServices &services = m_controller.services();
-    const bool german = services.host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0;
     m_figures->setText(
         language::shownText(services.language, 20526, QStringLiteral("%1 Personen, deren Alter berechnet werden kann"))
-            .arg(QLocale(german ? QLocale::German : QLocale::English).toString(m_model->rowCount())));
+            .arg(language::anzeigesprache(services.host).toString(m_model->rowCount())));
 }
 
 } // namespace kalvenor::statistics

@@ -16,18 +16,18 @@ bool isSexSelected(Geschlecht geschlecht, const GeschlechtAlter &geschlechtalter
 
 } // namespace
 
-void alterslistenausgabe(data::Datenbankmodul &databases, const GeschlechtAlter &geschlechtalter, Altersliste &list,
-                         const Progress &progress)
+qint64 alterslistenausgabe(data::Datenbankmodul &databases, const GeschlechtAlter &geschlechtalter, Altersliste &list,
+                           const Progress &progress)
 {
     list.clear();
     if (geschlechtalter[0] == 0 && geschlechtalter[1] == 0)
-        return;
-    jedenMarkierten(databases, QStringLiteral("The age list was stopped; it is not complete."), progress,
-                    [&](const Markierter &person) {
-                        const auto days = lebenstage(person.Geburtsdatum, person.Sterbedatum);
-                        if (days && isSexSelected(person.geschlecht, geschlechtalter))
-                            list.push_back({alterszeile(*days, person.listname()), person.Counter});
-                    });
+        return 0;
+    return jedenMarkierten(databases, QStringLiteral("The age list was stopped; it is not complete."), progress,
+                           [&](const Markierter &person) {
+                               const auto days = lebenstage(person.Geburtsdatum, person.Sterbedatum);
+                               if (days && isSexSelected(person.geschlecht, geschlechtalter))
+                                   list.push_back({alterszeile(*days, person.listname()), person.Counter});
+                           });
 }
 
 } // namespace kalvenor::statistics

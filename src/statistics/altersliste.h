@@ -22,8 +22,8 @@ using GeschlechtAlter = std::array<qint16, 4>;
 
 /// Fills the age list with a line for each marked person whose age at death can be computed and whose sex is selected,
 /// in `Listname` order. Rebuilds it from nothing; where an error (or Error(Cancelled)) ends it, the lines added so far
-/// stay. With both boxes 0 the list is only cleared. Progress counts the marked persons.
-void alterslistenausgabe(data::Datenbankmodul &databases, const GeschlechtAlter &geschlechtalter, Altersliste &list,
-                         const Progress &progress = {});
+/// stay. With both boxes 0 the list is only cleared. Progress counts the marked persons; returns how many were read.
+qint64 alterslistenausgabe(data::Datenbankmodul &databases, const GeschlechtAlter &geschlechtalter, Altersliste &list,
+                           const Progress &progress = {});
 
 } // namespace kalvenor::statistics

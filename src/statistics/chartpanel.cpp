@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/chartpanel.h"
 
+#include "language/form.h"
 #include "language/widgetform.h"
 #include "platform/chart/chartcontrol.h"
 #include "statistics/grafikbild.h"
@@ -12,7 +13,6 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -177,8 +177,9 @@ void ChartPanel::updateLook()
     ChartLook look = grafiklook(services.language, services.host, shown.type(), shown.legende, shown.nachGeburtsjahr);
     look.grid = m_chart->gridAction->isChecked();
     look.values = m_chart->valuesAction->isChecked();
-    if (m_controller.figures().zahlen.markiert == 0)
-        look.emptyText = text(20525, QStringLiteral("Markieren Sie Personen, um ihre Altersstatistik zu sehen."));
+    const Grafikzahlen &figures = m_controller.figures();
+    const bool computed = !figures.ohneDatum.isEmpty();
+    look.emptyText = computed ? leererText(services.language, figures.zahlen) : QString();
     m_chart->setLook(look);
 }
 
@@ -191,9 +192,7 @@ void ChartPanel::showFigures()
     }
     m_range->setText(figures.spanne.value_or(QString()));
     m_withoutDate->setText(figures.ohneDatum);
-    const QLocale locale(m_controller.services().host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0
-                             ? QLocale::German
-                             : QLocale::English);
+    const QLocale locale = language::anzeigesprache(m_controller.services().host);
     QStringList left;
     if (figures.zahlen.nichtNachGeburt > 0)
         left << text(20528, QStringLiteral("%1 Personen, die nicht nach ihrer Geburt gestorben sind"))

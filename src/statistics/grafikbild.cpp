@@ -30,7 +30,6 @@ std::optional<ChartType> grafiktyp(int number)
 ChartLook grafiklook(language::Sprachmodul &texts, const host::Host &host, ChartType type, bool legend, bool byBirth)
 {
     using language::shownText;
-    const bool german = host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0;
     return {
         .type = type,
         .legend = legend,
@@ -42,7 +41,7 @@ ChartLook grafiklook(language::Sprachmodul &texts, const host::Host &host, Chart
         .valueTitle = shownText(texts, 20622, QStringLiteral("Jahre")),
         .emptyText = leererText(texts, {}),
         .valueFormat = shownText(texts, 20625, QStringLiteral("%1: %2 Jahre")),
-        .locale = german ? QLocale::German : QLocale::English,
+        .locale = language::anzeigesprache(host),
     };
 }
 

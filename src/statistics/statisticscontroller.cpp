@@ -11,6 +11,8 @@ namespace kalvenor::statistics {
 namespace {
 
 constexpr qint64 GrowEveryMs = 40;
+/// What takes longer is not computed unasked after each change of the marks: keys pressed meanwhile would be lost.
+constexpr qint64 LongMs = 300;
 
 } // namespace
 
@@ -30,6 +32,7 @@ bool StatisticsController::perform(const QString &what, const Work::Task &task)
     clock.start();
     bool done = false;
     QString failure;
+    m_mayFollow = false;
     try {
         done = m_services.work.run(what, task);
     } catch (const Error &error) {
@@ -40,7 +43,7 @@ bool StatisticsController::perform(const QString &what, const Work::Task &task)
     } catch (const std::bad_alloc &) {
         failure = QStringLiteral("There is not enough memory for this.");
     }
-    m_lastDuration = clock.elapsed();
+    m_mayFollow = done && clock.elapsed() <= LongMs;
     if (!failure.isEmpty())
         m_services.host.desktop().messageBox(failure, MessageCritical, text(21020, QStringLiteral("Fehler")));
     return done;
@@ -58,19 +61,20 @@ bool StatisticsController::alterslistenausgabe(const GeschlechtAlter &geschlecht
     QElapsedTimer clock;
     clock.start();
     qint64 shown = 0;
+    qint64 marked = 0;
     const bool done =
         perform(text(20344, QStringLiteral("Die Altersliste wird berechnet ...")), [&](const Progress &progress) {
-            statistics::alterslistenausgabe(m_services.databases, geschlechtalter, m_list,
-                                            [&](qint64 step, qint64 total) {
-                                                if (clock.elapsed() - shown >= GrowEveryMs) {
-                                                    Q_EMIT listGrew();
-                                                    shown = clock.elapsed();
-                                                }
-                                                return progress(step, total);
-                                            });
+            marked = statistics::alterslistenausgabe(m_services.databases, geschlechtalter, m_list,
+                                                     [&](qint64 step, qint64 total) {
+                                                         if (clock.elapsed() - shown >= GrowEveryMs) {
+                                                             Q_EMIT listGrew();
+                                                             shown = clock.elapsed();
+                                                         }
+                                                         return progress(step, total);
+                                                     });
         });
     m_listCurrent = done;
-    if (!m_list.empty())
+    if (marked > 0)
         m_services.host.desktop().setPointer(Pointer::Custom);
     Q_EMIT listGrew();
     return done;
@@ -82,10 +86,9 @@ bool StatisticsController::grafikermitteln(const Grafikwahl &wahl)
         perform(text(20345, QStringLiteral("Die Grafik wird berechnet ...")), [&](const Progress &progress) {
             m_figures = statistics::grafikermitteln(m_services.databases, wahl, progress);
         });
-    if (done) {
-        m_figuresCurrent = true;
+    m_figuresCurrent = done;
+    if (done)
         Q_EMIT figuresChanged();
-    }
     return done;
 }
 

@@ -32,16 +32,16 @@ public:
 
     /// Rebuilds the age list. False where it was not begun, failed or was cancelled: what was added so far stays.
     bool alterslistenausgabe(const GeschlechtAlter &geschlechtalter);
-    /// Computes the figures and the chart's table. Where it fails or is cancelled, the old ones stay.
+    /// Computes the figures and the chart's table. Where it fails or is cancelled, the old ones stay, as outdated ones.
     bool grafikermitteln(const Grafikwahl &wahl);
 
-    /// Whether marks and persons are still those that the list, the figures were computed from.
+    /// Whether the list, the figures are what marks, persons and the controls last asked for give.
     bool isListCurrent() const { return m_listCurrent; }
     bool areFiguresCurrent() const { return m_figuresCurrent; }
     /// Marks or persons have changed: both are to be computed again.
     void forget() { m_listCurrent = m_figuresCurrent = false; }
-    /// What the last computation took, in milliseconds: whether the next one may come unasked.
-    qint64 lastDuration() const { return m_lastDuration; }
+    /// Whether the next computation may come unasked: the last one was short and neither failed nor was cancelled.
+    bool mayFollow() const { return m_mayFollow; }
 
 Q_SIGNALS:
     void listCleared();
@@ -59,7 +59,7 @@ private:
     Grafikzahlen m_figures;
     bool m_listCurrent = false;
     bool m_figuresCurrent = false;
-    qint64 m_lastDuration = 0;
+    bool m_mayFollow = true;
 };
 
 } // namespace kalvenor::statistics

@@ -20,8 +20,6 @@ namespace kalvenor::statistics {
 namespace {
 
 constexpr int PauseMs = 120;
-/// What takes longer is not computed unasked after each change of the marks.
-constexpr qint64 LongMs = 700;
 
 } // namespace
 
@@ -83,7 +81,7 @@ QWidget *StatisticsPanel::makeNoticeBar()
     bar->setFrameShape(QFrame::StyledPanel);
     auto *label = new QLabel(bar);
     label->setWordWrap(true);
-    language::setDesignText(label, QStringLiteral("20536Die Markierungen haben sich geändert."));
+    language::setDesignText(label, QStringLiteral("20536Was hier steht, ist nicht auf dem neuesten Stand."));
     auto *compute = new QPushButton(bar);
     compute->setObjectName(QStringLiteral("Neuberechnen"));
     language::setDesignText(compute, QStringLiteral("20537Neu berechnen"));
@@ -136,10 +134,10 @@ void StatisticsPanel::personsChanged()
     m_controller.forget();
     if (isShownCurrent())
         return;
-    if (m_controller.lastDuration() > LongMs)
-        m_notice->show();
-    else
+    if (m_controller.mayFollow())
         m_pause.start();
+    else
+        m_notice->show();
 }
 
 void StatisticsPanel::tabChosen()

@@ -13,16 +13,6 @@ using namespace kalvenor;
 using namespace kalvenor::test;
 using Counters = std::vector<qint32>;
 
-namespace {
-
-void markElsewhere(const OpenWindow &open, const QString &statement)
-{
-    dao::Engine other;
-    other.workspace(0).openDatabase(open.family())->execute(statement);
-}
-
-} // namespace
-
 TEST(AnotherProgram, ItsChangeIsOfferedAndKeepsSelectionAndFilter)
 {
     OpenWindow open(smallFamily());

@@ -91,6 +91,12 @@ struct OpenWindow : Installation {
     std::unique_ptr<app::Auswahl> window;
 };
 
+inline void markElsewhere(const OpenWindow &open, const QString &statement)
+{
+    dao::Engine other;
+    other.workspace(0).openDatabase(open.family())->execute(statement);
+}
+
 /// Seven persons in three generations; by name: 1 to 7. The women are 2, 4 and 6.
 inline std::vector<TestPerson> smallFamily()
 {

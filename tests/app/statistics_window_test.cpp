@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/chart/chartcontrol.h"
+#include "statistics/statisticspanel.h"
+#include "support/openwindow.h"
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTabWidget>
+#include <QToolButton>
+
+using namespace kalvenor;
+using namespace kalvenor::test;
+using statistics::StatisticsController;
+using statistics::StatisticsPanel;
+
+namespace {
+
+/// All seven persons are marked, four have both dates: two men and two women, all born in the 1800s.
+struct MarkedFamily : OpenWindow {
+    explicit MarkedFamily(const std::vector<TestPerson> &persons = smallFamily()) : OpenWindow(persons)
+    {
+        controller().moveAll(PersonList::Unmarked);
+    }
+    StatisticsController &statistics() { return window->statisticsController(); }
+    void showTab(StatisticsPanel::Tab tab) { control<QTabWidget>("statistiktab").setCurrentIndex(tab); }
+    QString label(const char *name) { return control<QLabel>(name).text(); }
+    QStringList lines()
+    {
+        QStringList texts;
+        const QAbstractItemModel &model = *control<QTableView>("Altersliste").model();
+        for (int row = 0; row < model.rowCount(); ++row)
+            texts << model.index(row, 0).data().toString();
+        return texts;
+    }
+    const ChartTable &table() { return control<ChartControl>("Grafik").table(); }
+    bool isStale() { return control<QWidget>("Veraltet").isVisible(); }
+};
+
+} // namespace
+
+TEST(Statistic, ItsTabsShowListChartAndFigures)
+{
+    MarkedFamily open;
+    open.showTab(StatisticsPanel::AgeList);
+    EXPECT_EQ(open.lines(),
+              (QStringList{" 71.2  Adler, Hans ", "109.5  Bär, Eva ", " 73.9  Claus, Ernst ", " 66.0  Dorn, Ida "}));
+    EXPECT_EQ(open.control<QTableView>("Altersliste").font().family(), "Courier New");
+    open.showTab(StatisticsPanel::Chart);
+    const std::pair<const char *, QString> labels[] = {{"Anzahl_0", "2"},
+                                                       {"Anzahl_1", "2"},
+                                                       {"Anzahl_2", "4"},
+                                                       {"Durchschnitt_0", "72.6"},
+                                                       {"Durchschnitt_1", "87.8"},
+                                                       {"Durchschnitt_2", "80.2"},
+                                                       {"Altersspanne", " 66 |  109.5"},
+                                                       {"OhneDatum", " 3 ohne * / + Datum"}};
+    for (const auto &[name, text] : labels)
+        EXPECT_EQ(open.label(name), text) << name;
+    EXPECT_EQ(open.table().rowLabels, QStringList{" 1800-99"});
+    EXPECT_TRUE(open.desktop.messages.empty());
+}
+
+TEST(Statistic, EachControlComputesWhatHangsOnIt)
+{
+    MarkedFamily open;
+    open.showTab(StatisticsPanel::Chart);
+    QSignalSpy list(&open.statistics(), &StatisticsController::listCleared);
+    QSignalSpy chart(&open.statistics(), &StatisticsController::figuresChanged);
+    const struct {
+        const char *control;
+        int lists, charts;
+    } rows[] = {{"geschlechtalter_0", 1, 0},
+                {"geschlechtalter_1", 1, 0},
+                {"geschlechtalter_2", 0, 1},
+                {"gt_ribbon_1", 0, 1},
+                {"Legende", 0, 1}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.control);
+        list.clear();
+        chart.clear();
+        open.click<QAbstractButton>(row.control);
+        EXPECT_EQ(list.count(), row.lists);
+        EXPECT_EQ(chart.count(), row.charts);
+    }
+    QTest::keyClick(&open.control<QComboBox>("Grafiktyp"), Qt::Key_Down);
+    EXPECT_EQ(chart.count(), 2);
+
+    EXPECT_TRUE(open.lines().isEmpty()) << "no sex is selected";
+    EXPECT_EQ(open.table().columnLabels, QStringList{"W"});
+    EXPECT_EQ(open.table().rowLabels, (QStringList{" 1800-99", " 1900-99"})) << "both women died then";
+    const ChartLook &look = open.control<ChartControl>("Grafik").look();
+    EXPECT_FALSE(look.legend);
+    EXPECT_EQ(look.type, ChartType::Line3D);
+
+    // The controls are as they were left when the window opens again.
+    const statistics::StatisticsOptions left = open.window->statisticsPanel().options();
+    EXPECT_EQ(left.geschlechtalter, (statistics::GeschlechtAlter{0, 0, 0, 1}));
+    ASSERT_TRUE(open.window->close());
+    open.program.Main(
+        [&open] { return open.window = std::make_unique<app::Auswahl>(open.program), open.window.get(); });
+    EXPECT_TRUE(open.window->statisticsPanel().options() == left);
+}
+
+TEST(Statistic, FollowsTheMarksAndLeadsBackToThem)
+{
+    MarkedFamily open;
+    open.showTab(StatisticsPanel::AgeList);
+    open.select(PersonList::Marked, {1});
+    open.click<QToolButton>("LM");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return open.lines().size() == 3; }));
+    auto &list = open.control<QTableView>("Altersliste");
+    list.setFocus();
+    list.selectRow(1);
+    QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), " 73.9  Claus, Ernst ");
+    markElsewhere(open, "Update Daten SET Markierung = 0 WHERE Counter = 2");
+    open.showTab(StatisticsPanel::Chart);
+    open.showTab(StatisticsPanel::AgeList);
+    EXPECT_EQ(open.lines().size(), 2) << "what another program unmarked";
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(list.model()->index(0, 0)).center());
+    EXPECT_EQ(open.view(PersonList::Marked).selectedCounters(), std::vector<qint32>{3});
+
+    open.controller().moveAll(PersonList::Marked);
+    open.showTab(StatisticsPanel::Chart);
+    EXPECT_TRUE(open.table().isEmpty());
+    EXPECT_TRUE(open.control<ChartControl>("Grafik").look().emptyText.contains("Markieren"));
+}
+
+TEST(Statistic, SaysThatItIsOutdatedWhereItWasCancelledOrFailed)
+{
+    auto persons = smallFamily();
+    persons.push_back({.counter = 8, .listname = "Zeh, Hans", .birth = -900000, .death = -880000});
+    MarkedFamily open(persons);
+    open.showTab(StatisticsPanel::Chart);
+    ASSERT_EQ(open.desktop.messages.size(), 1U) << "a year before 100";
+    EXPECT_TRUE(open.desktop.messages[0].text.contains("Zeh, Hans (8)"));
+    EXPECT_TRUE(open.isStale());
+    EXPECT_EQ(open.control<ChartControl>("Grafik").look().emptyText, "");
+    open.select(PersonList::Marked, {8});
+    open.click<QToolButton>("LM");
+    QTest::qWait(300);
+    EXPECT_EQ(open.desktop.messages.size(), 1U) << "nobody asked";
+    open.click<QPushButton>("Neuberechnen");
+    EXPECT_FALSE(open.isStale());
+    EXPECT_EQ(open.label("Anzahl_2"), "4");
+
+    Work &work = open.controller().services().work;
+    const auto cancelling = QObject::connect(&work, &Work::began, &work, &Work::cancel);
+    open.click<QAbstractButton>("gt_ribbon_1");
+    EXPECT_TRUE(open.isStale());
+    EXPECT_EQ(open.table().rowLabels, QStringList{" 1800-99"});
+    open.showTab(StatisticsPanel::AgeList);
+    EXPECT_TRUE(open.isStale());
+    EXPECT_TRUE(open.lines().isEmpty());
+    QObject::disconnect(cancelling);
+    open.click<QPushButton>("Neuberechnen");
+    EXPECT_EQ(open.lines().size(), 4);
+    EXPECT_FALSE(open.isStale());
+    open.showTab(StatisticsPanel::Chart);
+    EXPECT_EQ(open.table().rowLabels.size(), 2);
+}
