@@ -94,6 +94,7 @@ void MainActions::makeEdit()
     undo = make("Rueckgaengig", "20121 &Rückgängig", Qt::CTRL | Qt::Key_Z);
     redo = make("Wiederherstellen", "20122 &Wiederherstellen", Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
     copy = make("Kopieren", "20128 &Kopieren", Qt::CTRL | Qt::Key_C);
+    copy->setShortcutContext(Qt::WidgetShortcut); // chart, age list and text have a copying of their own
     selectAll = make("Allesauswaehlen", "20131 &Alles auswählen");
     mark = make("Markieren", "20123 Person &markieren", Qt::CTRL | Qt::Key_M);
     unmark = make("Aufheben", "20124 Markierung &aufheben", Qt::CTRL | Qt::Key_D);

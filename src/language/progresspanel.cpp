@@ -21,6 +21,7 @@ ProgressPanel::ProgressPanel(Work &work, QWidget *parent) : QWidget(parent), m_b
     cancel->setObjectName(QStringLiteral("Abbrechen"));
     cancel->setFocusPolicy(Qt::NoFocus); // Escape does the same; the focus stays where the user works
     setDesignText(cancel, QStringLiteral("20341Abbrechen"));
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred); // a status bar would draw the button out
     m_bar->setFixedWidth(160);
     m_bar->setTextVisible(false);
     auto *row = new QHBoxLayout(this);
