@@ -13,6 +13,7 @@
 #include "report/rtfanpassen.h"
 #include "settings/vorgabendatei.h"
 #include <cmath>
+#include <QDir>
 #include <QScopeGuard>
 #include <QTextDocument>
 
@@ -162,8 +163,11 @@ void Bericht::addChart(PrintDocument &document, const ReportContent &content)
     QString file;
     if (control.exportFormat == ExportFormat::Html)
         file = writePicture(print.Image, folderOf(control.exportFile) + chartFileName());
-    else if (control.exportFormat != ExportFormat::Pages)
-        writePicture(print.Image, m_services.host.Hostverzeichnis + QStringLiteral("\\Ausdrucke\\") + chartFileName());
+    else if (control.exportFormat != ExportFormat::Pages) {
+        const QString folder = m_services.host.Hostverzeichnis + QStringLiteral("\\Ausdrucke");
+        QDir().mkpath(m_services.host.native(folder)); // where that fails, writing tells why
+        writePicture(print.Image, folder + u'\\' + chartFileName());
+    }
     if (!file.isEmpty())
         document.add(Paragraph{.text = chartTag(file), .spaceAfter = Gap});
     document.add(Picture{.image = print.Image,
