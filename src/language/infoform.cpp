@@ -29,8 +29,9 @@ struct Library {
 
 QString libraryList()
 {
-    const std::array<Library, 4> libraries = {
+    const std::array<Library, 5> libraries = {
         Library{QStringLiteral("Qt %1").arg(QLatin1String(qVersion())), "GNU LGPL 3", "https://www.qt.io"},
+        Library{QStringLiteral("Qt Charts %1").arg(QLatin1String(qVersion())), "GNU GPL 3", "https://www.qt.io"},
         Library{QStringLiteral("SQLite 3"), "Public Domain", "https://www.sqlite.org"},
         Library{QStringLiteral("CLI11"), "BSD 3-Clause", "https://github.com/CLIUtils/CLI11"},
         Library{QStringLiteral("Liberation Fonts"), "SIL OFL 1.1", "https://github.com/liberationfonts"},
