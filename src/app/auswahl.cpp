@@ -199,6 +199,7 @@ void Auswahl::connectStatistic()
     connect(&m_templates, &TemplateDesk::currentChanged, this, &Auswahl::updateTitle);
     connect(&m_templates, &TemplateDesk::reopened, this,
             [this] { m_database->setText(QFileInfo(m_program.databases.Familiendatenbank->file()).fileName()); });
+    connect(&m_templates, &TemplateDesk::reopened, &m_report, &ReportDesk::forget);
 }
 
 /// Which template is current, and whether title or introduction still want saving.
@@ -338,7 +339,7 @@ void Auswahl::showShortcuts()
                                        .toHtmlEscaped()),
                     QMessageBox::Ok, this);
     box.setTextFormat(Qt::RichText);
-    box.exec();
+    m_program.host.desktop().runDialog(box);
 }
 
 void Auswahl::showEvent(QShowEvent *event)
@@ -366,13 +367,13 @@ void Auswahl::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
-    if (!m_closed && !m_templates.mayDiscard()) {
+    // A preview that shows a message stays open.
+    if (!m_closed && (!m_templates.mayDiscard() || !m_report.closePreview())) {
         event->ignore();
         return;
     }
     if (!m_closed) {
         m_closed = true;
-        m_report.closePreview();
         m_help.reset();
         saveWindow(*this, m_program.host);
         saveSplitter(m_selection->listSplitter(), ListsKey, m_program.host);

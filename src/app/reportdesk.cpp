@@ -121,10 +121,17 @@ void ReportDesk::run(const QString &previewCommand)
         m_preview->toolbarbuttonclick(previewCommand);
 }
 
-void ReportDesk::closePreview()
+bool ReportDesk::closePreview()
 {
-    if (m_preview != nullptr)
-        m_preview->close();
+    return m_preview == nullptr || m_preview->isHidden() || m_preview->close();
+}
+
+void ReportDesk::forget()
+{
+    if (m_parts.work.isRunning())
+        connect(&m_parts.work, &Work::ended, this, &ReportDesk::closePreview, Qt::SingleShotConnection);
+    else
+        closePreview();
 }
 
 } // namespace kalvenor::app

@@ -48,7 +48,10 @@ public:
     /// Composes, shows the preview and gives it the command ("drucker", "save").
     void run(const QString &previewCommand);
     settings::Druckvorschau *preview() const { return m_preview.get(); }
-    void closePreview();
+    /// False where the preview is busy; it closes as soon as it is not.
+    bool closePreview();
+    /// The persons are others: the preview closes once the running work has ended.
+    void forget();
 
 Q_SIGNALS:
     void said(const QString &text);
