@@ -9,8 +9,8 @@
 
 namespace kalvenor::settings {
 
-Druckanzeige::Druckanzeige(Work &work, QWidget *parent)
-    : QDialog(parent), m_work(work), m_device(new QLabel(this)), m_page(new QLabel(this)),
+Druckanzeige::Druckanzeige(const host::Host &host, Work &work, QWidget *parent)
+    : QDialog(parent), m_host(host), m_work(work), m_device(new QLabel(this)), m_page(new QLabel(this)),
       m_bar(new QProgressBar(this)), m_cancel(new QPushButton(this))
 {
     setObjectName(QStringLiteral("Druckanzeige"));
@@ -54,8 +54,10 @@ void Druckanzeige::advance(qint64 done, qint64 total)
     m_page->setText(m_texts.pageLine(static_cast<int>(done), static_cast<int>(total)));
     m_bar->setMaximum(static_cast<int>(total));
     m_bar->setValue(static_cast<int>(done));
-    if (!isVisible())
-        show();
+    if (isVisible())
+        return;
+    show();
+    m_host.fensteroben(windowHandle(), -1, false); // the other windows of the program may be there
 }
 
 void Druckanzeige::reject()

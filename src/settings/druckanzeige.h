@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "host/host.h"
 #include "platform/desktop/work.h"
 #include "settings/controltexts.h"
 #include <QDialog>
@@ -16,7 +17,7 @@ namespace kalvenor::settings {
 class Druckanzeige : public QDialog {
     Q_OBJECT
 public:
-    Druckanzeige(Work &work, QWidget *parent);
+    Druckanzeige(const host::Host &host, Work &work, QWidget *parent);
 
     void setTexts(const ControlTexts &texts);
     /// From here until the work ends its progress is shown.
@@ -27,6 +28,7 @@ public:
 private:
     void advance(qint64 done, qint64 total);
 
+    const host::Host &m_host;
     Work &m_work;
     ControlTexts m_texts;
     QLabel *m_device, *m_page;

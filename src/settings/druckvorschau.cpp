@@ -10,6 +10,7 @@
 #include "settings/pageview.h"
 #include "settings/previewactions.h"
 #include "settings/searchbar.h"
+#include <new>
 #include <QAction>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -38,7 +39,7 @@ Druckvorschau::Druckvorschau(const host::Host &host, language::Sprachmodul &text
                              QWidget *parent)
     : QMainWindow(parent), m_host(host), m_texts(texts), m_control(control), m_work(work), m_view(new PageView(this)),
       m_searchBar(new SearchBar(*m_view, texts, this)), m_actions(std::make_unique<PreviewActions>(*this)),
-      m_printing(new Druckanzeige(work, this)), m_open(new QPushButton(this))
+      m_printing(new Druckanzeige(host, work, this)), m_open(new QPushButton(this))
 {
     setObjectName(QStringLiteral("Druckvorschau"));
     language::setDesignText(this, QStringLiteral("20900Seitenansicht"));
@@ -183,10 +184,10 @@ void Druckvorschau::toolbarbuttonclick(const QString &key)
     m_busy = true;
     m_open->hide();
     statusBar()->clearMessage();
-    m_host.fensteroben(windowHandle(), NotOnTop, false); // so that dialogs can come to the front
+    placeAll(NotOnTop); // so that dialogs can come to the front
     const auto end = qScopeGuard([this] {
         m_busy = false;
-        m_host.fensteroben(windowHandle(), OnTop, false);
+        placeAll(OnTop);
         if (m_closing)
             QTimer::singleShot(0, this, &QWidget::close);
     });
@@ -198,7 +199,16 @@ void Druckvorschau::toolbarbuttonclick(const QString &key)
                                   : text(20948, QStringLiteral("Das Speichern wurde abgebrochen.")));
         else
             m_host.desktop().messageBox(error.message(), MessageCritical, m_title);
+    } catch (const std::bad_alloc &) {
+        m_host.desktop().messageBox(QStringLiteral("There is not enough memory for this."), MessageCritical, m_title);
     }
+}
+
+void Druckvorschau::placeAll(int onTop)
+{
+    if (const auto *main = qobject_cast<QWidget *>(m_host.Hauptform.data()))
+        m_host.fensteroben(main->windowHandle(), onTop, false);
+    m_host.fensteroben(windowHandle(), onTop, false);
 }
 
 void Druckvorschau::carryOut(const QString &key)

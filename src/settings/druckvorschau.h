@@ -52,6 +52,8 @@ private:
     void saveByComposing(ExportFormat format, const QString &file);
     void setUpPage();
 
+    /// Puts the preview in its place in the stack, and the main window, which would else cover it.
+    void placeAll(int onTop);
     /// Calls a procedure of the main window; `topic` is its argument where it takes one. Throws Error(Refused) where
     /// there is none of this name.
     void callMain(const char *procedure, const QString &topic = {});

@@ -142,9 +142,9 @@ TEST_F(Preview, TakesItselfOffTheTopForDialogs)
 {
     desktop.placements.clear();
     window->toolbarbuttonclick("INITVorgaben");
-    ASSERT_EQ(desktop.placements.size(), 2u);
-    EXPECT_EQ(desktop.placements[0].place, StackPlace::NotTopMost);
-    EXPECT_EQ(desktop.placements[1].place, StackPlace::TopMost);
+    ASSERT_EQ(desktop.placements.size(), 4u) << "the main window, which would cover it, and itself";
+    EXPECT_EQ(desktop.placements[1].place, StackPlace::NotTopMost);
+    EXPECT_EQ(desktop.placements[2].place, StackPlace::TopMost);
     desktop.placements.clear();
     EXPECT_FALSE(main.isVisible());
     child<QAction>("MDE").trigger();
@@ -253,6 +253,19 @@ TEST_F(Preview, PrintsWhatItShows)
     window->toolbarbuttonclick("drucker");
     EXPECT_EQ(said(), "") << "cancelled";
     EXPECT_FALSE(work.isRunning());
+}
+
+TEST_F(Preview, PrintsOnAPrinter)
+{
+    const QDir spool(qEnvironmentVariable("KALVENOR_SPOOL"));
+    if (!qEnvironmentVariableIsSet("KALVENOR_SPOOL"))
+        GTEST_SKIP() << "wants the print server of with-printer";
+    onPrintDialog([](QPrinter &printer) { printer.setPrinterName("Ablage"); });
+    window->toolbarbuttonclick("drucker");
+    EXPECT_EQ(said(), "Gedruckt: 12 Seiten");
+    const QStringList jobs = spool.entryList({"d*"}, QDir::Files);
+    ASSERT_EQ(jobs.size(), 1);
+    EXPECT_EQ(pagesOfPdf(spool.filePath(jobs[0])), window->pageView().pageCount());
 }
 
 TEST_F(Preview, StopsPrintingWhenAsked)

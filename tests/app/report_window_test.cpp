@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/druckvorschau.h"
+#include "settings/pageview.h"
+#include "support/openwindow.h"
+#include <QAction>
+#include <QDialog>
+#include <QPushButton>
+#include <QToolButton>
+
+using namespace kalvenor;
+using namespace kalvenor::test;
+
+namespace {
+
+/// The report of four persons in its preview.
+struct Report : testing::Test, OpenWindow {
+    Report() : OpenWindow(smallFamily())
+    {
+        select(PersonList::Unmarked, {1, 2, 3, 4});
+        click<QToolButton>("RM");
+        control<QAction>("Seitenansicht").trigger();
+    }
+    settings::Druckvorschau &preview() { return *window->report().preview(); }
+    std::shared_ptr<const PageLayout> pages() { return preview().pageView().pages(); }
+    void command(const char *key) { preview().findChild<QAction *>(QLatin1String(key))->trigger(); }
+    QString setting(const char *section, const char *key)
+    {
+        return program.host.inilesen(program.host.ownSettingsFile(), section, key, {});
+    }
+    /// Does it as soon as the pages are being composed.
+    template <typename Act>
+    void whileComposing(Act act)
+    {
+        QObject::connect(window->statusBar(), &QStatusBar::messageChanged, &preview(), [act](const QString &text) {
+            if (text.startsWith(QStringLiteral("Die Seiten werden")))
+                act();
+        });
+    }
+};
+
+} // namespace
+
+TEST_F(Report, IsSavedFromThePreviewInEveryFormat)
+{
+    EXPECT_TRUE(preview().isVisible());
+    EXPECT_GE(pages()->pages().size(), 1u);
+    const auto before = pages();
+    const struct {
+        const char *name, *written, *beginning;
+    } rows[] = {
+        {"a.rtf", "a.rtf", "{\\rtf1"}, {"b.pdf", "b.pdf", "%PDF-"}, {"c.html", "c-Statistik.html", "<!DOCTYPE"}};
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        desktop.fileAnswers = {folder.filePath(row.name)};
+        command("save");
+        EXPECT_EQ(preview().statusBar()->currentMessage(), "Gespeichert: " + folder.filePath(row.written))
+            << desktop.messages.back().text.toStdString();
+        QFile file(folder.filePath(row.written));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        EXPECT_TRUE(file.readAll().startsWith(row.beginning));
+    }
+    EXPECT_EQ(pages(), before) << "saving shows no other pages";
+    EXPECT_EQ(desktop.fileQuestions.back().folder, hostFolder() + "/Ausgabe");
+    control<QAction>("Seitenansicht").trigger();
+    EXPECT_NE(pages(), before);
+    EXPECT_EQ(desktop.messages.size(), 1u) << "the hint comes once";
+    command("MHH");
+    EXPECT_TRUE(QTest::qWaitFor([] {
+        const auto windows = QApplication::topLevelWidgets();
+        return std::any_of(windows.begin(), windows.end(),
+                           [](QWidget *one) { return one->objectName() == u"Hilfefenster" && one->isVisible(); });
+    }));
+}
+
+TEST_F(Report, IsComposedAgainWithNewSettings)
+{
+    auto before = pages();
+    for (const char *key : {"INI", "INITVorgaben", "save", "drucker"})
+        command(key); // each is cancelled
+    EXPECT_EQ(pages(), before);
+    EXPECT_EQ(desktop.messages.size(), 1u) << "only the hint";
+    EXPECT_EQ(setting("Format", "Ausrichtung"), "");
+
+    desktop.dialogAnswer = [](QDialog &dialog) {
+        dialog.findChild<QAbstractButton *>("Ausrichtung_1")->click();
+        return true;
+    };
+    command("INI");
+    EXPECT_NE(pages(), before);
+    EXPECT_GT(pages()->paperSize().width(), pages()->paperSize().height());
+    EXPECT_EQ(setting("Format", "Ausrichtung"), "1");
+
+    before = pages();
+    desktop.dialogAnswer = [](QDialog &dialog) {
+        dialog.findChild<QAbstractButton *>("NeueSeite")->click();
+        dialog.findChild<QAbstractButton *>("Ende_0")->click();
+        return dialog.result() == QDialog::Accepted;
+    };
+    command("INITVorgaben");
+    EXPECT_NE(pages()->pages().size(), before->pages().size());
+    EXPECT_GT(pages()->paperSize().width(), pages()->paperSize().height()) << "the page setup was kept";
+}
+
+TEST_F(Report, ClosingAWindowCancelsTheComposition)
+{
+    const auto before = pages();
+    bool closeMain = false;
+    whileComposing([&] { closeMain ? window->close() : preview().close(); });
+    command("INI"); // nothing is composed
+    control<QAction>("Seitenansicht").trigger();
+    EXPECT_EQ(pages(), before);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return preview().isHidden(); }));
+    EXPECT_TRUE(window->isVisible());
+    closeMain = true;
+    control<QAction>("Seitenansicht").trigger();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->isHidden(); }));
+    EXPECT_EQ(desktop.messages.size(), 1u) << "only the hint";
+    EXPECT_TRUE(desktop.errors.empty());
+}
+
+TEST_F(Report, IsNotShownAnyMoreOnceAnotherDatabaseIsOpen)
+{
+    const QString file = folder.filePath("a.kvl");
+    desktop.fileAnswers = {file};
+    ASSERT_TRUE(window->templates().saveAs());
+    ASSERT_TRUE(window->templates().openFile(file));
+    EXPECT_TRUE(preview().isVisible()) << "the database is the same";
+
+    ASSERT_TRUE(QFile::copy(family(), hostFolder() + "/Familie/familiX.mdb"));
+    QFile saved(file);
+    ASSERT_TRUE(saved.open(QIODevice::ReadWrite));
+    const QByteArray content = saved.readAll().replace("familie.mdb", "familiX.mdb");
+    saved.seek(0);
+    saved.write(content);
+    saved.close();
+    ASSERT_TRUE(window->templates().openFile(file));
+    EXPECT_TRUE(program.databases.Familiendatenbank->file().endsWith("familiX.mdb"));
+    EXPECT_TRUE(preview().isHidden());
+    EXPECT_TRUE(window->isVisible());
+}
