@@ -2,11 +2,12 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # shellcheck shell=bash
 # For scripts that play the program on an X server of its own and take pictures. Source it from the project's folder:
-#   stage "$@"             starts the script anew inside xvfb-run, with a window manager; $work is its temporary folder
+#   stage SCRIPT ARG…      starts the script anew inside xvfb-run, with a window manager; $work is its temporary folder
 #   demonstration [LANG]   makes the demonstration host there (LANG: English unless given); sets $program
 #   play [TEMPLATE]        starts the program on it
 #   await NAME             waits for a window whose title matches and makes it the one that keys go to
 #   press KEY…, enter TEXT keys and text to that window
+#   expect WHAT COMMAND…   waits until the command succeeds; ended: the program is gone
 #   settled, shot FILE     waits until nothing moves any more; does so and saves the window as FILE with few colours
 # What never comes ends the script with a message after $patience seconds.
 # shellcheck disable=SC2034
@@ -28,12 +29,12 @@ stage() {
     done
     if [ -z "${KALVENOR_ON_STAGE:-}" ]; then
         export KALVENOR_ON_STAGE=1 LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb
-        exec xvfb-run -a -s '-screen 0 1400x900x24' "$0" "$@"
+        exec xvfb-run -a -s '-screen 0 1400x900x24' "$@"
     fi
     work=$(mktemp -d)
     trap leave EXIT
     export XDG_RUNTIME_DIR=$work HOME=$work
-    openbox &
+    openbox 2>/dev/null &
     manager=$!
 }
 
@@ -55,6 +56,18 @@ play() {
     player=$!
 }
 
+expect() {
+    local until=$((SECONDS + patience))
+    until "${@:2}"; do
+        [ "$SECONDS" -lt "$until" ] || fail "this did not come true: $1"
+        sleep 0.1
+    done
+}
+
+ended() {
+    ! kill -0 "$player" 2>/dev/null
+}
+
 await() {
     local until=$((SECONDS + patience)) found
     until found=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -n 1) && [ -n "$found" ]; do
@@ -65,15 +78,13 @@ await() {
     xdotool windowactivate --sync "$window"
 }
 
-# Once the picture stays the same for a while; a blinking cursor makes no difference that is looked at.
+# At rest: the last six looks saw no more than two pictures, with a blinking cursor and without.
 settled() {
-    local until=$((SECONDS + patience)) before='' now same=0
-    while [ "$same" -lt 3 ]; do
+    local until=$((SECONDS + patience)) looks=()
+    until [ ${#looks[@]} -ge 6 ] && [ "$(printf '%s\n' "${looks[@]: -6}" | sort -u | wc -l)" -le 2 ]; do
         [ "$SECONDS" -lt "$until" ] || fail "the window \"$(xdotool getwindowname "$window")\" does not come to rest"
-        sleep 0.15
-        now=$(import -silent -window "$window" rgb:- | cksum)
-        if [ "$now" = "$before" ]; then same=$((same + 1)); else same=0; fi
-        before=$now
+        sleep 0.1
+        looks+=("$(import -silent -window "$window" rgb:- | cksum)")
     done
 }
 
