@@ -46,6 +46,7 @@ leave() {
 }
 
 demonstration() {
+    rm -rf -- "$work/demo"
     "$kalvenor" demo "$work/demo" >/dev/null
     sed -i "s/^Sprache=[A-Za-z]*/Sprache=${1:-English}/" "$work/demo/QV/programm.ini"
     program=$work/demo/QV/Kalvenor
