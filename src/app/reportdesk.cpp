@@ -42,6 +42,8 @@ report::ReportContent ReportDesk::content() const
 {
     statistics::StatisticsPanel &panel = m_parts.panel;
     const ChartControl &chart = panel.chartPanel().chart();
+    const QSize least = chart.minimumSizeHint();
+    const bool laidOut = chart.width() >= least.width() && chart.height() >= least.height();
     const auto filtered = [this](selection::PersonList list) {
         return m_parts.lists.isFiltered(list);
     };
@@ -51,7 +53,7 @@ report::ReportContent ReportDesk::content() const
         .list = m_parts.statistics.list(),
         .figures = m_parts.statistics.figures(),
         .look = chart.look(),
-        .chartShape = chart.size(),
+        .chartShape = laidOut ? chart.size() : DefaultShape,
         .criteria = {.filter = m_parts.selection.filterPanel().filter(),
                      .filtered = filtered(selection::PersonList::Unmarked) || filtered(selection::PersonList::Marked),
                      .relatives = m_parts.selection.relatives(),
