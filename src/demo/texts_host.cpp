@@ -66,7 +66,7 @@ constexpr LanguageText texts[] = {
     {1225, u"Letzte Änderung: ", u"Last change: "},
     {1226, u"Gefilterte Liste: ", u"Filtered list: "},
     {1227, u"Verwandte: ", u"Relatives: "},
-    {1228, u"Grafik nach: ", u"Chart by: "},
+    {1228, u"Grafik: ", u"Chart: "},
     {1229, u"Anzahl der Personen (Männer | Frauen | alle): ", u"Number of persons (men | women | all): "},
 };
 // clang-format on

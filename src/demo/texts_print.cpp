@@ -132,6 +132,7 @@ constexpr LanguageText texts[] = {
     {20970, u"Jahrhundert", u"Century"},
     {20971, u"alle", u"all"},
     {20972, u"Person", u"Person"},
+    {20973, u"%1 nach Geschlecht nicht in der Altersliste", u"%1 not in the age list because of their sex"},
 };
 // clang-format on
 

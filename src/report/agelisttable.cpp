@@ -22,8 +22,12 @@ constexpr qint16 TextToPage = 36;
 constexpr qsizetype AgeTextWidth = 7; // a line of the age list is the age text and the name behind it
 constexpr qint64 RowsBetweenReports = 256;
 constexpr Twips CellPadding = 2 * 70; // both sides, as the print control has it
-const QString OutputFolder = QStringLiteral("\\Ausdrucke\\");
 constexpr std::size_t Age = 0, Sex = 1, Name = 2;
+
+QString nameIn(const statistics::Alterszeile &line)
+{
+    return trimBlanks(midPart(line.text, AgeTextWidth + 1));
+}
 
 } // namespace
 
@@ -32,24 +36,44 @@ AgeListTable::AgeListTable(Setup setup)
 {
 }
 
-std::vector<Column> AgeListTable::columns() const
+QString AgeListTable::text(qint16 id, const QString &germanText) const
+{
+    return language::shownText(m_setup.services.language, id, germanText);
+}
+
+TextStyle AgeListTable::headingStyle() const
+{
+    TextStyle style = m_setup.style;
+    style.bold = true;
+    return style;
+}
+
+std::vector<Column> AgeListTable::columns(const statistics::Altersliste &list) const
 {
     const auto widths = settings::ReportMeasures::read(m_setup.services.host).spaltenbreiten;
     const TextFace face(m_setup.style);
-    const auto fit = [&face](Twips width, const QString &widest) {
-        const auto needed = static_cast<Twips>(std::ceil(face.width(widest))) + CellPadding;
+    const TextFace headingFace(headingStyle());
+    const auto fit = [](Twips width, const QString &widest, const TextFace &in) {
+        const auto needed = static_cast<Twips>(std::ceil(in.width(widest))) + CellPadding;
         return std::max(width, needed);
     };
-    language::Sprachmodul &texts = m_setup.services.language;
-    Twips age = fit(widths[Age], QStringLiteral("100.0"));
-    Twips sex = widths[Sex];
+    Twips age = fit(widths[Age], QStringLiteral("100.0"), face);
+    Twips sex =
+        fit(fit(widths[Sex], text(20950, QStringLiteral("Mann")), face), text(20951, QStringLiteral("Frau")), face);
     if (m_setup.headed) {
-        age = fit(age, language::shownText(texts, 20967, QStringLiteral("Alter")));
-        sex = fit(sex, language::shownText(texts, 20968, QStringLiteral("Geschlecht")));
+        age = fit(age, text(20967, QStringLiteral("Alter")), headingFace);
+        sex = fit(sex, text(20968, QStringLiteral("Geschlecht")), headingFace);
+    }
+    Twips name = widths[Name];
+    if (name > 0) {
+        const Twips room = std::max(m_setup.lineWidth + CellPadding - age - sex, 1) / (m_html ? 2 : 1);
+        for (auto line = list.begin(); line != list.end() && name < room; ++line)
+            name = fit(name, nameIn(*line), face);
+        name = std::min(name, room);
     }
     std::vector<Column> columns{{.alignment = Alignment::Right, .width = age},
                                 {.alignment = Alignment::Left, .width = sex},
-                                {.alignment = Alignment::Left, .width = 0}};
+                                {.alignment = Alignment::Left, .width = name}};
     if (m_html)
         columns.push_back({.alignment = Alignment::Left, .width = 0});
     return columns;
@@ -58,16 +82,10 @@ std::vector<Column> AgeListTable::columns() const
 void AgeListTable::write(PrintDocument &document, const statistics::Altersliste &list, const Progress &progress)
 {
     const ReportServices &services = m_setup.services;
-    language::Sprachmodul &texts = services.language;
-    const auto text = [&texts](qint16 id, const QString &germanText) {
-        return language::shownText(texts, id, germanText);
-    };
     const StyleId style = document.addStyle(m_setup.style);
-    TableStart table{.columns = columns(), .rowSpacing = m_setup.rowSpacing};
+    TableStart table{.columns = columns(list), .rowSpacing = m_setup.rowSpacing};
     if (m_setup.headed) {
-        TextStyle bold = m_setup.style;
-        bold.bold = true;
-        const StyleId heading = document.addStyle(bold);
+        const StyleId heading = document.addStyle(headingStyle());
         table.heading = {{{.text = text(20967, QStringLiteral("Alter")), .style = heading},
                           {.text = text(20968, QStringLiteral("Geschlecht")), .style = heading},
                           {.text = text(20969, QStringLiteral("Name")), .style = heading}}};
@@ -90,7 +108,8 @@ void AgeListTable::write(PrintDocument &document, const statistics::Altersliste 
         const bool isWoman = found && persons.text(columns.Geschlecht) == u"W";
         TableRow cells{{{.text = trimBlanks(leftPart(line.text, AgeTextWidth)), .style = style},
                         {.text = isWoman ? woman : man, .style = style},
-                        {.text = trimBlanks(midPart(line.text, AgeTextWidth + 1)), .style = style}}};
+                        {.text = nameIn(line), .style = style}},
+                       row == static_cast<qint64>(list.size())}; // what closes the report does not stand alone
         if (m_html && found) {
             const QString name =
                 trimBlanks(persons.text(columns.vnamen)) + u' ' + trimBlanks(persons.text(columns.nnamen));
@@ -106,7 +125,7 @@ QString AgeListTable::inOutputFolder(const QString &name)
     if (!m_outputFiles) { // one look for all persons
         m_outputFiles.emplace();
         const host::Host &host = m_setup.services.host;
-        const QDir folder(host.native(host.Hostverzeichnis + OutputFolder));
+        const QDir folder(host.native(outputFolder(host)));
         const QStringList files = folder.entryList(QDir::Files);
         for (const QString &file : files)
             m_outputFiles->insert(file.toUpper(), file);
@@ -127,7 +146,7 @@ QString AgeListTable::link(qint32 counter)
 QString AgeListTable::pictureOf(const QString &page)
 {
     const host::Host &host = m_setup.services.host;
-    const QString folder = host.Hostverzeichnis + OutputFolder;
+    const QString folder = outputFolder(host);
     const QString name = leftPart(page, page.lastIndexOf(u'.') + 1);
     for (const char *extension : {"JPG", "JPEG", "PNG", "GIF"}) {
         const QString picture = inOutputFolder(name + QLatin1String(extension));
@@ -138,7 +157,7 @@ QString AgeListTable::pictureOf(const QString &page)
     if (bmp.isEmpty())
         return symbol();
     PictureControl picture{.Image = QImage(host.native(folder + bmp))};
-    if (picture.Image.isNull())
+    if (picture.Image.isNull() || !m_converts)
         return bmp;
     // Under a name of its own: converting deletes the BMP of the same name, which is the host program's.
     QString written = folder + u'~' + name + QStringLiteral("JPG");
@@ -149,6 +168,7 @@ QString AgeListTable::pictureOf(const QString &page)
         QFile::rename(host.native(written), host.native(folder + converted)))
         return converted;
     QFile::remove(host.native(written));
+    m_converts = false;
     return bmp;
 }
 
@@ -165,7 +185,7 @@ QString AgeListTable::symbol()
     for (const int y : {4, 7, 10})
         painter.drawLine(5, y, 10, y);
     painter.end();
-    QString file = folderOf(m_setup.services.print.exportFile) + QStringLiteral("Person.JPG");
+    QString file = symbolFile(m_setup.services.print.exportFile);
     QString type;
     m_setup.pictures.bildkonvertieren({.Image = drawing}, file, type);
     m_symbol = fileNameOf(file);

@@ -14,8 +14,8 @@ struct ReportServices;
 
 /// The age list of the report: age, sex and list name of each person, as they stand in the list, as a row of three
 /// columns. In HTML a fourth one holds the person's full name, linked to the page that the host program has written of
-/// the person, where it has. The columns are at least as wide as the settings say: that of the ages holds
-/// the widest of them, that of the names takes what is left of the line.
+/// the person, where it has. A column is as wide as the settings say, and wider where one of its texts needs
+/// more, as far as the line goes.
 class AgeListTable {
 public:
     struct Setup {
@@ -24,7 +24,8 @@ public:
         QString reportName;
         TextStyle style;
         Twips rowSpacing = 0;
-        bool headed = true; ///< with column headings, again on each page
+        Twips lineWidth = 0; ///< between the margins
+        bool headed = true;  ///< with column headings, again on each page
     };
     explicit AgeListTable(Setup setup);
 
@@ -32,7 +33,9 @@ public:
     void write(PrintDocument &document, const statistics::Altersliste &list, const Progress &progress);
 
 private:
-    std::vector<Column> columns() const;
+    QString text(qint16 id, const QString &germanText) const;
+    TextStyle headingStyle() const;
+    std::vector<Column> columns(const statistics::Altersliste &list) const;
     QString inOutputFolder(const QString &name);
     QString link(qint32 counter);
     QString pictureOf(const QString &page);
@@ -42,6 +45,7 @@ private:
     bool m_html;
     std::optional<QHash<QString, QString>> m_outputFiles; ///< by name in capitals
     QString m_symbol;                                     ///< picture file for persons without one of their own
+    bool m_converts = true;                               ///< no picture has failed yet, which is told each time
 };
 
 } // namespace kalvenor::report

@@ -14,6 +14,7 @@
 #include "settings/vorgabendatei.h"
 #include <cmath>
 #include <QDir>
+#include <QFile>
 #include <QScopeGuard>
 #include <QTextDocument>
 
@@ -33,6 +34,10 @@ constexpr Twips Gap = 200; ///< between two sections
 /// Sizes of the introductory text are printed as the editor shows them.
 constexpr double IntroductionScale = 1;
 
+/// Of the page's height between the margins: a chart as its shape has it, and one made larger.
+constexpr double UsualChartShare = 0.6;
+constexpr double LargestChartShare = 0.9;
+
 constexpr int Section = 1; ///< outline level
 
 int pixels(double twips)
@@ -44,6 +49,29 @@ Twips printableWidth(const PageSetup &page)
 {
     return (page.landscape ? page.paperHeight : page.paperWidth) - page.left - page.right;
 }
+
+/// The pictures beside a report: those that a failed run has made go with it.
+class NewPictures {
+public:
+    NewPictures(const host::Host &host, const QStringList &files) : m_host(host)
+    {
+        for (const QString &file : files) {
+            if (host.dir(file).isEmpty())
+                m_files << host.native(file);
+        }
+    }
+    ~NewPictures()
+    {
+        for (const QString &file : m_files)
+            QFile::remove(file);
+    }
+    Q_DISABLE_COPY_MOVE(NewPictures)
+    void keep() { m_files.clear(); }
+
+private:
+    const host::Host &m_host;
+    QStringList m_files;
+};
 
 } // namespace
 
@@ -71,6 +99,7 @@ void Bericht::auswahldrucken(const ReportContent &content, const Progress &progr
     if (print.exportFormat == ExportFormat::Html)
         print.exportFile =
             exportName(print.exportFile, reportName, m_services.language.text(TextReportFile), QStringLiteral(".html"));
+    NewPictures newPictures(host, picturesBeside());
     PrintDocument document = compose(content, progress);
     showHint();
     switch (print.exportFormat) {
@@ -86,6 +115,7 @@ void Bericht::auswahldrucken(const ReportContent &content, const Progress &progr
         writeRtfFile(document, host.native(print.exportFile), progress);
         break;
     }
+    newPictures.keep();
 }
 
 PrintDocument Bericht::compose(const ReportContent &content, const Progress &progress)
@@ -149,8 +179,11 @@ void Bericht::addChart(PrintDocument &document, const ReportContent &content)
 {
     const Twips width = printableWidth(document.page);
     const double shape = static_cast<double>(content.chartShape.height()) / std::max(content.chartShape.width(), 1);
-    const double wanted = width * shape * settings::ReportMeasures::read(m_services.host).bildprozent / 100.0;
-    auto height = static_cast<qint16>(std::min(wanted, 32767.0));
+    const PageSetup &page = document.page;
+    const double room = (page.landscape ? page.paperWidth : page.paperHeight) - page.top - page.bottom;
+    const int percent = settings::ReportMeasures::read(m_services.host).bildprozent;
+    const double wanted = std::min(width * shape, room * UsualChartShare) * percent / 100;
+    auto height = static_cast<qint16>(std::min({wanted, room * LargestChartShare, 32767.0}));
     // The chart control takes the printable width and the height in its own shape.
     PictureControl chart{
         .Image = chartImage(content.figures.tabelle, content.look, {pixels(width), pixels(height)}, PictureDpi),
@@ -161,13 +194,10 @@ void Bericht::addChart(PrintDocument &document, const ReportContent &content)
 
     const PrintControl &control = m_services.print;
     QString file;
-    if (control.exportFormat == ExportFormat::Html)
-        file = writePicture(print.Image, folderOf(control.exportFile) + chartFileName());
-    else if (control.exportFormat != ExportFormat::Pages) {
-        const QString folder = m_services.host.Hostverzeichnis + QStringLiteral("\\Ausdrucke");
-        QDir().mkpath(m_services.host.native(folder)); // where that fails, writing tells why
-        writePicture(print.Image, folder + u'\\' + chartFileName());
-    }
+    if (control.exportFormat != ExportFormat::Pages)
+        file = writePicture(print.Image, chartFile());
+    if (control.exportFormat != ExportFormat::Html)
+        file.clear(); // a copy for the host program
     if (!file.isEmpty())
         document.add(Paragraph{.text = chartTag(file), .spaceAfter = Gap});
     document.add(Picture{.image = print.Image,
@@ -188,19 +218,23 @@ void Bericht::addCriteria(PrintDocument &document, const ReportContent &content)
                                .keepWithNext = true,
                                .outlineLevel = Section + 1});
     const StyleId lineStyle = document.addStyle(style(settings::Kriterien));
-    for (const QString &line : kriterien(content.criteria, content.figures, m_services.language))
-        document.add(Paragraph{.text = line, .style = lineStyle});
+    const QStringList lines = kriterien(content.criteria, content.figures, content.list.size(), m_services.language);
+    for (const QString &line : lines) // on one page
+        document.add(Paragraph{.text = line, .style = lineStyle, .keepWithNext = &line != &lines.back()});
 }
 
 void Bericht::addAgeList(PrintDocument &document, const ReportContent &content, const Progress &progress)
 {
-    if (vorgaben.isPrinted(settings::NeueSeite))
+    const bool newPage = vorgaben.isPrinted(settings::NeueSeite);
+    if (newPage)
         document.add(PageBreak{});
+    else if (vorgaben.print(settings::NeueSeite) == 0)
+        document.add(Paragraph{.text = {}, .spaceAfter = Gap / 2});
     const bool headed = vorgaben.isPrinted(settings::TitelAltersliste);
     if (headed)
         document.add(Paragraph{.text = m_services.language.text(TextAgeList),
                                .style = document.addStyle(style(settings::TitelAltersliste)),
-                               .spaceBefore = 2 * Gap,
+                               .spaceBefore = newPage ? 0 : Gap,
                                .spaceAfter = Gap / 2,
                                .keepWithNext = true,
                                .outlineLevel = Section + 1});
@@ -209,16 +243,28 @@ void Bericht::addAgeList(PrintDocument &document, const ReportContent &content, 
                         .reportName = reportName,
                         .style = style(settings::Altersliste),
                         .rowSpacing = vorgaben.rowSpacing(),
+                        .lineWidth = printableWidth(document.page),
                         .headed = headed});
     table.write(document, content.list, progress);
 }
 
-QString Bericht::chartFileName() const
+/// Beside the page in HTML, else in the host program's folder.
+QString Bericht::chartFile() const
 {
-    const QString name = fileNameOf(m_services.print.exportFile);
+    const QString &page = m_services.print.exportFile;
     if (m_services.print.exportFormat == ExportFormat::Html) // which has its suffix already
-        return leftPart(name, name.lastIndexOf(u'.')) + QStringLiteral(".jpg");
-    return exportName(name, reportName, m_services.language.text(TextReportFile), QStringLiteral(".jpg"));
+        return leftPart(page, page.lastIndexOf(u'.')) + QStringLiteral(".jpg");
+    return outputFolder(m_services.host) +
+           exportName(fileNameOf(page), reportName, m_services.language.text(TextReportFile), QStringLiteral(".jpg"));
+}
+
+QStringList Bericht::picturesBeside() const
+{
+    if (m_services.print.exportFormat == ExportFormat::Pages)
+        return {};
+    const QString chart = chartFile();
+    const QString base = leftPart(chart, chart.lastIndexOf(u'.'));
+    return {base + QStringLiteral(".JPG"), base + QStringLiteral(".BMP"), symbolFile(m_services.print.exportFile)};
 }
 
 /// The file that was written (Windows notation); empty where the picture could not be converted, which was told.
@@ -226,6 +272,8 @@ QString Bericht::writePicture(const QImage &picture, const QString &file)
 {
     QString written = file;
     QString type;
+    if (m_services.print.exportFormat != ExportFormat::Html)
+        QDir().mkpath(m_services.host.native(folderOf(file))); // where that fails, writing says so
     m_pictures.bildkonvertieren({.Image = picture}, written, type);
     return m_services.host.dir(written).isEmpty() ? QString() : written;
 }

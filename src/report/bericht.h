@@ -67,7 +67,8 @@ private:
     void addChart(PrintDocument &document, const ReportContent &content);
     void addCriteria(PrintDocument &document, const ReportContent &content) const;
     void addAgeList(PrintDocument &document, const ReportContent &content, const Progress &progress);
-    QString chartFileName() const;
+    QString chartFile() const;
+    QStringList picturesBeside() const;
     QString writePicture(const QImage &picture, const QString &file);
     void showHint();
 

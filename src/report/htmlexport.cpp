@@ -59,6 +59,16 @@ QString folderOf(const QString &path)
     return path.left(path.lastIndexOf(u'\\') + 1);
 }
 
+QString outputFolder(const host::Host &host)
+{
+    return host.Hostverzeichnis + QStringLiteral("\\Ausdrucke\\");
+}
+
+QString symbolFile(const QString &exportFile)
+{
+    return leftPart(exportFile, exportFile.lastIndexOf(u'.')) + QStringLiteral("-Person.JPG");
+}
+
 QString chartTag(const QString &pictureFile)
 {
     return QStringLiteral("<img src=") + Quote + QStringLiteral("./") + fileNameOf(pictureFile) + Quote +

@@ -17,6 +17,11 @@ QString fileNameOf(const QString &path);
 /// Folder with its backslash at the end.
 QString folderOf(const QString &path);
 
+/// Where the host program puts its pages, with its backslash at the end.
+QString outputFolder(const host::Host &host);
+/// The picture for persons without one of their own, beside the page.
+QString symbolFile(const QString &exportFile);
+
 /// The chart's picture, a file beside the page.
 QString chartTag(const QString &pictureFile);
 

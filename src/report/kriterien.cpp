@@ -49,8 +49,9 @@ QString range(Lines &lines, const std::array<QString, 2> &bounds)
 
 void addFilter(Lines &lines, const selection::Filter &filter)
 {
-    if (!filter.Presse.trimmed().isEmpty())
-        lines.add(LabelName, filter.Presse);
+    const QString pattern = filter.Presse.trimmed();
+    if (!QString(pattern).remove(u'*').isEmpty()) // filtering puts stars around nothing, too
+        lines.add(LabelName, pattern);
     const bool men = filter.Geschlechtfilter[0] == 1;
     const bool women = filter.Geschlechtfilter[1] == 1;
     if (men || women)
@@ -75,7 +76,7 @@ QString joined(const std::array<QString, 3> &texts)
 } // namespace
 
 QStringList kriterien(const Auswahlkriterien &criteria, const statistics::Grafikzahlen &figures,
-                      language::Sprachmodul &language)
+                      std::size_t listedPersons, language::Sprachmodul &language)
 {
     Lines lines(language);
     if (criteria.filtered)
@@ -99,6 +100,8 @@ QStringList kriterien(const Auswahlkriterien &criteria, const statistics::Grafik
     if (figures.zahlen.nichtNachGeburt > 0)
         leftOut << lines.text(20965, QStringLiteral("%1 nicht nach der Geburt gestorben"))
                        .arg(figures.zahlen.nichtNachGeburt);
+    if (const qint64 notListed = figures.zahlen.gezaehlt - static_cast<qint64>(listedPersons); notListed > 0)
+        leftOut << lines.text(20973, QStringLiteral("%1 nach Geschlecht nicht in der Altersliste")).arg(notListed);
     if (!leftOut.isEmpty())
         lines.add(LabelLeftOut, leftOut.join(QStringLiteral(", ")));
     return lines.lines;

@@ -20,8 +20,8 @@ struct Auswahlkriterien {
 
 /// One line for each criterion that is active, in fixed order: name pattern, sex, dates of birth, death, last change
 /// and the filtered list (these while a filter is shown), relatives, grouping of the chart, then number of persons,
-/// averages, range and who was left out.
+/// averages, range and who was left out: without a date, not died after birth, not of the age list's sexes.
 QStringList kriterien(const Auswahlkriterien &criteria, const statistics::Grafikzahlen &figures,
-                      language::Sprachmodul &language);
+                      std::size_t listedPersons, language::Sprachmodul &language);
 
 } // namespace kalvenor::report

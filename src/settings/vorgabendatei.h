@@ -27,8 +27,8 @@ struct ReportMeasures {
     /// Scale of the chart's fonts (`Grafik`/`Fontfaktor`), above 0 to 20; others are the default.
     double fontfaktor = 3;
     /// Height of the printed chart (`Grafik`/`Bildgroesse`) in percent of the height that its shape on the screen gives
-    /// it at the printable width: 50 to 600, others are the default. The width does not change; the page limits the
-    /// height.
+    /// it at the printable width, but at most three fifths of the page: 50 to 600, others are the default. The width
+    /// does not change; the page limits the height.
     int bildprozent = 100;
 
     /// Never fails.

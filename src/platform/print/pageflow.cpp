@@ -32,7 +32,9 @@ void PageFlow::setHeading(std::vector<Strip> heading)
         height += strip.spaceBefore + strip.height;
     if (height > (m_bottom - m_top) / 2)
         heading.clear();
-    m_heading = std::move(heading);
+    m_nextHeading = std::move(heading);
+    if (m_group.empty())
+        m_heading = *std::exchange(m_nextHeading, {});
 }
 
 void PageFlow::breakPage()
@@ -65,6 +67,8 @@ void PageFlow::placeGroup()
     for (Strip &strip : m_group)
         place(std::move(strip));
     m_group.clear();
+    if (m_nextHeading)
+        m_heading = *std::exchange(m_nextHeading, {});
 }
 
 void PageFlow::place(Strip &&strip)
@@ -72,7 +76,7 @@ void PageFlow::place(Strip &&strip)
     // Reached within a group only where the group is higher than a page.
     if (!m_pageIsBare && m_y + strip.spaceBefore + strip.height > m_bottom)
         newPage();
-    if (!m_pageIsBare)
+    if (m_y > m_top)
         m_y += strip.spaceBefore;
     Page &page = m_pages.back();
     for (PlacedGround &ground : strip.grounds) {

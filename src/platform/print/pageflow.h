@@ -4,6 +4,7 @@
 
 #include "platform/print/pagelayout.h"
 
+#include <optional>
 #include <vector>
 
 namespace kalvenor {
@@ -26,7 +27,8 @@ public:
     PageFlow(double top, double bottom);
 
     void add(Strip strip);
-    /// What is repeated on top of each page from the next one on; empty ends the repetition.
+    /// What is repeated on top of each page from the next one on; empty ends the repetition. Holds once the strips that
+    /// are kept together so far have their place.
     void setHeading(std::vector<Strip> heading);
     void breakPage();
     /// What a page has left for a strip that is kept with those added last, `spaceBefore` it; at least half a page.
@@ -45,6 +47,7 @@ private:
     bool m_pageIsBare = true;   ///< nothing but a repeated heading yet
     std::vector<Strip> m_group; ///< kept together, not placed yet
     std::vector<Strip> m_heading;
+    std::optional<std::vector<Strip>> m_nextHeading;
     std::vector<Page> m_pages;
 };
 

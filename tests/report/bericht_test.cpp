@@ -1,0 +1,301 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "report/bericht.h"
+
+#include "app/program.h"
+#include "demo/demohost.h"
+#include "platform/basic/codepage.h"
+#include "platform/basic/error.h"
+#include "platform/print/pdfwriter.h"
+#include "platform/richtext/rtfreader.h"
+#include "report/htmlexport.h"
+#include "support/fakedesktop.h"
+#include "support/fixtures.h"
+#include <gtest/gtest.h>
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTextDocument>
+
+using namespace kalvenor;
+using namespace kalvenor::report;
+
+namespace {
+
+const std::vector<test::TestPerson> Family = {
+    {.counter = 1, .listname = "Adler, Hans", .marked = true, .birth = -36000, .death = -10000},
+    {.counter = 2, .listname = "Bär<i>, Eva", .marked = true, .sex = "W", .birth = -35000, .death = 5000},
+    {.counter = 3, .listname = "Claus, Ernst", .marked = true, .birth = -25000},
+    {.counter = 4, .listname = "Dorn, Ida", .marked = true, .sex = "W", .birth = 100, .death = 99},
+    {.counter = 5, .listname = "Eck, Kim", .marked = true, .sex = "", .birth = -20000, .death = 0},
+    {.counter = 6, .listname = "Falk, Rosa", .sex = "W", .birth = -14000, .death = 0}};
+
+/// A started program with a small family, and what one run shows.
+struct BerichtTest : testing::Test {
+    BerichtTest()
+    {
+        test::writeFamily(demo.familyDatabase, Family);
+        program.Main();
+        statistics::alterslistenausgabe(program.databases, {1, 1, 1, 1}, list);
+        figures = statistics::grafikermitteln(program.databases, {});
+        pages = QDir(demo.hostFolder + QStringLiteral("/Ausdrucke"));
+        for (const QString &file : pages.entryList(QDir::Files))
+            pages.remove(file);
+    }
+    void settings(const QString &text) const { write(demo.programFolder + QStringLiteral("/Kalvenor.ini"), text); }
+    static void write(const QString &path, const QString &text)
+    {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(encodeAnsi(text));
+    }
+    static QByteArray read(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    PrintDocument compose()
+    {
+        bericht.initladen();
+        return bericht.compose(content);
+    }
+    /// Runs into that file; the written one.
+    QString run(ExportFormat format, const QString &nativeFile)
+    {
+        print.exportFormat = format;
+        print.exportFile = windowsPath(nativeFile);
+        bericht.auswahldrucken(content);
+        return nativePath(print.exportFile);
+    }
+    QString text(qint16 id) { return program.language.text(id); }
+    QString closing() { return text(120) + QStringLiteral("  05.03.2024 07:08"); }
+    /// A letter a block: title T, picture P, heading of the criteria K and of the list L, line k, row r, spacer -,
+    /// page break N, table t, with headings H, closing F.
+    QString shape(const PrintDocument &document)
+    {
+        QString letters;
+        for (const Block &block : document.blocks()) {
+            const auto *paragraph = std::get_if<Paragraph>(&block);
+            const QString words = paragraph == nullptr ? QString() : paragraph->text;
+            const auto *table = std::get_if<TableStart>(&block);
+            letters += std::holds_alternative<Picture>(block)         ? u'P'
+                       : std::holds_alternative<PageBreak>(block)     ? u'N'
+                       : std::holds_alternative<TableRow>(block)      ? u'r'
+                       : std::holds_alternative<RichParagraph>(block) ? u'I'
+                       : table != nullptr                             ? (table->heading.empty() ? u't' : u'H')
+                       : words == content.titel                       ? u'T'
+                       : words.isEmpty()                              ? u'-'
+                       : words == text(911)                           ? u'K'
+                       : words == text(1217)                          ? u'L'
+                       : words == closing()                           ? u'F'
+                                                                      : u'k';
+        }
+        return letters;
+    }
+
+    QTemporaryDir folder;
+    DemoHost demo = makeDemoHost({.folder = folder.path(), .persons = 1});
+    test::FakeDesktop desktop;
+    app::Program program{windowsPath(demo.programFolder), desktop};
+    PrintControl print;
+    Bericht bericht{{program.host, program.language, program.databases, print}};
+    statistics::Altersliste list;
+    statistics::Grafikzahlen figures;
+    ReportContent content{.titel = "Titel | 1",
+                          .rtf = "Einleitung",
+                          .list = list,
+                          .figures = figures,
+                          .look = {},
+                          .criteria = {},
+                          .now = QDateTime(QDate(2024, 3, 5), QTime(7, 8))};
+    QDir pages; ///< of the host program
+};
+
+} // namespace
+
+TEST_F(BerichtTest, SwitchesDecideWhatStandsThere)
+{
+    const QString footer = text(120) + QStringLiteral("||05.03.2024 07:08");
+    const QString header = QStringLiteral("Titel / 1||- %d -");
+    const struct {
+        const char *settings, *shape;
+        bool header, footer;
+    } rows[] = {
+        {"", "TI-PKkkkkkNLHrrF", true, true},
+        {"[Grafik]\r\nBildprint=0", "TI-KkkkkkNLHrrF", true, true},
+        {"[TitelKriterien]\r\nPrint=0\r\n[Header]\r\nPrint=0", "TI-PkkkkkNLHrrF", false, true},
+        {"[TitelAltersliste]\r\nPrint=0\r\n[Footer]\r\nPrint=2", "TI-PKkkkkkNtrrF", true, false},
+        {"[TitelAltersliste]\r\nNeueseite=0", "TI-PKkkkkk-LHrrF", true, true},
+        {"[TitelAltersliste]\r\nNeueseite=2\r\nPrint=", "TI-PKkkkkktrrF", true, true},
+    };
+    for (const auto &row : rows) {
+        settings(row.settings);
+        const PrintDocument document = compose();
+        EXPECT_EQ(shape(document).toStdString(), row.shape) << row.settings;
+        EXPECT_EQ(document.header.text, row.header ? header : QString()) << row.settings;
+        EXPECT_EQ(document.footer.text, row.footer ? footer : QString()) << row.settings;
+    }
+    settings({});
+    content.titel.clear();
+    content.rtf = QStringLiteral("{\\rtf1\\fs20   \\par}");
+    const PrintDocument bare = compose();
+    EXPECT_EQ(shape(bare).toStdString(), "PKkkkkkNLHrrF");
+    EXPECT_EQ(bare.header.text, "");
+}
+
+TEST_F(BerichtTest, FontsComeFromTheSettingsButUnderlineNever)
+{
+    settings("[Titel]\r\nFontunderline=#TRUE#\r\n[Kriterien]\r\nFontunderline=WAHR\r\nFontstrikethru=True\r\n"
+             "[Altersliste]\r\nFontcolor=255\r\nFontsize=12.5");
+    const PrintDocument document = compose();
+    QSet<double> sizes;
+    int struckOut = 0;
+    for (const TextStyle &style : document.styles()) {
+        EXPECT_FALSE(style.underline);
+        struckOut += style.strikeOut;
+        sizes << style.pointSize;
+        EXPECT_EQ(style.pointSize == 12.5, style.color == QColor(Qt::red));
+    }
+    EXPECT_EQ(struckOut, 1);
+    EXPECT_TRUE(sizes.contains({15, 12, 14, 8, 12.5}));
+}
+
+TEST_F(BerichtTest, CriteriaSayWhatIsActive)
+{
+    const auto lines = [&](const Auswahlkriterien &criteria, std::size_t listed) {
+        return kriterien(criteria, figures, listed, program.language).join(u'\n').toStdString();
+    };
+    const std::string excluded = "1 ohne Geburts- oder Sterbedatum, 1 nicht nach der Geburt gestorben";
+    const std::string numbers = "Anzahl der Personen (Männer | Frauen | alle): 1 | 1 | 3\n"
+                                "Durchschnittsalter (Männer | Frauen | alle): 71.2 | 109.5 | 78.5\n"
+                                "Niedrigstes | höchstes Alter: 71.2 |  109.5\nNicht berücksichtigt: " +
+                                excluded;
+    EXPECT_EQ(lines({}, 3), "Grafik: nach Geburtsjahr\n" + numbers);
+    EXPECT_EQ(lines({.nachGeburtsjahr = false}, 2),
+              "Grafik: nach Sterbejahr\n" + numbers + ", 1 nach Geschlecht nicht in der Altersliste");
+    Auswahlkriterien all{.filter = {.Presse = "*Müll*", .Geschlechtfilter = {0, 1}, .Datumfilter = {1, 0, 1}},
+                         .filtered = true,
+                         .relatives = {.parents = true}};
+    all.filter.Presse_Datum = {"01.02.1800", "__.__.____"};
+    all.filter.Filterliste = selection::PersonList::Marked;
+    const std::string rest = "Geschlecht: Frauen\nGeburtsdatum: ab 01.02.1800\nLetzte Änderung: ab 01.02.1800\n"
+                             "Gefilterte Liste: markierte Personen\nVerwandte: Eltern und Vorfahren\n"
+                             "Grafik: nach Geburtsjahr\n" +
+                             numbers;
+    EXPECT_EQ(lines(all, 3), "Name: *Müll*\n" + rest);
+    all.filter.Presse = QStringLiteral("**"); // as filtering leaves an empty pattern
+    EXPECT_EQ(lines(all, 3), rest);
+}
+
+TEST_F(BerichtTest, HintComesOnceAndFailuresRestoreThePointer)
+{
+    EXPECT_THROW(run(ExportFormat::Html, folder.filePath("ohne")), Error);
+    EXPECT_THROW(bericht.auswahldrucken(content, [](qint64, qint64) { return false; }), Error);
+    EXPECT_TRUE(desktop.messages.empty());
+    for (int i = 0; i < 2; ++i)
+        run(ExportFormat::Pages, {});
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_EQ(desktop.messages[0].text, text(116));
+    EXPECT_EQ(desktop.pointers.back(), Pointer::Default);
+    EXPECT_TRUE(print.hasDocument());
+}
+
+TEST_F(BerichtTest, HtmlHasItsNamesTagsAndLinks)
+{
+    EXPECT_EQ(exportName("C:\\a.b\\Liste.v1.htm", "X", "T", ".html"), "C:\\a.b\\Liste.v1-XT.html");
+    EXPECT_EQ(chartTag("C:\\a\\b.JPG"), R"(<img src="./b.JPG" Border=0 Alt="">)");
+    EXPECT_EQ(personLink("1-D.html", "p.JPG", "Text"), R"(<a href=./1-D.html><img src="./p.JPG" Border=0 Alt="Text">)");
+
+    write(pages.filePath("1-D.html"), "page");
+    QImage(8, 8, QImage::Format_RGB32).save(pages.filePath("1-D.bmp"));
+    const QByteArray hostPicture = read(pages.filePath("1-D.bmp"));
+    write(pages.filePath("other.htmlx"), "copy");
+    const QString page = run(ExportFormat::Html, pages.filePath("Liste.html"));
+    EXPECT_EQ(page, pages.filePath("Liste-Altersstatistik.html"));
+    EXPECT_EQ(
+        pages.entryList(QDir::Files, QDir::Name),
+        (QStringList{"1-D.JPG", "1-D.bmp", "1-D.html", "Liste-Altersstatistik.JPG", "Liste-Altersstatistik.html"}));
+    EXPECT_EQ(read(pages.filePath("1-D.bmp")), hostPicture);
+    const QString html = QString::fromUtf8(read(page));
+    EXPECT_TRUE(html.contains(chartTag("Liste-Altersstatistik.JPG")));
+    EXPECT_TRUE(html.contains("<td>" + personLink("1-D.html", "1-D.JPG", text(36)) + "Hans Adler</td>"));
+    EXPECT_TRUE(html.contains("<td>Bär<i>, Eva</td><td>Eva Bär<i></td>")) << "brackets of names come back, too";
+    EXPECT_FALSE(html.contains("&lt;") || html.contains("&gt;"));
+}
+
+TEST_F(BerichtTest, HoldsTheSameTextsInEachFormat)
+{
+    const auto file = [&](const char *name) {
+        return folder.filePath(QLatin1String(name));
+    };
+    const auto words = [&](const QString &text) {
+        qsizetype at = 0;
+        QStringList found;
+        for (const QString &word : {QStringLiteral("Einleitung"), this->text(911), this->text(1229), this->text(1217),
+                                    QStringLiteral("71.2"), QStringLiteral("Adler, Hans"), closing()}) {
+            at = text.indexOf(word.simplified(), at);
+            found << (at < 0 ? "no " + word : word);
+        }
+        return found.filter("no ");
+    };
+    QTextDocument rtf;
+    readRtf(read(run(ExportFormat::Rtf, file("b.rtf"))), rtf);
+    EXPECT_EQ(words(rtf.toPlainText().simplified()), QStringList());
+    EXPECT_TRUE(pages.exists("b-Altersstatistik.JPG"));
+    QString html = QString::fromUtf8(read(run(ExportFormat::Html, file("b.html"))));
+    EXPECT_EQ(words(html.remove(QRegularExpression("<[^>]*>")).simplified()), QStringList());
+    if (QStandardPaths::findExecutable("pdftotext").isEmpty())
+        GTEST_SKIP() << "pdftotext is not installed";
+    run(ExportFormat::Pages, {});
+    writePdf(*print.layout(), {}, file("b.pdf"));
+    QProcess reader;
+    reader.start("pdftotext", {"-layout", file("b.pdf"), "-"});
+    ASSERT_TRUE(reader.waitForFinished());
+    EXPECT_EQ(words(QString::fromUtf8(reader.readAllStandardOutput()).simplified()), QStringList());
+}
+
+TEST_F(BerichtTest, FailedRunsLeaveNothingAndKeepTheOld)
+{
+    const QString old = folder.filePath("alt-Altersstatistik.html");
+    write(old, "old");
+    const QStringList before = QDir(folder.path()).entryList(QDir::Files);
+    const auto fail = [&](ExportFormat format, const QString &file, const Progress &progress = {}) {
+        print.exportFormat = format;
+        print.exportFile = windowsPath(folder.filePath(file));
+        try {
+            bericht.auswahldrucken(content, progress);
+            ADD_FAILURE() << "written: " << file.toStdString();
+        } catch (const Error &error) {
+            EXPECT_GT(error.message().size(), 20);
+        }
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), before) << file.toStdString();
+        EXPECT_EQ(pages.entryList(QDir::Files), QStringList()) << file.toStdString();
+    };
+    fail(ExportFormat::Html, "missing/a.html");
+    fail(ExportFormat::Rtf, "missing/a.rtf");
+    fail(ExportFormat::Html, "a*.html");
+    for (const ExportFormat format : {ExportFormat::Html, ExportFormat::Rtf})
+        fail(format, "alt.html", [](qint64, qint64) { return false; });
+    EXPECT_EQ(read(old), "old");
+}
+
+TEST_F(BerichtTest, NonsenseInTheSettingsBreaksNothing)
+{
+    QString nonsense;
+    for (const char *section : {"Titel", "TitelKriterien", "Kriterien", "TitelAltersliste", "Altersliste", "Header",
+                                "Footer", "Grafik", "Druckrand", "Format", "Spalten"}) {
+        nonsense += QStringLiteral("[%1]\r\n").arg(section);
+        for (const char *key : {"Fontname", "Fontsize", "Fontbold", "Fontcolor", "Backcolor", "Abstand", "Links",
+                                "Oben", "Rechts", "Unten", "Ausrichtung", "1", "2", "4", "Fontfaktor", "Bildgroesse"})
+            nonsense += QStringLiteral("%1=@\r\n").arg(key);
+    }
+    for (const char *value : {"", "x", "-1", "0", "1e300", "-99999999999", "; 7", "12.5,7", "32767"}) {
+        settings(QString(nonsense).replace(u'@', value));
+        run(ExportFormat::Pages, {});
+        EXPECT_GE(print.layout()->pages().size(), 2U) << value;
+        EXPECT_FALSE(run(ExportFormat::Rtf, folder.filePath("n.rtf")).isEmpty());
+    }
+}
