@@ -21,10 +21,10 @@
 namespace kalvenor::statistics {
 
 AgeListPanel::AgeListPanel(StatisticsController &controller, QWidget *parent)
-    : QWidget(parent), m_controller(controller), m_model(new AgeListModel(controller.list(), this)),
-      m_view(new QTableView(this)),
-      m_figures(new QLabel(this)), m_sexes{makeSexBox(this, 0, "20512Männer in der Liste"),
-                                           makeSexBox(this, 1, "20513Frauen in der Liste")}
+    : QWidget(parent), m_controller(controller),
+      m_model(new AgeListModel(controller.list(), this)), m_sexes{makeSexBox(this, 0, "20512Männer in der Liste"),
+                                                                  makeSexBox(this, 1, "20513Frauen in der Liste")},
+      m_view(new QTableView(this)), m_figures(new QLabel(this))
 {
     m_view->setObjectName(QStringLiteral("Altersliste"));
     language::setDesignText(m_view, QStringLiteral("20502Altersliste"));
@@ -47,6 +47,7 @@ AgeListPanel::AgeListPanel(StatisticsController &controller, QWidget *parent)
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_figures->setObjectName(QStringLiteral("Zahl_Altersliste"));
     m_figures->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_figures->setWordWrap(true); // the window keeps its width while the number grows
 
     auto *head = new QHBoxLayout;
     head->addWidget(m_sexes[0]);
@@ -73,19 +74,19 @@ AgeListPanel::AgeListPanel(StatisticsController &controller, QWidget *parent)
 
 void AgeListPanel::makeActions()
 {
-    const auto action = [this](const char *name, const char *caption, const QKeySequence &keys) {
+    const auto action = [this](const char *name, const char *caption, const QList<QKeySequence> &keys) {
         auto *made = new QAction(m_view);
         made->setObjectName(QLatin1String(name));
         language::setDesignText(made, QString::fromUtf8(caption));
-        made->setShortcut(keys);
+        made->setShortcuts(keys);
         made->setShortcutContext(Qt::WidgetShortcut);
         m_view->addAction(made);
         return made;
     };
-    connect(action("Zeilenkopieren", "20531Zeilen kopieren", QKeySequence::Copy), &QAction::triggered, this,
-            &AgeListPanel::copy);
-    connect(action("Personzeigen", "20533Person in der Liste zeigen", Qt::Key_Return), &QAction::triggered, this,
-            [this] {
+    connect(action("Zeilenkopieren", "20531Zeilen kopieren", QKeySequence::keyBindings(QKeySequence::Copy)),
+            &QAction::triggered, this, &AgeListPanel::copy);
+    connect(action("Personzeigen", "20533Person in der Liste zeigen", {Qt::Key_Return, Qt::Key_Enter}),
+            &QAction::triggered, this, [this] {
                 if (m_view->currentIndex().isValid())
                     Q_EMIT personWanted(m_model->counterAt(m_view->currentIndex().row()));
             });

@@ -37,9 +37,9 @@ private:
 
     StatisticsController &m_controller;
     AgeListModel *m_model;
+    std::array<QCheckBox *, 2> m_sexes;
     QTableView *m_view;
     QLabel *m_figures;
-    std::array<QCheckBox *, 2> m_sexes;
 };
 
 } // namespace kalvenor::statistics

@@ -50,11 +50,11 @@ QAbstractButton *groupingButton(QWidget *parent, int index, const char *caption,
 } // namespace
 
 ChartPanel::ChartPanel(StatisticsController &controller, QWidget *parent)
-    : QWidget(parent), m_controller(controller), m_chart(new ChartControl(this)), m_type(new QComboBox(this)),
+    : QWidget(parent), m_controller(controller), m_type(new QComboBox(this)), m_legend(new QCheckBox(this)),
       m_grouping{
           groupingButton(this, 0, "20516Geburtsjahr", "20518Die Grafik ordnet die Personen nach ihrem Geburtsjahr"),
           groupingButton(this, 1, "20517Sterbejahr", "20519Die Grafik ordnet die Personen nach ihrem Sterbejahr")},
-      m_sexes{makeSexBox(this, 2, "20538Männer"), makeSexBox(this, 3, "20539Frauen")}, m_legend(new QCheckBox(this))
+      m_sexes{makeSexBox(this, 2, "20538Männer"), makeSexBox(this, 3, "20539Frauen")}, m_chart(new ChartControl(this))
 {
     m_chart->setObjectName(QStringLiteral("Grafik"));
     nameActions();

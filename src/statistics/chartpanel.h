@@ -46,11 +46,12 @@ private:
     QString text(qint16 id, const QString &germanText) const;
 
     StatisticsController &m_controller;
-    ChartControl *m_chart;
+    // In the order in which Tab goes through them.
     QComboBox *m_type;
+    QCheckBox *m_legend;
     std::array<QAbstractButton *, 2> m_grouping; ///< gt_ribbon: by birth, by death
     std::array<QCheckBox *, 2> m_sexes;
-    QCheckBox *m_legend;
+    ChartControl *m_chart;
     std::array<QLabel *, 3> m_counts;   ///< men, women, all
     std::array<QLabel *, 3> m_averages; ///< the same
     QLabel *m_unknownSex;               ///< how many of all

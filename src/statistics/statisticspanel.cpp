@@ -24,10 +24,10 @@ constexpr int PauseMs = 120;
 } // namespace
 
 StatisticsPanel::StatisticsPanel(StatisticsController &controller, QWidget *parent)
-    : QWidget(parent), m_controller(controller), m_title(new QLineEdit(this)),
+    : QWidget(parent), m_controller(controller), m_title(new QLineEdit(this)), m_notice(makeNoticeBar()),
+      m_tabs(new QTabWidget(this)),
       m_introduction(new TextEditor(controller.services().language, controller.services().host, this)),
-      m_chart(new ChartPanel(controller, this)), m_list(new AgeListPanel(controller, this)),
-      m_tabs(new QTabWidget(this)), m_notice(makeNoticeBar())
+      m_chart(new ChartPanel(controller, this)), m_list(new AgeListPanel(controller, this))
 {
     m_title->setObjectName(QStringLiteral("Statistiktitel"));
     m_title->setMaxLength(250);

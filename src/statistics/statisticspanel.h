@@ -57,12 +57,13 @@ private:
     bool isShownCurrent() const;
 
     StatisticsController &m_controller;
+    // In the order in which Tab goes through them.
     QLineEdit *m_title;
+    QWidget *m_notice;
+    QTabWidget *m_tabs;
     TextEditor *m_introduction;
     ChartPanel *m_chart;
     AgeListPanel *m_list;
-    QTabWidget *m_tabs;
-    QWidget *m_notice;
     QTimer m_pause;
 };
 
