@@ -3,7 +3,7 @@
 # shellcheck shell=bash
 # For scripts that play the program on an X server of its own and take pictures. Source it from the project's folder:
 #   stage SCRIPT ARG…      starts the script anew inside xvfb-run, with a window manager; $work is its temporary folder
-#   demonstration [LANG]   makes the demonstration host there (LANG: English unless given); sets $program
+#   demonstration LANG     makes the demonstration host there, in English or Deutsch; sets $program
 #   play [TEMPLATE]        starts the program on it
 #   await NAME             waits for a window whose title matches and makes it the one that keys go to
 #   press KEY…, enter TEXT keys and text to that window
@@ -34,7 +34,7 @@ stage() {
     work=$(mktemp -d)
     trap leave EXIT
     export XDG_RUNTIME_DIR=$work HOME=$work
-    openbox 2>/dev/null &
+    openbox >/dev/null 2>&1 &
     manager=$!
 }
 
@@ -48,7 +48,7 @@ leave() {
 demonstration() {
     rm -rf -- "$work/demo"
     "$kalvenor" demo "$work/demo" >/dev/null
-    sed -i "s/^Sprache=[A-Za-z]*/Sprache=${1:-English}/" "$work/demo/QV/programm.ini"
+    sed -i "s/^Sprache=[A-Za-z]*/Sprache=$1/" "$work/demo/QV/programm.ini"
     program=$work/demo/QV/Kalvenor
 }
 

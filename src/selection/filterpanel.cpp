@@ -109,7 +109,7 @@ void FilterPanel::build()
     m_filter->setObjectName(QStringLiteral("Filtern"));
     m_filter->setIcon(lineIcon(LineIcon::Find));
     m_filter->setAutoDefault(false);
-    language::setDesignText(m_filter, QStringLiteral("20412Filt&ern"));
+    language::setDesignText(m_filter, QStringLiteral("20412Filtern"));
     m_clear = new QPushButton(this);
     m_clear->setObjectName(QStringLiteral("Filteraufheben"));
     m_clear->setIcon(lineIcon(LineIcon::Clear));
