@@ -11,10 +11,12 @@
 #include "settings/seiteneinrichtung.h"
 #include <algorithm>
 #include <QDateTime>
+#include <QDir>
 #include <QDirIterator>
 #include <QMap>
 #include <QPrintDialog>
 #include <QPrinterInfo>
+#include <QRegularExpression>
 #include <QScopeGuard>
 #include <QStatusBar>
 #include <utility>
@@ -55,6 +57,15 @@ private:
     QMap<QString, State> m_states;
 };
 
+/// Native path of a PDF file named by the report's title, where reports are saved.
+QString proposedFile(const host::Host &host, QString title)
+{
+    static const QRegularExpression notInNames(QStringLiteral("[\\\\/:*?\"<>|[:cntrl:]]+"));
+    const QString folder = host.native(printsFolder(host));
+    return QDir(QDir(folder).exists() ? folder : host.native(host.Hostverzeichnis))
+        .filePath(title.replace(notInNames, QStringLiteral("-")) + QStringLiteral(".pdf"));
+}
+
 } // namespace
 
 std::shared_ptr<const PageLayout> Druckvorschau::pagesAtHand() const
@@ -70,6 +81,8 @@ void Druckvorschau::print()
     const auto pageCount = static_cast<int>(layout->pages().size());
     QPrinter printer(QPrinter::HighResolution);
     preparePrinter(printer, *layout, m_control.document().title);
+    if (QPrinterInfo::availablePrinterNames().isEmpty()) // then the dialog begins with a file
+        printer.setOutputFileName(proposedFile(m_host, m_control.document().title));
     QPrintDialog dialog(&printer, this);
     dialog.setWindowTitle(text(190, {}));
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |

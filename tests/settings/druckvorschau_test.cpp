@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPrintDialog>
+#include <QPrinterInfo>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QStatusBar>
@@ -233,7 +234,17 @@ TEST_F(Preview, SetsThePageUp)
 
 TEST_F(Preview, PrintsWhatItShows)
 {
-    onPrintDialog([&](QPrinter &printer) { printer.setOutputFileName(path("all.pdf")); });
+    control.setDocument([] {
+        PrintDocument document = test::pagesOf(12);
+        document.title = "Adler/Eck: 1900";
+        return document;
+    }());
+    onPrintDialog([&](QPrinter &printer) {
+        if (QPrinterInfo::availablePrinterNames().isEmpty()) {
+            EXPECT_EQ(printer.outputFileName(), path("Adler-Eck- 1900.pdf")) << "a file where there is no printer";
+        }
+        printer.setOutputFileName(path("all.pdf"));
+    });
     window->toolbarbuttonclick("drucker");
     EXPECT_EQ(pagesOfPdf(path("all.pdf")), window->pageView().pageCount());
     EXPECT_EQ(said(), "Gespeichert: " + path("all.pdf"));
