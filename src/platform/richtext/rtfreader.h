@@ -8,7 +8,7 @@
 
 class QTextDocument;
 
-// Rich text of classic controls and of office programs (Rich Text Format Specification 1.9.1) into a text document.
+// Rich text of classic controls and of office programs (RTF 1.9.1, as published by its maker) into a text document.
 namespace kalvenor {
 
 /// Lengths of block formats are pixels at 96 to the inch, so many twips each.

@@ -22,7 +22,7 @@ struct RtfToken {
     bool hasValue = false;
 };
 
-/// Takes RTF apart (Rich Text Format Specification 1.9.1, "RTF Syntax"). The bytes must outlive it.
+/// Takes RTF apart (RTF 1.9.1, "RTF Syntax"). The bytes must outlive it.
 class RtfTokenizer {
 public:
     explicit RtfTokenizer(QByteArrayView rtf) : m_rtf(rtf) {}
