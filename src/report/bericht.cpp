@@ -234,7 +234,7 @@ void Bericht::addAgeList(PrintDocument &document, const ReportContent &content, 
     if (headed)
         document.add(Paragraph{.text = m_services.language.text(TextAgeList),
                                .style = document.addStyle(style(settings::TitelAltersliste)),
-                               .spaceBefore = newPage ? 0 : Gap,
+                               .spaceBefore = newPage ? 2 * Gap : Gap,
                                .spaceAfter = Gap / 2,
                                .keepWithNext = true,
                                .outlineLevel = Section + 1});

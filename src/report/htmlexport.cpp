@@ -7,6 +7,7 @@
 #include "platform/basic/text.h"
 #include <QDir>
 #include <QFile>
+#include <QScopeGuard>
 
 namespace kalvenor::report {
 
@@ -93,6 +94,7 @@ void htmlnachbearbeiten(const host::Host &host, const QString &exportFile)
     const QString page = host.native(exportFile);
     const QString copy = page + u'x';
     QFile::remove(copy);
+    const auto removeCopy = qScopeGuard([&copy] { QFile::remove(copy); });
     if (!QFile::copy(page, copy))
         failed(exportFile, QStringLiteral("there is no room for a copy beside it"));
     QFile source(copy);

@@ -13,24 +13,32 @@ namespace {
 
 constexpr qint64 blocksAStep = 512; // between two reports of progress
 
-/// Puts a header or footer on a page; parts that would meet are elided to a third of the line each.
+/// Puts a header or footer on a page. Parts that would meet are elided: to a third of the line each, or where the
+/// middle is empty, the longer one to what the shorter leaves.
 void setRunningText(Page &page, const RunningText &running, const TextFace &face, int number, double left, double right,
                     double baseline)
 {
     std::array<QString, 3> parts = runningTextParts(running.text, number);
     std::array<double, 3> widths{};
     const double line = right - left;
+    const auto fit = [&](std::size_t part, double room) {
+        parts[part] = face.elided(parts[part], room);
+        widths[part] = face.width(parts[part]);
+    };
     const auto measure = [&](double room) {
-        for (std::size_t i = 0; i < 3; ++i) {
-            parts[i] = face.elided(parts[i], room);
-            widths[i] = face.width(parts[i]);
-        }
+        for (std::size_t i = 0; i < 3; ++i)
+            fit(i, room);
     };
     measure(line);
     const double outer = std::max(widths[0], widths[2]);
     const bool meet = widths[1] > 0 ? outer + widths[1] / 2 > line / 2 && outer > 0 : widths[0] + widths[2] > line;
-    if (meet)
+    if (meet && widths[1] > 0) {
         measure(line / 3 - cellPadding);
+    } else if (meet) {
+        const std::size_t shorter = widths[0] < widths[2] ? 0 : 2;
+        fit(shorter, line / 2 - cellPadding);
+        fit(2 - shorter, line - widths[shorter] - 2 * cellPadding);
+    }
     const std::array<double, 3> places{left, left + (line - widths[1]) / 2, right - widths[2]};
     for (std::size_t i = 0; i < 3; ++i) {
         if (!parts[i].isEmpty())

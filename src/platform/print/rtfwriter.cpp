@@ -190,11 +190,12 @@ private:
     template <typename B>
     void begin(const B &block, Alignment alignment)
     {
+        const bool onTop = m_breaks;
         begin();
         if constexpr (!std::is_same_v<B, Picture>)
             level(block.outlineLevel);
         out += alignmentWord(alignment);
-        if (block.spaceBefore > 0)
+        if (block.spaceBefore > 0 && !onTop)
             out += number("\\sb", block.spaceBefore);
         if (block.spaceAfter > 0)
             out += number("\\sa", block.spaceAfter);
