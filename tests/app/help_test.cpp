@@ -35,6 +35,23 @@ struct Manual : testing::TestWithParam<const char *>, test::StartedProgram {
 
 } // namespace
 
+TEST_P(Manual, HoldsItsPictures)
+{
+    const QTextDocument &text = *control<QTextBrowser>("Hilfetext").document();
+    int pictures = 0;
+    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextCharFormat format = it.fragment().charFormat();
+            if (!format.isImageFormat())
+                continue;
+            ++pictures;
+            const QUrl name(format.toImageFormat().name());
+            EXPECT_FALSE(text.resource(QTextDocument::ImageResource, name).isNull()) << name.toString().toStdString();
+        }
+    }
+    EXPECT_EQ(pictures, 2);
+}
+
 TEST_P(Manual, EveryLinkLeadsToASectionAndEverySectionIsInTheContents)
 {
     auto &text = control<QTextBrowser>("Hilfetext");
