@@ -149,11 +149,11 @@ QString AgeListTable::pictureOf(const QString &page)
     const QString folder = outputFolder(host);
     const QString name = leftPart(page, page.lastIndexOf(u'.') + 1);
     for (const char *extension : {"JPG", "JPEG", "PNG", "GIF"}) {
-        const QString picture = inOutputFolder(name + QLatin1String(extension));
+        QString picture = inOutputFolder(name + QLatin1String(extension));
         if (!picture.isEmpty())
             return picture;
     }
-    const QString bmp = inOutputFolder(name + QStringLiteral("BMP"));
+    QString bmp = inOutputFolder(name + QStringLiteral("BMP"));
     if (bmp.isEmpty())
         return symbol();
     PictureControl picture{.Image = QImage(host.native(folder + bmp))};
@@ -163,7 +163,7 @@ QString AgeListTable::pictureOf(const QString &page)
     QString written = folder + u'~' + name + QStringLiteral("JPG");
     QString type;
     m_setup.pictures.bildkonvertieren(picture, written, type);
-    const QString converted = leftPart(name, name.size() - 1) + written.mid(written.lastIndexOf(u'.'));
+    QString converted = leftPart(name, name.size() - 1) + written.mid(written.lastIndexOf(u'.'));
     if (!host.dir(written).isEmpty() && type == u"JPG" &&
         QFile::rename(host.native(written), host.native(folder + converted)))
         return converted;
