@@ -57,6 +57,7 @@ AgeListPanel::AgeListPanel(StatisticsController &controller, QWidget *parent)
     column->addLayout(head);
     column->addWidget(m_view, 1);
     makeActions();
+    setFocusProxy(m_view);
 
     for (const QCheckBox *box : m_sexes)
         connect(box, &QCheckBox::clicked, this, &AgeListPanel::listWanted);

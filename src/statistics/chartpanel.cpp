@@ -72,6 +72,7 @@ ChartPanel::ChartPanel(StatisticsController &controller, QWidget *parent)
     connect(m_chart, &ChartControl::saveWanted, this, &ChartPanel::savePicture);
     connect(&controller, &StatisticsController::figuresChanged, this, &ChartPanel::showFigures);
     showFigures();
+    setFocusProxy(m_type);
 }
 
 QString ChartPanel::text(qint16 id, const QString &germanText) const
