@@ -16,7 +16,6 @@
 #include <QCloseEvent>
 #include <QDropEvent>
 #include <QFileInfo>
-#include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMimeData>
@@ -34,7 +33,6 @@ namespace {
 
 constexpr int SayMs = 8000;
 constexpr int SayUntilNext = 0;
-constexpr qsizetype DamageLinesShown = 12;
 const QString ListsKey = QStringLiteral("Listen");
 const QString PanelsKey = QStringLiteral("Teiler");
 
@@ -47,8 +45,9 @@ Auswahl::Auswahl(Program &program, QWidget *parent)
       m_selection(new selection::SelectionPanel(m_controller, this)),
       m_statisticsPanel(new statistics::StatisticsPanel(m_statistics, this)),
       m_templates({program, m_work, m_controller, m_statistics, *m_statisticsPanel}, this),
+      m_family({program, m_work, m_controller, m_statistics, m_templates}, this),
       m_report({program, m_work, m_controller, *m_selection, m_statistics, *m_statisticsPanel}),
-      m_splitter(new QSplitter(this)), m_actions(std::make_unique<MainActions>(*this))
+      m_splitter(new QSplitter(this)), m_actions(std::make_unique<MainActions>(*this)), m_panels(*statusBar(), m_work)
 {
     setObjectName(QStringLiteral("Auswahl"));
     language::setDesignText(this, QStringLiteral("20000Altersstatistik"));
@@ -60,11 +59,11 @@ Auswahl::Auswahl(Program &program, QWidget *parent)
     m_splitter->setStretchFactor(0, 1);
     m_splitter->setStretchFactor(1, 1);
     setCentralWidget(m_splitter);
-    makeStatusBar();
     connectActions();
     language::formuebersetzen(*this, program.language, program.host);
     unsetCursor();
     updateTitle();
+    m_panels.update(program, m_controller);
 
     m_controller.reloadLists();
     m_selection->listPanel(PersonList::Unmarked).view().setFocus();
@@ -79,37 +78,6 @@ Auswahl::~Auswahl() = default;
 QString Auswahl::text(qint16 id, const QString &germanText)
 {
     return language::shownText(m_program.language, id, germanText);
-}
-
-void Auswahl::makeStatusBar()
-{
-    const auto panel = [this](const char *name, const char *tooltip) {
-        auto *label = new QLabel(this);
-        label->setObjectName(QLatin1String(name));
-        label->setContentsMargins(6, 0, 6, 0);
-        language::setDesignText(label, {}, QString::fromUtf8(tooltip));
-        statusBar()->addPermanentWidget(label);
-        return label;
-    };
-    statusBar()->addPermanentWidget(new language::ProgressPanel(m_work, this));
-    m_database = panel("PanelDatenbank", "20303Die geöffnete Familiendatenbank");
-    m_damage = new QLabel(this);
-    m_damage->setObjectName(QStringLiteral("PanelSchaden"));
-    m_damage->setContentsMargins(6, 0, 6, 0);
-    statusBar()->addPermanentWidget(m_damage);
-    m_persons = panel("PanelPersonen", "20304Zahl der Personen in der Datenbank");
-    m_marked = panel("PanelMarkiert", "20305Zahl der markierten Personen");
-    // A long message takes the room of the panels.
-    connect(statusBar(), &QStatusBar::messageChanged, this, [this](const QString &message) {
-        const QList<QLabel *> labels{m_database, m_persons, m_marked};
-        int room = statusBar()->width() - statusBar()->fontMetrics().horizontalAdvance(message) - 40;
-        for (const QLabel *label : labels)
-            room -= label->sizeHint().width();
-        for (QLabel *label : labels)
-            label->setVisible(message.isEmpty() || room > 0);
-        statusBar()->setToolTip(message);
-    });
-    m_database->setText(QFileInfo(m_program.databases.Familiendatenbank->file()).fileName());
 }
 
 void Auswahl::connectActions()
@@ -176,6 +144,7 @@ void Auswahl::connectStatistic()
     on(actions.saveTemplate, [this] { m_templates.save(); });
     on(actions.saveTemplateAs, [this] { m_templates.saveAs(); });
     on(actions.reset, [this] { m_templates.reset(); });
+    on(actions.database, [this] { m_family.choose(); });
     on(actions.preview, [this] { m_report.auswahldrucken(); });
     on(actions.print, [this] { m_report.run(QStringLiteral("drucker")); });
     on(actions.exportFile, [this] { m_report.run(QStringLiteral("save")); });
@@ -197,20 +166,21 @@ void Auswahl::connectStatistic()
     connect(&m_report, &ReportDesk::said, this, saySome);
     connect(&m_templates, &TemplateDesk::said, this, saySome);
     connect(&m_templates, &TemplateDesk::currentChanged, this, &Auswahl::updateTitle);
-    connect(&m_templates, &TemplateDesk::reopened, this,
-            [this] { m_database->setText(QFileInfo(m_program.databases.Familiendatenbank->file()).fileName()); });
     connect(&m_templates, &TemplateDesk::reopened, &m_report, &ReportDesk::forget);
+    connect(&m_family, &FamilyDesk::said, this, saySome);
+    connect(&m_family, &FamilyDesk::reopened, &m_report, &ReportDesk::forget);
 }
 
 /// Which template is current, and whether title or introduction still want saving.
 void Auswahl::updateTitle()
 {
     const QString &current = m_templates.current();
-    m_actions->reset->setEnabled(!current.isEmpty() || m_templates.isModified());
+    const bool modified = m_templates.isModified();
+    m_actions->reset->setEnabled(m_templates.canReset());
     const QString name = text(20000, QStringLiteral("Altersstatistik"));
     setWindowTitle(current.isEmpty() ? QStringLiteral("%1[*]").arg(name)
                                      : QStringLiteral("%1[*] – %2").arg(QFileInfo(current).fileName(), name));
-    setWindowModified(m_templates.isModified());
+    setWindowModified(modified);
 }
 
 void Auswahl::fillRecent()
@@ -309,17 +279,7 @@ void Auswahl::updateState()
     actions.unmark->setEnabled(m_selection->hasSelection(PersonList::Marked));
     actions.markAll->setEnabled(count(PersonList::Unmarked) > 0);
     actions.unmarkAll->setEnabled(count(PersonList::Marked) > 0);
-    const qint64 all = m_controller.personCount();
-    // A filter narrows one list at most; the other one tells how many are marked.
-    const qint64 marked =
-        m_controller.isFiltered(PersonList::Marked) ? all - count(PersonList::Unmarked) : count(PersonList::Marked);
-    const QStringList damage = m_program.databases.Familiendatenbank->warnings();
-    m_damage->setVisible(!damage.isEmpty());
-    m_damage->setText(
-        text(20320, QStringLiteral("Beschädigt, nicht alles lesbar: %1")).arg(m_controller.numberText(damage.size())));
-    m_damage->setToolTip(damage.mid(0, DamageLinesShown).join(u'\n'));
-    m_persons->setText(text(20301, QStringLiteral("Personen: %1")).arg(m_controller.numberText(all)));
-    m_marked->setText(text(20302, QStringLiteral("Davon markiert: %1")).arg(m_controller.numberText(marked)));
+    m_panels.update(m_program, m_controller);
 }
 
 void Auswahl::showShortcuts()
@@ -367,6 +327,7 @@ void Auswahl::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    m_closing = false;
     // A preview that shows a message stays open.
     if (!m_closed && (!m_templates.mayDiscard() || !m_report.closePreview())) {
         event->ignore();

@@ -2,15 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/familydesk.h"
 #include "app/program.h"
 #include "app/reportdesk.h"
+#include "app/statuspanels.h"
 #include "app/templatedesk.h"
 #include "platform/desktop/work.h"
 #include "selection/selectioncontroller.h"
 #include "statistics/statisticscontroller.h"
 #include <QMainWindow>
 
-class QLabel;
 class QSplitter;
 
 namespace kalvenor::selection {
@@ -40,6 +41,7 @@ public:
     statistics::StatisticsController &statisticsController() { return m_statistics; }
     statistics::StatisticsPanel &statisticsPanel() { return *m_statisticsPanel; }
     TemplateDesk &templates() { return m_templates; }
+    FamilyDesk &family() { return m_family; }
     ReportDesk &report() { return m_report; }
 
 public Q_SLOTS:
@@ -59,7 +61,6 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    void makeStatusBar();
     void connectActions();
     void updateState();
     void say(const QString &text, int milliseconds);
@@ -77,10 +78,11 @@ private:
     selection::SelectionPanel *m_selection;
     statistics::StatisticsPanel *m_statisticsPanel;
     TemplateDesk m_templates;
+    FamilyDesk m_family;
     ReportDesk m_report;
     QSplitter *m_splitter;
     std::unique_ptr<MainActions> m_actions;
-    QLabel *m_database, *m_damage, *m_persons, *m_marked;
+    StatusPanels m_panels;
     std::unique_ptr<HelpWindow> m_help; ///< from the first call on
     QString m_progressText;             ///< in the status bar while work runs
     bool m_closing = false;             ///< as soon as the running work has ended

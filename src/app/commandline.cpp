@@ -311,9 +311,8 @@ int runCommandLine(int argc, char **argv)
 
     qInstallMessageHandler(onlyFaults);
     if (parser.app.get_subcommands().empty())
-        return runWindow(
-            argc, argv, [&parser] { return programFolder(parser.words); },
-            parser.words.templateFile.empty() ? QString() : absoluteNative(parser.words.templateFile));
+        return runWindow(argc, argv, parser.words.program.empty() ? QString() : absoluteNative(parser.words.program),
+                         parser.words.templateFile.empty() ? QString() : absoluteNative(parser.words.templateFile));
     const auto application = makeApplication(parser, argc, argv);
     catchInterrupt();
     try {

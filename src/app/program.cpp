@@ -42,6 +42,8 @@ bool Program::Main(const ShowMainWindow &showMainWindow)
     host.Kurzhilfe = shortHelp(host, settings, view);
     language.spracheoeffnen(host.Hostverzeichnis + QStringLiteral("\\ADD-IN-LANGUAGE.MDB"));
     host.Familienpfad = host.inilesen(settings, QStringLiteral("QV-Files"), QStringLiteral("0"), {});
+    if (!chosenFamily.isEmpty())
+        host.Familienpfad = chosenFamily;
     if (host.Familienpfad.isEmpty() || host.dir(host.Familienpfad).isEmpty()) {
         // AddInonTop is read later, so this changes nothing yet.
         host.fensteroben(activeForm(), 0, false);

@@ -24,6 +24,9 @@ public:
     data::Datenbankmodul databases{host, engine};
     language::Ereignisarten events{host, engine}; ///< empty until they are needed
 
+    /// A family database for this run, in Windows notation, that takes the place of the one that the host names.
+    QString chosenFamily;
+
     /// Makes and shows the main window and gives it back; a command has none.
     using ShowMainWindow = std::function<QObject *()>;
 

@@ -144,7 +144,7 @@ bool TemplateDesk::openFile(const QString &nativeFile)
         perform(text(21409, QStringLiteral("Die Vorlage wird geöffnet ...")), [&](const Progress &progress) {
             opened = selection::vorlageoeffnen(services, windowsPath(nativeFile), progress);
         });
-    m_parts.lists.afterTemplate(done, opened.changes, opened.otherDatabase);
+    m_parts.lists.afterOpening(done, opened.changes, opened.otherDatabase);
     m_parts.statistics.forget();
     if (!done)
         return false;
@@ -206,13 +206,21 @@ bool TemplateDesk::write(const QString &nativeFile)
 
 void TemplateDesk::reset()
 {
-    const selection::Statistikwerte now = values();
-    if (isModified() && (!now.titel.isEmpty() || !now.rtf.isEmpty()) &&
-        m_parts.program.host.desktop().messageBox(
-            text(21408, QStringLiteral("Die Statistik zurücksetzen? Titel und Einleitung werden gelöscht.")),
-            ButtonsOkCancel + MessageQuestion, text(21023, QStringLiteral("Frage"))) != ResultOk)
-        return;
-    show(selection::vorlageclear(m_parts.program.host));
+    if (mayDiscard())
+        clearTo(selection::vorlageclear(m_parts.program.host));
+}
+
+void TemplateDesk::startAfresh()
+{
+    selection::Statistikwerte now = values();
+    now.titel.clear();
+    now.rtf.clear();
+    clearTo(now);
+}
+
+void TemplateDesk::clearTo(const selection::Statistikwerte &values)
+{
+    show(values);
     setCurrent({});
     m_parts.panel.personsChanged();
 }

@@ -31,6 +31,8 @@ public:
     QStringList recent() const;
     /// Title or introduction are not as they were saved, opened or cleared.
     bool isModified() const;
+    /// There is a template, or something else than was saved, opened or cleared.
+    bool canReset() const { return !m_current.isEmpty() || !(values() == m_saved); }
     /// Lets the user save what is not saved. False where they want to go back.
     bool mayDiscard();
 
@@ -40,8 +42,10 @@ public:
     void openDefault();
     bool save();
     bool saveAs();
-    /// Title, introduction and options as at the start; asks where that loses something.
+    /// Clears title and introduction, takes the options from the settings; asks for what is not saved.
     void reset();
+    /// Another database: no template, title or introduction any more; the options stay.
+    void startAfresh();
 
 Q_SIGNALS:
     /// Another template is current, or none.
@@ -55,6 +59,7 @@ private:
     bool perform(const QString &what, const Work::Task &task);
     selection::Statistikwerte values() const;
     void show(const selection::Statistikwerte &values);
+    void clearTo(const selection::Statistikwerte &values);
     bool write(const QString &nativeFile);
     void setCurrent(const QString &nativeFile);
     void remember(const QString &nativeFile);

@@ -3,6 +3,8 @@
 #include "app/windowprogram.h"
 
 #include "app/auswahl.h"
+#include "app/firstrun.h"
+#include "app/lastfolder.h"
 #include "language/form.h"
 #include "platform/desktop/appicon.h"
 #include "platform/desktop/terminal.h"
@@ -45,10 +47,15 @@ bool mayHaveDisplay()
 }
 
 /// Where windows are drawn for nobody, nobody could answer a message box.
-std::unique_ptr<Desktop> makeDesktop()
+bool isUnattended()
 {
     const QString platform = QGuiApplication::platformName();
-    if (platform == u"offscreen" || platform == u"minimal")
+    return platform == u"offscreen" || platform == u"minimal";
+}
+
+std::unique_ptr<Desktop> makeDesktop()
+{
+    if (isUnattended())
         return std::make_unique<TerminalDesktop>();
     return std::make_unique<WidgetDesktop>();
 }
@@ -65,7 +72,7 @@ void speakLanguage(const host::Host &host, QTranslator &translator)
 
 } // namespace
 
-int runWindow(int &argc, char **argv, const std::function<QString()> &programFolder, const QString &templateFile)
+int runWindow(int &argc, char **argv, const QString &programFolder, const QString &templateFile)
 {
     if (!mayHaveDisplay()) {
         writeError(QStringLiteral("there is no display to open a window on; name a command, --help lists them"));
@@ -80,14 +87,15 @@ int runWindow(int &argc, char **argv, const std::function<QString()> &programFol
     QApplication::setWindowIcon(applicationIcon());
 
     const std::unique_ptr<Desktop> desktop = makeDesktop();
-    Program program(programFolder(), *desktop);
+    const QString executableFolder = QCoreApplication::applicationDirPath();
+    const QString folder = programFolder.isEmpty() ? startFolder(executableFolder) : programFolder;
     QTranslator translator;
     std::unique_ptr<Auswahl> window;
-    try {
-        const bool started = program.Main([&]() -> QObject * {
+    const std::unique_ptr<Program> program =
+        startProgram(*desktop, {windowsPath(folder)}, [&](Program &starting) -> QObject * {
             try {
-                speakLanguage(program.host, translator);
-                window = std::make_unique<Auswahl>(program);
+                speakLanguage(starting.host, translator);
+                window = std::make_unique<Auswahl>(starting);
                 window->show();
                 // The window is to be seen before a long template begins.
                 QTimer::singleShot(0, window.get(), [&window, templateFile] {
@@ -97,19 +105,19 @@ int runWindow(int &argc, char **argv, const std::function<QString()> &programFol
                         window->templates().openFile(templateFile);
                 });
             } catch (const Error &error) {
+                window.reset();
                 desktop->runtimeError(error);
                 throw;
             }
             return window.get();
         });
-        if (started && window)
-            return QApplication::exec();
-    } catch (const Error &error) {
-        desktop->runtimeError(error);
-    } catch (const std::bad_alloc &) {
-        desktop->messageBox(QStringLiteral("There is not enough memory for this."), MessageCritical, {});
-    }
-    return Failed;
+    if (!program || !window)
+        return Failed;
+    if (!isUnattended())
+        rememberFolder(program->host.native(program->host.programFolder()), executableFolder);
+    const int code = QApplication::exec();
+    window.reset(); // before the program that it shows
+    return code;
 }
 
 } // namespace kalvenor::app

@@ -2,14 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <functional>
 #include <QString>
 
 namespace kalvenor::app {
 
-/// The program with its window, from start to end. `programFolder` gives the program's own folder in Windows notation
-/// once Qt runs. What fails before there is a window is shown in a box, or on stderr where there is no display.
-/// Returns the exit code.
-int runWindow(int &argc, char **argv, const std::function<QString()> &programFolder, const QString &templateFile = {});
+/// The program with its window, from start to end. `programFolder` is the program's own folder, a native path; empty:
+/// the executable's or the one used last. What fails before there is a window is shown with ways on, or on stderr where
+/// there is no display. Returns the exit code.
+int runWindow(int &argc, char **argv, const QString &programFolder, const QString &templateFile = {});
 
 } // namespace kalvenor::app

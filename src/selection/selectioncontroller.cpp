@@ -301,7 +301,7 @@ void SelectionController::redo()
     Q_EMIT changed();
 }
 
-void SelectionController::afterTemplate(bool opened, const MarkStep &changes, bool otherDatabase)
+void SelectionController::afterOpening(bool opened, const MarkStep &changes, bool otherDatabase)
 {
     m_watcher.watch(m_services.databases.Familiendatenbank);
     if (opened && otherDatabase)
@@ -313,6 +313,8 @@ void SelectionController::afterTemplate(bool opened, const MarkStep &changes, bo
     const std::array<QString, 2> wanted = opened ? plain : queries();
     perform(text(20346, QStringLiteral("Die Datenbank wird gelesen ...")),
             [&](const Progress &progress) { load(wanted, true, progress); });
+    if (opened)
+        Q_EMIT filterDropped();
 }
 
 void SelectionController::release()

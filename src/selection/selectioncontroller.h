@@ -65,9 +65,9 @@ public:
 
     /// The databases are about to be closed.
     void release();
-    /// A template was opened: both lists become plain ones and what it changed can be undone, unless another database
-    /// is open now. Or (`opened` false) that failed, and the lists show again what they showed.
-    void afterTemplate(bool opened, const MarkStep &changes, bool otherDatabase);
+    /// A template or another database was opened: both lists become plain ones and what it changed can be undone,
+    /// unless another database is open now. Or (`opened` false) that failed, and the lists show what they showed.
+    void afterOpening(bool opened, const MarkStep &changes, bool otherDatabase);
     /// Looks whether another program changed the database.
     void lookForChanges() { m_watcher.look(); }
 
@@ -79,6 +79,8 @@ Q_SIGNALS:
     /// A filter was carried out; its pattern goes back into the text box unless the user is typing there.
     void filtered(const QString &pattern, bool typed);
     void filterRefused(const QString &why);
+    /// Both lists became plain ones though nobody cleared the filter.
+    void filterDropped();
     /// After a move, when both lists are shown: rows of the person table, for few persons only.
     void arrived(PersonList list, const std::vector<quint32> &tableRows);
     /// What was done, for the status bar.

@@ -169,6 +169,7 @@ void SelectionPanel::connectFilter()
         }
         m_filterShown = m_controller.filter(filter, typed);
     });
+    connect(&m_controller, &SelectionController::filterDropped, this, [this] { m_filter->setFilter({}); });
     connect(m_filter, &FilterPanel::clearWanted, &m_controller, &SelectionController::clearFilter);
     connect(&m_controller, &SelectionController::filtered, this, [this](const QString &pattern, bool typed) {
         if (!typed)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/vorlageoeffnen.h"
 
+#include "selection/databaseswitch.h"
 #include "selection/marksnapshot.h"
 #include <QFileInfo>
 #include <unordered_set>
@@ -17,56 +18,6 @@ Error withRemark(const Error &error, const QString &remark)
 {
     return Error(error.kind(), error.place(), error.text() + u' ' + remark);
 }
-
-/// Goes over to another family database, and back where something fails.
-class DatabaseSwitch {
-public:
-    explicit DatabaseSwitch(const VorlageServices &services)
-        : m_services(services), m_former(services.host.Familienpfad)
-    {
-    }
-
-    void goOver(const QString &familienpfad)
-    {
-        m_changed = true;
-        if (m_services.closing)
-            m_services.closing();
-        open(familienpfad);
-    }
-    bool changed() const { return m_changed; }
-    /// Throws `why` again once the former database is open.
-    [[noreturn]] void goBack(const Error &why)
-    {
-        if (!m_changed)
-            throw why;
-        try {
-            if (m_services.closing)
-                m_services.closing();
-            open(m_former);
-        } catch (const Error &error) {
-            throw withRemark(why, QStringLiteral("The former database could not be opened again either (%1). Quit the "
-                                                 "program and start it again.")
-                                      .arg(error.message()));
-        }
-        throw why;
-    }
-
-private:
-    void open(const QString &familienpfad)
-    {
-        host::Host &host = m_services.host;
-        m_services.language.datenbankenschliessen(familienpfad); // a name: the host's own texts stay closed
-        m_services.databases.datenbankoeffnen(familienpfad);
-        m_services.language.spracheoeffnen(host.Hostverzeichnis + QStringLiteral("\\ADD-IN-LANGUAGE.MDB"));
-        host.Familienpfad = familienpfad;
-        if (m_services.opened)
-            m_services.opened();
-    }
-
-    const VorlageServices &m_services;
-    QString m_former;
-    bool m_changed = false;
-};
 
 bool isOpen(const VorlageServices &services, const QString &familienpfad)
 {
@@ -152,7 +103,8 @@ OpenedVorlage vorlageoeffnen(const VorlageServices &services, const QString &Fil
     opened.vorlage = readVorlage(services.host.native(File));
     const QString &familienpfad = opened.vorlage.familienpfad;
     opened.otherDatabase = needsOtherDatabase(services, File, familienpfad);
-    DatabaseSwitch databaseSwitch(services);
+    DatabaseSwitch databaseSwitch(
+        {services.host, services.language, services.databases, services.closing, services.opened});
     try {
         if (opened.otherDatabase)
             databaseSwitch.goOver(familienpfad);

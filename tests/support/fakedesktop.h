@@ -40,6 +40,7 @@ public:
 
     QString openFileName(QWidget *, const FileQuestion &question) override { return answered(question); }
     QString saveFileName(QWidget *, const FileQuestion &question) override { return answered(question); }
+    QString chooseFolder(QWidget *, const FileQuestion &question) override { return answered(question); }
     bool runDialog(QDialog &dialog) override { return dialogAnswer && dialogAnswer(dialog); }
 
     std::vector<int> answers; ///< to the next message boxes in turn; none left: OK

@@ -37,6 +37,11 @@ QString Desktop::saveFileName(QWidget *, const FileQuestion &)
     return {};
 }
 
+QString Desktop::chooseFolder(QWidget *, const FileQuestion &)
+{
+    return {};
+}
+
 bool Desktop::runDialog(QDialog &)
 {
     return false;

@@ -54,6 +54,8 @@ public:
     virtual QString openFileName(QWidget *parent, const FileQuestion &question);
     /// Lets the user choose a file to write; an existing one only after they agreed to replace it. As above.
     virtual QString saveFileName(QWidget *parent, const FileQuestion &question);
+    /// Lets the user choose an existing folder; filters, suffix and name of the question do not count. As above.
+    virtual QString chooseFolder(QWidget *parent, const FileQuestion &question);
     /// Shows a dialog and waits until it is closed. True where the user accepted; false where nobody can be asked.
     virtual bool runDialog(QDialog &dialog);
 };

@@ -122,6 +122,15 @@ QString WidgetDesktop::saveFileName(QWidget *parent, const FileQuestion &questio
     return askForFile(dialog, question);
 }
 
+QString WidgetDesktop::chooseFolder(QWidget *parent, const FileQuestion &question)
+{
+    QFileDialog dialog(parent);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    return askForFile(dialog, question);
+}
+
 QString WidgetDesktop::askForFile(QFileDialog &dialog, const FileQuestion &question)
 {
     dialog.setObjectName(QStringLiteral("Dateidialog"));

@@ -18,6 +18,7 @@ public:
     void setPointer(Pointer pointer) override;
     QString openFileName(QWidget *parent, const FileQuestion &question) override;
     QString saveFileName(QWidget *parent, const FileQuestion &question) override;
+    QString chooseFolder(QWidget *parent, const FileQuestion &question) override;
     /// Modal to its parent, above windows that stay on top, with the usual pointer.
     bool runDialog(QDialog &dialog) override;
 

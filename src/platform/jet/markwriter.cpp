@@ -243,6 +243,16 @@ private:
 
 } // namespace
 
+bool isWriteProtected(const QString &file)
+{
+    try {
+        openForWriting(file);
+        return false;
+    } catch (const Error &error) {
+        return error.kind() == ErrorKind::ReadOnly;
+    }
+}
+
 MarkWriter::MarkWriter(std::shared_ptr<Database> database, std::shared_ptr<const Table> table, int markColumn,
                        int keyColumn)
     : m_database(std::move(database)), m_table(std::move(table)), m_markColumn(markColumn), m_keyColumn(keyColumn)

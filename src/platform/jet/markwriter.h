@@ -18,6 +18,9 @@ struct Mark {
 
 struct MarkTarget;
 
+/// Whether the file, its folder or its medium is write-protected now, so that no mark can be written.
+bool isWriteProtected(const QString &file);
+
 /// Sets values of one Yes/No column, each by the change of one bit in one byte of the file. Nothing else of the file
 /// is ever written, and nothing at all before every guard has passed for the page at hand.
 class MarkWriter {

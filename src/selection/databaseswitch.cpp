@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "selection/databaseswitch.h"
+
+#include <utility>
+
+namespace kalvenor::selection {
+
+DatabaseSwitch::DatabaseSwitch(DatabaseServices services)
+    : m_services(std::move(services)), m_former(m_services.host.Familienpfad)
+{
+}
+
+void DatabaseSwitch::goOver(const QString &familienpfad)
+{
+    m_changed = true;
+    open(familienpfad);
+}
+
+void DatabaseSwitch::goBack(const Error &why)
+{
+    if (!m_changed)
+        throw why;
+    try {
+        open(m_former);
+    } catch (const Error &error) {
+        throw Error(why.kind(), why.place(),
+                    why.text() + QStringLiteral(" The former database could not be opened again either (%1). Quit the "
+                                                "program and start it again.")
+                                     .arg(error.message()));
+    }
+    throw why;
+}
+
+void DatabaseSwitch::open(const QString &familienpfad)
+{
+    if (m_services.closing)
+        m_services.closing();
+    host::Host &host = m_services.host;
+    m_services.language.datenbankenschliessen(familienpfad); // a name: the host's own texts stay closed
+    m_services.databases.datenbankoeffnen(familienpfad);
+    m_services.language.spracheoeffnen(host.Hostverzeichnis + QStringLiteral("\\ADD-IN-LANGUAGE.MDB"));
+    host.Familienpfad = familienpfad;
+    if (m_services.opened)
+        m_services.opened();
+}
+
+} // namespace kalvenor::selection
