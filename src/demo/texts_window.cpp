@@ -158,7 +158,7 @@ constexpr LanguageText texts[] = {
     {20409, u"b&is", u"&to"},
     {20410, u"Ni&cht markierte Personen", u"&Unmarked persons"},
     {20411, u"Ma&rkierte Personen", u"Mar&ked persons"},
-    {20412, u"Filtern", u"A&pply filter"},
+    {20412, u"Filtern", u"Apply filter"},
     {20413, u"Filter a&ufheben", u"&Clear filter"},
     {20414, u"Erster Tag, als Tag, Monat und Jahr", u"First day, as day, month and year"},
     {20415, u"Letzter Tag, als Tag, Monat und Jahr", u"Last day, as day, month and year"},
