@@ -5,6 +5,7 @@
 #include "app/databasefault.h"
 #include "app/lastfolder.h"
 #include "demo/demohost.h"
+#include "demo/texts.h"
 #include "language/progresspanel.h"
 #include "language/widgetform.h"
 #include "platform/desktop/appicon.h"
@@ -15,6 +16,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLocale>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -43,6 +45,36 @@ QLabel *makeLabel(const char *name, QWidget *parent)
     return label;
 }
 
+const QString German = QStringLiteral("Deutsch");
+const QString English = QStringLiteral("English");
+
+bool isGerman(const host::Host &host)
+{
+    return language::anzeigesprache(host).language() == QLocale::German;
+}
+
+QVariant englishText(qint16 id)
+{
+    for (const auto texts : {demo::windowTexts(), demo::messageTexts()}) {
+        for (const demo::LanguageText &text : texts) {
+            if (text.id == id)
+                return QString::fromUtf16(text.english);
+        }
+    }
+    return {};
+}
+
+/// Without a language database the design texts would be German for everybody; without a host nobody has said which
+/// language they read, but the system.
+void speakWithoutHost(Program &program)
+{
+    host::Host &host = program.host;
+    if (!hasHost(host.native(host.programFolder())))
+        host.Sprache = QLocale::system().language() == QLocale::German ? German : English;
+    if (!isGerman(host))
+        program.language.setSpareTexts(englishText);
+}
+
 } // namespace
 
 StartProblem startProblem(Program &program, const std::optional<Error> &error)
@@ -54,6 +86,8 @@ StartProblem startProblem(Program &program, const std::optional<Error> &error)
     if (!hasHost(host.native(host.programFolder())))
         return {.text = text(21201, "Kalvenor wird aus einem Ordner unterhalb des Hauptprogramms gestartet. Hier wurde "
                                     "kein Hauptprogramm gefunden."),
+                .details = text(21218, "In %1 liegt kein Hauptprogramm: Dort fehlt programm.ini.")
+                               .arg(host.native(host.Hostverzeichnis)),
                 .noHost = true};
     const QString &family = host.Familienpfad;
     const QString settings = host.native(host.hostSettingsFile());
@@ -215,13 +249,18 @@ void FirstRun::makeDemonstration()
         showProblem(failure, {});
         return;
     }
-    m_program.host.desktop().messageBox(
-        text(21212, QStringLiteral("Die Beispieldaten liegen in %1.")).arg(made.hostFolder), 0, {});
+    const host::Host &host = m_program.host;
+    if (!isGerman(host))
+        host.inischreiben(windowsPath(made.hostFolder) + QStringLiteral("\\programm.ini"), QStringLiteral("Ansicht"),
+                          QStringLiteral("Sprache"), English);
+    host.desktop().messageBox(text(21212, QStringLiteral("Die Beispieldaten liegen in %1.")).arg(made.hostFolder), 0,
+                              {});
     leadOn({windowsPath(made.programFolder)});
 }
 
 std::unique_ptr<Program> startProgram(Desktop &desktop, StartPlace place,
-                                      const std::function<QObject *(Program &)> &showMainWindow)
+                                      const std::function<QObject *(Program &)> &showMainWindow,
+                                      const std::function<void(const host::Host &)> &beforeQuestion)
 {
     for (;;) {
         auto program = std::make_unique<Program>(place.programFolder, desktop);
@@ -235,6 +274,9 @@ std::unique_ptr<Program> startProgram(Desktop &desktop, StartPlace place,
         } catch (const std::bad_alloc &) {
             failure = Error(ErrorKind::Overflow, {}, QStringLiteral("There is not enough memory for this."));
         }
+        speakWithoutHost(*program);
+        if (beforeQuestion)
+            beforeQuestion(program->host);
         const StartProblem problem = startProblem(*program, failure);
         // Who has no host yet is welcomed, not met with an error number.
         if (failure && problem.noHost)

@@ -117,6 +117,8 @@ void TemplateDesk::open()
 
 bool TemplateDesk::openFile(const QString &nativeFile)
 {
+    if (m_parts.work.isRunning()) // a file dropped meanwhile
+        return false;
     Program &program = m_parts.program;
     selection::OpenedVorlage opened;
     const selection::VorlageServices services{

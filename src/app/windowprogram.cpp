@@ -65,6 +65,7 @@ void speakLanguage(const host::Host &host, QTranslator &translator)
 {
     const QLocale locale = language::anzeigesprache(host);
     QLocale::setDefault(locale);
+    QCoreApplication::removeTranslator(&translator);
     if (locale.language() == QLocale::German &&
         translator.load(QStringLiteral("qtbase_de"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&translator);
@@ -91,8 +92,9 @@ int runWindow(int &argc, char **argv, const QString &programFolder, const QStrin
     const QString folder = programFolder.isEmpty() ? startFolder(executableFolder) : programFolder;
     QTranslator translator;
     std::unique_ptr<Auswahl> window;
-    const std::unique_ptr<Program> program =
-        startProgram(*desktop, {windowsPath(folder)}, [&](Program &starting) -> QObject * {
+    const std::unique_ptr<Program> program = startProgram(
+        *desktop, {windowsPath(folder)},
+        [&](Program &starting) -> QObject * {
             try {
                 speakLanguage(starting.host, translator);
                 window = std::make_unique<Auswahl>(starting);
@@ -110,7 +112,8 @@ int runWindow(int &argc, char **argv, const QString &programFolder, const QStrin
                 throw;
             }
             return window.get();
-        });
+        },
+        [&translator](const host::Host &host) { speakLanguage(host, translator); });
     if (!program || !window)
         return Failed;
     if (!isUnattended())

@@ -81,7 +81,6 @@ constexpr LanguageText texts[] = {
     {21208, u"Die Familiendatenbank ist gesperrt, weil ein anderes Programm sie allein benutzt.",
      u"The family database is locked because another program uses it exclusively."},
     {21209, u"Ordner für die Beispieldaten wählen", u"Choose a folder for the demonstration data"},
-    {21210, u"Zahl der Personen", u"Number of persons"},
     {21211, u"Die Beispieldaten werden angelegt ...", u"The demonstration data are being made ..."},
     {21212, u"Die Beispieldaten liegen in %1.", u"The demonstration data are in %1."},
     {21213, u"Familiendatenbanken (*.mdb)", u"Family databases (*.mdb)"},
@@ -132,7 +131,6 @@ constexpr LanguageText texts[] = {
      u"Title or introduction have been changed. Save the template?"},
     {21409, u"Die Vorlage wird geöffnet ...", u"The template is being opened ..."},
     {21410, u"Keine Vorlage", u"No template"},
-    {21411, u"Die Vorlage %1 ist nicht mehr vorhanden.", u"The template %1 does not exist any more."},
     {21412, u"Unbenannt", u"Untitled"},
     {21413, u"Das ist keine Vorlage: %1", u"This is not a template: %1"},
 };

@@ -20,6 +20,11 @@ QVariant Sprachmodul::sprachtext(qint16 id)
             if (!m_languages->noMatch())
                 result = m_languages->value(m_host.Sprache);
         }
+        if (!m_languages && m_spareTexts) {
+            const QVariant spare = m_spareTexts(id);
+            if (!spare.isNull())
+                result = spare;
+        }
     } catch (const Error &) {
         // A text that cannot be looked up never stops anything: it shows as four question marks.
     }

@@ -4,9 +4,11 @@
 
 #include "host/host.h"
 #include "platform/dao/dao.h"
+#include <functional>
 #include <memory>
 #include <QString>
 #include <QVariant>
+#include <utility>
 
 namespace kalvenor::language {
 
@@ -25,6 +27,8 @@ public:
     QVariant sprachtext(qint16 id);
     /// The same as plain text; null gives "".
     QString text(qint16 id) { return sprachtext(id).toString(); }
+    /// Texts for as long as no language database is open: a string, or null where there is none.
+    void setSpareTexts(std::function<QVariant(qint16)> texts) { m_spareTexts = std::move(texts); }
 
     /// Closes every database of every workspace, last first, then, where `name` is empty, opens the host's own
     /// language database "\language.mdb". Throws the engine's Error.
@@ -35,6 +39,7 @@ private:
     dao::Engine &m_engine;
     std::shared_ptr<dao::Database> m_database;
     std::shared_ptr<dao::Recordset> m_languages;
+    std::function<QVariant(qint16)> m_spareTexts;
 };
 
 } // namespace kalvenor::language

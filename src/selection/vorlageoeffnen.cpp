@@ -4,6 +4,7 @@
 
 #include "selection/databaseswitch.h"
 #include "selection/marksnapshot.h"
+#include <new>
 #include <QFileInfo>
 #include <unordered_set>
 #include <utility>
@@ -117,6 +118,8 @@ OpenedVorlage vorlageoeffnen(const VorlageServices &services, const QString &Fil
         opened.found = static_cast<qsizetype>(persons.size());
     } catch (const Error &error) {
         databaseSwitch.goBack(error);
+    } catch (const std::bad_alloc &) {
+        databaseSwitch.goBack(Error(ErrorKind::Overflow, {}, QStringLiteral("There is not enough memory for this.")));
     }
     return opened;
 }

@@ -11,11 +11,11 @@ namespace {
 
 constexpr qint64 PersonsBetweenReports = 4096;
 
-/// A whole number within the bounds, else the fallback.
+/// The number without its decimals where it lies within the bounds, else the fallback.
 int numberWithin(const QString &text, int from, int to, int fallback)
 {
     const double number = leadingNumber(text);
-    return number >= from && number <= to && number == static_cast<int>(number) ? static_cast<int>(number) : fallback;
+    return number >= from && number < to + 1 ? static_cast<int>(number) : fallback;
 }
 
 } // namespace
@@ -50,7 +50,7 @@ Statistikwerte vorlageclear(const host::Host &host)
     };
     Statistikwerte werte;
     werte.grafiktyp = numberWithin(read("Grafik", "Grafiktyp", "1"), 0, Grafiktypen - 1, werte.grafiktyp);
-    werte.legende = numberWithin(read("Grafik", "Legende", "1"), 0, 1, werte.legende);
+    werte.legende = leadingNumber(read("Grafik", "Legende", "1")) != 0 ? 1 : 0;
     // One key for all four boxes; the boxes themselves are stored under other keys.
     for (qint16 &box : werte.geschlechtalter)
         box = static_cast<qint16>(numberWithin(read("Geschlecht", "a%", "1"), 0, 1, 1));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/statisticsoptions.h"
 
+#include "data/datevalue.h"
 #include "platform/basic/number.h"
 
 namespace kalvenor::statistics {
@@ -49,7 +50,9 @@ StatisticsOptions readOptions(const host::Host &host)
     if (type >= 0 && type < static_cast<double>(chartTypeEntries().size()))
         options.grafiktyp = static_cast<int>(type);
     options.legende = number(ChartSection, QStringLiteral("Legende"), 1) != 0;
-    options.nachGeburtsjahr = number(ChartSection, QStringLiteral("Gebgest"), 1) != 0;
+    const QString byBirth =
+        host.inilesen(host.ownSettingsFile(), ChartSection, QStringLiteral("Gebgest"), QStringLiteral("1"));
+    options.nachGeburtsjahr = data::textwahr(byBirth) || leadingNumber(byBirth) != 0; // as a reset reads it
     for (std::size_t i = 0; i < options.geschlechtalter.size(); ++i)
         options.geschlechtalter[i] = number(SexSection, QString::number(i), 1) == 1 ? 1 : 0;
     return options;

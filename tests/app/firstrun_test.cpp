@@ -73,6 +73,18 @@ TEST(FirstRun, SaysWhichFileIsWrongAndOffersWhatHelps)
     }
 }
 
+TEST(FirstRun, SpeaksTheHostsLanguageWithoutItsTexts)
+{
+    const Installation installation;
+    Meeting meeting;
+    ASSERT_TRUE(QFile::remove(installation.hostFolder() + "/ADD-IN-LANGUAGE.MDB"));
+    ASSERT_TRUE(host::Host(installation.programFolder(), meeting.desktop)
+                    .inischreiben(installation.settings(), "Ansicht", "Sprache", "English"));
+    EXPECT_EQ(meeting.start(installation.programFolder()), nullptr);
+    ASSERT_EQ(meeting.said.size(), 1);
+    EXPECT_TRUE(meeting.said[0].startsWith("The text database is missing")) << meeting.said[0].toStdString();
+}
+
 TEST(FirstRun, EachWayLeadsOn)
 {
     const Installation installation({{.counter = 1, .listname = "A"}});
