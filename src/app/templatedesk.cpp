@@ -9,6 +9,7 @@
 #include <new>
 #include <QFileInfo>
 #include <QLineEdit>
+#include <QRegularExpression>
 
 namespace kalvenor::app {
 
@@ -19,6 +20,23 @@ constexpr qsizetype LongestEntry = 255; // what a profile file gives back
 const QString RecentSection = QStringLiteral("Vorlagen");
 const QString DefaultTemplate = QStringLiteral("\\Standart.kvl");
 const QString Suffix = QStringLiteral("kvl");
+
+/// What is wrong with a template in the user's language, the technical reason behind it; any other error as it is.
+QString inPlainWords(language::Sprachmodul &texts, const Error &error)
+{
+    static const QRegularExpression place(QStringLiteral("^(.+\\.kvl), line (\\d+)$"),
+                                          QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = place.match(error.place());
+    if (error.kind() != ErrorKind::Damaged || !match.hasMatch())
+        return error.message();
+    const QString file = match.captured(1);
+    const QString line = match.captured(2);
+    const QString plain =
+        line == u"1" ? language::shownText(texts, 21413, QStringLiteral("Das ist keine Vorlage: %1")).arg(file)
+                     : language::shownText(texts, 21403, QStringLiteral("Die Vorlage ist beschädigt (Zeile %1): %2"))
+                           .arg(line, file);
+    return plain + QStringLiteral("\n\n") + error.message();
+}
 
 } // namespace
 
@@ -41,7 +59,7 @@ bool TemplateDesk::perform(const QString &what, const Work::Task &task)
         if (error.kind() == ErrorKind::Cancelled)
             Q_EMIT said(text(20348, QStringLiteral("Abgebrochen")));
         else
-            failure = error.message();
+            failure = inPlainWords(m_parts.program.language, error);
     } catch (const std::bad_alloc &) {
         failure = QStringLiteral("There is not enough memory for this.");
     }
