@@ -3,6 +3,7 @@
 #include "app/reportdesk.h"
 
 #include "language/form.h"
+#include "language/userwork.h"
 #include "platform/chart/chartcontrol.h"
 #include "selection/filterpanel.h"
 #include "selection/selectioncontroller.h"
@@ -12,7 +13,6 @@
 #include "statistics/chartpanel.h"
 #include "statistics/statisticspanel.h"
 #include "statistics/texteditor.h"
-#include <new>
 #include <QApplication>
 #include <QLineEdit>
 
@@ -65,23 +65,17 @@ bool ReportDesk::auswahldrucken()
     const bool toPages = m_print.exportFormat == ExportFormat::Pages;
     if (m_parts.work.isRunning() || !m_parts.panel.computeAll())
         return false;
-    QString failure;
-    bool done = false;
-    try {
-        done = m_parts.work.run(text(20349, QStringLiteral("Die Seiten werden zusammengestellt ...")),
-                                [this](const Progress &progress) { m_bericht.auswahldrucken(content(), progress); });
-    } catch (const Error &error) {
-        if (error.kind() == ErrorKind::Cancelled)
-            Q_EMIT said(text(20348, QStringLiteral("Abgebrochen")));
-        else
-            failure = error.message();
-    } catch (const std::bad_alloc &) {
-        failure = QStringLiteral("There is not enough memory for this.");
-    }
-    if (!failure.isEmpty())
-        m_parts.program.host.desktop().messageBox(
-            text(21053, QStringLiteral("Der Bericht konnte nicht erstellt werden: %1")).arg(failure), MessageCritical,
-            text(21020, QStringLiteral("Fehler")));
+    Program &program = m_parts.program;
+    const bool done =
+        language::runAndTell(m_parts.work, program.host, program.language,
+                             text(20349, QStringLiteral("Die Seiten werden zusammengestellt ...")),
+                             [this](const Progress &progress) { m_bericht.auswahldrucken(content(), progress); },
+                             {.said = [this](const QString &end) { Q_EMIT said(end); },
+                              .inPlainWords =
+                                  [this](const Error &error) {
+                                      return text(21053, QStringLiteral("Der Bericht konnte nicht erstellt werden: %1"))
+                                          .arg(error.message());
+                                  }});
     if (done && toPages)
         showPreview();
     return done;

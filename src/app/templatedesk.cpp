@@ -3,10 +3,10 @@
 #include "app/templatedesk.h"
 
 #include "language/form.h"
+#include "language/userwork.h"
 #include "selection/vorlageoeffnen.h"
 #include "selection/vorlagespeichern.h"
 #include "statistics/texteditor.h"
-#include <new>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QRegularExpression>
@@ -52,20 +52,13 @@ QString TemplateDesk::text(qint16 id, const QString &germanText) const
 /// False where the task was not begun, failed or was cancelled; it was told.
 bool TemplateDesk::perform(const QString &what, const Work::Task &task)
 {
-    QString failure;
-    try {
-        return m_parts.work.run(what, task);
-    } catch (const Error &error) {
-        if (error.kind() == ErrorKind::Cancelled)
-            Q_EMIT said(text(20348, QStringLiteral("Abgebrochen")));
-        else
-            failure = inPlainWords(m_parts.program.language, error);
-    } catch (const std::bad_alloc &) {
-        failure = QStringLiteral("There is not enough memory for this.");
-    }
-    if (!failure.isEmpty())
-        m_parts.program.host.desktop().messageBox(failure, MessageCritical, text(21020, QStringLiteral("Fehler")));
-    return false;
+    Program &program = m_parts.program;
+    return language::runAndTell(m_parts.work, program.host, program.language, what, task,
+                                {.said = [this](const QString &end) { Q_EMIT said(end); },
+                                 .inPlainWords =
+                                     [&program](const Error &error) {
+                                         return inPlainWords(program.language, error);
+                                     }});
 }
 
 selection::Statistikwerte TemplateDesk::values() const

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/selectioncontroller.h"
 
+#include "language/userwork.h"
 #include "platform/jet/table.h"
 #include "selection/marksnapshot.h"
-#include <new>
 #include <QTimer>
 #include <utility>
 
@@ -48,26 +48,11 @@ qint64 SelectionController::personCount() const
     return table ? table->rowCount() : 0;
 }
 
-void SelectionController::report(const Error &error)
-{
-    if (error.kind() == ErrorKind::Cancelled) {
-        Q_EMIT said(text(20348, QStringLiteral("Abgebrochen")));
-        return;
-    }
-    m_services.host.desktop().messageBox(error.message(), MessageCritical, text(21020, QStringLiteral("Fehler")));
-}
-
-/// False where the task was not begun or failed; a failure was reported.
+/// False where the task was not begun or failed; a failure was told.
 bool SelectionController::perform(const QString &what, const Work::Task &task, Work::Input input)
 {
-    try {
-        return m_services.work.run(what, task, input);
-    } catch (const Error &error) {
-        report(error);
-    } catch (const std::bad_alloc &) {
-        report(Error(ErrorKind::Overflow, {}, QStringLiteral("There is not enough memory for this.")));
-    }
-    return false;
+    return language::runAndTell(m_services.work, m_services.host, m_services.language, what, task,
+                                {.said = [this](const QString &end) { Q_EMIT said(end); }, .input = input});
 }
 
 /// Runs the lists' queries, those alone whose result can have changed unless `all`. Both lists change, or none.

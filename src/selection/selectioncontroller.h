@@ -108,7 +108,6 @@ private:
     std::array<QString, 2> queries() const { return {m_lists[0].query, m_lists[1].query}; }
     std::optional<MarkStep> changeMarks(const QString &what, const Change &change, bool announceLists = false);
     void runFilters();
-    void report(const Error &error);
     void tellMoved(const MarkStep &step);
 
     SelectionServices m_services;

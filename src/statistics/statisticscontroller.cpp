@@ -3,7 +3,7 @@
 #include "statistics/statisticscontroller.h"
 
 #include "language/form.h"
-#include <new>
+#include "language/userwork.h"
 #include <utility>
 
 namespace kalvenor::statistics {
@@ -30,22 +30,12 @@ bool StatisticsController::perform(const QString &what, const Work::Task &task)
 {
     QElapsedTimer clock;
     clock.start();
-    bool done = false;
-    QString failure;
     m_mayFollow = false;
-    try {
-        done = m_services.work.run(what, task);
-    } catch (const Error &error) {
-        if (error.kind() == ErrorKind::Cancelled)
-            Q_EMIT said(text(20348, QStringLiteral("Abgebrochen")));
-        else
-            failure = error.message();
-    } catch (const std::bad_alloc &) {
-        failure = QStringLiteral("There is not enough memory for this.");
-    }
+    const bool done = language::runAndTell(m_services.work, m_services.host, m_services.language, what, task,
+                                           {.said = [this](const QString &end) {
+                                               Q_EMIT said(end);
+                                           }});
     m_mayFollow = done && clock.elapsed() <= LongMs;
-    if (!failure.isEmpty())
-        m_services.host.desktop().messageBox(failure, MessageCritical, text(21020, QStringLiteral("Fehler")));
     return done;
 }
 
