@@ -168,7 +168,6 @@ void Auswahl::connectStatistic()
     connect(&m_templates, &TemplateDesk::currentChanged, this, &Auswahl::updateTitle);
     connect(&m_templates, &TemplateDesk::reopened, &m_report, &ReportDesk::forget);
     connect(&m_family, &FamilyDesk::said, this, saySome);
-    connect(&m_family, &FamilyDesk::reopened, &m_report, &ReportDesk::forget);
 }
 
 /// Which template is current, and whether title or introduction still want saving.

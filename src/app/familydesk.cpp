@@ -36,16 +36,7 @@ void FamilyDesk::choose()
 
 void FamilyDesk::goOver(const QString &familienpfad)
 {
-    Program &program = m_parts.program;
-    selection::DatabaseSwitch databaseSwitch({.host = program.host,
-                                              .language = program.language,
-                                              .databases = program.databases,
-                                              .closing = [this] { m_parts.lists.release(); },
-                                              .opened =
-                                                  [this, &program] {
-                                                      program.events.ereignis_art_laden();
-                                                      Q_EMIT reopened();
-                                                  }});
+    selection::DatabaseSwitch databaseSwitch(m_parts.templates.databaseServices());
     try {
         databaseSwitch.goOver(familienpfad);
     } catch (const Error &error) {

@@ -31,8 +31,6 @@ public:
     bool openFile(const QString &nativeFile);
 
 Q_SIGNALS:
-    /// Databases were closed and opened again.
-    void reopened();
     void said(const QString &text);
 
 private:

@@ -3,7 +3,6 @@
 #include "app/reportcommand.h"
 
 #include "app/startedprogram.h"
-#include "platform/basic/codepage.h"
 #include "platform/print/pdfwriter.h"
 #include "report/bericht.h"
 #include "selection/vorlageoeffnen.h"
@@ -60,7 +59,7 @@ QByteArray readFile(const QString &nativeFile)
 /// What the report shows, from the settings, the template and the options, in this order.
 struct ReportCommand::Shown {
     QString title;
-    QString rtf;
+    QByteArray rtf;
     ChartType type;
     bool legend;
     statistics::Grafikwahl wahl;
@@ -91,7 +90,7 @@ void ReportCommand::apply(Shown &shown, const statistics::GeschlechtAlter &sex) 
     if (given("--title"))
         shown.title = toText(m_title);
     if (given("--intro"))
-        shown.rtf = decodeAnsi(readFile(absoluteNative(m_intro)));
+        shown.rtf = readFile(absoluteNative(m_intro));
     if (given("--type"))
         shown.type = static_cast<ChartType>(m_type);
     if (given("--by"))
@@ -118,7 +117,7 @@ int ReportCommand::run(const QString &programFolder, const statistics::Geschlech
                                       windowsPath(absoluteNative(m_template)), terminal.progress());
         options.grafiktyp = opened.vorlage.grafiktyp;
         shown = {opened.vorlage.titel,
-                 decodeAnsi(opened.vorlage.rtf),
+                 opened.vorlage.rtf,
                  options.type(),
                  opened.vorlage.legende == 1,
                  {opened.vorlage.geschlechtalter, opened.vorlage.nachGeburtsjahr}};

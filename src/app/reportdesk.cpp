@@ -49,7 +49,7 @@ report::ReportContent ReportDesk::content() const
     };
     return {
         .titel = panel.title().text(),
-        .rtf = QString::fromLatin1(panel.introduction().rtf()),
+        .rtf = panel.introduction().rtf(),
         .list = m_parts.statistics.list(),
         .figures = m_parts.statistics.figures(),
         .look = chart.look(),

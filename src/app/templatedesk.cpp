@@ -114,6 +114,20 @@ QString TemplateDesk::folder() const
                                : QFileInfo(m_current).absolutePath();
 }
 
+selection::DatabaseServices TemplateDesk::databaseServices()
+{
+    Program &program = m_parts.program;
+    return {.host = program.host,
+            .language = program.language,
+            .databases = program.databases,
+            .closing = [this] { m_parts.lists.release(); },
+            .opened =
+                [this, &program] {
+                    program.events.ereignis_art_laden();
+                    Q_EMIT reopened();
+                }};
+}
+
 void TemplateDesk::open()
 {
     if (!mayDiscard())
@@ -133,26 +147,15 @@ bool TemplateDesk::openFile(const QString &nativeFile)
     Program &program = m_parts.program;
     selection::OpenedVorlage opened;
     const selection::VorlageServices services{
-        .host = program.host,
-        .language = program.language,
-        .databases = program.databases,
-        .closing = [this] { m_parts.lists.release(); },
-        .opened =
-            [this, &program] {
-                program.events.ereignis_art_laden();
-                Q_EMIT reopened();
-            },
-        .useOpenDatabase =
-            [this, &program](const QString &database) {
-                const QString question =
-                    text(21404, QStringLiteral("Die Vorlage gehört zu einer Datenbank, die nicht vorhanden ist: %1"))
-                        .arg(database);
-                return program.host.desktop().messageBox(
-                           question + QStringLiteral("\n\n") +
-                               text(21405, QStringLiteral("Mit der geöffneten Datenbank öffnen")) + u'?',
-                           ButtonsOkCancel + MessageQuestion,
-                           text(21400, QStringLiteral("Vorlage öffnen"))) == ResultOk;
-            }};
+        .database = databaseServices(), .useOpenDatabase = [this, &program](const QString &database) {
+            const QString question =
+                text(21404, QStringLiteral("Die Vorlage gehört zu einer Datenbank, die nicht vorhanden ist: %1"))
+                    .arg(database);
+            return program.host.desktop().messageBox(
+                       question + QStringLiteral("\n\n") +
+                           text(21405, QStringLiteral("Mit der geöffneten Datenbank öffnen")) + u'?',
+                       ButtonsOkCancel + MessageQuestion, text(21400, QStringLiteral("Vorlage öffnen"))) == ResultOk;
+        }};
     const bool done =
         perform(text(21409, QStringLiteral("Die Vorlage wird geöffnet ...")), [&](const Progress &progress) {
             opened = selection::vorlageoeffnen(services, windowsPath(nativeFile), progress);
@@ -265,8 +268,10 @@ void TemplateDesk::remember(const QString &nativeFile)
     files.removeAll(nativeFile);
     if (windowsPath(nativeFile).size() <= LongestEntry)
         files.prepend(nativeFile);
+    std::vector<host::Host::Setting> entries;
     for (qsizetype i = 0; i < RecentTemplates; ++i)
-        host.inischreiben(host.ownSettingsFile(), RecentSection, QString::number(i + 1), windowsPath(files.value(i)));
+        entries.push_back({RecentSection, QString::number(i + 1), windowsPath(files.value(i))});
+    host.inischreiben(host.ownSettingsFile(), entries);
 }
 
 } // namespace kalvenor::app

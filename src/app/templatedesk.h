@@ -4,6 +4,7 @@
 
 #include "app/program.h"
 #include "platform/desktop/work.h"
+#include "selection/databaseswitch.h"
 #include "selection/selectioncontroller.h"
 #include "selection/vorlage.h"
 #include "statistics/statisticspanel.h"
@@ -36,6 +37,9 @@ public:
     /// Lets the user save what is not saved. False where they want to go back.
     bool mayDiscard();
 
+    /// What changing the family database works with: lists let go of it, the event kinds are loaded again.
+    selection::DatabaseServices databaseServices();
+
     void open();
     bool openFile(const QString &nativeFile);
     /// The default template of the program's folder, where there is one.
@@ -50,7 +54,7 @@ public:
 Q_SIGNALS:
     /// Another template is current, or none.
     void currentChanged();
-    /// Databases were closed and opened again.
+    /// Databases were closed and opened again, for a template or through databaseServices().
     void reopened();
     void said(const QString &text);
 

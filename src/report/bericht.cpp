@@ -3,6 +3,7 @@
 #include "report/bericht.h"
 
 #include "language/form.h"
+#include "platform/basic/codepage.h"
 #include "platform/basic/text.h"
 #include "platform/print/htmlwriter.h"
 #include "platform/print/richtextblocks.h"
@@ -164,12 +165,13 @@ void Bericht::addRunningTexts(PrintDocument &document, const ReportContent &cont
 
 void Bericht::addIntroduction(PrintDocument &document, const ReportContent &content) const
 {
-    QString rtf = content.rtf;
-    rtfanpassen(0, rtf, IntroductionScale);
     QTextDocument text;
-    readRtf(rtfBytes(rtf), text);
+    readRtf(content.rtf, text);
     if (text.toPlainText().trimmed().isEmpty())
         return;
+    QString rtf = looksLikeRtf(content.rtf) ? decodeAnsi(content.rtf) : text.toPlainText();
+    rtfanpassen(0, rtf, IntroductionScale);
+    readRtf(rtfBytes(rtf), text);
     for (Block &block : richTextBlocks(text, document))
         document.add(std::move(block));
     document.add(Paragraph{.text = {}, .spaceAfter = Gap / 2});

@@ -25,7 +25,7 @@ struct ReportServices {
 /// What one run of the report shows. List and figures must stay as they are until it ends.
 struct ReportContent {
     QString titel;
-    QString rtf; ///< the introductory text
+    QByteArray rtf; ///< the introductory text, as readRtf takes it
     const statistics::Altersliste &list;
     const statistics::Grafikzahlen &figures;
     ChartLook look;

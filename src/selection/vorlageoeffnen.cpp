@@ -22,8 +22,8 @@ Error withRemark(const Error &error, const QString &remark)
 
 bool isOpen(const VorlageServices &services, const QString &familienpfad)
 {
-    const QString open = QFileInfo(services.databases.Familiendatenbank->file()).canonicalFilePath();
-    return !open.isEmpty() && open == QFileInfo(services.host.native(familienpfad)).canonicalFilePath();
+    const QString open = QFileInfo(services.database.databases.Familiendatenbank->file()).canonicalFilePath();
+    return !open.isEmpty() && open == QFileInfo(services.database.host.native(familienpfad)).canonicalFilePath();
 }
 
 /// Whether the database has to be changed for the template's one.
@@ -31,12 +31,12 @@ bool needsOtherDatabase(const VorlageServices &services, const QString &File, co
 {
     if (isOpen(services, familienpfad))
         return false;
-    if (!services.host.dir(familienpfad).isEmpty())
+    if (!services.database.host.dir(familienpfad).isEmpty())
         return true;
     if (!services.useOpenDatabase)
-        throw Error(ErrorKind::FileNotFound, services.host.native(File),
+        throw Error(ErrorKind::FileNotFound, services.database.host.native(File),
                     QStringLiteral("The template belongs to a family database that does not exist: %1.%2")
-                        .arg(familienpfad, services.host.hasUnmappedDrive(familienpfad)
+                        .arg(familienpfad, services.database.host.hasUnmappedDrive(familienpfad)
                                                ? QStringLiteral(" No folder is known for its drive letter; name it in "
                                                                 "Kalvenor.ini, section [Laufwerke].")
                                                : QString()));
@@ -101,18 +101,17 @@ MarkStep markExactly(data::Datenbankmodul &databases, const std::vector<qint32> 
 OpenedVorlage vorlageoeffnen(const VorlageServices &services, const QString &File, const Progress &progress)
 {
     OpenedVorlage opened;
-    opened.vorlage = readVorlage(services.host.native(File));
+    opened.vorlage = readVorlage(services.database.host.native(File));
     const QString &familienpfad = opened.vorlage.familienpfad;
     opened.otherDatabase = needsOtherDatabase(services, File, familienpfad);
-    DatabaseSwitch databaseSwitch(
-        {services.host, services.language, services.databases, services.closing, services.opened});
+    DatabaseSwitch databaseSwitch(services.database);
     try {
         if (opened.otherDatabase)
             databaseSwitch.goOver(familienpfad);
         else
-            services.databases.Familiendatenbank->refresh();
-        const std::vector<qint32> persons = findPersons(services.databases, opened, progress);
-        MarkStep changes = markExactly(services.databases, persons, progress);
+            services.database.databases.Familiendatenbank->refresh();
+        const std::vector<qint32> persons = findPersons(services.database.databases, opened, progress);
+        MarkStep changes = markExactly(services.database.databases, persons, progress);
         if (!opened.otherDatabase)
             opened.changes = std::move(changes);
         opened.found = static_cast<qsizetype>(persons.size());

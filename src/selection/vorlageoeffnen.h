@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "data/datenbankmodul.h"
-#include "language/sprache.h"
+#include "selection/databaseswitch.h"
 #include "selection/markhistory.h"
 #include "selection/vorlage.h"
 #include <functional>
@@ -12,13 +11,7 @@ namespace kalvenor::selection {
 
 /// What opening a template works with.
 struct VorlageServices {
-    host::Host &host;
-    language::Sprachmodul &language;
-    data::Datenbankmodul &databases;
-    /// All databases are about to be closed: whoever shows persons lets go of them.
-    std::function<void()> closing = {};
-    /// They are open again, the template's one or, after a failure, the former one: the event kinds are loaded again.
-    std::function<void()> opened = {};
+    DatabaseServices database;
     /// The template's database does not exist: true goes on with the open one, false gives up. None is an error.
     std::function<bool(const QString &familienpfad)> useOpenDatabase = {};
 };

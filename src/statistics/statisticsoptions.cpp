@@ -60,14 +60,16 @@ StatisticsOptions readOptions(const host::Host &host)
 
 void writeOptions(const host::Host &host, const StatisticsOptions &options)
 {
-    const auto write = [&host](const QString &section, const QString &key, int value) {
-        host.inischreiben(host.ownSettingsFile(), section, key, QString::number(value));
+    const auto entry = [](const QString &section, const QString &key, int value) {
+        return host::Host::Setting{section, key, QString::number(value)};
     };
-    write(ChartSection, QStringLiteral("Grafiktyp"), options.grafiktyp);
-    write(ChartSection, QStringLiteral("Legende"), options.legende ? 1 : 0);
-    write(ChartSection, QStringLiteral("Gebgest"), options.nachGeburtsjahr ? 1 : 0);
+    std::vector<host::Host::Setting> entries{
+        entry(ChartSection, QStringLiteral("Grafiktyp"), options.grafiktyp),
+        entry(ChartSection, QStringLiteral("Legende"), options.legende ? 1 : 0),
+        entry(ChartSection, QStringLiteral("Gebgest"), options.nachGeburtsjahr ? 1 : 0)};
     for (std::size_t i = 0; i < options.geschlechtalter.size(); ++i)
-        write(SexSection, QString::number(i), options.geschlechtalter[i]);
+        entries.push_back(entry(SexSection, QString::number(i), options.geschlechtalter[i]));
+    host.inischreiben(host.ownSettingsFile(), entries);
 }
 
 } // namespace kalvenor::statistics

@@ -4,6 +4,7 @@
 
 #include "language/widgetform.h"
 #include "platform/desktop/formaticon.h"
+#include "platform/desktop/lineicon.h"
 #include "statistics/textfield.h"
 #include <algorithm>
 #include <cmath>
@@ -132,8 +133,8 @@ void TextTools::makeEditing()
     m_copy = make("Textkopieren", "20714Kopieren", lineIcon(LineIcon::Copy), QKeySequence::Copy);
     m_paste = make("Einfuegen", "20715Einfügen", {}, QKeySequence::Paste);
     m_pastePlain = make("Ohneformateeinfuegen", "20716Ohne Formate einfügen", {}, Qt::CTRL | Qt::SHIFT | Qt::Key_V);
-    m_open = make("Textoeffnen", "20717Text öffnen ...", formatIcon(FormatIcon::Open));
-    m_save = make("Textspeichern", "20718Text speichern ...", formatIcon(FormatIcon::Save));
+    m_open = make("Textoeffnen", "20717Text öffnen ...", lineIcon(LineIcon::Open));
+    m_save = make("Textspeichern", "20718Text speichern ...", lineIcon(LineIcon::Save));
     connect(m_undo, &QAction::triggered, &m_field, &QTextEdit::undo);
     connect(m_redo, &QAction::triggered, &m_field, &QTextEdit::redo);
     connect(m_cut, &QAction::triggered, &m_field, &QTextEdit::cut);

@@ -134,10 +134,27 @@ TEST_F(BerichtTest, SwitchesDecideWhatStandsThere)
     }
     settings({});
     content.titel.clear();
-    content.rtf = QStringLiteral("{\\rtf1\\fs20   \\par}");
+    content.rtf = "{\\rtf1\\fs20   \\par}";
     const PrintDocument bare = compose();
     EXPECT_EQ(shape(bare).toStdString(), "PKkkkkkNLHrrF");
     EXPECT_EQ(bare.header.text, "");
+}
+
+TEST_F(BerichtTest, IntroductionsKeepTheirCharacters)
+{
+    for (const QByteArray &rtf : {QByteArray("{\\rtf1\\ansi\\ansicpg1252 5 \x80 \x84\xe4\x93}"),
+                                  QByteArray("5 \xe2\x82\xac \xe2\x80\x9e\xc3\xa4\xe2\x80\x9c")}) {
+        content.rtf = rtf;
+        QString text;
+        const PrintDocument document = compose();
+        for (const Block &block : document.blocks()) {
+            if (const auto *paragraph = std::get_if<RichParagraph>(&block)) {
+                for (const TextRun &run : paragraph->runs)
+                    text += run.text;
+            }
+        }
+        EXPECT_EQ(text.trimmed().toStdString(), "5 € „ä“") << rtf.toStdString();
+    }
 }
 
 TEST_F(BerichtTest, FontsComeFromTheSettingsButUnderlineNever)

@@ -66,38 +66,6 @@ QPainterPath letterPath()
     return path;
 }
 
-QPainterPath openPath()
-{
-    QPainterPath path;
-    path.moveTo(3, 19);
-    path.lineTo(3, 5.5);
-    path.lineTo(9, 5.5);
-    path.lineTo(11, 8);
-    path.lineTo(18.5, 8);
-    path.lineTo(18.5, 11);
-    path.moveTo(3, 19);
-    path.lineTo(6.5, 11);
-    path.lineTo(21.5, 11);
-    path.lineTo(18, 19);
-    path.closeSubpath();
-    return path;
-}
-
-QPainterPath savePath()
-{
-    QPainterPath path;
-    path.addRoundedRect(QRectF(4, 4, 16, 16), 2, 2);
-    path.moveTo(8, 4);
-    path.lineTo(8, 9);
-    path.lineTo(15, 9);
-    path.lineTo(15, 4);
-    path.moveTo(7.5, 20);
-    path.lineTo(7.5, 14);
-    path.lineTo(16.5, 14);
-    path.lineTo(16.5, 20);
-    return path;
-}
-
 QPainterPath pathOf(FormatIcon which)
 {
     QPainterPath path;
@@ -138,10 +106,6 @@ QPainterPath pathOf(FormatIcon which)
         addLine(path, {14, 14}, {20, 20});
         addLine(path, {20, 14}, {14, 20});
         break;
-    case FormatIcon::Open:
-        return openPath();
-    case FormatIcon::Save:
-        return savePath();
     }
     return path;
 }

@@ -7,7 +7,7 @@
 namespace kalvenor {
 
 /// The signs of a text editor's tools.
-enum class FormatIcon { Bold, Italic, Underline, StrikeOut, Left, Centre, Right, Justify, Bullets, Plain, Open, Save };
+enum class FormatIcon { Bold, Italic, Underline, StrikeOut, Left, Centre, Right, Justify, Bullets, Plain };
 
 QIcon formatIcon(FormatIcon which);
 /// A letter over a bar of the colour; an invalid one gives it that of the letter.
