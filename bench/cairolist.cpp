@@ -7,11 +7,11 @@
 // bench_cairo ROWS FILE: the list of bench_print as a PDF by cairo alone, the peer that it is compared with.
 namespace {
 
-constexpr double pageWidth = 595.3;
-constexpr double pageHeight = 841.9;
-constexpr double left = 72;
-constexpr double right = pageWidth - 54;
-constexpr double lineHeight = 11.5;
+constexpr double PageWidth = 595.3;
+constexpr double PageHeight = 841.9;
+constexpr double LeftMargin = 72;
+constexpr double RightMargin = PageWidth - 54;
+constexpr double LineHeight = 11.5;
 
 double widthOf(cairo_t *cairo, const char *text)
 {
@@ -28,9 +28,9 @@ void showAt(cairo_t *cairo, double x, double y, const char *text)
 
 void showRow(cairo_t *cairo, double y, const char *name, const char *born, const char *age)
 {
-    showAt(cairo, left, y, name);
-    showAt(cairo, left + 342.5 - widthOf(cairo, born) / 2, y, born);
-    showAt(cairo, left + 456.5 - widthOf(cairo, age), y, age);
+    showAt(cairo, LeftMargin, y, name);
+    showAt(cairo, LeftMargin + 342.5 - widthOf(cairo, born) / 2, y, born);
+    showAt(cairo, LeftMargin + 456.5 - widthOf(cairo, age), y, age);
 }
 
 void beginPage(cairo_t *cairo, int number)
@@ -40,7 +40,7 @@ void beginPage(cairo_t *cairo, int number)
     showRow(cairo, 81, "Name", "Born", "Age");
     cairo_select_font_face(cairo, "Arial", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
     std::snprintf(text, sizeof text, "%d", number);
-    showAt(cairo, right - widthOf(cairo, text), pageHeight - 31, text);
+    showAt(cairo, RightMargin - widthOf(cairo, text), PageHeight - 31, text);
 }
 
 } // namespace
@@ -52,20 +52,20 @@ int main(int argc, char **argv)
         return 2;
     }
     const int rows = std::atoi(argv[1]);
-    cairo_surface_t *surface = cairo_pdf_surface_create(argv[2], pageWidth, pageHeight);
+    cairo_surface_t *surface = cairo_pdf_surface_create(argv[2], PageWidth, PageHeight);
     cairo_pdf_surface_set_metadata(surface, CAIRO_PDF_METADATA_TITLE, "Ages");
     cairo_t *cairo = cairo_create(surface);
     cairo_set_font_size(cairo, 10);
-    double y = pageHeight;
+    double y = PageHeight;
     int page = 0;
     for (int i = 0; i < rows; ++i) {
-        if (y + lineHeight > pageHeight - 54) {
+        if (y + LineHeight > PageHeight - 54) {
             if (page > 0)
                 cairo_show_page(cairo);
             beginPage(cairo, ++page);
             y = 81;
         }
-        y += lineHeight;
+        y += LineHeight;
         char name[80];
         char born[40];
         char age[20];

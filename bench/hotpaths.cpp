@@ -1,14 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/jet/like.h"
-#include "platform/jet/sortkey.h"
+#include "platform/jet/order/like.h"
+#include "platform/jet/order/sortkey.h"
 #include "platform/print/pdfwriter.h"
-#include "statistics/alter.h"
-#include "statistics/grafik.h"
+#include "statistics/ages/alter.h"
+#include "statistics/figures/grafik.h"
 
 #include <benchmark/benchmark.h>
 #include <QGuiApplication>
 #include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
 
 // What runs once for each of a million rows: hotpaths [--benchmark_filter=…]
 namespace kalvenor {
@@ -18,13 +20,13 @@ namespace {
 const QStringList &names()
 {
     static const QStringList list = [] {
-        const QStringList family{u"Müller"_qs, u"Großmann"_qs, u"von Hohenstaufen"_qs, u"Øster-Lund"_qs, u"Schmidt"_qs};
-        const QStringList given{u"Johann Georg"_qs, u"Anna Katharina"_qs, u"Jürgen"_qs, u"Zoë"_qs};
+        const QStringList family{u"Müller"_s, u"Großmann"_s, u"von Hohenstaufen"_s, u"Øster-Lund"_s, u"Schmidt"_s};
+        const QStringList given{u"Johann Georg"_s, u"Anna Katharina"_s, u"Jürgen"_s, u"Zoë"_s};
         QStringList made;
         for (int i = 0; i < 1000; ++i)
-            made << (family[i % 5] + u", "_qs + given[i % 4] + u' ' + QString::number(i * 7919 % 1000))
+            made << (family[i % 5] + u", "_s + given[i % 4] + u' ' + QString::number(i * 7919 % 1000))
                             .leftJustified(50) +
-                        u"01.01.1800"_qs;
+                        u"01.01.1800"_s;
         return made;
     }();
     return list;
@@ -59,9 +61,9 @@ void like(benchmark::State &state, const QString &text)
     for (auto _ : state)
         benchmark::DoNotOptimize(pattern.matches(names()[i++ % names().size()]));
 }
-BENCHMARK_CAPTURE(like, prefix, u"mül*"_qs);
-BENCHMARK_CAPTURE(like, infix, u"*georg 7*"_qs);
-BENCHMARK_CAPTURE(like, hopeless, u"*a*a*a*a*a*!"_qs);
+BENCHMARK_CAPTURE(like, prefix, u"mül*"_s);
+BENCHMARK_CAPTURE(like, infix, u"*georg 7*"_s);
+BENCHMARK_CAPTURE(like, hopeless, u"*a*a*a*a*a*!"_s);
 
 void ageLine(benchmark::State &state)
 {
@@ -90,14 +92,15 @@ BENCHMARK(chartPerson);
 /// The argument is the number of rows.
 void pdf(benchmark::State &state)
 {
-    PrintDocument document;
-    document.footer.text = u"||%d"_qs;
-    document.add(TableStart{columnsFromFormat(u"<6000|^1700|>1500"), {{{u"Name"_qs}, {u"Born"_qs}, {u"Age"_qs}}}});
+    print::PrintDocument document;
+    document.footer.text = u"||%d"_s;
+    document.add(
+        print::TableStart{print::columnsFromFormat(u"<6000|^1700|>1500"), {{{u"Name"_s}, {u"Born"_s}, {u"Age"_s}}}});
     for (qsizetype i = 0; i < state.range(0); ++i)
-        document.add(TableRow{{{names()[i % 1000]}, {u"12.03.1801"_qs}, {QString::number(i % 97)}}});
+        document.add(print::TableRow{{{names()[i % 1000]}, {u"12.03.1801"_s}, {QString::number(i % 97)}}});
     const QTemporaryDir folder;
     for (auto _ : state)
-        writePdf(PageLayout(document), u"Ages"_qs, folder.filePath(u"ages.pdf"_qs));
+        print::writePdf(print::PageLayout(document), u"Ages"_s, folder.filePath(u"ages.pdf"_s));
 }
 BENCHMARK(pdf)->Arg(5'000)->Arg(50'000)->Arg(500'000)->Unit(benchmark::kMillisecond);
 

@@ -8,24 +8,25 @@
 #include <cstdio>
 #include <QGuiApplication>
 
+using namespace Qt::StringLiterals;
+
 // bench_print pdf|rtf|html|none ROWS FILE: a list of three columns; "none" makes the document and writes nothing.
 namespace kalvenor {
 namespace {
 
-PrintDocument listOf(int rows)
+print::PrintDocument listOf(int rows)
 {
-    PrintDocument document;
-    document.title = QStringLiteral("Ages");
-    document.footer.text = QStringLiteral("||%d");
-    const StyleId bold = document.addStyle({.bold = true});
-    document.add(TableStart{columnsFromFormat(u"<6000|^1700|>1500"),
-                            {{{u"Name"_qs, bold}, {u"Born"_qs, bold}, {u"Age"_qs, bold}}}});
+    print::PrintDocument document;
+    document.title = u"Ages"_s;
+    document.footer.text = u"||%d"_s;
+    const print::StyleId bold = document.addStyle({.bold = true});
+    document.add(print::TableStart{print::columnsFromFormat(u"<6000|^1700|>1500"),
+                                   {{{u"Name"_s, bold}, {u"Born"_s, bold}, {u"Age"_s, bold}}}});
     for (int i = 0; i < rows; ++i)
-        document.add(TableRow{{{u"Müller-Lüdenscheid, Johann Georg %1"_qs.arg(i)},
-                               {u"%1.%2.18%3"_qs.arg(i % 28 + 1, 2, 10, QChar(u'0'))
-                                    .arg(i % 12 + 1, 2, 10, QChar(u'0'))
-                                    .arg(i % 90 + 10)},
-                               {QString::number(i % 97)}}});
+        document.add(print::TableRow{
+            {{u"Müller-Lüdenscheid, Johann Georg %1"_s.arg(i)},
+             {u"%1.%2.18%3"_s.arg(i % 28 + 1, 2, 10, QChar(u'0')).arg(i % 12 + 1, 2, 10, QChar(u'0')).arg(i % 90 + 10)},
+             {QString::number(i % 97)}}});
     return document;
 }
 
@@ -35,13 +36,13 @@ int run(const QStringList &arguments)
         std::fputs("usage: bench_print pdf|rtf|html|none ROWS FILE\n", stderr);
         return 2;
     }
-    const PrintDocument document = listOf(arguments[2].toInt());
+    const print::PrintDocument document = listOf(arguments[2].toInt());
     if (arguments[1] == u"pdf")
-        writePdf(PageLayout(document), document.title, arguments[3]);
+        print::writePdf(print::PageLayout(document), document.title, arguments[3]);
     else if (arguments[1] == u"rtf")
-        writeRtfFile(document, arguments[3]);
+        print::writeRtfFile(document, arguments[3]);
     else if (arguments[1] == u"html")
-        writeHtmlFile(document, arguments[3]);
+        print::writeHtmlFile(document, arguments[3]);
     return 0;
 }
 
@@ -54,7 +55,7 @@ int main(int argc, char **argv)
     const QGuiApplication application(argc, argv);
     try {
         return kalvenor::run(QGuiApplication::arguments());
-    } catch (const kalvenor::Error &error) {
+    } catch (const kalvenor::basic::Error &error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;
     }

@@ -2,15 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // selection PROGRAM-FOLDER PATTERN: times what a person does in the lists, inside the process, on an opened host.
 // One line a measure: name, median seconds, how many persons.
-#include "app/program.h"
-#include "selection/filtern.h"
-#include "selection/marking.h"
-#include "statistics/altersliste.h"
-#include "statistics/grafik.h"
+#include "app/start/program.h"
+#include "selection/filter/filtern.h"
+#include "selection/marking/marking.h"
+#include "statistics/ages/altersliste.h"
+#include "statistics/figures/grafik.h"
 #include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <QElapsedTimer>
+
+using namespace Qt::StringLiterals;
 
 using namespace kalvenor;
 using namespace kalvenor::selection;
@@ -50,7 +52,7 @@ void measure(const char *name, const std::function<qint64()> &work)
 qint64 showFirstPage(dao::Database &family, const QString &query)
 {
     const Query rows = family.openQuery(query);
-    const int listname = rows->fieldIndex(QStringLiteral("Listname"));
+    const int listname = rows->fieldIndex(u"Listname"_s);
     for (int shown = 0; shown < FirstPage && !rows->eof(); rows->moveNext(), ++shown)
         rows->text(listname);
     return rows->recordCount();
@@ -60,11 +62,11 @@ qint64 showFirstPage(dao::Database &family, const QString &query)
 qint32 ancestorOfMany(data::Datenbankmodul &databases)
 {
     const Query rows = databases.Familiendatenbank->openQuery(
-        QStringLiteral("SELECT * FROM Daten WHERE Geburtsdatum < -100000 AND Vater = 0 ORDER BY Listname;"));
+        u"SELECT * FROM Daten WHERE Geburtsdatum < -100000 AND Vater = 0 ORDER BY Listname;"_s);
     qint32 best = 1;
     std::size_t most = 0;
     for (int tried = 0; tried < 40 && !rows->eof(); rows->moveNext(), ++tried) {
-        const qint32 counter = rows->integer(rows->fieldIndex(QStringLiteral("Counter"))).value_or(0);
+        const qint32 counter = rows->integer(rows->fieldIndex(u"Counter"_s)).value_or(0);
         const auto found = markPersons(databases, std::vector{counter}, true, {.children = true});
         markPersons(databases, found.changed, false);
         if (found.changed.size() > most) {
@@ -86,8 +88,8 @@ int main(int argc, char **argv)
         return 2;
     }
     try {
-        TerminalDesktop desktop;
-        app::Program program(windowsPath(QString::fromLocal8Bit(argv[1])), desktop);
+        desktop::TerminalDesktop desktop;
+        app::Program program(basic::windowsPath(QString::fromLocal8Bit(argv[1])), desktop);
         bool started = false;
         phase("start", [&] { started = program.Main(); });
         if (!started)
@@ -99,18 +101,19 @@ int main(int argc, char **argv)
                    showFirstPage(family, plainListQuery(PersonList::Marked));
         };
         phase("order", showBoth); // made once for the life of the program
-        phase("mark", [&] { family.execute(QStringLiteral("Update Daten SET Markierung = -1 ;")); });
+        phase("mark", [&] { family.execute(u"Update Daten SET Markierung = -1 ;"_s); });
         statistics::Altersliste ages;
         phase("ages", [&] { statistics::alterslistenausgabe(databases, {1, 1, 1, 1}, ages); });
         phase("chart", [&] { statistics::grafikermitteln(databases, {}); });
-        phase("unmark", [&] { family.execute(QStringLiteral("Update Daten SET Markierung = 0 ;")); });
+        phase("unmark", [&] { family.execute(u"Update Daten SET Markierung = 0 ;"_s); });
 
         const QString pattern = QString::fromLocal8Bit(argv[2]);
-        measure("filter",
-                [&] { return showFirstPage(family, filtern({.Presse = pattern}, systemDateOrder()).queries[0]); });
+        measure("filter", [&] {
+            return showFirstPage(family, filtern({.Presse = pattern}, basic::systemDateOrder()).queries[0]);
+        });
         bool marked = false;
         const Query first = family.openQuery(plainListQuery(PersonList::Unmarked));
-        const std::vector person{first->integer(first->fieldIndex(QStringLiteral("Counter"))).value_or(0)};
+        const std::vector person{first->integer(first->fieldIndex(u"Counter"_s)).value_or(0)};
         measure("move", [&] {
             marked = !marked;
             const auto moved = markPersons(databases, person, marked).changed.size();
@@ -125,7 +128,7 @@ int main(int argc, char **argv)
             return static_cast<qint64>(markPersons(databases, ancestor, line, {.children = true}).changed.size());
         });
         markPersons(databases, ancestor, false, {.children = true});
-    } catch (const Error &error) {
+    } catch (const basic::Error &error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;
     }

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // statistics PROGRAM-FOLDER: opens the host and writes the age list and the chart's figures of the marked persons, as
 // the commands `ages` and `chart` do, but both in one process.
-#include "app/chartcommand.h"
-#include "app/startedprogram.h"
+#include "app/commands/chartcommand.h"
+#include "app/start/startedprogram.h"
 #include <cstdio>
 
 using namespace kalvenor;
@@ -15,7 +15,7 @@ int main(int argc, char **argv)
         return 2;
     }
     try {
-        app::StartedProgram started(windowsPath(QString::fromLocal8Bit(argv[1])));
+        app::StartedProgram started(basic::windowsPath(QString::fromLocal8Bit(argv[1])));
         if (!started.ready)
             return app::Failed;
         data::Datenbankmodul &databases = started.program.databases;
@@ -25,10 +25,10 @@ int main(int argc, char **argv)
         for (const statistics::Alterszeile &line : ages)
             output.add(line.Counter, line.text);
         output.finish();
-        writeOutput(app::chartOutput(statistics::grafikermitteln(databases, {}), app::Format::Text));
-        flushOutput();
+        desktop::writeOutput(app::chartOutput(statistics::grafikermitteln(databases, {}), app::Format::Text));
+        desktop::flushOutput();
         return started.done();
-    } catch (const Error &error) {
+    } catch (const basic::Error &error) {
         std::fprintf(stderr, "%s\n", error.what());
         return app::Failed;
     }

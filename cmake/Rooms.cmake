@@ -1,11 +1,13 @@
 # SPDX-FileCopyrightText: 2026 The Kalvenor authors
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# kalvenor_room(NAME SOURCES a.cpp … [LINK kalvenor_x Qt6::Core …])
-# One folder, one static library kalvenor_NAME. Includes are written from src/: "platform/basic/text.h".
+# kalvenor_room(NAME [SOURCES made.cpp …] [LINK kalvenor_x Qt6::Core …])
+# One folder, one static library kalvenor_NAME of all its sources and of those that are made by the build.
+# Includes are written from src/: "platform/basic/text.h".
 function(kalvenor_room NAME)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
-  add_library(kalvenor_${NAME} STATIC ${ARG_SOURCES})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+  add_library(kalvenor_${NAME} STATIC ${sources} ${ARG_SOURCES})
   target_include_directories(kalvenor_${NAME} PUBLIC ${PROJECT_SOURCE_DIR}/src)
   target_link_libraries(kalvenor_${NAME} PUBLIC ${ARG_LINK} PRIVATE kalvenor_options)
 endfunction()

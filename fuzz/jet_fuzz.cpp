@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Any bytes as a database: everything in it is read, and only kalvenor::Error may come out.
 #include "platform/basic/error.h"
-#include "platform/jet/database.h"
+#include "platform/jet/reader/database.h"
 #include <cstddef>
 #include <cstdint>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,8 +32,8 @@ void readTable(kalvenor::jet::Database &database, const QString &name)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     try {
-        const auto database = kalvenor::jet::Database::open(
-            kalvenor::jet::Image::fromBytes(QStringLiteral("fuzz"), std::span(data, size)));
+        const auto database =
+            kalvenor::jet::Database::open(kalvenor::jet::Image::fromBytes(u"fuzz"_s, std::span(data, size)));
         for (const kalvenor::jet::CatalogueEntry &entry : database->entries())
             readTable(*database, entry.name);
     } catch (const kalvenor::Error &) { // refused as a whole

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/commandline.h"
+#include "app/commands/commandline.h"
 
 int main(int argc, char **argv)
 {

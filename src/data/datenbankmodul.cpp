@@ -4,37 +4,21 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace kalvenor::data {
 
 std::vector<HostTable> hostTables(const QString &sprache)
 {
     using enum HostDatabase;
     return {
-        {Family, QStringLiteral("Baum")},
-        {Family, QStringLiteral("Baum_DS")},
-        {Family, QStringLiteral("Bilder")},
-        {Family, QStringLiteral("Daten")},
-        {Family, QStringLiteral("Daten_DS")},
-        {Family, QStringLiteral("Dokument")},
-        {Family, QStringLiteral("Ereignis")},
-        {Family, QStringLiteral("Ereignis_DS")},
-        {Family, QStringLiteral("Familie")},
-        {Family, QStringLiteral("Galerie")},
-        {Family, QStringLiteral("Galerie_DS")},
-        {Family, QStringLiteral("Namen_DS")},
-        {Family, QStringLiteral("Namen")},
-        {Family, QStringLiteral("Quellen_DS")},
-        {Family, QStringLiteral("Referenz")},
-        {Family, QStringLiteral("Ort")},
-        {Family, QStringLiteral("Stichwort")},
-        {Family, QStringLiteral("Stichwort_DS")},
-        {Events, sprache},
-        {Events, QStringLiteral("Namenfont")},
-        {Family, QStringLiteral("Adressen")},
-        {Family, QStringLiteral("Adressen_DS ")}, // the host writes this name with one trailing blank
-        {Family, QStringLiteral("Version")},
-        {History, QStringLiteral("Ereignis")},
-        {Names, QStringLiteral("Namen")},
+        {Family, u"Baum"_s},      {Family, u"Baum_DS"_s},      {Family, u"Bilder"_s},     {Family, u"Daten"_s},
+        {Family, u"Daten_DS"_s},  {Family, u"Dokument"_s},     {Family, u"Ereignis"_s},   {Family, u"Ereignis_DS"_s},
+        {Family, u"Familie"_s},   {Family, u"Galerie"_s},      {Family, u"Galerie_DS"_s}, {Family, u"Namen_DS"_s},
+        {Family, u"Namen"_s},     {Family, u"Quellen_DS"_s},   {Family, u"Referenz"_s},   {Family, u"Ort"_s},
+        {Family, u"Stichwort"_s}, {Family, u"Stichwort_DS"_s}, {Events, sprache},         {Events, u"Namenfont"_s},
+        {Family, u"Adressen"_s},  {Family, u"Adressen_DS "_s}, // the host writes this name with one trailing blank
+        {Family, u"Version"_s},   {History, u"Ereignis"_s},    {Names, u"Namen"_s},
     };
 }
 
@@ -44,13 +28,13 @@ QString sideDatabaseFile(HostDatabase database)
     case HostDatabase::Family:
         return {};
     case HostDatabase::Events:
-        return QStringLiteral("\\Ereignis.mdb");
+        return u"\\Ereignis.mdb"_s;
     case HostDatabase::History:
-        return QStringLiteral("\\Geschichte.mdb");
+        return u"\\Geschichte.mdb"_s;
     case HostDatabase::Names:
-        return QStringLiteral("\\namen.mdb");
+        return u"\\namen.mdb"_s;
     case HostDatabase::Places:
-        return QStringLiteral("\\orte.mdb");
+        return u"\\orte.mdb"_s;
     }
     return {};
 }

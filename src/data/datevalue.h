@@ -17,6 +17,6 @@ bool textwahr(const QString &text);
 /// date text padded with blanks to 20 characters, directly followed by its day number. A date value fed in again keeps
 /// its day number. A text that is no date passes through; the empty text gives "__.__.____767011".
 /// The typed text is changed as well: cut to ten characters, brought to the system's order, its year completed.
-QString datumwandeln(QString &typed, DateOrder order);
+QString datumwandeln(QString &typed, basic::DateOrder order);
 
 } // namespace kalvenor::data

@@ -2,19 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "data/person.h"
 
+using namespace Qt::StringLiterals;
+
 namespace kalvenor::data {
 
 PersonColumns::PersonColumns(const dao::Recordset &daten)
-    : Counter(daten.fieldIndex(QStringLiteral("Counter"))), Listname(daten.fieldIndex(QStringLiteral("Listname"))),
-      Markierung(daten.fieldIndex(QStringLiteral("Markierung"))),
-      Geburtsdatum(daten.fieldIndex(QStringLiteral("Geburtsdatum"))),
-      Geburt_XX(daten.fieldIndex(QStringLiteral("Geburt_XX"))),
-      Sterbedatum(daten.fieldIndex(QStringLiteral("Sterbedatum"))),
-      sterbe_XX(daten.fieldIndex(QStringLiteral("sterbe_XX"))),
-      geaendert(daten.fieldIndex(QStringLiteral("geaendert"))),
-      Geschlecht(daten.fieldIndex(QStringLiteral("Geschlecht"))), Vater(daten.fieldIndex(QStringLiteral("Vater"))),
-      Mutter(daten.fieldIndex(QStringLiteral("Mutter"))), vnamen(daten.fieldIndex(QStringLiteral("vnamen"))),
-      nnamen(daten.fieldIndex(QStringLiteral("nnamen")))
+    : Counter(daten.fieldIndex(u"Counter"_s)), Listname(daten.fieldIndex(u"Listname"_s)),
+      Markierung(daten.fieldIndex(u"Markierung"_s)), Geburtsdatum(daten.fieldIndex(u"Geburtsdatum"_s)),
+      Geburt_XX(daten.fieldIndex(u"Geburt_XX"_s)), Sterbedatum(daten.fieldIndex(u"Sterbedatum"_s)),
+      sterbe_XX(daten.fieldIndex(u"sterbe_XX"_s)), geaendert(daten.fieldIndex(u"geaendert"_s)),
+      Geschlecht(daten.fieldIndex(u"Geschlecht"_s)), Vater(daten.fieldIndex(u"Vater"_s)),
+      Mutter(daten.fieldIndex(u"Mutter"_s)), vnamen(daten.fieldIndex(u"vnamen"_s)),
+      nnamen(daten.fieldIndex(u"nnamen"_s))
 {
 }
 

@@ -14,14 +14,14 @@ namespace {
 
 constexpr int ProfileBufferSize = 256;
 
-DriveMap readDrives(const QString &ownSettingsFile)
+basic::DriveMap readDrives(const QString &ownSettingsFile)
 {
-    DriveMap drives;
+    basic::DriveMap drives;
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
-        const QByteArray folder = getPrivateProfileString("Laufwerke", QByteArray(1, letter), {}, ProfileBufferSize,
-                                                          nativePath(ownSettingsFile));
+        const QByteArray folder = profile::getPrivateProfileString(
+            "Laufwerke", QByteArray(1, letter), {}, ProfileBufferSize, basic::nativePath(ownSettingsFile));
         if (!folder.isEmpty())
-            drives.insert(QLatin1Char(letter), decodeAnsi(folder));
+            drives.insert(QLatin1Char(letter), basic::decodeAnsi(folder));
     }
     return drives;
 }
@@ -30,42 +30,43 @@ DriveMap readDrives(const QString &ownSettingsFile)
 
 QString uebergeordnetesverzeichnis(const QString &path)
 {
-    return leftPart(path, path.lastIndexOf(u'\\'));
+    return basic::leftPart(path, path.lastIndexOf(u'\\'));
 }
 
-Host::Host(QString programFolder, Desktop &desktop)
+Host::Host(QString programFolder, desktop::Desktop &desktop)
     : m_programFolder(std::move(programFolder)), m_desktop(desktop), m_drives(readDrives(ownSettingsFile()))
 {
 }
 
 QString Host::inilesen(const QString &file, const QString &section, const QString &key, const QString &fallback) const
 {
-    QByteArray value = getPrivateProfileString(encodeAnsi(section), encodeAnsi(key), encodeAnsi(fallback),
-                                               ProfileBufferSize, native(file));
+    QByteArray value = profile::getPrivateProfileString(basic::encodeAnsi(section), basic::encodeAnsi(key),
+                                                        basic::encodeAnsi(fallback), ProfileBufferSize, native(file));
     const qsizetype end = value.indexOf('\0');
     if (end >= 0)
         value.truncate(end);
-    return decodeAnsi(value);
+    return basic::decodeAnsi(value);
 }
 
 bool Host::inischreiben(const QString &file, const QString &section, const QString &key, const QString &value) const
 {
-    return writePrivateProfileString(encodeAnsi(section), encodeAnsi(key), encodeAnsi(value), native(file));
+    return profile::writePrivateProfileString(basic::encodeAnsi(section), basic::encodeAnsi(key),
+                                              basic::encodeAnsi(value), native(file));
 }
 
 bool Host::inischreiben(const QString &file, const std::vector<Setting> &settings) const
 {
-    std::vector<ProfileValue> values;
+    std::vector<profile::ProfileValue> values;
     for (const Setting &each : settings)
-        values.push_back({encodeAnsi(each.section), encodeAnsi(each.key), encodeAnsi(each.value)});
-    return writePrivateProfileStrings(values, native(file));
+        values.push_back({basic::encodeAnsi(each.section), basic::encodeAnsi(each.key), basic::encodeAnsi(each.value)});
+    return profile::writePrivateProfileStrings(values, native(file));
 }
 
 bool Host::staysOnTop() const
 {
     // A text that holds a number is compared as a number: "1", " 1" and "1.0" are equal to 1.
     bool isNumber = false;
-    const double value = trimBlanks(AddInonTop).toDouble(&isNumber);
+    const double value = basic::trimBlanks(AddInonTop).toDouble(&isNumber);
     return isNumber && value == 1;
 }
 
@@ -73,7 +74,9 @@ bool Host::fensteroben(QWindow *form, int onTop, bool activate) const
 {
     if (!staysOnTop())
         return false;
-    const StackPlace place = onTop == -1 ? StackPlace::TopMost : onTop == 0 ? StackPlace::NotTopMost : StackPlace::Top;
+    const desktop::StackPlace place = onTop == -1  ? desktop::StackPlace::TopMost
+                                      : onTop == 0 ? desktop::StackPlace::NotTopMost
+                                                   : desktop::StackPlace::Top;
     return m_desktop.setStackPlace(form, place, activate);
 }
 

@@ -10,6 +10,8 @@
 
 namespace kalvenor::host {
 
+using namespace Qt::StringLiterals;
+
 /// The folder above: the characters before the last backslash ("C:\" gives "C:"). A path without a backslash throws
 /// Error(InvalidProcedureCall); callers hold full paths.
 QString uebergeordnetesverzeichnis(const QString &path);
@@ -20,7 +22,7 @@ class Host {
 public:
     /// `programFolder` is the program's own folder; its drive letters are mapped by `Kalvenor.ini` there, section
     /// "Laufwerke" (C=/media/windows).
-    Host(QString programFolder, Desktop &desktop);
+    Host(QString programFolder, desktop::Desktop &desktop);
 
     QString Hostverzeichnis;     ///< the host program's folder, without a trailing backslash
     QString Sprache;             ///< name of the interface language: a column of the texts, a table of the event kinds
@@ -30,9 +32,9 @@ public:
     QPointer<QObject> Hauptform; ///< the main window once it was made
 
     const QString &programFolder() const { return m_programFolder; }
-    QString hostSettingsFile() const { return Hostverzeichnis + QStringLiteral("\\programm.ini"); }
-    QString ownSettingsFile() const { return m_programFolder + QStringLiteral("\\Kalvenor.ini"); }
-    Desktop &desktop() const { return m_desktop; }
+    QString hostSettingsFile() const { return Hostverzeichnis + u"\\programm.ini"_s; }
+    QString ownSettingsFile() const { return m_programFolder + u"\\Kalvenor.ini"_s; }
+    desktop::Desktop &desktop() const { return m_desktop; }
 
     /// One value of a profile file, at most 255 characters, up to its first NUL; a missing file, section or key gives
     /// the default. Never fails.
@@ -52,18 +54,18 @@ public:
     bool staysOnTop() const;
 
     /// The native path for a path text, with the drive letters of this installation.
-    QString native(const QString &path) const { return nativePath(path, m_drives); }
+    QString native(const QString &path) const { return basic::nativePath(path, m_drives); }
     /// The path text for a native path.
-    QString windows(const QString &nativeFile) const { return windowsPath(nativeFile, m_drives); }
+    QString windows(const QString &nativeFile) const { return basic::windowsPath(nativeFile, m_drives); }
     /// The path names a drive that no folder is known for, so that nothing can be found there.
-    bool hasUnmappedDrive(const QString &path) const { return kalvenor::hasUnmappedDrive(path, m_drives); }
+    bool hasUnmappedDrive(const QString &path) const { return kalvenor::basic::hasUnmappedDrive(path, m_drives); }
     /// The file's own name where exactly that file is there, else "".
-    QString dir(const QString &path) const { return directoryListing(path, m_drives); }
+    QString dir(const QString &path) const { return basic::directoryListing(path, m_drives); }
 
 private:
     QString m_programFolder;
-    Desktop &m_desktop;
-    DriveMap m_drives;
+    desktop::Desktop &m_desktop;
+    basic::DriveMap m_drives;
 };
 
 } // namespace kalvenor::host

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/check.h"
+#include "app/commands/check.h"
 
-#include "platform/jet/creator.h"
-#include "platform/jet/database.h"
+#include "platform/jet/creator/creator.h"
+#include "platform/jet/reader/database.h"
 #include "support/startedprogram.h"
 #include <functional>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/firstrun.h"
+#include "app/window/firstrun.h"
 
-#include "app/lastfolder.h"
+#include "app/start/lastfolder.h"
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
 #include <QDir>
@@ -90,7 +90,7 @@ TEST(FirstRun, EachWayLeadsOn)
     const Installation installation({{.counter = 1, .listname = "A"}});
     const QString family = installation.hostFolder() + "/Familie/familie.mdb";
     const QTemporaryDir bare;
-    const QString away = windowsPath(bare.filePath("bin/Kalvenor"));
+    const QString away = basic::windowsPath(bare.filePath("bin/Kalvenor"));
 
     Meeting host("Hostwaehlen");
     host.desktop.fileAnswers = {installation.hostFolder()};
@@ -120,7 +120,7 @@ TEST(FirstRun, EachWayLeadsOn)
     program = chosen.start(installation.programFolder());
     ASSERT_NE(program, nullptr);
     EXPECT_EQ(program->databases.Familiendatenbank->file(), family + ".mdb");
-    EXPECT_EQ(program->host.inilesen(installation.settings(), "QV-Files", "0", {}), windowsPath(family));
+    EXPECT_EQ(program->host.inilesen(installation.settings(), "QV-Files", "0", {}), basic::windowsPath(family));
 }
 
 TEST(FirstRun, TheFolderUsedLastCountsWhileItsHostIsThere)

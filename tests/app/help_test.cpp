@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/helpwindow.h"
+#include "app/window/helpwindow.h"
 
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
@@ -13,6 +13,8 @@
 #include <QTextBlock>
 #include <QTextBrowser>
 
+using namespace Qt::StringLiterals;
+
 using namespace kalvenor;
 
 namespace {
@@ -22,7 +24,7 @@ struct Manual : testing::TestWithParam<const char *>, test::StartedProgram {
     void SetUp() override
     {
         window = std::make_unique<app::HelpWindow>(program.language, program.host);
-        window->showTopic(QStringLiteral("Hilfe"));
+        window->showTopic(u"Hilfe"_s);
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
     template <typename Control>
@@ -64,7 +66,7 @@ TEST_P(Manual, EveryLinkLeadsToASectionAndEverySectionIsInTheContents)
             if (link.isEmpty())
                 continue;
             ++links;
-            window->showTopic(QStringLiteral("Hilfe"));
+            window->showTopic(u"Hilfe"_s);
             window->showTopic(link.mid(1));
             EXPECT_GT(contents.currentRow(), 0) << link.toStdString();
         }
@@ -77,7 +79,7 @@ TEST_P(Manual, EveryLinkLeadsToASectionAndEverySectionIsInTheContents)
     }
     window->findChild<QAction *>("Zurueck")->trigger();
     EXPECT_NE(contents.currentRow(), 4);
-    window->showTopic(QStringLiteral("gibt es nicht"));
+    window->showTopic(u"gibt es nicht"_s);
     EXPECT_EQ(contents.currentRow(), 0);
 }
 

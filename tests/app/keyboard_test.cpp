@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "demo/sidedatabases.h"
+#include "demo/host/sidedatabases.h"
 #include "support/openwindow.h"
 #include <QApplication>
 #include <QLineEdit>

@@ -158,9 +158,9 @@ TEST(Moving, ErrorsAreShownOnceAndTheListsStay)
     open.select(PersonList::Unmarked, {1});
     open.click<QToolButton>("RM");
     EXPECT_EQ(open.desktop.messages.size(), 1U);
-    EXPECT_EQ(open.desktop.messages.at(0).style, MessageCritical);
+    EXPECT_EQ(open.desktop.messages.at(0).style, desktop::MessageCritical);
     EXPECT_EQ(open.shown(PersonList::Unmarked).size(), 7U);
-    EXPECT_EQ(open.desktop.pointers.back(), Pointer::Default);
+    EXPECT_EQ(open.desktop.pointers.back(), desktop::Pointer::Default);
 }
 
 TEST(Moving, FiguresAndNamesOfTheSelection)

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/auswahl.h"
+#include "app/window/auswahl.h"
 #include "platform/desktop/widgetdesktop.h"
-#include "selection/personlistpanel.h"
-#include "selection/selectionpanel.h"
-#include "settings/druckvorschau.h"
+#include "selection/panel/personlistpanel.h"
+#include "selection/panel/selectionpanel.h"
+#include "settings/preview/druckvorschau.h"
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
 #include <QAction>
@@ -15,6 +15,8 @@
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
+
+using namespace Qt::StringLiterals;
 
 using namespace kalvenor;
 
@@ -27,7 +29,7 @@ QString told(const QWidget *window, const char *property)
     const QStringList whose =
         window == nullptr ? QStringList{"-root"} : QStringList{"-id", QString::number(window->windowHandle()->winId())};
     xprop.setProcessChannelMode(QProcess::MergedChannels);
-    xprop.start(QStringLiteral("xprop"), whose + QStringList{QString::fromLatin1(property)});
+    xprop.start(u"xprop"_s, whose + QStringList{QString::fromLatin1(property)});
     EXPECT_TRUE(xprop.waitForFinished());
     return QString::fromLatin1(xprop.readAllStandardOutput()).trimmed();
 }
@@ -39,7 +41,7 @@ bool isOnTop(const QWidget *window)
 
 QString idOf(const QWidget *window)
 {
-    return QStringLiteral("0x%1").arg(window->windowHandle()->winId(), 0, 16);
+    return u"0x%1"_s.arg(window->windowHandle()->winId(), 0, 16);
 }
 
 /// No other window covers it.
@@ -91,7 +93,7 @@ struct OnTop : testing::Test, test::Installation {
             << told(&shown, "_NET_WM_STATE").toStdString();
     }
 
-    WidgetDesktop desktop;
+    desktop::WidgetDesktop desktop;
     app::Program program{programFolder(), desktop};
     std::unique_ptr<app::Auswahl> window;
 };
@@ -125,7 +127,7 @@ TEST_F(OnTop, HoldsForEveryWindowAndDialogsComeBeforeIt)
         expectOnTopAndActive(preview);
     }
     EXPECT_TRUE(isOnTop(window.get()));
-    window->panelaufruf(QStringLiteral("Hilfe"));
+    window->panelaufruf(u"Hilfe"_s);
     for (const QWidget *help : QApplication::topLevelWidgets()) {
         if (help->objectName() == u"Hilfefenster")
             expectOnTopAndActive(*help);

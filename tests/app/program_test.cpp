@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/program.h"
+#include "app/start/program.h"
 
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ TEST(Main, ReadsTheHostsSettingsAndShowsTheMainWindow)
         EXPECT_TRUE(host.staysOnTop());
         return &window;
     }));
-    EXPECT_EQ(host.Hostverzeichnis, windowsPath(installation.hostFolder()));
+    EXPECT_EQ(host.Hostverzeichnis, basic::windowsPath(installation.hostFolder()));
     EXPECT_EQ(host.Sprache, "English");
     EXPECT_EQ(host.Kurzhilfe, 0);
     EXPECT_EQ(host.Hauptform, &window);
@@ -40,7 +40,8 @@ TEST(Main, DefaultsHoldWhereSettingsAreMissing)
     ASSERT_TRUE(QFile::remove(installation.hostFolder() + "/programm.ini"));
     program.host.inischreiben(installation.settings(), "QV-Files", "0", path);
 
-    EXPECT_TRUE(program.Main([]() -> QObject * { throw Error(ErrorKind::Damaged, "window", "cannot be made"); }));
+    EXPECT_TRUE(
+        program.Main([]() -> QObject * { throw basic::Error(basic::ErrorKind::Damaged, "window", "cannot be made"); }));
     EXPECT_EQ(program.host.Sprache, "Deutsch");
     EXPECT_EQ(program.host.Kurzhilfe, 1);
     EXPECT_EQ(program.host.AddInonTop, "1");
@@ -79,8 +80,8 @@ TEST(Main, NamesTheSettingThatDoesNotFit)
     try {
         program.Main();
         FAIL();
-    } catch (const Error &error) {
-        EXPECT_EQ(error.kind(), ErrorKind::Overflow);
+    } catch (const basic::Error &error) {
+        EXPECT_EQ(error.kind(), basic::ErrorKind::Overflow);
         EXPECT_TRUE(error.message().contains("programm.ini") && error.message().contains("Kurzhilfe=40000"))
             << error.what();
     }
@@ -92,6 +93,6 @@ TEST(Main, LeavesErrorsOfTheLanguageDatabaseToTheCaller)
     ASSERT_TRUE(QFile::remove(installation.hostFolder() + "/ADD-IN-LANGUAGE.MDB"));
     test::FakeDesktop desktop;
     app::Program program(installation.programFolder(), desktop);
-    EXPECT_THROW(program.Main(), Error);
+    EXPECT_THROW(program.Main(), basic::Error);
     EXPECT_TRUE(desktop.messages.empty());
 }

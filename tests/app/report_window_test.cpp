@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/druckvorschau.h"
-#include "settings/pageview.h"
+#include "settings/preview/druckvorschau.h"
+#include "settings/preview/pageview.h"
 #include "support/openwindow.h"
 #include <QAction>
 #include <QDialog>
 #include <QPushButton>
 #include <QToolButton>
+
+using namespace Qt::StringLiterals;
 
 using namespace kalvenor;
 using namespace kalvenor::test;
@@ -22,7 +24,7 @@ struct Report : testing::Test, OpenWindow {
         control<QAction>("Seitenansicht").trigger();
     }
     settings::Druckvorschau &preview() { return *window->report().preview(); }
-    std::shared_ptr<const PageLayout> pages() { return preview().pageView().pages(); }
+    std::shared_ptr<const print::PageLayout> pages() { return preview().pageView().pages(); }
     void command(const char *key) { preview().findChild<QAction *>(QLatin1String(key))->trigger(); }
     QString setting(const char *section, const char *key)
     {
@@ -33,7 +35,7 @@ struct Report : testing::Test, OpenWindow {
     void whileComposing(Act act)
     {
         QObject::connect(window->statusBar(), &QStatusBar::messageChanged, &preview(), [act](const QString &text) {
-            if (text.startsWith(QStringLiteral("Die Seiten werden")))
+            if (text.startsWith(u"Die Seiten werden"_s))
                 act();
         });
     }

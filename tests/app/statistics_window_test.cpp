@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/chart/chartcontrol.h"
-#include "statistics/statisticspanel.h"
+#include "statistics/panel/statisticspanel.h"
 #include "support/openwindow.h"
 #include <QCheckBox>
 #include <QClipboard>
@@ -36,7 +36,7 @@ struct MarkedFamily : OpenWindow {
             texts << model.index(row, 0).data().toString();
         return texts;
     }
-    const ChartTable &table() { return control<ChartControl>("Grafik").table(); }
+    const chart::ChartTable &table() { return control<chart::ChartControl>("Grafik").table(); }
     bool isStale() { return control<QWidget>("Veraltet").isVisible(); }
 };
 
@@ -82,9 +82,9 @@ TEST(Statistic, EachControlComputesWhatHangsOnIt)
     EXPECT_TRUE(open.lines().isEmpty()) << "no sex is selected";
     EXPECT_EQ(open.table().columnLabels, QStringList{"W"});
     EXPECT_EQ(open.table().rowLabels, (QStringList{" 1800-99", " 1900-99"})) << "both women died then";
-    const ChartLook &look = open.control<ChartControl>("Grafik").look();
+    const chart::ChartLook &look = open.control<chart::ChartControl>("Grafik").look();
     EXPECT_FALSE(look.legend);
-    EXPECT_EQ(look.type, ChartType::Line3D);
+    EXPECT_EQ(look.type, chart::ChartType::Line3D);
 
     // The controls are as they were left when the window opens again.
     const statistics::StatisticsOptions left = open.window->statisticsPanel().options();
@@ -119,7 +119,7 @@ TEST(Statistic, FollowsTheMarksAndLeadsBackToThem)
     open.controller().moveAll(PersonList::Marked);
     open.showTab(StatisticsPanel::Chart);
     EXPECT_TRUE(open.table().isEmpty());
-    EXPECT_TRUE(open.control<ChartControl>("Grafik").look().emptyText.contains("Markieren"));
+    EXPECT_TRUE(open.control<chart::ChartControl>("Grafik").look().emptyText.contains("Markieren"));
 }
 
 TEST(Statistic, SaysThatItIsOutdatedWhereItWasCancelledOrFailed)
@@ -131,7 +131,7 @@ TEST(Statistic, SaysThatItIsOutdatedWhereItWasCancelledOrFailed)
     ASSERT_EQ(open.desktop.messages.size(), 1U) << "a year before 100";
     EXPECT_TRUE(open.desktop.messages[0].text.contains("Zeh, Hans (8)"));
     EXPECT_TRUE(open.isStale());
-    EXPECT_EQ(open.control<ChartControl>("Grafik").look().emptyText, "");
+    EXPECT_EQ(open.control<chart::ChartControl>("Grafik").look().emptyText, "");
     open.select(PersonList::Marked, {8});
     open.click<QToolButton>("RM2");
     QTest::qWait(300);
@@ -140,8 +140,8 @@ TEST(Statistic, SaysThatItIsOutdatedWhereItWasCancelledOrFailed)
     EXPECT_FALSE(open.isStale());
     EXPECT_EQ(open.label("Anzahl_2"), "4");
 
-    Work &work = open.controller().services().work;
-    const auto cancelling = QObject::connect(&work, &Work::began, &work, &Work::cancel);
+    desktop::Work &work = open.controller().services().work;
+    const auto cancelling = QObject::connect(&work, &desktop::Work::began, &work, &desktop::Work::cancel);
     open.click<QAbstractButton>("gt_ribbon_1");
     EXPECT_TRUE(open.isStale());
     EXPECT_EQ(open.table().rowLabels, QStringList{" 1800-99"});

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/vorlagespeichern.h"
-#include "statistics/statisticspanel.h"
-#include "statistics/texteditor.h"
+#include "selection/templates/vorlagespeichern.h"
+#include "statistics/introduction/texteditor.h"
+#include "statistics/panel/statisticspanel.h"
 #include "support/openwindow.h"
 #include <QAction>
 #include <QCloseEvent>
@@ -78,7 +78,7 @@ TEST_F(Templates, SavedChangedAndOpenedTheStatisticIsTheSame)
     changeEverything();
     control<QLineEdit>("Presse").setText("Falk");
     controller().filter({.Presse = "Falk"});
-    desktop.answers = {ResultNo};
+    desktop.answers = {desktop::ResultNo};
     desktop.fileAnswers = {file("a.kvl")};
     trigger("oeffnen");
     EXPECT_EQ(statistic(), before);
@@ -110,7 +110,7 @@ TEST_F(Templates, FailureLeavesMarksAndControls)
     QFile saved(file("elsewhere.kvl"));
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
     write(file("gone.kvl"), saved.readAll().replace("familie.mdb", "weg.mdb"));
-    desktop.answers = {ResultOk, ResultOk, ResultOk, ResultCancel};
+    desktop.answers = {desktop::ResultOk, desktop::ResultOk, desktop::ResultOk, desktop::ResultCancel};
     for (const char *name : {"foreign.kvl", "short.kvl", "missing.kvl", "gone.kvl"}) {
         const std::size_t messages = desktop.messages.size();
         EXPECT_FALSE(window->templates().openFile(file(name))) << name;
@@ -132,7 +132,7 @@ TEST_F(Templates, NothingUnsavedIsLostWithoutAQuestion)
     };
     for (const auto &action : actions) {
         type("Neu");
-        desktop.answers = {ResultCancel};
+        desktop.answers = {desktop::ResultCancel};
         desktop.messages.clear();
         action();
         EXPECT_EQ(desktop.messages.size(), 1U);
@@ -140,7 +140,7 @@ TEST_F(Templates, NothingUnsavedIsLostWithoutAQuestion)
         EXPECT_EQ(panel().title().text(), "Neu");
         EXPECT_TRUE(window->isVisible());
     }
-    desktop.answers = {ResultYes};
+    desktop.answers = {desktop::ResultYes};
     desktop.fileAnswers = {file("neu.kvl")};
     window->close();
     EXPECT_FALSE(window->isVisible());

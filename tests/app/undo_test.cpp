@@ -43,10 +43,11 @@ TEST(Undo, ACancelledActionLeavesListsAsTheFileIs)
         persons.push_back({.counter = i, .listname = QString("Person %1").arg(i), .marked = i % 3 == 0});
     OpenWindow open(persons);
     const Counters before = open.marked();
-    Work &work = open.controller().services().work;
-    QObject::connect(&work, &Work::began, &work, &Work::cancel); // pressed as soon as there is something to cancel
+    desktop::Work &work = open.controller().services().work;
+    QObject::connect(&work, &desktop::Work::began, &work,
+                     &desktop::Work::cancel); // pressed as soon as there is something to cancel
     open.click<QToolButton>("RMA");
-    QObject::disconnect(&work, &Work::began, &work, &Work::cancel);
+    QObject::disconnect(&work, &desktop::Work::began, &work, &desktop::Work::cancel);
     EXPECT_TRUE(open.desktop.messages.empty()) << "who cancels knows";
     EXPECT_EQ(open.statusText(), "Abgebrochen");
     EXPECT_EQ(open.shown(PersonList::Marked), open.marked());

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/jet/database.h"
+#include "platform/jet/reader/database.h"
 #include "support/openwindow.h"
 #include <QAction>
 #include <QLineEdit>
@@ -104,11 +104,11 @@ TEST(Window, EndsTheDatabasesAndKeepsItsPlace)
 TEST(Window, ClosingCancelsRunningWorkFirst)
 {
     OpenWindow open(smallFamily());
-    Work &work = open.controller().services().work;
+    desktop::Work &work = open.controller().services().work;
     bool cancelled = false;
-    work.run("x", [&](const Progress &progress) {
+    work.run("x", [&](const basic::Progress &progress) {
         EXPECT_FALSE(open.window->close());
-        EXPECT_FALSE(work.run("y", [](const Progress &) { ADD_FAILURE() << "work within work"; }));
+        EXPECT_FALSE(work.run("y", [](const basic::Progress &) { ADD_FAILURE() << "work within work"; }));
         cancelled = !progress(1, 2);
         EXPECT_TRUE(open.program.databases.Familiendatenbank->isOpen());
     });
@@ -120,14 +120,14 @@ TEST(Window, ClosingCancelsRunningWorkFirst)
 TEST(Window, InputWaitsWhileWorkRunsButCancelDoesNot)
 {
     OpenWindow open(smallFamily());
-    Work &work = open.controller().services().work;
+    desktop::Work &work = open.controller().services().work;
     open.select(PersonList::Unmarked, {1});
     auto &name = open.control<QLineEdit>("Presse");
-    const auto runUntilShown = [&](Work::Input input, const std::function<void()> &meanwhile) {
+    const auto runUntilShown = [&](desktop::Work::Input input, const std::function<void()> &meanwhile) {
         bool goesOn = true;
         work.run(
             "x",
-            [&](const Progress &progress) {
+            [&](const basic::Progress &progress) {
                 for (int i = 0; i < 20; ++i) {
                     QTest::qSleep(20);
                     progress(i, 20);
@@ -138,7 +138,7 @@ TEST(Window, InputWaitsWhileWorkRunsButCancelDoesNot)
             input);
         return goesOn;
     };
-    EXPECT_TRUE(runUntilShown(Work::Input::CancelOnly, [&] {
+    EXPECT_TRUE(runUntilShown(desktop::Work::Input::CancelOnly, [&] {
         EXPECT_TRUE(open.control<QWidget>("Fortschrittrahmen").isVisible());
         QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_Return);
         QTest::mouseClick(&open.control<QToolButton>("RMA"), Qt::LeftButton);
@@ -147,20 +147,20 @@ TEST(Window, InputWaitsWhileWorkRunsButCancelDoesNot)
     EXPECT_TRUE(open.control<QWidget>("Fortschrittrahmen").isHidden());
     EXPECT_EQ(open.marked(), Counters{});
     EXPECT_EQ(name.text(), "");
-    EXPECT_TRUE(runUntilShown(Work::Input::Typing, [&] { QTest::keyClicks(&name, "a"); }));
+    EXPECT_TRUE(runUntilShown(desktop::Work::Input::Typing, [&] { QTest::keyClicks(&name, "a"); }));
     EXPECT_EQ(name.text(), "a");
-    EXPECT_FALSE(runUntilShown(Work::Input::CancelOnly,
+    EXPECT_FALSE(runUntilShown(desktop::Work::Input::CancelOnly,
                                [&] { QTest::mouseClick(&open.control<QPushButton>("Abbrechen"), Qt::LeftButton); }));
-    EXPECT_FALSE(runUntilShown(Work::Input::CancelOnly,
+    EXPECT_FALSE(runUntilShown(desktop::Work::Input::CancelOnly,
                                [&] { QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_Escape); }));
 }
 
 TEST(Window, ANewerFilterTakesTheRunningOnesPlace)
 {
     OpenWindow open(smallFamily());
-    Work &work = open.controller().services().work;
+    desktop::Work &work = open.controller().services().work;
     bool once = true;
-    QObject::connect(&work, &Work::began, &work, [&] {
+    QObject::connect(&work, &desktop::Work::began, &work, [&] {
         if (std::exchange(once, false))
             open.controller().filter({.Presse = "dorn"}, true);
     });

@@ -8,11 +8,13 @@
 #include <QFile>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace kalvenor::arch {
 namespace {
 
-const QString head = u"// SPDX-FileCopyrightText: 2026 The Kalvenor authors\n"
-                     "// SPDX-License-Identifier: GPL-3.0-or-later\n"_qs;
+const QString Head = u"// SPDX-FileCopyrightText: 2026 The Kalvenor authors\n"
+                     "// SPDX-License-Identifier: GPL-3.0-or-later\n"_s;
 
 QString readText(const QString &path)
 {
@@ -24,20 +26,20 @@ QString readText(const QString &path)
 
 RoomTable rooms()
 {
-    return readRoomTable(readText(QStringLiteral(KALVENOR_SOURCE_DIR "/tests/arch/rooms.txt")));
+    return readRoomTable(readText(u"" KALVENOR_SOURCE_DIR "/tests/arch/rooms.txt"_s));
 }
 
 TEST(Arch, SourceTreeKeepsItsRules)
 {
     const RoomTable table = rooms();
-    const QDir top(QStringLiteral(KALVENOR_SOURCE_DIR));
+    const QDir top(u"" KALVENOR_SOURCE_DIR ""_s);
     int files = 0;
-    for (const QString &folder : {u"src"_qs, u"tests"_qs, u"bench"_qs, u"cmake"_qs, u"fuzz"_qs}) {
-        QDirIterator it(top.filePath(folder), {u"*.cpp"_qs, u"*.h"_qs, u"CMakeLists.txt"_qs, u"*.cmake"_qs},
-                        QDir::Files, QDirIterator::Subdirectories);
+    for (const QString &folder : {u"src"_s, u"tests"_s, u"bench"_s, u"cmake"_s, u"fuzz"_s}) {
+        QDirIterator it(top.filePath(folder), {u"*.cpp"_s, u"*.h"_s, u"CMakeLists.txt"_s, u"*.cmake"_s}, QDir::Files,
+                        QDirIterator::Subdirectories);
         while (it.hasNext()) {
             const QString path = it.next();
-            const bool hasHeader = path.endsWith(u".cpp") && QFile::exists(path.chopped(4) + u".h"_qs);
+            const bool hasHeader = path.endsWith(u".cpp") && QFile::exists(path.chopped(4) + u".h"_s);
             for (const QString &fault : violations(table, top.relativeFilePath(path), readText(path), hasHeader))
                 ADD_FAILURE() << qPrintable(fault);
             ++files;
@@ -49,8 +51,8 @@ TEST(Arch, SourceTreeKeepsItsRules)
 TEST(Arch, EveryRoomOfTheTreeStandsInTheTable)
 {
     const RoomTable table = rooms();
-    const QDir src(QStringLiteral(KALVENOR_SOURCE_DIR "/src"));
-    QDirIterator it(src.path(), {u"CMakeLists.txt"_qs}, QDir::Files, QDirIterator::Subdirectories);
+    const QDir src(u"" KALVENOR_SOURCE_DIR "/src"_s);
+    QDirIterator it(src.path(), {u"CMakeLists.txt"_s}, QDir::Files, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QString room = src.relativeFilePath(QFileInfo(it.next()).path());
         if (room != u".") {
@@ -66,26 +68,26 @@ TEST(Arch, CheckerSeesViolations)
         QString text;
         const char *fault; ///< "" where the file is well
     } cases[] = {
-        {"src/platform/jet/a.cpp", head + u"#include \"platform/basic/error.h\"\n#include <QString>\n"_qs, ""},
-        {"src/platform/jet/a.cpp", head + u"#include \"platform/dao/dao.h\"\n"_qs, ":3: room platform/jet may not"},
-        {"src/platform/jet/a.cpp", head + u"#include <platform/dao/dao.h>\n"_qs, ":3: room platform/jet may not"},
-        {"src/platform/print/a.h", head + u"\n  #  include \"app/main.h\"\n"_qs, ":4: room platform/print may not"},
-        {"src/host/a.cpp", head + u"#include \"platform/dao/dao.h\"\n"_qs, ""},
-        {"src/statistics/a.cpp", head + u"#include \"selection/a.h\"\n"_qs, "may not include selection/a.h"},
-        {"src/settings/a.cpp", head + u"#include \"app/auswahl.h\"\n"_qs, "may not include app/auswahl.h"},
-        {"src/demo/a.cpp", head + u"#include \"host/a.h\"\n"_qs, "may not include host/a.h"},
-        {"src/app/a.cpp", head + u"#include \"demo/a.h\"\n#include \"a.moc\"\n"_qs, ""},
-        {"src/host/a.cpp", head + u"#include \"b.h\"\n"_qs, "names no room"},
-        {"src/attic/a.cpp", head, "lies in no room"},
-        {"src/platformer/a.cpp", head, "lies in no room"},
-        {"src/platform/jet/a.cpp", head + u"#include <unistd.h>\n"_qs, ""},
-        {"src/report/a.cpp", head + u"#include <unistd.h>\n"_qs, "belongs to src/platform"},
-        {"src/report/a.cpp", head + u"#include <Windows.h>\n"_qs, "belongs to src/platform"},
-        {"tests/report/a.cpp", head + u"#include <sys/stat.h>\n"_qs, "belongs to src/platform"},
-        {"src/report/a.cpp", u"#include <QString>\n"_qs, ":1: the two-line SPDX header"},
+        {"src/platform/jet/a.cpp", Head + u"#include \"platform/basic/error.h\"\n#include <QString>\n"_s, ""},
+        {"src/platform/jet/a.cpp", Head + u"#include \"platform/dao/dao.h\"\n"_s, ":3: room platform/jet may not"},
+        {"src/platform/jet/a.cpp", Head + u"#include <platform/dao/dao.h>\n"_s, ":3: room platform/jet may not"},
+        {"src/platform/print/a.h", Head + u"\n  #  include \"app/main.h\"\n"_s, ":4: room platform/print may not"},
+        {"src/host/a.cpp", Head + u"#include \"platform/dao/dao.h\"\n"_s, ""},
+        {"src/statistics/a.cpp", Head + u"#include \"selection/a.h\"\n"_s, "may not include selection/a.h"},
+        {"src/settings/a.cpp", Head + u"#include \"app/auswahl.h\"\n"_s, "may not include app/auswahl.h"},
+        {"src/demo/a.cpp", Head + u"#include \"host/a.h\"\n"_s, "may not include host/a.h"},
+        {"src/app/a.cpp", Head + u"#include \"demo/a.h\"\n#include \"a.moc\"\n"_s, ""},
+        {"src/host/a.cpp", Head + u"#include \"b.h\"\n"_s, "names no room"},
+        {"src/attic/a.cpp", Head, "lies in no room"},
+        {"src/platformer/a.cpp", Head, "lies in no room"},
+        {"src/platform/jet/a.cpp", Head + u"#include <unistd.h>\n"_s, ""},
+        {"src/report/a.cpp", Head + u"#include <unistd.h>\n"_s, "belongs to src/platform"},
+        {"src/report/a.cpp", Head + u"#include <Windows.h>\n"_s, "belongs to src/platform"},
+        {"tests/report/a.cpp", Head + u"#include <sys/stat.h>\n"_s, "belongs to src/platform"},
+        {"src/report/a.cpp", u"#include <QString>\n"_s, ":1: the two-line SPDX header"},
         {"src/report/a.cpp", QString(), "SPDX header"},
-        {"tests/report/a.cpp", head + u"//\n"_qs.repeated(598), ""},
-        {"tests/report/a.cpp", head + u"//\n"_qs.repeated(599), ":601: the file is longer"},
+        {"tests/report/a.cpp", Head + u"//\n"_s.repeated(598), ""},
+        {"tests/report/a.cpp", Head + u"//\n"_s.repeated(599), ":601: the file is longer"},
     };
     const RoomTable table = rooms();
     for (const auto &c : cases) {
@@ -99,13 +101,13 @@ TEST(Arch, CheckerSeesViolations)
 TEST(Arch, CheckerSeesThatAHeaderIsNotTheFirst)
 {
     const RoomTable table = rooms();
-    const QString path = u"src/platform/jet/like.cpp"_qs;
-    const QString own = u"#include \"platform/jet/like.h\"\n"_qs;
-    const QString other = u"#include <vector>\n"_qs;
-    EXPECT_TRUE(violations(table, path, head + own + other, true).isEmpty());
-    EXPECT_TRUE(violations(table, path, head + other, false).isEmpty());
-    EXPECT_EQ(violations(table, path, head + other + own, true).size(), 1);
-    EXPECT_EQ(violations(table, path, head, true).size(), 1);
+    const QString path = u"src/platform/jet/like.cpp"_s;
+    const QString own = u"#include \"platform/jet/like.h\"\n"_s;
+    const QString other = u"#include <vector>\n"_s;
+    EXPECT_TRUE(violations(table, path, Head + own + other, true).isEmpty());
+    EXPECT_TRUE(violations(table, path, Head + other, false).isEmpty());
+    EXPECT_EQ(violations(table, path, Head + other + own, true).size(), 1);
+    EXPECT_EQ(violations(table, path, Head, true).size(), 1);
 }
 
 TEST(Arch, TableCannotHoldACycle)

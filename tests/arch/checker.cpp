@@ -6,30 +6,33 @@
 #include <stdexcept>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace kalvenor::arch {
 namespace {
 
-constexpr qsizetype longestFile = 600;
+constexpr qsizetype LongestFile = 600;
 
 /// The room of a path below src/, "" where it lies in none.
 QString roomOf(const RoomTable &rooms, QStringView pathInSrc)
 {
+    QString deepest;
     for (const auto &[room, allowed] : rooms) {
-        if (pathInSrc.startsWith(room) && pathInSrc.mid(room.size()).startsWith(u'/'))
-            return room;
+        if (pathInSrc.startsWith(room) && pathInSrc.mid(room.size()).startsWith(u'/') && room.size() > deepest.size())
+            deepest = room;
     }
-    return {};
+    return deepest;
 }
 
 QString includeFault(const RoomTable &rooms, const QString &room, const QString &header, bool quoted)
 {
     const QString target = roomOf(rooms, header);
     if (target.isEmpty()) {
-        const bool foreign = !quoted || header.endsWith(QLatin1String(".moc"));
-        return foreign ? QString() : u"includes \"%1\", which names no room: write \"room/file.h\""_qs.arg(header);
+        const bool foreign = !quoted || header.endsWith(".moc"_L1);
+        return foreign ? QString() : u"includes \"%1\", which names no room: write \"room/file.h\""_s.arg(header);
     }
     if (!rooms.at(room).contains(target))
-        return u"room %1 may not include %2"_qs.arg(room, header);
+        return u"room %1 may not include %2"_s.arg(room, header);
     return {};
 }
 
@@ -49,7 +52,7 @@ RoomTable readRoomTable(QStringView text)
         for (const QStringView name : line.mid(colon + 1).split(u' ', Qt::SkipEmptyParts)) {
             const qsizetype before = allowed.size();
             for (const auto &[known, unused] : rooms) {
-                if (name == u"*" || known == name || (name == u"platform" && known.startsWith(u"platform/")))
+                if (name == u"*" || known == name || (known.startsWith(name) && known.mid(name.size()).startsWith(u'/')))
                     allowed << known;
             }
             if (allowed.size() == before)
@@ -62,34 +65,34 @@ RoomTable readRoomTable(QStringView text)
 
 QStringList violations(const RoomTable &rooms, const QString &path, QStringView text, bool hasHeader)
 {
-    static const QRegularExpression include(uR"(^\s*#\s*include\s*([<"])([^>"]+)[>"])"_qs);
+    static const QRegularExpression include(uR"(^\s*#\s*include\s*([<"])([^>"]+)[>"])"_s);
     static const QRegularExpression systemHeader(
-        uR"(^((unistd|windows|fcntl|dlfcn|dirent|io|direct|spawn|signal|pthread)\.h|sys/.*|csignal)$)"_qs,
+        uR"(^((unistd|windows|fcntl|dlfcn|dirent|io|direct|spawn|signal|pthread)\.h|sys/.*|csignal)$)"_s,
         QRegularExpression::CaseInsensitiveOption);
 
     QStringList found;
     const auto report = [&](qsizetype line, const QString &what) {
-        found << u"%1:%2: %3"_qs.arg(path, QString::number(line), what);
+        found << u"%1:%2: %3"_s.arg(path, QString::number(line), what);
     };
     const bool inSources = path.startsWith(u"src/");
     const bool isCpp = path.endsWith(u".cpp") || path.endsWith(u".h");
     const bool mayCallSystem = path.startsWith(u"src/platform/") || path.startsWith(u"tests/platform/");
     const QString room = inSources ? roomOf(rooms, QStringView(path).mid(4)) : QString();
     if (inSources && isCpp && room.isEmpty())
-        report(1, u"lies in no room of tests/arch/rooms.txt"_qs);
+        report(1, u"lies in no room of tests/arch/rooms.txt"_s);
 
     QList<QStringView> lines = text.split(u'\n');
     if (lines.last().isEmpty())
         lines.removeLast();
-    if (lines.size() > longestFile)
-        report(lines.size(), u"the file is longer than %1 lines"_qs.arg(longestFile));
+    if (lines.size() > LongestFile)
+        report(lines.size(), u"the file is longer than %1 lines"_s.arg(LongestFile));
 
     const qsizetype head = !lines.isEmpty() && lines[0].startsWith(u"#!") ? 1 : 0;
-    if (lines.size() < head + 2 || !lines[head].contains(QLatin1String("SPDX-FileCopyrightText: ")) ||
-        !lines[head + 1].contains(QLatin1String("SPDX-License-Identifier: GPL-3.0-or-later")))
-        report(head + 1, u"the two-line SPDX header is missing"_qs);
+    if (lines.size() < head + 2 || !lines[head].contains("SPDX-FileCopyrightText: "_L1) ||
+        !lines[head + 1].contains("SPDX-License-Identifier: GPL-3.0-or-later"_L1))
+        report(head + 1, u"the two-line SPDX header is missing"_s);
 
-    const QString ownHeader = path.mid(path.indexOf(u'/') + 1).chopped(4) + u".h"_qs;
+    const QString ownHeader = path.mid(path.indexOf(u'/') + 1).chopped(4) + u".h"_s;
     bool ownHeaderDue = hasHeader && path.endsWith(u".cpp");
     for (qsizetype i = 0; i < lines.size(); ++i) {
         if (!isCpp)
@@ -99,16 +102,16 @@ QStringList violations(const RoomTable &rooms, const QString &path, QStringView 
             continue;
         const QString header = match.captured(2);
         if (std::exchange(ownHeaderDue, false) && header != ownHeader)
-            report(i + 1, u"the first include must be \"%1\""_qs.arg(ownHeader));
+            report(i + 1, u"the first include must be \"%1\""_s.arg(ownHeader));
         if (!mayCallSystem && systemHeader.match(header).hasMatch())
-            report(i + 1, u"<%1> belongs to src/platform"_qs.arg(header));
+            report(i + 1, u"<%1> belongs to src/platform"_s.arg(header));
         if (!room.isEmpty()) {
             if (const QString fault = includeFault(rooms, room, header, match.captured(1) == u"\""); !fault.isEmpty())
                 report(i + 1, fault);
         }
     }
     if (ownHeaderDue)
-        report(1, u"does not include \"%1\""_qs.arg(ownHeader));
+        report(1, u"does not include \"%1\""_s.arg(ownHeader));
     return found;
 }
 

@@ -42,8 +42,8 @@ TEST(Datenbankoeffnen, NamesWhatIsMissing)
         try {
             program.Main();
             FAIL() << row.removed.toStdString();
-        } catch (const Error &error) {
-            EXPECT_EQ(error.kind(), ErrorKind::FileNotFound);
+        } catch (const basic::Error &error) {
+            EXPECT_EQ(error.kind(), basic::ErrorKind::FileNotFound);
             EXPECT_TRUE(error.message().contains(row.named)) << error.what();
         }
     }
@@ -63,8 +63,8 @@ TEST(Datenbankoeffnen, NeedsEachTableOfTheFamilyDatabase)
         try {
             program.Main();
             ADD_FAILURE() << table.name.toStdString();
-        } catch (const Error &error) {
-            EXPECT_EQ(error.kind(), ErrorKind::TableNotFound);
+        } catch (const basic::Error &error) {
+            EXPECT_EQ(error.kind(), basic::ErrorKind::TableNotFound);
             EXPECT_TRUE(error.message().contains('"' + table.name + '"')) << error.what();
             EXPECT_TRUE(error.message().contains("familie.mdb")) << error.what();
         }
@@ -81,8 +81,8 @@ TEST(Datenbankoeffnen, NeedsATableOfEventKindsForTheLanguage)
     try {
         program.Main();
         FAIL();
-    } catch (const Error &error) {
-        EXPECT_EQ(error.kind(), ErrorKind::TableNotFound);
+    } catch (const basic::Error &error) {
+        EXPECT_EQ(error.kind(), basic::ErrorKind::TableNotFound);
         EXPECT_TRUE(error.message().contains("Suomi")) << error.what();
         EXPECT_TRUE(error.message().contains("Ereignis.mdb")) << error.what();
     }

@@ -9,8 +9,8 @@ using data::datumwandeln;
 
 namespace {
 
-constexpr auto German = DateOrder::DayMonthYear;
-constexpr auto American = DateOrder::MonthDayYear;
+constexpr auto German = basic::DateOrder::DayMonthYear;
+constexpr auto American = basic::DateOrder::MonthDayYear;
 
 QString padded(const QString &date, const QString &day)
 {
@@ -30,7 +30,7 @@ TEST(Textwahr, KnowsThreeWords)
 TEST(Datumwandeln, TurnsTypedDatesIntoDateValues)
 {
     const struct {
-        DateOrder order;
+        basic::DateOrder order;
         QString typed;
         QString value;
     } rows[] = {
@@ -78,7 +78,7 @@ TEST(Datumwandeln, CompletesTheCenturyInTheTypedTextOnly)
 
 TEST(Datumwandeln, KeepsTheDayNumberOfADateValue)
 {
-    for (const DateOrder order : {German, American}) {
+    for (const basic::DateOrder order : {German, American}) {
         for (const QString typed : {"15-06-1950", "__-__-1950", "15-06-____", ""}) {
             QString first = typed;
             const QString value = datumwandeln(first, order);

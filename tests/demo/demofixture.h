@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "demo/demohost.h"
-#include "platform/jet/database.h"
+#include "demo/host/demohost.h"
+#include "platform/jet/reader/database.h"
 #include <gtest/gtest.h>
 #include <memory>
 #include <QTemporaryDir>
 
-namespace kalvenor::test {
+namespace kalvenor::demo::test {
 
 /// One demonstration of 3,000 persons for all cases that only look at it.
 class DemoTest : public testing::Test {
@@ -32,4 +32,4 @@ private:
     static inline DemoHost s_host;
 };
 
-} // namespace kalvenor::test
+} // namespace kalvenor::demo::test

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "demo/demohost.h"
+#include "demo/host/demohost.h"
 
 #include "demo/demofixture.h"
 #include "platform/basic/error.h"
@@ -12,7 +12,9 @@
 #include <QFile>
 #include <QImage>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::demo {
 namespace {
 
 using test::DemoTest;
@@ -47,7 +49,7 @@ TEST(DemoHost, SameSeedSameBytesOtherSeedOtherPersons)
     const auto all = databasesAndPages(first.path());
     EXPECT_GE(all.size(), 8u);
     EXPECT_TRUE(all == databasesAndPages(second.path()));
-    const QString file = QStringLiteral("QV/Daten/Familie.mdb");
+    const QString file = u"QV/Daten/Familie.mdb"_s;
     EXPECT_NE(all.at(file), contents(other.familyDatabase));
 }
 
@@ -55,26 +57,26 @@ TEST(DemoHost, RefusesWithAClearErrorAndLeavesNothingBehind)
 {
     const QTemporaryDir folder;
     const QDir top(folder.path());
-    top.mkpath(QStringLiteral("full/QV"));
-    top.mkpath(QStringLiteral("file"));
-    for (const QString &name : {QStringLiteral("full/QV/.mine"), QStringLiteral("file/QV"), QStringLiteral("plain")}) {
+    top.mkpath(u"full/QV"_s);
+    top.mkpath(u"file"_s);
+    for (const QString &name : {u"full/QV/.mine"_s, u"file/QV"_s, u"plain"_s}) {
         QFile file(top.filePath(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     }
     const struct {
         QString folder;
         int persons;
-        ErrorKind kind;
+        basic::ErrorKind kind;
         const char *word;
     } cases[] = {
-        {QStringLiteral("a"), 0, ErrorKind::InvalidProcedureCall, "not 0"},
-        {QStringLiteral("a"), -3, ErrorKind::InvalidProcedureCall, "not -3"},
-        {QStringLiteral("a"), 2'000'001, ErrorKind::InvalidProcedureCall, "not 2000001"},
-        {QStringLiteral("full"), 10, ErrorKind::Refused, "not empty"},
-        {QStringLiteral("file"), 10, ErrorKind::Refused, "a file of this name"},
-        {QStringLiteral("plain/below"), 10, ErrorKind::WriteFailed, "cannot be made"},
-        {QStringLiteral("Καλό"), 10, ErrorKind::Refused, "Windows-1252"},
-        {QString(250, u'x'), 10, ErrorKind::Refused, "255"},
+        {u"a"_s, 0, basic::ErrorKind::InvalidProcedureCall, "not 0"},
+        {u"a"_s, -3, basic::ErrorKind::InvalidProcedureCall, "not -3"},
+        {u"a"_s, 2'000'001, basic::ErrorKind::InvalidProcedureCall, "not 2000001"},
+        {u"full"_s, 10, basic::ErrorKind::Refused, "not empty"},
+        {u"file"_s, 10, basic::ErrorKind::Refused, "a file of this name"},
+        {u"plain/below"_s, 10, basic::ErrorKind::WriteFailed, "cannot be made"},
+        {u"Καλό"_s, 10, basic::ErrorKind::Refused, "Windows-1252"},
+        {QString(250, u'x'), 10, basic::ErrorKind::Refused, "255"},
     };
     for (const auto &row : cases) {
         SCOPED_TRACE(row.word);
@@ -83,7 +85,7 @@ TEST(DemoHost, RefusesWithAClearErrorAndLeavesNothingBehind)
         try {
             makeDemoHost({.folder = target, .persons = row.persons});
             ADD_FAILURE() << "was not refused";
-        } catch (const Error &error) {
+        } catch (const basic::Error &error) {
             EXPECT_EQ(error.kind(), row.kind);
             EXPECT_NE(QByteArray(error.what()).indexOf(row.word), -1) << error.what();
         }
@@ -96,7 +98,7 @@ TEST(DemoHost, CancellingRemovesWhatWasBegun)
     const QTemporaryDir folder;
     for (const qint64 stopAt : {qint64(1), qint64(15'000)}) {
         qint64 last = -1;
-        const Progress progress = [&](qint64 done, qint64 total) {
+        const basic::Progress progress = [&](qint64 done, qint64 total) {
             EXPECT_GE(done, last);
             EXPECT_LE(done, total);
             last = done;
@@ -105,10 +107,10 @@ TEST(DemoHost, CancellingRemovesWhatWasBegun)
         try {
             makeDemoHost({.folder = folder.path(), .persons = 10'000}, progress);
             ADD_FAILURE() << "was not cancelled";
-        } catch (const Error &error) {
-            EXPECT_EQ(error.kind(), ErrorKind::Cancelled);
+        } catch (const basic::Error &error) {
+            EXPECT_EQ(error.kind(), basic::ErrorKind::Cancelled);
         }
-        EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("QV"))));
+        EXPECT_FALSE(QFile::exists(folder.filePath(u"QV"_s)));
     }
 }
 
@@ -117,7 +119,7 @@ TEST(DemoHost, AnyNumberOfPersonsMakesAWholeDatabase)
     for (const int persons : {1, 2, 7, 999, 1000}) {
         const QTemporaryDir folder;
         const DemoHost host = makeDemoHost({.folder = folder.path(), .persons = persons});
-        const auto table = jet::Database::open(host.familyDatabase)->table(QStringLiteral("Daten"));
+        const auto table = jet::Database::open(host.familyDatabase)->table(u"Daten"_s);
         EXPECT_EQ(table->rowCount(), static_cast<std::uint32_t>(persons));
         EXPECT_EQ(host.persons, persons);
     }
@@ -125,8 +127,8 @@ TEST(DemoHost, AnyNumberOfPersonsMakesAWholeDatabase)
 
 TEST_F(DemoTest, SettingsLeadToTheFiles)
 {
-    const QString settings = host().hostFolder + QStringLiteral("/programm.ini");
-    const QString prints = host().hostFolder + QStringLiteral("/Ausdrucke");
+    const QString settings = host().hostFolder + u"/programm.ini"_s;
+    const QString prints = host().hostFolder + u"/Ausdrucke"_s;
     const struct {
         const char *section;
         const char *key;
@@ -136,12 +138,12 @@ TEST_F(DemoTest, SettingsLeadToTheFiles)
         {"Ansicht", "Kurzhilfe", "1"},
         {"Ansicht", "AddInonTop", "0"},
         {"Ansicht", "Bildminhoehe", "2000"},
-        {"QV-Files", "0", windowsPath(host().familyDatabase).toLatin1()},
-        {"Verzeichnisse", "Prints", windowsPath(prints).toLatin1()},
+        {"QV-Files", "0", basic::windowsPath(host().familyDatabase).toLatin1()},
+        {"Verzeichnisse", "Prints", basic::windowsPath(prints).toLatin1()},
         {"Grafik", "JPG-Faktor", "70"},
     };
     for (const auto &row : cases)
-        EXPECT_EQ(getPrivateProfileString(row.section, row.key, "?", 256, settings), row.value) << row.key;
+        EXPECT_EQ(profile::getPrivateProfileString(row.section, row.key, "?", 256, settings), row.value) << row.key;
     EXPECT_TRUE(QDir(host().programFolder).exists());
     EXPECT_EQ(QFileInfo(host().programFolder).path(), host().hostFolder);
     EXPECT_EQ(contents(settings).count('\n'), contents(settings).count("\r\n"));
@@ -153,16 +155,16 @@ TEST_F(DemoTest, AllTablesOfAHostAreThere)
         QString file;
         std::vector<const char *> tables;
     } cases[] = {
-        {QStringLiteral("Daten/Familie.mdb"),
+        {u"Daten/Familie.mdb"_s,
          {"Baum",        "Baum_DS", "Bilder",    "Daten",        "Daten_DS", "Dokument",     "Ereignis",
           "Ereignis_DS", "Familie", "Galerie",   "Galerie_DS",   "Namen_DS", "Namen",        "Quellen_DS",
           "Referenz",    "Ort",     "Stichwort", "Stichwort_DS", "Adressen", "Adressen_DS ", "Version"}},
-        {QStringLiteral("Ereignis.mdb"), {"Deutsch", "English", "Namenfont"}},
-        {QStringLiteral("Geschichte.mdb"), {"Ereignis"}},
-        {QStringLiteral("namen.mdb"), {"Namen"}},
-        {QStringLiteral("orte.mdb"), {"Orte"}},
-        {QStringLiteral("ADD-IN-LANGUAGE.MDB"), {"Languages"}},
-        {QStringLiteral("language.mdb"), {"Languages"}},
+        {u"Ereignis.mdb"_s, {"Deutsch", "English", "Namenfont"}},
+        {u"Geschichte.mdb"_s, {"Ereignis"}},
+        {u"namen.mdb"_s, {"Namen"}},
+        {u"orte.mdb"_s, {"Orte"}},
+        {u"ADD-IN-LANGUAGE.MDB"_s, {"Languages"}},
+        {u"language.mdb"_s, {"Languages"}},
     };
     for (const auto &row : cases) {
         const auto database = open(row.file);
@@ -178,9 +180,9 @@ TEST_F(DemoTest, AllTablesOfAHostAreThere)
 
 TEST_F(DemoTest, EventKindsHaveDistinctPictures)
 {
-    const auto database = open(QStringLiteral("Ereignis.mdb"));
-    const auto german = database->table(QStringLiteral("Deutsch"));
-    const auto english = database->table(QStringLiteral("English"));
+    const auto database = open(u"Ereignis.mdb"_s);
+    const auto german = database->table(u"Deutsch"_s);
+    const auto english = database->table(u"English"_s);
     ASSERT_EQ(german->rowCount(), english->rowCount());
     std::map<QByteArray, int> pictures;
     for (std::uint32_t row = 0; row < german->rowCount(); ++row) {
@@ -195,19 +197,19 @@ TEST_F(DemoTest, EventKindsHaveDistinctPictures)
     // The sign of death is a cross: upright above its lower arm, not upside down.
     QImage cross;
     ASSERT_TRUE(cross.loadFromData(german->bytes(6, german->columnOf(u"Icon_Druck"))));
-    EXPECT_EQ(german->text(6, german->columnOf(u"Art")), QStringLiteral("Tod"));
+    EXPECT_EQ(german->text(6, german->columnOf(u"Art")), u"Tod"_s);
     EXPECT_EQ(cross.pixelColor(3, 4), QColor(0x20, 0x20, 0x20));
     EXPECT_EQ(cross.pixelColor(3, 11), QColor(Qt::white));
 }
 
 TEST_F(DemoTest, PrintedPagesBelongToPersonsWithAnAge)
 {
-    const auto table = family()->table(QStringLiteral("Daten"));
+    const auto table = family()->table(u"Daten"_s);
     std::map<int, std::uint32_t> rows;
     for (std::uint32_t row = 0; row < table->rowCount(); ++row)
         rows[*table->integer(row, table->columnOf(u"Counter"))] = row;
-    const QDir prints(host().hostFolder + QStringLiteral("/Ausdrucke"));
-    const auto pages = prints.entryList({QStringLiteral("*-D.html")});
+    const QDir prints(host().hostFolder + u"/Ausdrucke"_s);
+    const auto pages = prints.entryList({u"*-D.html"_s});
     EXPECT_GE(pages.size(), 4);
     for (const QString &page : pages) {
         const auto person = rows.find(page.section(u'-', 0, 0).toInt());
@@ -220,4 +222,4 @@ TEST_F(DemoTest, PrintedPagesBelongToPersonsWithAnAge)
 }
 
 } // namespace
-} // namespace kalvenor
+} // namespace kalvenor::demo

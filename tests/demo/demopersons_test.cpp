@@ -5,12 +5,14 @@
 #include "platform/basic/date.h"
 #include <map>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::demo {
 namespace {
 
 using test::DemoTest;
 
-constexpr int unknownDay = 767011;
+constexpr int UnknownDay = 767011;
 
 struct Row {
     int counter;
@@ -23,7 +25,7 @@ class DemoPersonsTest : public DemoTest {
 protected:
     static std::vector<Row> persons()
     {
-        const auto table = family()->table(QStringLiteral("Daten"));
+        const auto table = family()->table(u"Daten"_s);
         const auto number = [&](std::uint32_t row, QStringView name) {
             return table->integer(row, table->columnOf(name)).value_or(-1);
         };
@@ -43,7 +45,7 @@ protected:
 
 int day(int year)
 {
-    return static_cast<int>(*dayNumber(year, 1, 1));
+    return static_cast<int>(*basic::dayNumber(year, 1, 1));
 }
 
 TEST_F(DemoPersonsTest, CountersAscendWithGapsUnderAUniqueIndex)
@@ -56,9 +58,9 @@ TEST_F(DemoPersonsTest, CountersAscendWithGapsUnderAUniqueIndex)
         gaps += all[i].counter - all[i - 1].counter > 1 ? 1 : 0;
     }
     EXPECT_GT(gaps, 20);
-    const auto table = family()->table(QStringLiteral("Daten"));
+    const auto table = family()->table(u"Daten"_s);
     ASSERT_EQ(table->indexes().size(), 1u);
-    EXPECT_EQ(table->indexes()[0].name, QStringLiteral("Counter"));
+    EXPECT_EQ(table->indexes()[0].name, u"Counter"_s);
     EXPECT_TRUE(table->indexes()[0].unique);
     EXPECT_FALSE(table->isIndexed(table->columns()[std::size_t(table->columnOf(u"Markierung"))].number));
 }
@@ -72,26 +74,25 @@ TEST_F(DemoPersonsTest, DatesAndTheirCompanionsAgree)
         EXPECT_GE(row.changed, day(1996));
         EXPECT_LT(row.changed, day(2011));
         for (const auto &[date, companion] : {std::pair(row.birth, row.birthXX), std::pair(row.death, row.deathXX)}) {
-            EXPECT_EQ(date == unknownDay, companion == u"XXX_______");
+            EXPECT_EQ(date == UnknownDay, companion == u"XXX_______");
             EXPECT_TRUE(companion.isEmpty() || companion.size() == 10);
-            if (date != unknownDay) {
+            if (date != UnknownDay) {
                 EXPECT_GE(date, day(1480));
                 EXPECT_LT(date, day(2011));
                 ++companions[companion.left(companion.startsWith(u"__.") ? 3 : 10)];
             }
             if (companion.startsWith(u"__.")) { // the first day that the mask allows
-                const QString first = QStringLiteral("01.") +
-                                      (companion.mid(3, 2) == u"__" ? QStringLiteral("01") : companion.mid(3, 2)) +
-                                      companion.mid(5);
-                EXPECT_EQ(formatDate(date, u"dd.mm.yyyy"), first);
+                const QString first =
+                    u"01."_s + (companion.mid(3, 2) == u"__" ? u"01"_s : companion.mid(3, 2)) + companion.mid(5);
+                EXPECT_EQ(basic::formatDate(date, u"dd.mm.yyyy"), first);
             }
         }
-        if (row.birth != unknownDay && row.death != unknownDay) {
+        if (row.birth != UnknownDay && row.death != UnknownDay) {
             EXPECT_GE(row.death, row.birth);
         }
     }
     EXPECT_GT(companions[QString()], 3000);
-    for (const QString &kind : {QStringLiteral("__."), QStringLiteral("um________"), QStringLiteral("vor_______")})
+    for (const QString &kind : {u"__."_s, u"um________"_s, u"vor_______"_s})
         EXPECT_GT(companions[kind], 3) << qPrintable(kind);
 }
 
@@ -110,7 +111,7 @@ TEST_F(DemoPersonsTest, ParentsExistAreOlderAndOfTheRightSex)
             ASSERT_TRUE(byCounter.contains(parent));
             const Row &found = byCounter[parent];
             EXPECT_EQ(found.sex, QString(sex));
-            if (row.birth != unknownDay && found.birth != unknownDay) {
+            if (row.birth != UnknownDay && found.birth != UnknownDay) {
                 EXPECT_GT(row.birth - found.birth, 12 * 365);
             }
         }
@@ -125,22 +126,21 @@ TEST_F(DemoPersonsTest, ParentsExistAreOlderAndOfTheRightSex)
 TEST_F(DemoPersonsTest, ListNamesSayNameAndYears)
 {
     const auto year = [](QChar sign, int date, const QString &companion) {
-        if (date == unknownDay)
+        if (date == UnknownDay)
             return QString(sign) + u'?';
-        const QString about = companion == u"um________"   ? QStringLiteral("um ")
-                              : companion == u"vor_______" ? QStringLiteral("vor ")
+        const QString about = companion == u"um________"   ? u"um "_s
+                              : companion == u"vor_______" ? u"vor "_s
                                                            : QString();
-        return QString(sign) + about + formatDate(date, u"yyyy");
+        return QString(sign) + about + basic::formatDate(date, u"yyyy");
     };
     int living = 0;
     for (const Row &row : persons()) {
-        const QString birth =
-            row.surname + QStringLiteral(", ") + row.given + u' ' + year(u'*', row.birth, row.birthXX);
-        if (row.death == unknownDay && row.listname == birth)
+        const QString birth = row.surname + u", "_s + row.given + u' ' + year(u'*', row.birth, row.birthXX);
+        if (row.death == UnknownDay && row.listname == birth)
             ++living;
         else
             EXPECT_EQ(row.listname, birth + u' ' + year(u'+', row.death, row.deathXX));
-        EXPECT_EQ(decodeAnsi(encodeAnsi(row.listname)), row.listname);
+        EXPECT_EQ(basic::decodeAnsi(basic::encodeAnsi(row.listname)), row.listname);
     }
     EXPECT_GT(living, 200);
 }
@@ -156,11 +156,11 @@ TEST_F(DemoPersonsTest, LivesChangeOverTheCenturies)
     int stillborn = 0;
     for (const Row &row : persons()) {
         sexless += row.sex.isEmpty() ? 1 : 0;
-        if (row.birth == unknownDay)
+        if (row.birth == UnknownDay)
             continue;
-        Shape &shape = centuries[formatDate(row.birth, u"yyyy").left(2).toInt()];
+        Shape &shape = centuries[basic::formatDate(row.birth, u"yyyy").left(2).toInt()];
         ++shape.born;
-        if (row.death == unknownDay)
+        if (row.death == UnknownDay)
             continue;
         ++shape.died;
         shape.days += row.death - row.birth;
@@ -182,4 +182,4 @@ TEST_F(DemoPersonsTest, LivesChangeOverTheCenturies)
 }
 
 } // namespace
-} // namespace kalvenor
+} // namespace kalvenor::demo

@@ -7,7 +7,9 @@
 #include <QStringList>
 #include <utility>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::demo {
 namespace {
 
 using Texts = std::map<int, std::pair<QString, QString>>;
@@ -16,8 +18,8 @@ class DemoTextsTest : public test::DemoTest {
 protected:
     static Texts read(const QString &file)
     {
-        const auto table = open(file)->table(QStringLiteral("Languages"));
-        EXPECT_EQ(table->indexes().at(0).name, QStringLiteral("Counter"));
+        const auto table = open(file)->table(u"Languages"_s);
+        EXPECT_EQ(table->indexes().at(0).name, u"Counter"_s);
         Texts texts;
         for (std::uint32_t row = 0; row < table->rowCount(); ++row) {
             const bool added = texts
@@ -33,13 +35,13 @@ protected:
 
 TEST_F(DemoTextsTest, EveryIdentifierOfTheHostIsInBothLanguages)
 {
-    const Texts texts = read(QStringLiteral("ADD-IN-LANGUAGE.MDB"));
+    const Texts texts = read(u"ADD-IN-LANGUAGE.MDB"_s);
     for (const int id : {36,   100,  116,  120,  180,  181,  182,  183,  184,  185,  186,  187,  188,  189,  190,
                          191,  192,  193,  194,  911,  926,  930,  1201, 1204, 1205, 1206, 1207, 1208, 1209, 1215,
                          1216, 1217, 1218, 1219, 1220, 1221, 1222, 1223, 1224, 1225, 1226, 1227, 1228, 1229}) {
         ASSERT_TRUE(texts.contains(id)) << id;
     }
-    EXPECT_EQ(texts, read(QStringLiteral("language.mdb")));
+    EXPECT_EQ(texts, read(u"language.mdb"_s));
     // Captions that forms carry at design time.
     const std::pair<int, const char16_t *> captions[] = {{180, u"&Drucken"},
                                                          {181, u"&Speichern"},
@@ -51,14 +53,14 @@ TEST_F(DemoTextsTest, EveryIdentifierOfTheHostIsInBothLanguages)
     for (const auto &[id, caption] : captions)
         EXPECT_EQ(texts.at(id).first, QString::fromUtf16(caption));
     // The name of an exported file is made with this one.
-    EXPECT_FALSE(texts.at(1205).first.contains(QRegularExpression(QStringLiteral("[\\\\/:*?\"<>| ]"))));
+    EXPECT_FALSE(texts.at(1205).first.contains(QRegularExpression(u"[\\\\/:*?\"<>| ]"_s)));
     EXPECT_EQ(texts.at(189).first.count(u'|'), 3);
-    EXPECT_EQ(texts.at(189).second, QStringLiteral("Whole &Page|Page &Width|&Two Pages|Thumb&nail"));
+    EXPECT_EQ(texts.at(189).second, u"Whole &Page|Page &Width|&Two Pages|Thumb&nail"_s);
 }
 
 TEST_F(DemoTextsTest, BothLanguagesHaveTheSamePlaces)
 {
-    const QRegularExpression places(QStringLiteral("%[0-9sd]"));
+    const QRegularExpression places(u"%[0-9sd]"_s);
     const auto placesOf = [&](const QString &text) {
         QStringList found;
         for (auto it = places.globalMatch(text); it.hasNext();)
@@ -66,7 +68,7 @@ TEST_F(DemoTextsTest, BothLanguagesHaveTheSamePlaces)
         return found;
     };
     int own = 0;
-    for (const auto &[id, text] : read(QStringLiteral("ADD-IN-LANGUAGE.MDB"))) {
+    for (const auto &[id, text] : read(u"ADD-IN-LANGUAGE.MDB"_s)) {
         SCOPED_TRACE(id);
         EXPECT_GT(id, 0);
         EXPECT_LE(id, 32767);
@@ -76,7 +78,7 @@ TEST_F(DemoTextsTest, BothLanguagesHaveTheSamePlaces)
             EXPECT_FALSE(wording.trimmed().isEmpty());
             EXPECT_LE(wording.size(), 255);
             EXPECT_FALSE(wording.contains(u'#'));
-            EXPECT_EQ(decodeAnsi(encodeAnsi(wording)), wording);
+            EXPECT_EQ(basic::decodeAnsi(basic::encodeAnsi(wording)), wording);
         }
         own += id >= 20000 ? 1 : 0;
         EXPECT_TRUE(id < 2000 || id >= 20000);
@@ -85,4 +87,4 @@ TEST_F(DemoTextsTest, BothLanguagesHaveTheSamePlaces)
 }
 
 } // namespace
-} // namespace kalvenor
+} // namespace kalvenor::demo

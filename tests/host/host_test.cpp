@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 using namespace kalvenor;
 using host::Host;
 using host::uebergeordnetesverzeichnis;
@@ -21,8 +23,8 @@ TEST(Uebergeordnetesverzeichnis, CutsAtTheLastBackslash)
     try {
         uebergeordnetesverzeichnis("Kalvenor");
         FAIL() << "a path without a backslash has no parent";
-    } catch (const Error &error) {
-        EXPECT_EQ(error.kind(), ErrorKind::InvalidProcedureCall);
+    } catch (const basic::Error &error) {
+        EXPECT_EQ(error.kind(), basic::ErrorKind::InvalidProcedureCall);
     }
 }
 
@@ -34,7 +36,7 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content);
     }
-    QString path(const QString &name) const { return windowsPath(folder.filePath(name)); }
+    QString path(const QString &name) const { return basic::windowsPath(folder.filePath(name)); }
     QTemporaryDir folder;
     test::FakeDesktop desktop;
 };
@@ -48,7 +50,7 @@ TEST_F(HostTest, ReadsSettings)
     EXPECT_EQ(host.inilesen(file, "ANSICHT", "sprache", "Deutsch"), "English");
     EXPECT_EQ(host.inilesen(file, "Ansicht", "Lang", "").size(), 255);
     EXPECT_EQ(host.inilesen(file, "Ansicht", "Nul", ""), "ab");
-    EXPECT_EQ(host.inilesen(file, "Ansicht", "Umlaut", ""), QStringLiteral("München"));
+    EXPECT_EQ(host.inilesen(file, "Ansicht", "Umlaut", ""), u"München"_s);
     EXPECT_EQ(host.inilesen(file, "Ansicht", "Leer", "Vorgabe"), "");
     EXPECT_EQ(host.inilesen(file, "Ansicht", "Fehlt", "Vorgabe"), "Vorgabe");
     EXPECT_EQ(host.inilesen(path("fehlt.ini"), "Ansicht", "Sprache", "Deutsch"), "Deutsch");
@@ -58,8 +60,8 @@ TEST_F(HostTest, ReadsSettings)
 TEST_F(HostTest, WritesSettingsAndIsSilentWhereItCannot)
 {
     const Host host(path("Kalvenor"), desktop);
-    EXPECT_TRUE(host.inischreiben(path("neu.ini"), "Titel", "Fontname", QStringLiteral("Größe")));
-    EXPECT_EQ(host.inilesen(path("neu.ini"), "Titel", "Fontname", ""), QStringLiteral("Größe"));
+    EXPECT_TRUE(host.inischreiben(path("neu.ini"), "Titel", "Fontname", u"Größe"_s));
+    EXPECT_EQ(host.inilesen(path("neu.ini"), "Titel", "Fontname", ""), u"Größe"_s);
     EXPECT_FALSE(host.inischreiben(path("fehlt\\neu.ini"), "Titel", "Fontname", "Arial"));
 }
 
@@ -88,8 +90,8 @@ TEST_F(HostTest, PutsWindowsOnTopOnlyWhereTheSettingIsOne)
     for (const int onTop : {-1, 0, 1})
         EXPECT_TRUE(host.fensteroben(nullptr, onTop, onTop != 0));
     ASSERT_EQ(desktop.placements.size(), 3U);
-    EXPECT_EQ(desktop.placements[0].place, StackPlace::TopMost);
-    EXPECT_EQ(desktop.placements[1].place, StackPlace::NotTopMost);
+    EXPECT_EQ(desktop.placements[0].place, desktop::StackPlace::TopMost);
+    EXPECT_EQ(desktop.placements[1].place, desktop::StackPlace::NotTopMost);
     EXPECT_FALSE(desktop.placements[1].activate);
-    EXPECT_EQ(desktop.placements[2].place, StackPlace::Top);
+    EXPECT_EQ(desktop.placements[2].place, desktop::StackPlace::Top);
 }

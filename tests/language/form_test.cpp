@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "language/form.h"
+#include "language/forms/form.h"
 
 #include "language/texts.h"
 #include <gtest/gtest.h>
@@ -11,14 +11,14 @@ using language::FormPart;
 
 namespace {
 
-const std::vector<test::TextRow> rows = {
+const std::vector<test::TextRow> Rows = {
     {12, "Zwölf", "Twelve"},       {180, "&Drucken", "&Print"}, {300, {}, "Three hundred"}, {301, "", ""},
     {20001, "Eigener", "Our own"}, {20002, {}, "Own two"},      {-5, "minus", "minus"},
 };
 
 Form translated(FormPart control, qint16 shortHelp = 1, const QString &formName = "Auswahl")
 {
-    static test::Texts texts(rows);
+    static test::Texts texts(Rows);
     texts.host.Kurzhilfe = shortHelp;
     Form form{.name = formName, .tag = "12", .title = "12Titel", .controls = {std::move(control)}};
     formuebersetzen(form, texts.module, texts.host);
@@ -160,11 +160,11 @@ TEST(Formuebersetzen, SetsTitleAndHourglass)
         const char *title;
     } cases[] = {{"12", "Zwölf"}, {"", "12Titel"}, {"0", "????"}, {"zwölf", "12Titel"}};
     for (const auto &row : cases) {
-        test::Texts texts(rows);
+        test::Texts texts(Rows);
         Form form{.tag = row.tag, .title = "12Titel"};
         formuebersetzen(form, texts.module, texts.host);
         EXPECT_EQ(form.title, row.title) << row.tag;
-        EXPECT_EQ(form.pointer, Pointer::Hourglass);
+        EXPECT_EQ(form.pointer, desktop::Pointer::Hourglass);
     }
 }
 

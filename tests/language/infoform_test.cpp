@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "language/infoform.h"
+#include "language/about/infoform.h"
 
-#include "demo/icons.h"
+#include "demo/host/icons.h"
 #include "language/texts.h"
 #include "platform/basic/version.h"
 #include <gtest/gtest.h>
@@ -36,7 +36,7 @@ struct Kind {
 struct EventKinds : testing::Test, test::Texts {
     EventKinds() : Texts({{21105, "Altersstatistik", "Age statistic"}}, "English")
     {
-        host.Hostverzeichnis = windowsPath(folder.path());
+        host.Hostverzeichnis = basic::windowsPath(folder.path());
     }
     void write(const std::vector<Kind> &rows)
     {
@@ -97,21 +97,21 @@ TEST_F(EventKinds, AreNoneWhereTheDatabaseFails)
 {
     write({{1, "*", "Birth", {}}});
     kinds.ereignis_art_laden();
-    const auto expectError = [&](ErrorKind kind) {
+    const auto expectError = [&](basic::ErrorKind kind) {
         try {
             kinds.ereignis_art_laden();
             ADD_FAILURE() << "no error";
-        } catch (const Error &error) {
+        } catch (const basic::Error &error) {
             EXPECT_EQ(error.kind(), kind) << error.what();
         }
         EXPECT_TRUE(kinds.images().empty());
     };
     write({});
-    expectError(ErrorKind::NoCurrentRow);
+    expectError(basic::ErrorKind::NoCurrentRow);
     host.Sprache = "Suomi";
-    expectError(ErrorKind::TableNotFound);
+    expectError(basic::ErrorKind::TableNotFound);
     QFile::remove(folder.filePath("Ereignis.mdb"));
-    expectError(ErrorKind::FileNotFound);
+    expectError(basic::ErrorKind::FileNotFound);
     EXPECT_NE(Infoform(host, module, kinds).findChild<QLabel *>("Zeichenfehler"), nullptr);
 }
 
@@ -125,7 +125,7 @@ TEST_F(EventKinds, StandInTheAboutBox)
     EXPECT_FALSE(list->topLevelItem(0)->icon(0).isNull());
     EXPECT_EQ(list->topLevelItem(1)->text(2), "Death");
     const QStringList labels = {"Kalvenor", "Version: " KALVENOR_VERSION, "Age statistic",
-                                versionRecord().legalCopyright};
+                                basic::versionRecord().legalCopyright};
     for (int i = 0; i < labels.size(); ++i)
         EXPECT_EQ(form.findChild<QLabel *>(QString("Label_%1").arg(i))->text(), labels[i]);
     EXPECT_FALSE(form.findChild<QLabel *>("Infopic")->pixmap().isNull());

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "language/sprache.h"
+#include "language/texts/sprache.h"
 
-#include "platform/jet/creator.h"
+#include "platform/jet/creator/creator.h"
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
 
@@ -33,13 +33,13 @@ TEST(Sprachtext, LooksUpByIdentifierAndLanguage)
     QTemporaryDir folder;
     writeTexts(folder.filePath("ADD-IN-LANGUAGE.MDB"));
     test::FakeDesktop desktop;
-    host::Host host(windowsPath(folder.filePath("Kalvenor")), desktop);
+    host::Host host(basic::windowsPath(folder.filePath("Kalvenor")), desktop);
     dao::Engine engine;
     language::Sprachmodul texts(host, engine);
     host.Sprache = "Deutsch";
     EXPECT_EQ(texts.text(1), "????") << "nothing is open yet";
 
-    texts.spracheoeffnen(windowsPath(folder.filePath("ADD-IN-LANGUAGE.MDB")));
+    texts.spracheoeffnen(basic::windowsPath(folder.filePath("ADD-IN-LANGUAGE.MDB")));
     const struct {
         QString language;
         qint16 id;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "language/widgetform.h"
+#include "language/forms/widgetform.h"
 
 #include "language/texts.h"
 #include <gtest/gtest.h>
@@ -27,7 +27,7 @@ using language::setDesignText;
 
 namespace {
 
-const std::vector<test::TextRow> full = {
+const std::vector<test::TextRow> Full = {
     {3, "Drei", "Three"},
     {180, "&Drucken", "&Print"},
     {1204, "Liste auf neuer Seite beginnen", "Begin list on a new page"},
@@ -217,10 +217,10 @@ TEST(WidgetForm, ShowsTheTextsOfTheLanguageOrItsOwn)
         std::vector<test::TextRow> rows;
         Expected expected;
     } cases[] = {
-        {"Deutsch", full, Expected::German},
-        {"English", full, Expected::English},
+        {"Deutsch", Full, Expected::German},
+        {"English", Full, Expected::English},
         {"English", {}, Expected::GermanWithoutHost},
-        {"Suomi", full, Expected::GermanWithoutHost},
+        {"Suomi", Full, Expected::GermanWithoutHost},
     };
     for (const auto &row : cases) {
         SCOPED_TRACE(row.language);
@@ -251,7 +251,7 @@ TEST(WidgetForm, ShowsTheTextsOfTheLanguageOrItsOwn)
 
 TEST(WidgetForm, RemovesTooltipsWhereShortHelpIsOff)
 {
-    test::Texts texts(full, "English");
+    test::Texts texts(Full, "English");
     texts.host.Kurzhilfe = 0;
     Window window;
     formuebersetzen(window, texts.module, texts.host);
@@ -274,7 +274,7 @@ TEST(WidgetForm, RemovesTooltipsWhereShortHelpIsOff)
 
 TEST(WidgetForm, SharesAnActionBetweenMenuAndToolBar)
 {
-    test::Texts texts(full, "English");
+    test::Texts texts(Full, "English");
     QMainWindow window;
     QAction *action = window.menuBar()->addMenu("Datei")->addAction("x");
     QToolBar *tools = window.addToolBar("x");

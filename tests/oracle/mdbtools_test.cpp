@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What mdb-export of mdbtools reads from a database equals what we read.
-#include "demo/demohost.h"
-#include "platform/jet/database.h"
+#include "demo/host/demohost.h"
+#include "platform/jet/reader/database.h"
 #include <cmath>
 #include <gtest/gtest.h>
 #include <QDir>
@@ -12,13 +12,15 @@
 #include <QTemporaryDir>
 #include <QUuid>
 
+using namespace Qt::StringLiterals;
+
 using namespace kalvenor;
 using jet::ColumnType;
 
 namespace {
 
 using Rows = std::vector<QStringList>;
-const QString NullText = QStringLiteral("\\N");
+const QString NullText = u"\\N"_s;
 
 QByteArray mdbExport(const QString &file, const QString &table)
 {
@@ -147,7 +149,7 @@ protected:
 TEST_F(Mdbtools, ReadsTheDemonstrationHostAsWeDo)
 {
     QTemporaryDir folder;
-    const DemoHost host = makeDemoHost({.folder = folder.path(), .persons = 1500, .seed = 3});
+    const demo::DemoHost host = demo::makeDemoHost({.folder = folder.path(), .persons = 1500, .seed = 3});
     QDirIterator files(host.hostFolder, {"*.mdb", "*.MDB"}, QDir::Files, QDirIterator::Subdirectories);
     int compared = 0;
     while (files.hasNext()) {

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "report/bericht.h"
+#include "report/composition/bericht.h"
 
-#include "app/program.h"
-#include "demo/demohost.h"
+#include "app/start/program.h"
+#include "demo/host/demohost.h"
 #include "platform/basic/codepage.h"
 #include "platform/basic/error.h"
 #include "platform/print/pdfwriter.h"
 #include "platform/richtext/rtfreader.h"
-#include "report/htmlexport.h"
+#include "report/export/htmlexport.h"
 #include "support/fakedesktop.h"
 #include "support/fixtures.h"
 #include <gtest/gtest.h>
@@ -19,6 +19,8 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTextDocument>
+
+using namespace Qt::StringLiterals;
 
 using namespace kalvenor;
 using namespace kalvenor::report;
@@ -41,60 +43,60 @@ struct BerichtTest : testing::Test {
         program.Main();
         statistics::alterslistenausgabe(program.databases, {1, 1, 1, 1}, list);
         figures = statistics::grafikermitteln(program.databases, {});
-        pages = QDir(demo.hostFolder + QStringLiteral("/Ausdrucke"));
+        pages = QDir(demo.hostFolder + u"/Ausdrucke"_s);
         for (const QString &file : pages.entryList(QDir::Files))
             pages.remove(file);
     }
-    void settings(const QString &text) const { write(demo.programFolder + QStringLiteral("/Kalvenor.ini"), text); }
+    void settings(const QString &text) const { write(demo.programFolder + u"/Kalvenor.ini"_s, text); }
     static void write(const QString &path, const QString &text)
     {
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(encodeAnsi(text));
+        file.write(basic::encodeAnsi(text));
     }
     static QByteArray read(const QString &path)
     {
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    PrintDocument compose()
+    print::PrintDocument compose()
     {
         bericht.initladen();
         return bericht.compose(content);
     }
     /// Runs into that file; the written one.
-    QString run(ExportFormat format, const QString &nativeFile)
+    QString run(print::ExportFormat format, const QString &nativeFile)
     {
         print.exportFormat = format;
-        print.exportFile = windowsPath(nativeFile);
+        print.exportFile = basic::windowsPath(nativeFile);
         bericht.auswahldrucken(content);
-        return nativePath(print.exportFile);
+        return basic::nativePath(print.exportFile);
     }
     QString text(qint16 id) { return program.language.text(id); }
-    QString closing() { return text(120) + QStringLiteral("  05.03.2024 07:08"); }
+    QString closing() { return text(120) + u"  05.03.2024 07:08"_s; }
     /// A letter a block: title T, picture P, heading of the criteria K and of the list L, line k, row r, spacer -,
     /// page break N, table t, with headings H, closing F.
-    QString shape(const PrintDocument &document)
+    QString shape(const print::PrintDocument &document)
     {
         const QHash<QString, QChar> known{
             {content.titel, u'T'}, {{}, u'-'}, {text(911), u'K'}, {text(1217), u'L'}, {closing(), u'F'}};
         QString letters;
-        for (const Block &block : document.blocks()) {
+        for (const print::Block &block : document.blocks()) {
             constexpr char kinds[] = "ktrNIP"; // in the order of Block
             letters += QLatin1Char(kinds[block.index()]);
-            if (const auto *paragraph = std::get_if<Paragraph>(&block))
+            if (const auto *paragraph = std::get_if<print::Paragraph>(&block))
                 letters.back() = known.value(paragraph->text, u'k');
-            else if (const auto *table = std::get_if<TableStart>(&block); table && !table->heading.empty())
+            else if (const auto *table = std::get_if<print::TableStart>(&block); table && !table->heading.empty())
                 letters.back() = u'H';
         }
         return letters;
     }
 
     QTemporaryDir folder;
-    DemoHost demo = makeDemoHost({.folder = folder.path(), .persons = 1});
+    demo::DemoHost demo = demo::makeDemoHost({.folder = folder.path(), .persons = 1});
     test::FakeDesktop desktop;
-    app::Program program{windowsPath(demo.programFolder), desktop};
-    PrintControl print;
+    app::Program program{basic::windowsPath(demo.programFolder), desktop};
+    print::PrintControl print;
     Bericht bericht{{program.host, program.language, program.databases, print}};
     statistics::Altersliste list;
     statistics::Grafikzahlen figures;
@@ -112,8 +114,8 @@ struct BerichtTest : testing::Test {
 
 TEST_F(BerichtTest, SwitchesDecideWhatStandsThere)
 {
-    const QString footer = text(120) + QStringLiteral("||05.03.2024 07:08");
-    const QString header = QStringLiteral("Titel / 1||- %d -");
+    const QString footer = text(120) + u"||05.03.2024 07:08"_s;
+    const QString header = u"Titel / 1||- %d -"_s;
     const struct {
         const char *settings, *shape;
         bool header, footer;
@@ -127,7 +129,7 @@ TEST_F(BerichtTest, SwitchesDecideWhatStandsThere)
     };
     for (const auto &row : rows) {
         settings(row.settings);
-        const PrintDocument document = compose();
+        const print::PrintDocument document = compose();
         EXPECT_EQ(shape(document).toStdString(), row.shape) << row.settings;
         EXPECT_EQ(document.header.text, row.header ? header : QString()) << row.settings;
         EXPECT_EQ(document.footer.text, row.footer ? footer : QString()) << row.settings;
@@ -135,7 +137,7 @@ TEST_F(BerichtTest, SwitchesDecideWhatStandsThere)
     settings({});
     content.titel.clear();
     content.rtf = "{\\rtf1\\fs20   \\par}";
-    const PrintDocument bare = compose();
+    const print::PrintDocument bare = compose();
     EXPECT_EQ(shape(bare).toStdString(), "PKkkkkkNLHrrF");
     EXPECT_EQ(bare.header.text, "");
 }
@@ -146,10 +148,10 @@ TEST_F(BerichtTest, IntroductionsKeepTheirCharacters)
                                   QByteArray("5 \xe2\x82\xac \xe2\x80\x9e\xc3\xa4\xe2\x80\x9c")}) {
         content.rtf = rtf;
         QString text;
-        const PrintDocument document = compose();
-        for (const Block &block : document.blocks()) {
-            if (const auto *paragraph = std::get_if<RichParagraph>(&block)) {
-                for (const TextRun &run : paragraph->runs)
+        const print::PrintDocument document = compose();
+        for (const print::Block &block : document.blocks()) {
+            if (const auto *paragraph = std::get_if<print::RichParagraph>(&block)) {
+                for (const print::TextRun &run : paragraph->runs)
                     text += run.text;
             }
         }
@@ -161,10 +163,10 @@ TEST_F(BerichtTest, FontsComeFromTheSettingsButUnderlineNever)
 {
     settings("[Titel]\r\nFontunderline=#TRUE#\r\n[Kriterien]\r\nFontunderline=WAHR\r\nFontstrikethru=True\r\n"
              "[Altersliste]\r\nFontcolor=255\r\nFontsize=12.5");
-    const PrintDocument document = compose();
+    const print::PrintDocument document = compose();
     QSet<double> sizes;
     int struckOut = 0;
-    for (const TextStyle &style : document.styles()) {
+    for (const print::TextStyle &style : document.styles()) {
         EXPECT_FALSE(style.underline);
         struckOut += style.strikeOut;
         sizes << style.pointSize;
@@ -197,20 +199,20 @@ TEST_F(BerichtTest, CriteriaSayWhatIsActive)
                              "Grafik: nach Geburtsjahr\n" +
                              numbers;
     EXPECT_EQ(lines(all, 3), "Name: *Müll*\n" + rest);
-    all.filter.Presse = QStringLiteral("**"); // as filtering leaves an empty pattern
+    all.filter.Presse = u"**"_s; // as filtering leaves an empty pattern
     EXPECT_EQ(lines(all, 3), rest);
 }
 
 TEST_F(BerichtTest, HintComesOnceAndFailuresRestoreThePointer)
 {
-    EXPECT_THROW(run(ExportFormat::Html, folder.filePath("ohne")), Error);
-    EXPECT_THROW(bericht.auswahldrucken(content, [](qint64, qint64) { return false; }), Error);
+    EXPECT_THROW(run(print::ExportFormat::Html, folder.filePath("ohne")), basic::Error);
+    EXPECT_THROW(bericht.auswahldrucken(content, [](qint64, qint64) { return false; }), basic::Error);
     EXPECT_TRUE(desktop.messages.empty());
     for (int i = 0; i < 2; ++i)
-        run(ExportFormat::Pages, {});
+        run(print::ExportFormat::Pages, {});
     ASSERT_EQ(desktop.messages.size(), 1U);
     EXPECT_EQ(desktop.messages[0].text, text(116));
-    EXPECT_EQ(desktop.pointers.back(), Pointer::Default);
+    EXPECT_EQ(desktop.pointers.back(), desktop::Pointer::Default);
     EXPECT_TRUE(print.hasDocument());
 }
 
@@ -224,7 +226,7 @@ TEST_F(BerichtTest, HtmlHasItsNamesTagsAndLinks)
     QImage(8, 8, QImage::Format_RGB32).save(pages.filePath("1-D.bmp"));
     const QByteArray hostPicture = read(pages.filePath("1-D.bmp"));
     write(pages.filePath("other.htmlx"), "copy");
-    const QString page = run(ExportFormat::Html, pages.filePath("Liste.html"));
+    const QString page = run(print::ExportFormat::Html, pages.filePath("Liste.html"));
     EXPECT_EQ(page, pages.filePath("Liste-Altersstatistik.html"));
     EXPECT_EQ(
         pages.entryList(QDir::Files, QDir::Name),
@@ -241,8 +243,8 @@ TEST_F(BerichtTest, HoldsTheSameTextsInEachFormat)
 {
     const auto missing = [&](const QString &in) {
         qsizetype at = 0;
-        for (const QString &words : {QStringLiteral("Einleitung"), text(911), text(1229), text(1217),
-                                     QStringLiteral("71.2"), QStringLiteral("Adler, Hans"), closing()}) {
+        for (const QString &words :
+             {u"Einleitung"_s, text(911), text(1229), text(1217), u"71.2"_s, u"Adler, Hans"_s, closing()}) {
             at = in.indexOf(words.simplified(), at);
             if (at < 0)
                 return words;
@@ -250,15 +252,15 @@ TEST_F(BerichtTest, HoldsTheSameTextsInEachFormat)
         return QString();
     };
     QTextDocument rtf;
-    readRtf(read(run(ExportFormat::Rtf, folder.filePath("b.rtf"))), rtf);
+    richtext::readRtf(read(run(print::ExportFormat::Rtf, folder.filePath("b.rtf"))), rtf);
     EXPECT_EQ(missing(rtf.toPlainText().simplified()), QString());
     EXPECT_TRUE(pages.exists("b-Altersstatistik.JPG"));
-    QString html = QString::fromUtf8(read(run(ExportFormat::Html, folder.filePath("b.html"))));
+    QString html = QString::fromUtf8(read(run(print::ExportFormat::Html, folder.filePath("b.html"))));
     EXPECT_EQ(missing(html.remove(QRegularExpression("<[^>]*>")).simplified()), QString());
     if (QStandardPaths::findExecutable("pdftotext").isEmpty())
         GTEST_SKIP() << "pdftotext is not installed";
-    run(ExportFormat::Pages, {});
-    writePdf(*print.layout(), {}, folder.filePath("b.pdf"));
+    run(print::ExportFormat::Pages, {});
+    print::writePdf(*print.layout(), {}, folder.filePath("b.pdf"));
     QProcess reader;
     reader.start("pdftotext", {"-layout", folder.filePath("b.pdf"), "-"});
     ASSERT_TRUE(reader.waitForFinished());
@@ -270,15 +272,15 @@ TEST_F(BerichtTest, FailedRunsLeaveNothingAndKeepTheOld)
     const QString old = folder.filePath("alt-Altersstatistik.html");
     write(old, "old");
     const QStringList before = QDir(folder.path()).entryList(QDir::Files);
-    const auto fail = [&](ExportFormat format, const QString &file, const Progress &progress = {}) {
+    const auto fail = [&](print::ExportFormat format, const QString &file, const basic::Progress &progress = {}) {
         print.exportFormat = format;
-        print.exportFile = windowsPath(folder.filePath(file));
-        EXPECT_THROW(bericht.auswahldrucken(content, progress), Error);
+        print.exportFile = basic::windowsPath(folder.filePath(file));
+        EXPECT_THROW(bericht.auswahldrucken(content, progress), basic::Error);
         EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), before) << file.toStdString();
         EXPECT_EQ(pages.entryList(QDir::Files), QStringList()) << file.toStdString();
     };
-    fail(ExportFormat::Html, "a*.html");
-    for (const ExportFormat format : {ExportFormat::Html, ExportFormat::Rtf}) {
+    fail(print::ExportFormat::Html, "a*.html");
+    for (const print::ExportFormat format : {print::ExportFormat::Html, print::ExportFormat::Rtf}) {
         fail(format, "missing/a.html");
         fail(format, "alt.html", [](qint64, qint64) { return false; });
     }
@@ -290,14 +292,13 @@ TEST_F(BerichtTest, NonsenseInTheSettingsBreaksNothing)
     QString nonsense;
     for (const char *section :
          {"Titel", "Kriterien", "Altersliste", "Footer", "Grafik", "Druckrand", "Format", "Spalten"})
-        nonsense += QStringLiteral("[%1]\r\nFontname=@\r\nFontsize=@\r\nFontbold=@\r\nFontcolor=@\r\nBackcolor=@\r\n"
-                                   "Abstand=@\r\nLinks=@\r\nOben=@\r\nUnten=@\r\nAusrichtung=@\r\n1=@\r\n2=@\r\n4=@\r\n"
-                                   "Fontfaktor=@\r\nBildgroesse=@\r\n")
-                        .arg(section);
+        nonsense += u"[%1]\r\nFontname=@\r\nFontsize=@\r\nFontbold=@\r\nFontcolor=@\r\nBackcolor=@\r\n"
+                    "Abstand=@\r\nLinks=@\r\nOben=@\r\nUnten=@\r\nAusrichtung=@\r\n1=@\r\n2=@\r\n4=@\r\n"
+                    "Fontfaktor=@\r\nBildgroesse=@\r\n"_s.arg(section);
     for (const char *value : {"", "x", "-1", "0", "1e300", "-99999999999", "12.5,7", "32767"}) {
         settings(QString(nonsense).replace(u'@', value));
-        run(ExportFormat::Pages, {});
+        run(print::ExportFormat::Pages, {});
         EXPECT_GE(print.layout()->pages().size(), 2U) << value;
-        EXPECT_FALSE(run(ExportFormat::Rtf, folder.filePath("n.rtf")).isEmpty());
+        EXPECT_FALSE(run(print::ExportFormat::Rtf, folder.filePath("n.rtf")).isEmpty());
     }
 }

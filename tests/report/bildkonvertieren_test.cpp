@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "report/bildkonvertieren.h"
+#include "report/pictures/bildkonvertieren.h"
 
 #include "platform/basic/error.h"
 #include "support/fakedesktop.h"
@@ -9,19 +9,21 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 using namespace kalvenor;
 using report::PictureControl;
 
 namespace {
 
-const QString Component = QStringLiteral("Pictarex.Compendium");
+const QString Component = u"Pictarex.Compendium"_s;
 
 /// What the component was asked for; it complains where the output's name says so.
-struct Complaining : ImageComponent {
+struct Complaining : desktop::ImageComponent {
     QString convertEx(const QString &, const QString &output, int quality, int, int, int) override
     {
         lastQuality = quality;
-        return output.contains(u"bad") ? QStringLiteral(" no space left") : QString();
+        return output.contains(u"bad") ? u" no space left"_s : QString();
     }
     static inline int lastQuality = -1;
 };
@@ -31,19 +33,18 @@ struct BildumwandlungTest : testing::Test {
     BildumwandlungTest()
     {
         control.Image.fill(Qt::darkGreen);
-        host.Hostverzeichnis = windowsPath(folder.path());
-        registerImageComponent(Component, createJpegComponent);
+        host.Hostverzeichnis = basic::windowsPath(folder.path());
+        desktop::registerImageComponent(Component, desktop::createJpegComponent);
     }
     QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
-    QString path(const QString &name) const { return windowsPath(folder.filePath(name)); }
+    QString path(const QString &name) const { return basic::windowsPath(folder.filePath(name)); }
     void setting(const char *section, const char *key, const char *value) const
     {
         ASSERT_TRUE(host.inischreiben(host.hostSettingsFile(), section, key, value));
     }
     void installLibrary(const char *name) const
     {
-        ASSERT_TRUE(QFile::copy(QStringLiteral(KALVENOR_BINARY_DIR "/tests/report/") + name,
-                                folder.filePath(QStringLiteral("Pictarex.dll"))));
+        ASSERT_TRUE(QFile::copy(u"" KALVENOR_BINARY_DIR "/tests/report/"_s + name, folder.filePath(u"Pictarex.dll"_s)));
     }
     /// Converts into a file of that name in the folder; the name written.
     QString convert(const QString &name)
@@ -55,7 +56,7 @@ struct BildumwandlungTest : testing::Test {
 
     QTemporaryDir folder;
     test::FakeDesktop desktop;
-    host::Host host{windowsPath(folder.filePath(QStringLiteral("Kalvenor"))), desktop};
+    host::Host host{basic::windowsPath(folder.filePath(u"Kalvenor"_s)), desktop};
     dao::Engine engine;
     language::Sprachmodul texts{host, engine};
     report::Bildumwandlung conversion{host, texts};
@@ -100,7 +101,8 @@ TEST_F(BildumwandlungTest, ReplacesOldPicturesWhateverTheirCase)
 
 TEST_F(BildumwandlungTest, QualityIsTheHosts)
 {
-    registerImageComponent(Component, [] { return std::unique_ptr<ImageComponent>(std::make_unique<Complaining>()); });
+    desktop::registerImageComponent(
+        Component, [] { return std::unique_ptr<desktop::ImageComponent>(std::make_unique<Complaining>()); });
     EXPECT_EQ(convert("a.jpg"), "a.JPG");
     EXPECT_EQ(Complaining::lastQuality, 70);
     const std::pair<const char *, int> rows[] = {{"85.5 %", 86}, {"none", 0}, {"-4", 0}, {"1e300", 100}};
@@ -127,7 +129,7 @@ TEST_F(BildumwandlungTest, AMissingComponentIsRegisteredOrThePictureStaysBmp)
                 {"testcomponent.dll", true, "a.BMP"},
                 {"testcomponent.dll", false, "a.JPG"}};
     for (const auto &row : rows) {
-        unregisterImageComponent(Component);
+        desktop::unregisterImageComponent(Component);
         QFile::remove(folder.filePath("Pictarex.dll"));
         if (row.library != nullptr)
             installLibrary(row.library);
@@ -139,12 +141,12 @@ TEST_F(BildumwandlungTest, AMissingComponentIsRegisteredOrThePictureStaysBmp)
         const bool told = QLatin1String(row.written) == u"a.BMP";
         ASSERT_EQ(desktop.messages.size(), told ? 1U : 0U);
         if (told) {
-            EXPECT_EQ(desktop.messages[0].style, MessageCritical);
+            EXPECT_EQ(desktop.messages[0].style, desktop::MessageCritical);
         }
     }
     const QString library = path("Pictarex.dll");
     EXPECT_EQ(report::dllregistrieren(host, library, false), -1);
-    EXPECT_EQ(createImageComponent(Component), nullptr);
+    EXPECT_EQ(desktop::createImageComponent(Component), nullptr);
     EXPECT_EQ(report::dllregistrieren(host, library, false), 0); // there is none any more
     EXPECT_EQ(report::dllregistrieren(host, path("programm.ini"), true), 0);
 }
@@ -152,14 +154,14 @@ TEST_F(BildumwandlungTest, AMissingComponentIsRegisteredOrThePictureStaysBmp)
 TEST_F(BildumwandlungTest, SaysWhatCannotBeWritten)
 {
     ASSERT_TRUE(QDir(folder.path()).mkdir("locked.bmp")); // a folder in the picture's place
-    const std::pair<const char *, ErrorKind> rows[] = {{"locked.jpg", ErrorKind::WriteFailed},
-                                                       {"missing\\a.jpg", ErrorKind::WriteFailed},
-                                                       {"jpg", ErrorKind::InvalidProcedureCall}};
+    const std::pair<const char *, basic::ErrorKind> rows[] = {{"locked.jpg", basic::ErrorKind::WriteFailed},
+                                                              {"missing\\a.jpg", basic::ErrorKind::WriteFailed},
+                                                              {"jpg", basic::ErrorKind::InvalidProcedureCall}};
     for (const auto &[name, kind] : rows) {
         try {
             convert(QLatin1String(name));
             ADD_FAILURE() << name;
-        } catch (const Error &error) {
+        } catch (const basic::Error &error) {
             EXPECT_EQ(error.kind(), kind) << name;
         }
     }
@@ -196,7 +198,7 @@ TEST_F(BildumwandlungTest, PicturesFitTheSpaceAndKeepTheirShape)
     }
     qint16 height = 100;
     PictureControl print;
-    EXPECT_THROW(report::bildgroesse(host, control, print, 0, height), Error);
+    EXPECT_THROW(report::bildgroesse(host, control, print, 0, height), basic::Error);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/filtern.h"
+#include "selection/filter/filtern.h"
 
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
@@ -10,7 +10,7 @@ using namespace kalvenor::selection;
 
 namespace {
 
-constexpr auto German = DateOrder::DayMonthYear;
+constexpr auto German = basic::DateOrder::DayMonthYear;
 const QString Empty = "__-__-____";
 const QString All = "SELECT * FROM Daten WHERE Listname LIKE '**' ";
 const QString Unmarked = " AND Markierung = 0 ORDER BY Listname;";
@@ -93,7 +93,7 @@ TEST(Filtern, TakesTheMonthFirstInTheUsOrder)
         {dates({1, 0, 0}, "02-31-1950", "12-31-1950"), birthAny + " AND Geburtsdatum <= 18628"},
     };
     for (const auto &row : rows)
-        EXPECT_EQ(filtern(row.filter, DateOrder::MonthDayYear).queries[0], All + row.where + Unmarked);
+        EXPECT_EQ(filtern(row.filter, basic::DateOrder::MonthDayYear).queries[0], All + row.where + Unmarked);
 }
 
 TEST(Filtern, SelectsWhomItSays)

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/marking.h"
+#include "selection/marking/marking.h"
 
-#include "selection/listquery.h"
-#include "selection/markhistory.h"
+#include "selection/lists/listquery.h"
+#include "selection/marking/markhistory.h"
 #include "support/startedprogram.h"
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -148,7 +148,8 @@ TEST(MarkPersons, StopsWhenAsked)
 {
     test::StartedProgram started(family());
     const std::vector<qint32> wanted{1, 2};
-    EXPECT_THROW(markPersons(started.program.databases, wanted, true, {}, [](qint64, qint64) { return false; }), Error);
+    EXPECT_THROW(markPersons(started.program.databases, wanted, true, {}, [](qint64, qint64) { return false; }),
+                 basic::Error);
     EXPECT_EQ(started.program.databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked))->recordCount(),
               0);
 }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/marksnapshot.h"
+#include "selection/marking/marksnapshot.h"
 
-#include "selection/listquery.h"
+#include "selection/lists/listquery.h"
 #include "support/startedprogram.h"
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -31,7 +31,7 @@ TEST(MarkSnapshot, TellsWhatAnActionChangedThatEndedHalfWay)
         const auto halfWay = [](qint64 done, qint64 total) {
             return done < total / 2;
         };
-        EXPECT_THROW(family.setMarks("Daten", all, true, halfWay), Error);
+        EXPECT_THROW(family.setMarks("Daten", all, true, halfWay), basic::Error);
         if (readAnew) {
             family.refresh();
             auto others = persons;

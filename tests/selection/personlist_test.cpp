@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/personlistview.h"
+#include "selection/lists/personlistview.h"
 
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
@@ -36,7 +36,7 @@ TEST(PersonListModel, ShowsOneResultAfterTheOther)
 
     // A query without the columns of a person changes nothing.
     auto &database = *started.program.databases.Familiendatenbank;
-    EXPECT_THROW(model.show(database.openQuery("SELECT Counter FROM Daten")), Error);
+    EXPECT_THROW(model.show(database.openQuery("SELECT Counter FROM Daten")), basic::Error);
     EXPECT_EQ(model.rowCount(), 2);
     // Rows that the engine had to compute can be shown as well.
     model.show(database.openQuery("SELECT Counter, Listname FROM Daten ORDER BY -Counter"));

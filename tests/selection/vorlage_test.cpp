@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/vorlage.h"
+#include "selection/templates/vorlage.h"
 
 #include "platform/basic/error.h"
 #include <gtest/gtest.h>
 #include <QFile>
 #include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
 
 using namespace kalvenor;
 using namespace kalvenor::selection;
@@ -19,8 +21,8 @@ const QByteArray WholeFile =
 Vorlage wholeVorlage()
 {
     Vorlage vorlage;
-    vorlage.familienpfad = QStringLiteral("C:\\QV\\Bär.mdb");
-    vorlage.titel = QStringLiteral("Der \"alte\" Stamm");
+    vorlage.familienpfad = u"C:\\QV\\Bär.mdb"_s;
+    vorlage.titel = u"Der \"alte\" Stamm"_s;
     vorlage.rtf = "{\\rtf1\r\nA, \"B\"\r\n}";
     vorlage.grafiktyp = 5;
     vorlage.legende = 0;
@@ -50,7 +52,7 @@ struct VorlageFile : testing::Test {
     {
         try {
             readVorlage(file);
-        } catch (const Error &error) {
+        } catch (const basic::Error &error) {
             return error.message();
         }
         return {};
@@ -66,7 +68,7 @@ TEST_F(VorlageFile, IsWrittenAndReadByteForByte)
     EXPECT_EQ(readVorlage(file), wholeVorlage());
 
     Vorlage empty;
-    empty.familienpfad = QStringLiteral("x");
+    empty.familienpfad = u"x"_s;
     writeVorlage(file, empty);
     EXPECT_EQ(content(), "\"x\"\r\n\"\"\r\n\"\"\r\n1\r\n1\r\n1\r\n1\r\n1\r\n1\r\n#TRUE#\r\n");
     EXPECT_EQ(readVorlage(file), empty);
@@ -140,17 +142,17 @@ TEST_F(VorlageFile, NothingIsLostWhereItCannotBeWritten)
     const auto refused = [&](const Vorlage &vorlage) {
         try {
             writeVorlage(file, vorlage);
-        } catch (const Error &error) {
+        } catch (const basic::Error &error) {
             return error.text();
         }
         return QString();
     };
     Vorlage vorlage = wholeVorlage();
-    vorlage.titel = QStringLiteral("Łódź ☺ 😀 Žďár");
+    vorlage.titel = u"Łódź ☺ 😀 Žďár"_s;
     EXPECT_TRUE(refused(vorlage).contains("title holds characters that a template cannot keep (Ł ź ☺ 😀 ď)"))
         << refused(vorlage).toStdString();
     vorlage = wholeVorlage();
-    vorlage.familienpfad += QStringLiteral("Ж");
+    vorlage.familienpfad += u"Ж"_s;
     EXPECT_TRUE(refused(vorlage).contains("path"));
     EXPECT_EQ(content(), "before");
     file = folder.filePath("no/such/folder.kvl");

@@ -1,13 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/vorlageoeffnen.h"
+#include "selection/templates/vorlageoeffnen.h"
 
-#include "selection/listquery.h"
-#include "selection/vorlagespeichern.h"
+#include "selection/lists/listquery.h"
+#include "selection/templates/vorlagespeichern.h"
 #include "support/startedprogram.h"
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <QFile>
+
+using namespace Qt::StringLiterals;
 
 using namespace kalvenor;
 using namespace kalvenor::selection;
@@ -34,12 +36,12 @@ struct Opening : testing::Test, test::StartedProgram {
     {
         Vorlage vorlage;
         vorlage.familienpfad = familienpfad;
-        vorlage.titel = QStringLiteral("Titel");
+        vorlage.titel = u"Titel"_s;
         vorlage.counters = std::move(counters);
         writeVorlage(native(file), vorlage);
         return file;
     }
-    OpenedVorlage open(const QString &path, const Progress &progress = {}) const
+    OpenedVorlage open(const QString &path, const basic::Progress &progress = {}) const
     {
         return vorlageoeffnen(services, path, progress);
     }
@@ -54,12 +56,12 @@ struct Opening : testing::Test, test::StartedProgram {
         return counters;
     }
     /// What opening says where it must fail; everything is then as before.
-    QString refusal(const QString &path, const Progress &progress = {})
+    QString refusal(const QString &path, const basic::Progress &progress = {})
     {
         QString said;
         try {
             open(path, progress);
-        } catch (const Error &error) {
+        } catch (const basic::Error &error) {
             said = error.message();
         }
         EXPECT_EQ(marked(), (std::vector<qint32>{2, 3}));
@@ -71,8 +73,8 @@ struct Opening : testing::Test, test::StartedProgram {
 
     QString family = program.host.Familienpfad;
     QString texts = program.language.text(20000);
-    QString other = family.left(family.lastIndexOf('\\')) + QStringLiteral("\\andere.mdb");
-    QString file = windowsPath(folder.filePath("a.kvl"));
+    QString other = family.left(family.lastIndexOf('\\')) + u"\\andere.mdb"_s;
+    QString file = basic::windowsPath(folder.filePath("a.kvl"));
     int closings = 0, openings = 0;
     VorlageServices services{program.host, program.language, program.databases, [this] { ++closings; },
                              [this] {
@@ -88,7 +90,7 @@ TEST_F(Opening, MarksExactlyThePersonsOfTheTemplate)
     EXPECT_EQ(marked(), (std::vector<qint32>{1, 3, 9}));
     EXPECT_EQ(opened.found, 3);
     EXPECT_EQ(opened.missing, (std::vector<qint32>{77, -1}));
-    EXPECT_EQ(opened.vorlage.titel, QStringLiteral("Titel"));
+    EXPECT_EQ(opened.vorlage.titel, u"Titel"_s);
     EXPECT_FALSE(opened.otherDatabase);
     EXPECT_EQ(closings, 0);
 
@@ -105,7 +107,7 @@ TEST_F(Opening, MarksExactlyThePersonsOfTheTemplate)
 TEST_F(Opening, WhatWasSavedComesBack)
 {
     Statistikwerte werte;
-    werte.titel = QStringLiteral("Ä \"B\"");
+    werte.titel = u"Ä \"B\""_s;
     werte.rtf = "{\\rtf1 x\r\n}";
     werte.grafiktyp = 11;
     EXPECT_EQ(vorlagespeichern(program.host, program.databases, {}, werte), 0);
@@ -133,7 +135,7 @@ TEST_F(Opening, GoesOverToTheTemplatesDatabase)
 
 TEST_F(Opening, AMissingDatabaseIsTheUsersChoice)
 {
-    save(QStringLiteral("C:\\weg.mdb"), {1});
+    save(u"C:\\weg.mdb"_s, {1});
     EXPECT_TRUE(refusal(file).contains("C:\\weg.mdb. No folder is known"));
     QString asked;
     bool answer = false;
@@ -142,7 +144,7 @@ TEST_F(Opening, AMissingDatabaseIsTheUsersChoice)
         return answer;
     };
     EXPECT_TRUE(refusal(file).contains("Stopped"));
-    EXPECT_EQ(asked, QStringLiteral("C:\\weg.mdb"));
+    EXPECT_EQ(asked, u"C:\\weg.mdb"_s);
     answer = true;
     EXPECT_EQ(open(file).found, 1);
     EXPECT_EQ(marked(), std::vector<qint32>{1});
@@ -159,7 +161,7 @@ TEST_F(Opening, AFailureLeavesMarksAndDatabaseAsTheyWere)
     };
     EXPECT_TRUE(refusal(save(family, {1}), atOnce).contains("Stopped"));
     EXPECT_TRUE(refusal(save(family, {1}), atTheEnd).contains("Stopped"));
-    EXPECT_TRUE(refusal(windowsPath(folder.filePath("nicht.kvl"))).contains("nicht.kvl"));
+    EXPECT_TRUE(refusal(basic::windowsPath(folder.filePath("nicht.kvl"))).contains("nicht.kvl"));
     EXPECT_EQ(closings, 0);
 
     EXPECT_TRUE(refusal(save(other, {3}), atOnce).contains("Stopped"));
@@ -184,14 +186,14 @@ TEST_F(Opening, AWriteThatFailsHalfWayIsTakenBack)
             return true;
         if (readOnly)
             QFile::setPermissions(native(family), QFile::ReadOwner);
-        throw Error(ErrorKind::WriteFailed, {}, QStringLiteral("disk full"));
+        throw basic::Error(basic::ErrorKind::WriteFailed, {}, u"disk full"_s);
     };
-    EXPECT_EQ(refusal(file, failOnceCleared), QStringLiteral("disk full"));
+    EXPECT_EQ(refusal(file, failOnceCleared), u"disk full"_s);
     readOnly = true;
     try {
         open(file, failOnceCleared);
         ADD_FAILURE() << "opened";
-    } catch (const Error &error) {
+    } catch (const basic::Error &error) {
         EXPECT_TRUE(error.text().contains("could not be put back")) << error.what();
     }
     QFile::setPermissions(native(family), QFile::ReadOwner | QFile::WriteOwner);

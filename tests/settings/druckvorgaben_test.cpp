@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/vorgabendatei.h"
+#include "settings/store/vorgabendatei.h"
 
 #include "platform/basic/error.h"
 #include "support/fakedesktop.h"
@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
 
 using namespace kalvenor;
 using namespace kalvenor::settings;
@@ -36,21 +38,21 @@ struct Settings {
     bool save() const { return initspeichern(host, vorgaben, page); }
 
     QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("Kalvenor.ini"));
+    QString path = folder.filePath(u"Kalvenor.ini"_s);
     test::FakeDesktop desktop;
-    host::Host host{windowsPath(folder.path()), desktop};
+    host::Host host{basic::windowsPath(folder.path()), desktop};
     Druckvorgaben vorgaben;
-    PageSetup page;
+    print::PageSetup page;
 };
 
-const QByteArray seeded = "[Spalten]\r\n1=400\r\n2=1000\r\n4=3000\r\n[Grafik]\r\nFontfaktor=3\r\n";
+const QByteArray Seeded = "[Spalten]\r\n1=400\r\n2=1000\r\n4=3000\r\n[Grafik]\r\nFontfaktor=3\r\n";
 
 TEST(Druckvorgaben, FirstRunSeedsColumnsAndFontFactorOnly)
 {
     const struct {
         QByteArray before, after;
     } rows[] = {
-        {{}, seeded},
+        {{}, Seeded},
         {"[spalten]\r\n1=1.0 user\r\n2=5\r\n",
          "[spalten]\r\n1=400\r\n2=1000\r\n4=3000\r\n[Grafik]\r\nFontfaktor=3\r\n"},
         {"[Spalten]\r\n1=400\r\n", "[Spalten]\r\n1=400\r\n"},
@@ -115,7 +117,7 @@ TEST(Druckvorgaben, ReadsWhatAHandWroteIntoTheFile)
     EXPECT_EQ(settings.page.right, -20);
     EXPECT_EQ(settings.page.bottom, 0);
     EXPECT_TRUE(settings.page.landscape);
-    EXPECT_EQ(ReportMeasures::read(settings.host).spaltenbreiten, (std::array<Twips, 3>{500, 1000, 3000}));
+    EXPECT_EQ(ReportMeasures::read(settings.host).spaltenbreiten, (std::array<print::Twips, 3>{500, 1000, 3000}));
 
     // What was read is written back, and once more changes nothing.
     ASSERT_TRUE(settings.save());
@@ -156,22 +158,22 @@ TEST(Druckvorgaben, FontTextsBecomeAStyleThatAPageCanTake)
     Druckvorgaben vorgaben = defaultVorgaben();
     FontTexts &font = vorgaben.font(Titel);
     for (const auto &row : rows) {
-        font.Fontname = QStringLiteral(" ");
+        font.Fontname = u" "_s;
         font.Fontsize = QString::fromLatin1(row.size);
         font.Fontcolor = QString::fromLatin1(row.text);
         font.Backcolor = QString::fromLatin1(row.ground);
-        const TextStyle style = pageStyle(vorgaben, Titel);
-        EXPECT_EQ(style,
-                  (TextStyle{.pointSize = row.points, .bold = true, .color = row.color, .background = row.background}))
+        const print::TextStyle style = pageStyle(vorgaben, Titel);
+        EXPECT_EQ(style, (print::TextStyle{
+                             .pointSize = row.points, .bold = true, .color = row.color, .background = row.background}))
             << row.size;
         EXPECT_TRUE(sampleStyle(font, Titel).underline); // which never reaches the page
-        EXPECT_NO_THROW(PrintDocument().addStyle(style));
+        EXPECT_NO_THROW(print::PrintDocument().addStyle(style));
     }
-    font.Fontstrikethru = QStringLiteral("wahr");
-    font.Fontbold = QStringLiteral("#True");
+    font.Fontstrikethru = u"wahr"_s;
+    font.Fontbold = u"#True"_s;
     EXPECT_TRUE(pageStyle(vorgaben, Titel).strikeOut);
     EXPECT_FALSE(pageStyle(vorgaben, Titel).bold);
-    EXPECT_EQ(settingsColorText(settingsColor(QStringLiteral("1193046"))), "1193046");
+    EXPECT_EQ(settingsColorText(settingsColor(u"1193046"_s)), "1193046");
 }
 
 TEST(Druckvorgaben, ElementsEndAtTwenty)
@@ -182,7 +184,7 @@ TEST(Druckvorgaben, ElementsEndAtTwenty)
         try {
             vorgaben.print(index);
             ADD_FAILURE() << index;
-        } catch (const Error &error) {
+        } catch (const basic::Error &error) {
             EXPECT_EQ(error.number(), 9);
         }
     }
@@ -203,10 +205,10 @@ TEST(Druckvorgaben, ReplacesMarginsThatLeaveNoRoom)
         {INT_MAX, 0, INT_MAX, 0, true, false},
     };
     for (const auto &row : rows) {
-        PageSetup page{
+        print::PageSetup page{
             .landscape = row.landscape, .left = row.left, .top = row.top, .right = row.right, .bottom = row.bottom};
         bool replaced = false;
-        const PageSetup usable = usablePage(page, &replaced);
+        const print::PageSetup usable = usablePage(page, &replaced);
         EXPECT_EQ(replaced, !row.usable) << row.left << ' ' << row.top;
         EXPECT_EQ(usable.left, row.usable ? row.left : 1440);
         EXPECT_EQ(usable.landscape, row.landscape);
@@ -220,7 +222,7 @@ TEST(Druckvorgaben, FiguresOfTheChartAndTheSpacingStayInTheirBounds)
         const char *text;
         double factor;
         int percent;
-        Twips spacing;
+        print::Twips spacing;
     } rows[] = {{"", 3, 100, 0},   {"0", 3, 100, 0},     {"-3", 3, 100, 50},    {"2.5", 2.5, 100, 2},
                 {"60", 3, 60, 60}, {"600", 3, 600, 600}, {"1e300", 3, 100, 50}, {"abc", 3, 100, 0}};
     for (const auto &row : rows) {

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/druckvorschau.h"
+#include "settings/preview/druckvorschau.h"
 
 #include "platform/print/pdfwriter.h"
-#include "settings/pageview.h"
+#include "settings/preview/pageview.h"
+#include "settings/preview/printing.h"
+#include "settings/preview/savequestion.h"
 #include "settings/previewfixture.h"
-#include "settings/printing.h"
-#include "settings/savequestion.h"
 #include <functional>
 #include <gtest/gtest.h>
 #include <QAction>
@@ -23,6 +23,8 @@
 #include <QStatusBar>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 using namespace kalvenor;
 using namespace kalvenor::settings;
 
@@ -38,22 +40,22 @@ public:
 public Q_SLOTS:
     void auswahldrucken()
     {
-        calls << QStringLiteral("auswahldrucken");
+        calls << u"auswahldrucken"_s;
         if (compose)
             compose();
     }
-    void initladen() { calls << QStringLiteral("initladen"); }
-    void initspeichern() { calls << QStringLiteral("initspeichern"); }
-    void init() { calls << QStringLiteral("init"); }
-    void panelaufruf(const QString &topic) { calls << QStringLiteral("panelaufruf ") + topic; }
+    void initladen() { calls << u"initladen"_s; }
+    void initspeichern() { calls << u"initspeichern"_s; }
+    void init() { calls << u"init"_s; }
+    void panelaufruf(const QString &topic) { calls << u"panelaufruf "_s + topic; }
 };
 
 struct Preview : testing::Test, test::Texts {
-    explicit Preview(const QString &language = QStringLiteral("Deutsch")) : Texts(test::shippedTexts(), language)
+    explicit Preview(const QString &language = u"Deutsch"_s) : Texts(test::shippedTexts(), language)
     {
         host.Hauptform = &main;
-        host.AddInonTop = QStringLiteral("1");
-        host.Hostverzeichnis = windowsPath(folder.path());
+        host.AddInonTop = u"1"_s;
+        host.Hostverzeichnis = basic::windowsPath(folder.path());
         control.setDocument(test::pagesOf(12));
         window = std::make_unique<Druckvorschau>(host, module, control, work);
         window->show();
@@ -72,7 +74,7 @@ struct Preview : testing::Test, test::Texts {
     void save(const QStringList &answers)
     {
         desktop.fileAnswers.assign(answers.begin(), answers.end());
-        window->toolbarbuttonclick(QStringLiteral("save"));
+        window->toolbarbuttonclick(u"save"_s);
     }
     static void write(const QString &file, const QByteArray &content)
     {
@@ -96,8 +98,8 @@ struct Preview : testing::Test, test::Texts {
     }
 
     MainWindow main;
-    PrintControl control;
-    Work work{desktop};
+    print::PrintControl control;
+    desktop::Work work{desktop};
     std::unique_ptr<Druckvorschau> window;
 };
 
@@ -144,49 +146,50 @@ TEST_F(Preview, TakesItselfOffTheTopForDialogs)
     desktop.placements.clear();
     window->toolbarbuttonclick("INITVorgaben");
     ASSERT_EQ(desktop.placements.size(), 4u) << "the main window, which would cover it, and itself";
-    EXPECT_EQ(desktop.placements[1].place, StackPlace::NotTopMost);
-    EXPECT_EQ(desktop.placements[2].place, StackPlace::TopMost);
+    EXPECT_EQ(desktop.placements[1].place, desktop::StackPlace::NotTopMost);
+    EXPECT_EQ(desktop.placements[2].place, desktop::StackPlace::TopMost);
     desktop.placements.clear();
     EXPECT_FALSE(main.isVisible());
     child<QAction>("MDE").trigger();
     EXPECT_FALSE(window->isVisible());
     EXPECT_TRUE(main.isVisible());
     ASSERT_EQ(desktop.placements.size(), 2u);
-    EXPECT_EQ(desktop.placements[0].place, StackPlace::NotTopMost);
-    EXPECT_EQ(desktop.placements[1].place, StackPlace::TopMost);
+    EXPECT_EQ(desktop.placements[0].place, desktop::StackPlace::NotTopMost);
+    EXPECT_EQ(desktop.placements[1].place, desktop::StackPlace::TopMost);
 }
 
 TEST_F(Preview, SavesByTheEndingOfTheName)
 {
     const struct {
         const char *name;
-        ExportFormat format;
+        print::ExportFormat format;
         int questions;
     } rows[] = {
-        {"a.RTF", ExportFormat::Rtf, 1},   {"b.rtf", ExportFormat::Rtf, 1},   {"c.html", ExportFormat::Html, 1},
-        {"d.htm", ExportFormat::Pages, 1}, {"e.txt", ExportFormat::Pages, 2}, {"f.pdf", ExportFormat::Pages, 1},
+        {"a.RTF", print::ExportFormat::Rtf, 1},   {"b.rtf", print::ExportFormat::Rtf, 1},
+        {"c.html", print::ExportFormat::Html, 1}, {"d.htm", print::ExportFormat::Pages, 1},
+        {"e.txt", print::ExportFormat::Pages, 2}, {"f.pdf", print::ExportFormat::Pages, 1},
     };
-    ExportFormat seen = ExportFormat::Pages;
+    print::ExportFormat seen = print::ExportFormat::Pages;
     QString file;
     main.compose = [&] {
         seen = control.exportFormat;
-        if (seen == ExportFormat::Html)
+        if (seen == print::ExportFormat::Html)
             control.exportFile.replace(".html", "-Alter.html");
         file = host.native(control.exportFile);
         write(file, "content");
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
-        seen = ExportFormat::Pages;
+        seen = print::ExportFormat::Pages;
         desktop.fileQuestions.clear();
         main.calls.clear();
         save({path(row.name)});
         EXPECT_EQ(seen, row.format);
-        EXPECT_EQ(main.calls.size(), row.format == ExportFormat::Pages ? 0 : 1);
+        EXPECT_EQ(main.calls.size(), row.format == print::ExportFormat::Pages ? 0 : 1);
         EXPECT_EQ(desktop.fileQuestions.size(), static_cast<std::size_t>(row.questions));
-        EXPECT_EQ(control.exportFormat, ExportFormat::Pages) << "later compositions make pages";
+        EXPECT_EQ(control.exportFormat, print::ExportFormat::Pages) << "later compositions make pages";
         EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
-        if (seen != ExportFormat::Pages) {
+        if (seen != print::ExportFormat::Pages) {
             EXPECT_EQ(said(), "Gespeichert: " + file);
         }
     }
@@ -209,9 +212,9 @@ TEST_F(Preview, SavesByTheEndingOfTheName)
 
 TEST_F(Preview, SetsThePageUp)
 {
-    PageSetup &page = control.page;
+    print::PageSetup &page = control.page;
     page.left = 1001; // no whole number of tenths of a millimetre
-    const PageSetup before = page;
+    const print::PageSetup before = page;
     desktop.dialogAnswer = [](QDialog &) {
         return false;
     };
@@ -235,7 +238,7 @@ TEST_F(Preview, SetsThePageUp)
 TEST_F(Preview, PrintsWhatItShows)
 {
     control.setDocument([] {
-        PrintDocument document = test::pagesOf(12);
+        print::PrintDocument document = test::pagesOf(12);
         document.title = "Adler/Eck: 1900";
         return document;
     }());
@@ -287,7 +290,7 @@ TEST_F(Preview, StopsPrintingWhenAsked)
         printer.setCopyCount(999); // no machine prints so much before it is asked
     });
     bool shown = false;
-    QObject::connect(&work, &Work::advanced, window.get(), [&] {
+    QObject::connect(&work, &desktop::Work::advanced, window.get(), [&] {
         auto &dialog = child<QDialog>("Druckanzeige");
         shown = dialog.isVisible() && child<QLabel>("Fortgang").text().startsWith("Drucke Seite ");
         window->toolbarbuttonclick("drucker"); // not twice at once

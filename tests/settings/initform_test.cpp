@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/initform.h"
+#include "settings/dialog/initform.h"
 
-#include "demo/texts.h"
+#include "demo/texts/texts.h"
 #include "language/texts.h"
-#include "settings/colorbutton.h"
-#include "settings/fontsample.h"
-#include "settings/lengthbox.h"
+#include "settings/dialog/colorbutton.h"
+#include "settings/dialog/fontsample.h"
+#include "settings/dialog/lengthbox.h"
 #include <gtest/gtest.h>
 #include <QCheckBox>
 #include <QComboBox>
@@ -73,25 +73,25 @@ struct InitformTest : testing::Test, test::Texts {
     bool isOpen() const { return form->isVisible(); }
 
     Druckvorgaben vorgaben;
-    PageSetup page;
+    print::PageSetup page;
     std::unique_ptr<Initform> form;
 };
 
-const QByteArray byHand =
+const QByteArray ByHand =
     "[Titel]\r\nFontsize=13.5\r\nFontunderline=#True\r\nFontcolor=red\r\n[Footer]\r\nPrint=7\r\n"
     "[Druckrand]\r\nLinks=1001\r\nOben=1003\r\n[Altersliste]\r\nAbstand=51.5\r\n"
     "[Spalten]\r\n1=401\r\n2=wide\r\n4=99999\r\n[Grafik]\r\nFontfaktor=2.123\r\nBildgroesse=66\r\n";
 
 TEST_F(InitformTest, ConfirmingWithoutAChangeKeepsEveryText)
 {
-    write(byHand);
+    write(ByHand);
     open();
     for (int row = 0; row < 7; ++row)
         control<QListWidget>("Element").setCurrentRow(row);
     click("Ende_0");
     EXPECT_FALSE(isOpen());
     const QByteArray after = bytes();
-    for (const QByteArray &line : QByteArray(byHand).replace("\r\n", "\n").split('\n'))
+    for (const QByteArray &line : QByteArray(ByHand).replace("\r\n", "\n").split('\n'))
         EXPECT_TRUE(after.contains(line)) << line.constData();
     EXPECT_EQ(setting("Footer", "Print"), "7");
     EXPECT_TRUE(desktop.messages.empty());
@@ -108,11 +108,11 @@ TEST_F(InitformTest, ConfirmingWritesWhatWasChanged)
     auto &entry = *control<ColorButton>("Backcolor").findChild<QLineEdit *>("Farbwert");
     entry.setText("ffffe0");
     QTest::keyClick(&entry, Qt::Key_Return);
-    EXPECT_EQ(control<FontSample>("Muster").style(), (TextStyle{.family = "Courier New",
-                                                                .pointSize = 8.25,
-                                                                .underline = true,
-                                                                .color = Qt::blue,
-                                                                .background = QColor(255, 255, 0xE0)}));
+    EXPECT_EQ(control<FontSample>("Muster").style(), (print::TextStyle{.family = "Courier New",
+                                                                       .pointSize = 8.25,
+                                                                       .underline = true,
+                                                                       .color = Qt::blue,
+                                                                       .background = QColor(255, 255, 0xE0)}));
 
     control<LengthBox>("Links").setValue(12.7);
     control<QRadioButton>("Ausrichtung_1").click();
@@ -122,7 +122,7 @@ TEST_F(InitformTest, ConfirmingWritesWhatWasChanged)
     control<NumberBox>("Fontfaktor").setValue(2.5);
     auto &percent = control<QComboBox>("Bildgroesse");
     percent.setCurrentIndex(percent.findText("600 %"));
-    const PageSetup before = page;
+    const print::PageSetup before = page;
     EXPECT_EQ(page.left, before.left); // not before it is confirmed
     click("Ende_0");
     EXPECT_FALSE(isOpen());
@@ -155,7 +155,7 @@ TEST_F(InitformTest, ConfirmingWritesWhatWasChanged)
 
 TEST_F(InitformTest, LeavingItOtherwiseChangesNothing)
 {
-    write(byHand);
+    write(ByHand);
     for (const bool byKey : {false, true}) {
         open();
         const Druckvorgaben before = vorgaben;
@@ -166,7 +166,7 @@ TEST_F(InitformTest, LeavingItOtherwiseChangesNothing)
         EXPECT_EQ(control<NumberBox>("Fontfaktor").value(), 3);
         byKey ? QTest::keyClick(form.get(), Qt::Key_Escape) : click("Ende_1");
         EXPECT_FALSE(isOpen());
-        EXPECT_EQ(bytes(), byHand);
+        EXPECT_EQ(bytes(), ByHand);
         EXPECT_EQ(vorgaben, before);
         EXPECT_EQ(page.left, 1001);
     }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/pageview.h"
+#include "settings/preview/pageview.h"
 
-#include "settings/controltexts.h"
+#include "settings/dialog/controltexts.h"
 #include "settings/previewfixture.h"
 #include <gtest/gtest.h>
 #include <QElapsedTimer>
@@ -11,14 +11,16 @@
 #include <QTest>
 #include <set>
 
+using namespace Qt::StringLiterals;
+
 using namespace kalvenor;
 using namespace kalvenor::settings;
 
 namespace {
 
-std::shared_ptr<const PageLayout> layoutOf(int pages)
+std::shared_ptr<const print::PageLayout> layoutOf(int pages)
 {
-    return std::make_shared<const PageLayout>(test::pagesOf(pages));
+    return std::make_shared<const print::PageLayout>(test::pagesOf(pages));
 }
 
 struct ShownView : PageView {
@@ -139,12 +141,12 @@ TEST(PageView, PaintsPaperWhiteOnADarkDesktop)
 
 TEST(PageSearch, FindsTexts)
 {
-    PrintDocument document = test::pagesOf(3);
-    const StyleId bold = document.addStyle({.bold = true});
-    document.add(RichParagraph{.runs = {{QStringLiteral("Groß"), bold}, {QStringLiteral("vater")}}});
-    document.add(TableStart{.columns = columnsFromFormat(u"<3000|>900")});
-    document.add(TableRow{.cells = {{QStringLiteral("Adler, Hans")}, {QStringLiteral("71")}}});
-    const auto layout = std::make_shared<const PageLayout>(document);
+    print::PrintDocument document = test::pagesOf(3);
+    const print::StyleId bold = document.addStyle({.bold = true});
+    document.add(print::RichParagraph{.runs = {{u"Groß"_s, bold}, {u"vater"_s}}});
+    document.add(print::TableStart{.columns = print::columnsFromFormat(u"<3000|>900")});
+    document.add(print::TableRow{.cells = {{u"Adler, Hans"_s}, {u"71"_s}}});
+    const auto layout = std::make_shared<const print::PageLayout>(document);
     const struct {
         const char *needle;
         std::vector<int> pages;

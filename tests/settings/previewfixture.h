@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "demo/texts.h"
+#include "demo/texts/texts.h"
 #include "language/texts.h"
 #include "platform/print/printcontrol.h"
 #include <utility>
 
 namespace kalvenor::test {
+
+using namespace Qt::StringLiterals;
 
 inline std::vector<TextRow> shippedTexts()
 {
@@ -20,17 +22,17 @@ inline std::vector<TextRow> shippedTexts()
 }
 
 /// Each page has a heading "Blatt n" and five lines, one of them "Zeile n Müller".
-inline PrintDocument pagesOf(int pages)
+inline print::PrintDocument pagesOf(int pages)
 {
-    PrintDocument document;
-    document.title = QStringLiteral("Alter der Familie");
-    const StyleId heading = document.addStyle({.pointSize = 18, .bold = true});
-    document.footer.text = QStringLiteral("||%d");
+    print::PrintDocument document;
+    document.title = u"Alter der Familie"_s;
+    const print::StyleId heading = document.addStyle({.pointSize = 18, .bold = true});
+    document.footer.text = u"||%d"_s;
     for (int page = 1; page <= pages; ++page) {
         if (page > 1)
-            document.add(PageBreak());
-        document.add(Paragraph{.text = QStringLiteral("Blatt %1").arg(page), .style = heading});
-        document.add(Paragraph{.text = QStringLiteral("Zeile %1 Müller\nHans\nEva\nIda").arg(page)});
+            document.add(print::PageBreak());
+        document.add(print::Paragraph{.text = u"Blatt %1"_s.arg(page), .style = heading});
+        document.add(print::Paragraph{.text = u"Zeile %1 Müller\nHans\nEva\nIda"_s.arg(page)});
     }
     return document;
 }

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "statistics/altersliste.h"
+#include "statistics/ages/altersliste.h"
 
 #include "platform/basic/number.h"
-#include "statistics/alter.h"
+#include "statistics/ages/alter.h"
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ TEST(Alterstext, IsSevenCharactersWide)
 TEST(Alterstext, IsTheNumberTextSetInColumns)
 {
     for (int days = 0; days < 400'000; days += 7) {
-        QString text = "     " + trimmedNumberText(altersjahre(days));
+        QString text = "     " + basic::trimmedNumberText(altersjahre(days));
         text += text.contains('.') ? "" : ".0";
         EXPECT_EQ(alterstext(days), text.replace(" 0.0", "  .0").append("  ").right(7)) << days;
     }
@@ -100,8 +100,8 @@ TEST(Alterslistenausgabe, IsEmptyWithoutMarksAndKeepsLinesWhenStopped)
         alterslistenausgabe(started.program.databases, {1, 1, 0, 0}, list,
                             [](qint64 done, qint64 total) { return total != 600 || done < 256; });
         FAIL() << "not stopped";
-    } catch (const Error &error) {
-        EXPECT_EQ(error.kind(), ErrorKind::Cancelled);
+    } catch (const basic::Error &error) {
+        EXPECT_EQ(error.kind(), basic::ErrorKind::Cancelled);
     }
     EXPECT_EQ(list.size(), 256U);
 }

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "statistics/grafik.h"
+#include "statistics/figures/grafik.h"
 
 #include "platform/basic/date.h"
 #include "platform/basic/number.h"
@@ -55,7 +55,7 @@ std::string expected(const std::vector<TestPerson> &persons, const Grafikwahl &w
         if ((person.sex == "M" && boxes[2] == 1) || (person.sex == "W" && boxes[3] == 1)) {
             lowest = std::min(lowest, days);
             highest = std::max(highest, days);
-            century = formatDate(wahl.nachGeburtsjahr ? birth : death, u"dd-mm-yyyy").mid(6, 2).toInt();
+            century = basic::formatDate(wahl.nachGeburtsjahr ? birth : death, u"dd-mm-yyyy").mid(6, 2).toInt();
         }
         last = std::max(last, century);
         for (const char group : {person.sex == "M" ? 'M' : 'W', 'A'}) {
@@ -66,18 +66,19 @@ std::string expected(const std::vector<TestPerson> &persons, const Grafikwahl &w
     QStringList counts, averages;
     for (const char *group : {"M", "W", "all"}) {
         counts << QString::number(count[group]);
-        averages << (count[group] < 1 ? QString("-")
-                                      : trimmedNumberText(std::floor(sum[group] / 365 / count[group] * 10) / 10));
+        averages << (count[group] < 1
+                         ? QString("-")
+                         : basic::trimmedNumberText(std::floor(sum[group] / 365 / count[group] * 10) / 10));
     }
     const auto years = [](double days) {
-        return numberText(std::floor(days / 365 * 10) / 10);
+        return basic::numberText(std::floor(days / 365 * 10) / 10);
     };
     lowest = lowest == 999 ? 0 : lowest;
     const bool both = boxes[2] == 1 && boxes[3] == 1;
     const QString columns = both ? "M W A" : boxes[2] == 1 ? "M" : boxes[3] == 1 ? "W" : "A";
     QStringList lines{counts.join(' '), averages.join(' '),
                       lowest < highest ? years(lowest) + " | " + years(highest) : "no range",
-                      numberText(without) + " ohne * / + Datum", QString(columns).replace("A", "Alle")};
+                      basic::numberText(without) + " ohne * / + Datum", QString(columns).replace("A", "Alle")};
     int row = 1;
     while (row <= last && cells[{row, 'M'}].second == 0 && cells[{row, 'W'}].second == 0)
         ++row;
@@ -86,7 +87,7 @@ std::string expected(const std::vector<TestPerson> &persons, const Grafikwahl &w
             QStringList line;
             for (const QString &group : columns.split(' ')) {
                 const auto &[number, sumOfYears] = cells[{row, group[0].toLatin1()}];
-                line << trimmedNumberText(sumOfYears / (number == 0 ? 1 : number));
+                line << basic::trimmedNumberText(sumOfYears / (number == 0 ? 1 : number));
             }
             lines << " " + QString::number(row) + "00-99:" + line.join(' ');
         }
@@ -143,20 +144,20 @@ TEST(Jahrhundert, IsThatOfTheFormattedDate)
 {
     // Both grow with the day, so that they agree everywhere where they agree on both sides of each change.
     for (int century = 1; century <= 99; ++century) {
-        const auto start = double(*dayNumber(century * 100, 1, 1));
+        const auto start = double(*basic::dayNumber(century * 100, 1, 1));
         for (const double day : {start - 1, start - 0.75, start, start + 0.5, start + 36'000}) {
-            const QString date = formatDate(day, u"dd-mm-yyyy");
+            const QString date = basic::formatDate(day, u"dd-mm-yyyy");
             if (date.isEmpty())
-                EXPECT_THROW(jahrhundert(day), Error) << day;
+                EXPECT_THROW(jahrhundert(day), basic::Error) << day;
             else
                 EXPECT_EQ(jahrhundert(day), date.mid(6, 2).toInt()) << date.toStdString();
         }
     }
-    EXPECT_EQ(jahrhundert(double(*dayNumber(1900, 1, 1)) - 1e-7), 19) << "rounds up to midnight";
-    const auto end = double(*dayNumber(9999, 12, 31));
+    EXPECT_EQ(jahrhundert(double(*basic::dayNumber(1900, 1, 1)) - 1e-7), 19) << "rounds up to midnight";
+    const auto end = double(*basic::dayNumber(9999, 12, 31));
     EXPECT_EQ(jahrhundert(end), 99);
     for (const double day : {end + 1, -1e300, 1e300, std::nan("")})
-        EXPECT_THROW(jahrhundert(day), Error) << day;
+        EXPECT_THROW(jahrhundert(day), basic::Error) << day;
 }
 
 TEST(Grafikermittlung, FollowsTheRulesForRandomPersons)
@@ -248,10 +249,10 @@ TEST(Grafikermitteln, NamesThePersonWhoseDateIsNoneAndCanBeStopped)
 {
     test::StartedProgram started(
         {{.counter = 4711, .listname = "Abel, Max", .marked = true, .birth = -9'000'000, .death = 5}});
-    const auto kindOf = [&](bool byBirth, const Progress &progress) {
+    const auto kindOf = [&](bool byBirth, const basic::Progress &progress) {
         try {
             grafikermitteln(started.program.databases, {{1, 1, 1, 1}, byBirth}, progress);
-        } catch (const Error &error) {
+        } catch (const basic::Error &error) {
             return QString("%1 %2").arg(int(error.kind())).arg(error.message());
         }
         return QString();
@@ -259,6 +260,7 @@ TEST(Grafikermitteln, NamesThePersonWhoseDateIsNoneAndCanBeStopped)
     const QString named = kindOf(true, {});
     EXPECT_TRUE(named.contains("Abel, Max (4711)") && named.contains("-9000000")) << named.toStdString();
     EXPECT_EQ(kindOf(false, {}), "");
-    EXPECT_TRUE(
-        kindOf(false, [](qint64, qint64) { return false; }).startsWith(QString::number(int(ErrorKind::Cancelled))));
+    EXPECT_TRUE(kindOf(false, [](qint64, qint64) {
+                    return false;
+                }).startsWith(QString::number(int(basic::ErrorKind::Cancelled))));
 }

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "statistics/texteditor.h"
+#include "statistics/introduction/texteditor.h"
 
+#include "language/forms/widgetform.h"
 #include "language/texts.h"
-#include "language/widgetform.h"
 #include <gtest/gtest.h>
 #include <QAction>
 #include <QApplication>
@@ -15,6 +15,8 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextEdit>
+
+using namespace Qt::StringLiterals;
 
 using namespace kalvenor;
 using namespace kalvenor::statistics;
@@ -32,7 +34,7 @@ protected:
     bool writes(const char *part) const { return editor.rtf().contains(part); }
     QString put(const QByteArray &content)
     {
-        QFile file(texts.folder.filePath(QStringLiteral("a.rtf")));
+        QFile file(texts.folder.filePath(u"a.rtf"_s));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
         return file.fileName();
     }
@@ -40,16 +42,16 @@ protected:
     {
         auto *data = new QMimeData;
         data->setHtml(html);
-        data->setText(QStringLiteral("plain"));
+        data->setText(u"plain"_s);
         if (!rtf.isEmpty())
-            data->setData(QStringLiteral("text/rtf"), rtf);
+            data->setData(u"text/rtf"_s, rtf);
         QApplication::clipboard()->setMimeData(data);
         field->paste();
     }
 
     test::Texts texts{{}};
     TextEditor editor{texts.module, texts.host};
-    QTextEdit *field = editor.findChild<QTextEdit *>(QStringLiteral("RTFtextfeld0"));
+    QTextEdit *field = editor.findChild<QTextEdit *>(u"RTFtextfeld0"_s);
     QSignalSpy changes{&editor, &TextEditor::changed};
     QSignalSpy messages{&editor, &TextEditor::said};
 };
@@ -87,15 +89,14 @@ TEST_F(TextEditorTest, ToolsAndKeysFormat)
     EXPECT_TRUE(writes("\\ul\\f0"));
     EXPECT_EQ(other.count(), 0);
 
-    auto *size = editor.findChild<QComboBox *>(QStringLiteral("Schriftgroesse"));
-    size->setEditText(QStringLiteral("8,5"));
+    auto *size = editor.findChild<QComboBox *>(u"Schriftgroesse"_s);
+    size->setEditText(u"8,5"_s);
     Q_EMIT size->textActivated(size->currentText());
     EXPECT_TRUE(writes("\\fs17"));
-    editor.findChild<QAction *>(QStringLiteral("Textmenue"));
-    for (QAction *color :
-         editor.findChild<QWidget *>(QStringLiteral("Schriftfarbe"))->findChild<QMenu *>()->actions()) {
+    editor.findChild<QAction *>(u"Textmenue"_s);
+    for (QAction *color : editor.findChild<QWidget *>(u"Schriftfarbe"_s)->findChild<QMenu *>()->actions()) {
         color->trigger();
-        EXPECT_EQ(writes("\\cf1"), color->text() != QStringLiteral("Automatisch")) << color->text().toStdString();
+        EXPECT_EQ(writes("\\cf1"), color->text() != u"Automatisch"_s) << color->text().toStdString();
     }
 }
 
@@ -107,13 +108,13 @@ TEST_F(TextEditorTest, KeepsWhatWasNotEdited)
     EXPECT_FALSE(editor.isModified() || editor.isEmpty());
     EXPECT_EQ(changes.count(), 0);
     ASSERT_EQ(messages.count(), 1);
-    EXPECT_TRUE(messages[0][0].toString().contains(QStringLiteral("Bilder")));
+    EXPECT_TRUE(messages[0][0].toString().contains(u"Bilder"_s));
 
-    QTest::keyClicks(field, QStringLiteral("x"));
+    QTest::keyClicks(field, u"x"_s);
     EXPECT_TRUE(editor.isModified() && changes.count() > 0 && writes("xText"));
     field->undo();
     EXPECT_EQ(editor.rtf(), original);
-    QTest::keyClicks(field, QStringLiteral("y"));
+    QTest::keyClicks(field, u"y"_s);
     const QByteArray edited = editor.rtf();
     editor.setModified(false);
     EXPECT_FALSE(editor.isModified());
@@ -148,12 +149,12 @@ TEST_F(TextEditorTest, PastesOnlyWhatItOffers)
     }
     editor.setRtf("vor nach");
     field->moveCursor(QTextCursor::NextWord);
-    paste(QStringLiteral("html"), "{\\rtf1\\i rtf\\par\\pard\\qc mitte }");
-    EXPECT_EQ(field->toPlainText(), QStringLiteral("vor rtf\nmitte nach"));
+    paste(u"html"_s, "{\\rtf1\\i rtf\\par\\pard\\qc mitte }");
+    EXPECT_EQ(field->toPlainText(), u"vor rtf\nmitte nach"_s);
     EXPECT_TRUE(writes("\\i\\f1\\fs24 rtf") || writes("\\i\\fs24 rtf")) << editor.rtf().toStdString();
     editor.setRtf({});
     trigger("Ohneformateeinfuegen");
-    EXPECT_EQ(field->toPlainText(), QStringLiteral("plain"));
+    EXPECT_EQ(field->toPlainText(), u"plain"_s);
 }
 
 TEST_F(TextEditorTest, OpensAndSavesFiles)
@@ -162,7 +163,7 @@ TEST_F(TextEditorTest, OpensAndSavesFiles)
     editor.setRtf("alt");
     texts.desktop.fileAnswers = {put(original)};
     trigger("Textoeffnen");
-    EXPECT_EQ(field->toPlainText(), QStringLiteral("neu\nmitte"));
+    EXPECT_EQ(field->toPlainText(), u"neu\nmitte"_s);
     EXPECT_TRUE(editor.isModified() && changes.count() == 1);
     EXPECT_EQ(editor.rtf(), original);
     field->undo();
@@ -170,8 +171,8 @@ TEST_F(TextEditorTest, OpensAndSavesFiles)
     field->redo();
     EXPECT_EQ(editor.rtf(), original);
 
-    const QString target = texts.folder.filePath(QStringLiteral("b.rtf"));
-    texts.desktop.fileAnswers = {target, texts.folder.filePath(QStringLiteral("no/such/folder.rtf"))};
+    const QString target = texts.folder.filePath(u"b.rtf"_s);
+    texts.desktop.fileAnswers = {target, texts.folder.filePath(u"no/such/folder.rtf"_s)};
     trigger("Textspeichern");
     QFile saved(target);
     ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
@@ -180,7 +181,7 @@ TEST_F(TextEditorTest, OpensAndSavesFiles)
     trigger("Textspeichern");
     EXPECT_EQ(texts.desktop.messages.size(), 1U);
 
-    for (const QString &bad : {texts.folder.filePath(QStringLiteral("missing.rtf")), put(QByteArray("a\0b", 3))}) {
+    for (const QString &bad : {texts.folder.filePath(u"missing.rtf"_s), put(QByteArray("a\0b", 3))}) {
         texts.desktop.fileAnswers = {bad};
         trigger("Textoeffnen");
         EXPECT_TRUE(texts.desktop.messages.back().text.contains(bad));

@@ -9,7 +9,7 @@
 namespace kalvenor::test {
 
 /// A desktop that remembers what it was told and answers OK.
-class FakeDesktop : public Desktop {
+class FakeDesktop : public desktop::Desktop {
 public:
     struct Message {
         QString text;
@@ -17,7 +17,7 @@ public:
         QString title;
     };
     struct Placement {
-        StackPlace place;
+        desktop::StackPlace place;
         bool activate;
     };
 
@@ -25,35 +25,35 @@ public:
     {
         messages.push_back({text, style, title});
         if (answers.empty())
-            return ResultOk;
+            return desktop::ResultOk;
         const int answer = answers.front();
         answers.erase(answers.begin());
         return answer;
     }
-    void runtimeError(const Error &error) override { errors.push_back(error.message()); }
-    void setPointer(Pointer pointer) override { pointers.push_back(pointer); }
-    bool setStackPlace(QWindow *, StackPlace place, bool activate) override
+    void runtimeError(const basic::Error &error) override { errors.push_back(error.message()); }
+    void setPointer(desktop::Pointer pointer) override { pointers.push_back(pointer); }
+    bool setStackPlace(QWindow *, desktop::StackPlace place, bool activate) override
     {
         placements.push_back({place, activate});
         return true;
     }
 
-    QString openFileName(QWidget *, const FileQuestion &question) override { return answered(question); }
-    QString saveFileName(QWidget *, const FileQuestion &question) override { return answered(question); }
-    QString chooseFolder(QWidget *, const FileQuestion &question) override { return answered(question); }
+    QString openFileName(QWidget *, const desktop::FileQuestion &question) override { return answered(question); }
+    QString saveFileName(QWidget *, const desktop::FileQuestion &question) override { return answered(question); }
+    QString chooseFolder(QWidget *, const desktop::FileQuestion &question) override { return answered(question); }
     bool runDialog(QDialog &dialog) override { return dialogAnswer && dialogAnswer(dialog); }
 
     std::vector<int> answers; ///< to the next message boxes in turn; none left: OK
     std::vector<Message> messages;
     std::vector<QString> errors;
-    std::vector<Pointer> pointers;
+    std::vector<desktop::Pointer> pointers;
     std::vector<Placement> placements;
-    std::vector<FileQuestion> fileQuestions;
+    std::vector<desktop::FileQuestion> fileQuestions;
     std::vector<QString> fileAnswers;            ///< given to the next file dialogs in turn; none left: cancelled
     std::function<bool(QDialog &)> dialogAnswer; ///< fills in a dialog and says whether it is accepted
 
 private:
-    QString answered(const FileQuestion &question)
+    QString answered(const desktop::FileQuestion &question)
     {
         fileQuestions.push_back(question);
         if (fileAnswers.empty())

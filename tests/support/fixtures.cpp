@@ -5,10 +5,12 @@
 #include "platform/basic/codepage.h"
 #include "platform/basic/error.h"
 #include "platform/basic/path.h"
-#include "platform/jet/creator.h"
+#include "platform/jet/creator/creator.h"
 #include <QDir>
 #include <QFile>
 #include <set>
+
+using namespace Qt::StringLiterals;
 
 namespace kalvenor::test {
 
@@ -51,7 +53,7 @@ NewValue orNull(std::optional<qint32> number)
 
 std::vector<jet::NewIndex> counterIndex(bool unique = true)
 {
-    return {{.name = QStringLiteral("Counter"), .columns = {QStringLiteral("Counter")}, .unique = unique}};
+    return {{.name = u"Counter"_s, .columns = {u"Counter"_s}, .unique = unique}};
 }
 
 /// The rows get the counters 1, 2, …
@@ -75,7 +77,7 @@ void addPersons(jet::Creator &creator, const std::vector<TestPerson> &persons)
     std::set<qint32> counters;
     for (const TestPerson &person : persons)
         counters.insert(person.counter);
-    auto &table = creator.addTable(QStringLiteral("Daten"),
+    auto &table = creator.addTable(u"Daten"_s,
                                    {column("Counter"), text("Listname"), column("Markierung", ColumnType::Boolean),
                                     text("nnamen"), text("vnamen"), text("Geschlecht", 1), column("Geburtsdatum"),
                                     text("Geburt_XX", 10), column("Sterbedatum"), text("sterbe_XX", 10),
@@ -94,32 +96,26 @@ void addPersons(jet::Creator &creator, const std::vector<TestPerson> &persons)
 std::vector<TestTable> otherFamilyTables()
 {
     return {
-        {QStringLiteral("Baum"), {text("Name"), column("Person")}, {{some("Vorfahren"), 1}}},
-        {QStringLiteral("Baum_DS"), {column("Baum"), column("x", ColumnType::Double)}, {{1, 12.5}}},
-        {QStringLiteral("Bilder"), {text("Datei"), column("Vorschau", ColumnType::Ole)}, {{some("bild.jpg"), {}}}},
-        {QStringLiteral("Daten_DS"), {column("Person"), text("Wert", 255)}, {{1, some("Schmied")}}},
-        {QStringLiteral("Dokument"),
-         {text("Datei"), column("Datum", ColumnType::DateTime)},
-         {{some("brief.txt"), 36526.25}}},
-        {QStringLiteral("Ereignis"),
-         {text("Bezeichnung"), column("aktiv", ColumnType::Boolean)},
-         {{some("Taufe"), true}}},
-        {QStringLiteral("Ereignis_DS"), {column("Person"), column("Text", ColumnType::Memo)}, {{1, some("getauft")}}},
-        {QStringLiteral("Familie"), {column("Vater"), column("Mutter")}, {{1, 2}}},
-        {QStringLiteral("Galerie"), {text("Titel")}, {{some("Hof")}}},
-        {QStringLiteral("Galerie_DS"), {column("Galerie"), column("Bild")}, {{1, 1}}},
-        {QStringLiteral("Namen_DS"), {column("Person"), text("Name")}, {{1, some("Müller")}}},
-        {QStringLiteral("Namen"), {text("Name")}, {{some("Müller")}, {some("Weiß")}}},
-        {QStringLiteral("Quellen_DS"),
-         {column("Person"), column("Quelle", ColumnType::Memo)},
-         {{1, some("Kirchenbuch")}}},
-        {QStringLiteral("Referenz"), {column("von"), column("nach")}, {{1, 2}}},
-        {QStringLiteral("Ort"), {text("Name")}, {{some("Nürnberg")}}},
-        {QStringLiteral("Stichwort"), {text("Stichwort")}, {{some("Auswanderer")}}},
-        {QStringLiteral("Stichwort_DS"), {column("Stichwort"), column("Person")}, {{1, 1}}},
-        {QStringLiteral("Adressen"), {text("Ort")}, {{some("Köln")}}},
-        {QStringLiteral("Adressen_DS "), {column("Adresse"), column("Person")}, {{1, 1}}}, // the blank belongs to it
-        {QStringLiteral("Version"), {text("Version", 20)}, {{some("1.0")}}},
+        {u"Baum"_s, {text("Name"), column("Person")}, {{some("Vorfahren"), 1}}},
+        {u"Baum_DS"_s, {column("Baum"), column("x", ColumnType::Double)}, {{1, 12.5}}},
+        {u"Bilder"_s, {text("Datei"), column("Vorschau", ColumnType::Ole)}, {{some("bild.jpg"), {}}}},
+        {u"Daten_DS"_s, {column("Person"), text("Wert", 255)}, {{1, some("Schmied")}}},
+        {u"Dokument"_s, {text("Datei"), column("Datum", ColumnType::DateTime)}, {{some("brief.txt"), 36526.25}}},
+        {u"Ereignis"_s, {text("Bezeichnung"), column("aktiv", ColumnType::Boolean)}, {{some("Taufe"), true}}},
+        {u"Ereignis_DS"_s, {column("Person"), column("Text", ColumnType::Memo)}, {{1, some("getauft")}}},
+        {u"Familie"_s, {column("Vater"), column("Mutter")}, {{1, 2}}},
+        {u"Galerie"_s, {text("Titel")}, {{some("Hof")}}},
+        {u"Galerie_DS"_s, {column("Galerie"), column("Bild")}, {{1, 1}}},
+        {u"Namen_DS"_s, {column("Person"), text("Name")}, {{1, some("Müller")}}},
+        {u"Namen"_s, {text("Name")}, {{some("Müller")}, {some("Weiß")}}},
+        {u"Quellen_DS"_s, {column("Person"), column("Quelle", ColumnType::Memo)}, {{1, some("Kirchenbuch")}}},
+        {u"Referenz"_s, {column("von"), column("nach")}, {{1, 2}}},
+        {u"Ort"_s, {text("Name")}, {{some("Nürnberg")}}},
+        {u"Stichwort"_s, {text("Stichwort")}, {{some("Auswanderer")}}},
+        {u"Stichwort_DS"_s, {column("Stichwort"), column("Person")}, {{1, 1}}},
+        {u"Adressen"_s, {text("Ort")}, {{some("Köln")}}},
+        {u"Adressen_DS "_s, {column("Adresse"), column("Person")}, {{1, 1}}}, // the blank belongs to it
+        {u"Version"_s, {text("Version", 20)}, {{some("1.0")}}},
     };
 }
 
@@ -155,8 +151,8 @@ void writeTexts(const QString &file)
         {1205, "Statistik", "Statistics"},
     };
     jet::Creator creator;
-    auto &languages = creator.addTable(QStringLiteral("Languages"),
-                                       {column("Counter"), text("Deutsch", 255), text("English", 255)}, counterIndex());
+    auto &languages = creator.addTable(u"Languages"_s, {column("Counter"), text("Deutsch", 255), text("English", 255)},
+                                       counterIndex());
     for (const auto &row : texts)
         languages.addRow({row.id, some(row.deutsch), some(row.english)});
     creator.write(file);
@@ -179,33 +175,30 @@ void writeFamily(const QString &file, const std::vector<TestPerson> &persons, st
 
 void writeHost(const QString &folder, const std::vector<TestPerson> &persons)
 {
-    const QDir host(folder + QStringLiteral("/QV"));
+    const QDir host(folder + u"/QV"_s);
     for (const char *part : {"Kalvenor", "Familie", "Ausgabe"}) {
         if (!host.mkpath(QLatin1String(part)))
-            throw Error(ErrorKind::WriteFailed, host.path(), QStringLiteral("The folder cannot be made."));
+            throw basic::Error(basic::ErrorKind::WriteFailed, host.path(), u"The folder cannot be made."_s);
     }
-    const QString family = host.filePath(QStringLiteral("Familie/familie.mdb"));
+    const QString family = host.filePath(u"Familie/familie.mdb"_s);
     writeFamily(family, persons);
-    writeDatabase(host.filePath(QStringLiteral("Ereignis.mdb")),
-                  {eventKinds("Deutsch", "Geburt", "Tod"),
-                   eventKinds("English", "Birth", "Death"),
-                   {QStringLiteral("Namenfont"), {text("Name")}, {{some("Arial")}}}});
-    writeDatabase(host.filePath(QStringLiteral("Geschichte.mdb")),
-                  {{QStringLiteral("Ereignis"), {column("Jahr"), text("Text")}, {{1648, some("Friede")}}}});
-    writeDatabase(host.filePath(QStringLiteral("namen.mdb")),
-                  {{QStringLiteral("Namen"), {text("Name")}, {{some("Johann")}}}});
-    writeDatabase(host.filePath(QStringLiteral("orte.mdb")),
-                  {{QStringLiteral("Orte"), {text("Name")}, {{some("Nürnberg")}}}});
-    writeTexts(host.filePath(QStringLiteral("ADD-IN-LANGUAGE.MDB")));
-    writeTexts(host.filePath(QStringLiteral("language.mdb")));
+    writeDatabase(host.filePath(u"Ereignis.mdb"_s), {eventKinds("Deutsch", "Geburt", "Tod"),
+                                                     eventKinds("English", "Birth", "Death"),
+                                                     {u"Namenfont"_s, {text("Name")}, {{some("Arial")}}}});
+    writeDatabase(host.filePath(u"Geschichte.mdb"_s),
+                  {{u"Ereignis"_s, {column("Jahr"), text("Text")}, {{1648, some("Friede")}}}});
+    writeDatabase(host.filePath(u"namen.mdb"_s), {{u"Namen"_s, {text("Name")}, {{some("Johann")}}}});
+    writeDatabase(host.filePath(u"orte.mdb"_s), {{u"Orte"_s, {text("Name")}, {{some("Nürnberg")}}}});
+    writeTexts(host.filePath(u"ADD-IN-LANGUAGE.MDB"_s));
+    writeTexts(host.filePath(u"language.mdb"_s));
 
-    const QString settings = QStringLiteral("[Ansicht]\r\nSprache=Deutsch\r\nKurzhilfe=1\r\nAddInonTop=0\r\n"
-                                            "[QV-Files]\r\n0=%1\r\n[Verzeichnisse]\r\nPrints=%2\r\n")
-                                 .arg(windowsPath(family), windowsPath(host.filePath(QStringLiteral("Ausgabe"))));
-    QFile file(host.filePath(QStringLiteral("programm.ini")));
-    const QByteArray bytes = encodeAnsi(settings);
+    const QString settings = u"[Ansicht]\r\nSprache=Deutsch\r\nKurzhilfe=1\r\nAddInonTop=0\r\n"
+                             "[QV-Files]\r\n0=%1\r\n[Verzeichnisse]\r\nPrints=%2\r\n"_s.arg(
+                                 basic::windowsPath(family), basic::windowsPath(host.filePath(u"Ausgabe"_s)));
+    QFile file(host.filePath(u"programm.ini"_s));
+    const QByteArray bytes = basic::encodeAnsi(settings);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        throw Error(ErrorKind::WriteFailed, file.fileName(), file.errorString());
+        throw basic::Error(basic::ErrorKind::WriteFailed, file.fileName(), file.errorString());
 }
 
 } // namespace kalvenor::test

@@ -10,12 +10,14 @@
 // Small databases and host installations for tests, made by the program's own creator.
 namespace kalvenor::test {
 
+using namespace Qt::StringLiterals;
+
 /// One row of the person table. Dates are day numbers, nothing = null.
 struct TestPerson {
     qint32 counter = 0;
     QString listname = {}; ///< "Surname, First names"
     bool marked = false;
-    QString sex = QStringLiteral("M");
+    QString sex = u"M"_s;
     std::optional<qint32> birth = {}, death = {};
     qint32 father = 0, mother = 0;
     QString birthXX = {}, deathXX = {}; ///< empty = null

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/auswahl.h"
-#include "selection/personlistpanel.h"
-#include "selection/selectionpanel.h"
+#include "app/window/auswahl.h"
+#include "selection/panel/personlistpanel.h"
+#include "selection/panel/selectionpanel.h"
 #include "support/startedprogram.h"
 #include <algorithm>
 #include <functional>
@@ -16,6 +16,8 @@
 #include <stdexcept>
 
 namespace kalvenor::test {
+
+using namespace Qt::StringLiterals;
 
 using selection::PersonList;
 
@@ -63,14 +65,14 @@ struct OpenWindow : Installation {
     {
         dao::Engine engine;
         const auto persons = engine.workspace(0).openDatabase(family())->openQuery(query);
-        const int field = persons->fieldIndex(QStringLiteral("Counter"));
+        const int field = persons->fieldIndex(u"Counter"_s);
         std::vector<qint32> counters;
         for (; !persons->eof(); persons->moveNext())
             counters.push_back(persons->integer(field).value_or(0));
         return counters;
     }
     std::vector<qint32> marked() { return inFile(selection::plainListQuery(PersonList::Marked)); }
-    QString family() const { return hostFolder() + QStringLiteral("/Familie/familie.mdb"); }
+    QString family() const { return hostFolder() + u"/Familie/familie.mdb"_s; }
 
     void select(PersonList list, std::initializer_list<qint32> counters)
     {

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/program.h"
+#include "app/start/program.h"
 #include "support/fakedesktop.h"
 #include "support/fixtures.h"
 #include <QTemporaryDir>
@@ -10,12 +10,14 @@
 
 namespace kalvenor::test {
 
+using namespace Qt::StringLiterals;
+
 /// A host installation of its own in a temporary folder.
 struct Installation {
     explicit Installation(const std::vector<TestPerson> &persons = {}) { writeHost(folder.path(), persons); }
-    QString hostFolder() const { return folder.path() + QStringLiteral("/QV"); }
-    QString programFolder() const { return windowsPath(hostFolder() + QStringLiteral("/Kalvenor")); }
-    QString settings() const { return windowsPath(hostFolder() + QStringLiteral("/programm.ini")); }
+    QString hostFolder() const { return folder.path() + u"/QV"_s; }
+    QString programFolder() const { return basic::windowsPath(hostFolder() + u"/Kalvenor"_s); }
+    QString settings() const { return basic::windowsPath(hostFolder() + u"/programm.ini"_s); }
     QTemporaryDir folder;
 };
 

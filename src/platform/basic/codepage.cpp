@@ -8,7 +8,7 @@
 
 #include "platform/basic/codepage_tables.h"
 
-namespace kalvenor {
+namespace kalvenor::basic {
 
 namespace {
 
@@ -69,4 +69,4 @@ QByteArray encodeCodePage(QStringView text, int codePage)
     return bytes;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

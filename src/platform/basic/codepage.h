@@ -9,7 +9,7 @@
 
 // The single-byte code pages of Windows, 1250 to 1258. Tables from the Unicode Consortium's mappings
 // (unicode.org/Public/MAPPINGS/VENDORS/MICSFT/WINDOWS); a byte they leave undefined maps to the same code point.
-namespace kalvenor {
+namespace kalvenor::basic {
 
 bool isKnownCodePage(int codePage);
 /// An unknown code page is read as 1252.
@@ -26,4 +26,4 @@ inline QByteArray encodeAnsi(QStringView text)
     return encodeCodePage(text, 1252);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

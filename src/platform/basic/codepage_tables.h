@@ -6,7 +6,7 @@
 
 // Code points of the bytes 0x80 to 0xFF, one array a code page from 1250 to 1258.
 // Facts from unicode.org/Public/MAPPINGS/VENDORS/MICSFT/WINDOWS; undefined bytes stand as their own number.
-namespace kalvenor {
+namespace kalvenor::basic {
 
 using UpperHalf = std::array<char16_t, 128>;
 
@@ -112,4 +112,4 @@ inline constexpr std::array<UpperHalf, 9> CodePageUpperHalves = {{
      0x01A1, 0x00F6, 0x00F7, 0x00F8, 0x00F9, 0x00FA, 0x00FB, 0x00FC, 0x01B0, 0x20AB, 0x00FF},
 }};
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

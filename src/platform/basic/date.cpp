@@ -8,7 +8,9 @@
 #include <QLocale>
 #include <QRegularExpression>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::basic {
 
 namespace {
 
@@ -34,8 +36,8 @@ std::optional<qint64> datedParts(QStringView yearText, QStringView monthText, QS
 std::optional<qint64> readDate(QStringView text, DateOrder order)
 {
     // In US order "." separates the parts of a time of day.
-    static const QRegularExpression German(QStringLiteral("^([0-9]{1,4}) *[-/.] *([0-9]{1,4}) *[-/.] *([0-9]{1,4})$"));
-    static const QRegularExpression American(QStringLiteral("^([0-9]{1,4}) *[-/] *([0-9]{1,4}) *[-/] *([0-9]{1,4})$"));
+    static const QRegularExpression German(u"^([0-9]{1,4}) *[-/.] *([0-9]{1,4}) *[-/.] *([0-9]{1,4})$"_s);
+    static const QRegularExpression American(u"^([0-9]{1,4}) *[-/] *([0-9]{1,4}) *[-/] *([0-9]{1,4})$"_s);
     const bool dayFirst = order == DateOrder::DayMonthYear;
     const QRegularExpressionMatch match = (dayFirst ? German : American).match(text);
     if (!match.hasMatch())
@@ -54,9 +56,8 @@ std::optional<qint64> readDate(QStringView text, DateOrder order)
 
 std::optional<double> readTime(QStringView text, DateOrder order)
 {
-    static const QRegularExpression Colons(QStringLiteral("^([0-9]{1,2}) *: *([0-9]{1,2})(?: *: *([0-9]{1,2}))?$"));
-    static const QRegularExpression ColonsOrPoints(
-        QStringLiteral("^([0-9]{1,2}) *[:.] *([0-9]{1,2})(?: *[:.] *([0-9]{1,2}))?$"));
+    static const QRegularExpression Colons(u"^([0-9]{1,2}) *: *([0-9]{1,2})(?: *: *([0-9]{1,2}))?$"_s);
+    static const QRegularExpression ColonsOrPoints(u"^([0-9]{1,2}) *[:.] *([0-9]{1,2})(?: *[:.] *([0-9]{1,2}))?$"_s);
     const auto match = (order == DateOrder::DayMonthYear ? Colons : ColonsOrPoints).match(text);
     if (!match.hasMatch())
         return std::nullopt;
@@ -172,4 +173,4 @@ QString formatDate(double serial, QStringView pattern)
     return result;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

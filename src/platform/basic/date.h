@@ -8,7 +8,7 @@
 
 // Date serials: day 0 is 30 December 1899; the fraction is the time of day, and for negative serials it still
 // counts forwards. Years 100 to 9999.
-namespace kalvenor {
+namespace kalvenor::basic {
 
 /// In which order the system writes dates.
 enum class DateOrder {
@@ -37,4 +37,4 @@ QString dateText(double serial, DateOrder order);
 /// A serial outside the years 100–9999 (or NaN) gives "".
 QString formatDate(double serial, QStringView pattern);
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

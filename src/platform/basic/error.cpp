@@ -4,7 +4,9 @@
 
 #include <utility>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::basic {
 
 Error::Error(ErrorKind kind, QString place, QString text)
     : m_kind(kind), m_place(std::move(place)), m_text(std::move(text)), m_utf8(message().toUtf8())
@@ -13,7 +15,7 @@ Error::Error(ErrorKind kind, QString place, QString text)
 
 QString Error::message() const
 {
-    return m_place.isEmpty() ? m_text : m_place + QStringLiteral(": ") + m_text;
+    return m_place.isEmpty() ? m_text : m_place + u": "_s + m_text;
 }
 
 int Error::number() const
@@ -63,4 +65,4 @@ int Error::number() const
     return 51;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

@@ -6,7 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
-namespace kalvenor {
+namespace kalvenor::basic {
 
 /// What went wrong, coarse enough to choose an answer by.
 enum class ErrorKind {
@@ -55,4 +55,4 @@ private:
     QByteArray m_utf8;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

@@ -10,7 +10,9 @@
 #include "platform/basic/error.h"
 #include "platform/basic/text.h"
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::basic {
 
 namespace {
 
@@ -134,8 +136,7 @@ Integer rounded(double value)
     const double whole = std::nearbyint(value); // half to even in the default rounding mode
     if (!(whole >= std::numeric_limits<Integer>::min() && whole <= std::numeric_limits<Integer>::max()))
         throw Error(ErrorKind::Overflow, {},
-                    QStringLiteral("the number %1 is outside %2 to %3")
-                        .arg(value)
+                    u"the number %1 is outside %2 to %3"_s.arg(value)
                         .arg(std::numeric_limits<Integer>::min())
                         .arg(std::numeric_limits<Integer>::max()));
     return static_cast<Integer>(whole);
@@ -154,11 +155,11 @@ double leadingNumber(QStringView text)
 QString trimmedNumberText(double value)
 {
     if (std::isnan(value))
-        return QStringLiteral("-1.#IND");
+        return u"-1.#IND"_s;
     if (std::isinf(value))
-        return value < 0 ? QStringLiteral("-1.#INF") : QStringLiteral("1.#INF");
+        return value < 0 ? u"-1.#INF"_s : u"1.#INF"_s;
     if (value == 0)
-        return QStringLiteral("0");
+        return u"0"_s;
 
     // "d.ddddddddddddddE±xx": 15 digits and their decimal exponent.
     const QByteArray scientific = QByteArray::number(std::fabs(value), 'E', 14);
@@ -207,7 +208,7 @@ qint16 textToInteger16(QStringView text)
     Cursor at(whole);
     const ReadNumber number = readNumber(at);
     if (!number.complete || !at.atEnd())
-        throw Error(ErrorKind::TypeMismatch, {}, QStringLiteral("\"%1\" is not a number").arg(text));
+        throw Error(ErrorKind::TypeMismatch, {}, u"\"%1\" is not a number"_s.arg(text));
     return toInteger16(number.value);
 }
 
@@ -216,8 +217,8 @@ double toCurrency(double value)
     constexpr double Limit = 9223372036854775808.0; // 2^63 ten-thousandths
     const double scaled = std::nearbyint(value * 10000);
     if (!(scaled >= -Limit && scaled < Limit))
-        throw Error(ErrorKind::Overflow, {}, QStringLiteral("the amount %1 is too large").arg(value));
+        throw Error(ErrorKind::Overflow, {}, u"the amount %1 is too large"_s.arg(value));
     return scaled / 10000;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

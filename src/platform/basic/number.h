@@ -6,7 +6,7 @@
 #include <QStringView>
 
 // Numbers as the classic BASIC runtime reads, rounds and writes them.
-namespace kalvenor {
+namespace kalvenor::basic {
 
 /// Leading-number read (Val): blanks, tabs and line ends anywhere are skipped, "." is the only decimal point,
 /// E e D d start an exponent, &H and &O read hexadecimal and octal. No number gives 0, one beyond the range infinity;
@@ -29,4 +29,4 @@ qint16 textToInteger16(QStringView text);
 /// Currency: a value rounded half to even to four decimals. Throws Error(Overflow) beyond its range.
 double toCurrency(double value);
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

@@ -6,7 +6,9 @@
 #include <QFileInfo>
 #include <QStringList>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::basic {
 
 namespace {
 
@@ -19,7 +21,7 @@ constexpr bool OnWindows = false;
 // Nothing lies below a device, so a path from here is never found and never made.
 QString nowhere()
 {
-    return QStringLiteral("/dev/null/");
+    return u"/dev/null/"_s;
 }
 
 QString withEndSlash(const QString &folder)
@@ -44,7 +46,7 @@ QString findIgnoringCase(const QString &folder, const QString &name, bool mustBe
     QDir::Filters filters = QDir::AllDirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
     if (!mustBeFolder)
         filters |= QDir::Files;
-    const QStringList entries = QDir(folder.isEmpty() ? QStringLiteral(".") : folder).entryList(filters, QDir::Name);
+    const QStringList entries = QDir(folder.isEmpty() ? u"."_s : folder).entryList(filters, QDir::Name);
     for (const QString &entry : entries) {
         if (entry.compare(name, Qt::CaseInsensitive) == 0)
             return entry;
@@ -108,7 +110,7 @@ QString nativePath(const QString &windowsPath, const DriveMap &drives)
 {
     QString path = windowsPath;
     path.replace(u'\\', u'/');
-    if (path.startsWith(QLatin1String("//")))
+    if (path.startsWith("//"_L1))
         return path;
     if (hasDrive(path)) {
         const auto folder = drives.constFind(path[0].toUpper());
@@ -120,7 +122,7 @@ QString nativePath(const QString &windowsPath, const DriveMap &drives)
         return from == path.size() ? *folder : resolveCase(withEndSlash(*folder), path.mid(from));
     }
     if (path.startsWith(u'/'))
-        return resolveCase(QStringLiteral("/"), path.mid(1));
+        return resolveCase(u"/"_s, path.mid(1));
     return resolveCase({}, path);
 }
 
@@ -139,7 +141,7 @@ QString windowsPath(const QString &nativePath, const DriveMap &drives)
         }
     }
     if (longest > 0)
-        path = drive + QStringLiteral(":/") + path.mid(longest);
+        path = drive + u":/"_s + path.mid(longest);
     return path.replace(u'/', u'\\');
 }
 
@@ -149,13 +151,13 @@ QString directoryListing(const QString &windowsPath, const DriveMap &drives)
         return {};
     const qsizetype cut = qMax(windowsPath.lastIndexOf(u'\\'), windowsPath.lastIndexOf(u'/')) + 1;
     QString pattern = windowsPath.mid(cut);
-    if (pattern.isEmpty() || pattern == QLatin1String("*.*"))
-        pattern = QStringLiteral("*");
+    if (pattern.isEmpty() || pattern == "*.*"_L1)
+        pattern = u"*"_s;
     if (!OnWindows && !pattern.contains(u'*') && !pattern.contains(u'?')) {
         const QFileInfo file(nativePath(windowsPath, drives));
         return file.isFile() && !file.isHidden() ? file.fileName() : QString();
     }
-    const QString folder = cut == 0 ? QStringLiteral(".") : nativePath(windowsPath.left(cut), drives);
+    const QString folder = cut == 0 ? u"."_s : nativePath(windowsPath.left(cut), drives);
     const QStringList names = QDir(folder).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
     for (const QString &name : names) {
         if (matches(name, pattern))
@@ -164,4 +166,4 @@ QString directoryListing(const QString &windowsPath, const DriveMap &drives)
     return {};
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

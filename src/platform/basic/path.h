@@ -7,7 +7,7 @@
 #include <QStringView>
 
 // Paths are held in Windows notation and become native when a file is touched.
-namespace kalvenor {
+namespace kalvenor::basic {
 
 /// Drive letter (upper case) to native folder, e.g. 'C' → "/media/windows".
 using DriveMap = QMap<QChar, QString>;
@@ -30,4 +30,4 @@ QString windowsPath(const QString &nativePath, const DriveMap &drives = {});
 /// its folder.
 QString directoryListing(const QString &windowsPath, const DriveMap &drives = {});
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

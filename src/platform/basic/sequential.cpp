@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <utility>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::basic {
 
 namespace {
 
@@ -51,7 +53,7 @@ bool SequentialReader::atEnd() const
 
 QString SequentialReader::place() const
 {
-    return QStringLiteral("%1, line %2").arg(m_file).arg(m_itemLine);
+    return u"%1, line %2"_s.arg(m_file).arg(m_itemLine);
 }
 
 SequentialItem SequentialReader::next()
@@ -59,7 +61,7 @@ SequentialItem SequentialReader::next()
     skipBlanks();
     m_itemLine = m_line;
     if (m_position >= m_content.size())
-        throw Error(ErrorKind::Damaged, place(), QStringLiteral("The file ends here, but something is still missing."));
+        throw Error(ErrorKind::Damaged, place(), u"The file ends here, but something is still missing."_s);
     SequentialItem item;
     if (at(m_position) == '"')
         readQuoted(item);
@@ -82,7 +84,7 @@ void SequentialReader::readQuoted(SequentialItem &item)
         const qsizetype quote = m_content.indexOf('"', from);
         if (quote < 0)
             throw Error(ErrorKind::Damaged, place(),
-                        QStringLiteral("The text that begins here has no closing quote; the file was probably cut."));
+                        u"The text that begins here has no closing quote; the file was probably cut."_s);
         item.bytes += QByteArrayView(m_content).sliced(from, quote - from);
         if (at(quote + 1) != '"') {
             countLines(m_position, quote);
@@ -95,7 +97,7 @@ void SequentialReader::readQuoted(SequentialItem &item)
     skipBlanks();
     if (m_position < m_content.size() && at(m_position) != ',' && !isLineEnd(m_position))
         throw Error(ErrorKind::Damaged, place(),
-                    QStringLiteral("Something stands behind the closing quote of the text that begins here."));
+                    u"Something stands behind the closing quote of the text that begins here."_s);
 }
 
 void SequentialReader::readPlain(SequentialItem &item)
@@ -127,4 +129,4 @@ void SequentialReader::countLines(qsizetype from, qsizetype to)
     }
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

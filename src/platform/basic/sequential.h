@@ -8,7 +8,7 @@
 
 // The sequential-write notation of the classic BASIC runtime (Write # and Input #), one value a record. Texts are bytes
 // of Windows-1252.
-namespace kalvenor {
+namespace kalvenor::basic {
 
 /// Writes one record a line, each ended by CR LF.
 class SequentialWriter {
@@ -59,4 +59,4 @@ private:
     qint64 m_itemLine = 1; ///< of the last value
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

@@ -4,22 +4,23 @@
 
 #include "platform/basic/error.h"
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::basic {
 
 namespace {
 
 void refuseNegative(qsizetype length)
 {
     if (length < 0)
-        throw Error(ErrorKind::InvalidProcedureCall, {},
-                    QStringLiteral("a text cannot be cut to the length %1").arg(length));
+        throw Error(ErrorKind::InvalidProcedureCall, {}, u"a text cannot be cut to the length %1"_s.arg(length));
 }
 
 void refuseStart(qsizetype start)
 {
     if (start < 1)
         throw Error(ErrorKind::InvalidProcedureCall, {},
-                    QStringLiteral("a text cannot be cut from the place %1; the first is 1").arg(start));
+                    u"a text cannot be cut from the place %1; the first is 1"_s.arg(start));
 }
 
 } // namespace
@@ -63,4 +64,4 @@ QString padRight(QStringView text, qsizetype length)
     return text.toString().leftJustified(length, u' ');
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

@@ -6,7 +6,7 @@
 #include <QStringView>
 
 // Cutting of texts by the rules of the classic BASIC runtime. Positions count UTF-16 units from 1.
-namespace kalvenor {
+namespace kalvenor::basic {
 
 /// The first `length` units, or all there are. Throws Error(InvalidProcedureCall) for a negative length.
 QString leftPart(QStringView text, qsizetype length);
@@ -21,4 +21,4 @@ QString trimBlanks(QStringView text);
 /// Padded with blanks on the right to `length` units, or unchanged where it is longer.
 QString padRight(QStringView text, qsizetype length);
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

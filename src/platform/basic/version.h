@@ -4,7 +4,7 @@
 
 #include <QString>
 
-namespace kalvenor {
+namespace kalvenor::basic {
 
 /// What the program says of itself, from the build.
 struct VersionRecord {
@@ -18,4 +18,4 @@ struct VersionRecord {
 
 const VersionRecord &versionRecord();
 
-} // namespace kalvenor
+} // namespace kalvenor::basic

@@ -5,15 +5,15 @@
 #include <algorithm>
 #include <cmath>
 
-namespace kalvenor {
+namespace kalvenor::chart {
 namespace {
 
-constexpr double slope = 0.70710678; // sine and cosine of 45 degrees
-constexpr double leastPlotWidth = 0.45;
-constexpr double leastPlotHeight = 0.38;
-constexpr double mostLabelHeight = 0.4;
-constexpr int smallestFigure = 6; // pixels
-constexpr int mostPointFigures = 400;
+constexpr double Slope = 0.70710678; // sine and cosine of 45 degrees
+constexpr double LeastPlotWidth = 0.45;
+constexpr double LeastPlotHeight = 0.38;
+constexpr double MostLabelHeight = 0.4;
+constexpr int SmallestFigure = 6; // pixels
+constexpr int MostPointFigures = 400;
 
 // The labels below the rows: one for every `every`-th row, and what they take beside the rows' own width.
 struct RowLabels {
@@ -40,7 +40,7 @@ RowLabels arrangeRowLabels(LayoutTry &attempt, double slot)
         whole = labels.blocks.back().whole;
         labels.height = std::max(labels.height, labels.blocks.back().size.height());
     }
-    const double mostHeight = attempt.size.height() * mostLabelHeight;
+    const double mostHeight = attempt.size.height() * MostLabelHeight;
     if (whole && labels.height <= mostHeight)
         return labels;
 
@@ -52,9 +52,9 @@ RowLabels arrangeRowLabels(LayoutTry &attempt, double slot)
                                     : attempt.font.line(row));
         widest = std::max(widest, labels.blocks.back().size.width());
     }
-    const int everySlanted = std::max(1, static_cast<int>(std::ceil(line / slope / slot)));
+    const int everySlanted = std::max(1, static_cast<int>(std::ceil(line / Slope / slot)));
     const int everyLevel = std::max(1, static_cast<int>(std::ceil((widest + line * 0.6) / slot)));
-    const double slantedHeight = (widest + line) * slope;
+    const double slantedHeight = (widest + line) * Slope;
     const bool slantable = slantedHeight <= mostHeight && (everySlanted == 1 || attempt.thinning);
     if (slantable && (everySlanted == 1 || everySlanted * 2 <= everyLevel)) {
         labels.slanted = true;
@@ -70,8 +70,8 @@ RowLabels arrangeRowLabels(LayoutTry &attempt, double slot)
     }
     for (int row = 0; row < count; row += labels.every) {
         const double width = labels.blocks[static_cast<std::size_t>(row)].size.width();
-        const double before = labels.slanted ? (width + line / 2) * slope : width / 2;
-        const double behind = labels.slanted ? line / 2 * slope : width / 2;
+        const double before = labels.slanted ? (width + line / 2) * Slope : width / 2;
+        const double behind = labels.slanted ? line / 2 * Slope : width / 2;
         labels.left = std::max(labels.left, before - slot * (row + 0.5));
         labels.right = std::max(labels.right, behind - slot * (count - row - 0.5));
     }
@@ -91,7 +91,7 @@ void placeRowLabels(LayoutTry &attempt, const RowLabels &labels)
         if (labels.slanted) // the end of the text stands below the row
             attempt.add(attempt.font.place(
                 TextRole::Category, block,
-                top + QPointF(-size.width() / 2, size.width() / 2 + size.height() / 2) * slope, -45));
+                top + QPointF(-size.width() / 2, size.width() / 2 + size.height() / 2) * Slope, -45));
         else
             attempt.add(attempt.font.place(TextRole::Category, block, top + QPointF(0, size.height() / 2)));
     }
@@ -149,9 +149,9 @@ BarFigures arrangeBarFigures(const LayoutTry &attempt, double slot)
 {
     const ChartSubject &subject = attempt.subject;
     const double room = barWidth(subject) * slot;
-    if (room < smallestFigure)
+    if (room < SmallestFigure)
         return {false, false, attempt.font};
-    for (int pixels = attempt.font.font().pixelSize(); pixels >= smallestFigure; --pixels) {
+    for (int pixels = attempt.font.font().pixelSize(); pixels >= SmallestFigure; --pixels) {
         const ChartFont font(attempt.font.font(), pixels);
         double widest = 0;
         for (int column = 0; column < subject.figures.seriesCount(); ++column) {
@@ -272,8 +272,8 @@ void layoutAxes(LayoutTry &attempt)
         }
     }
     const double relief = attempt.force ? 0.5 : 1;
-    attempt.cramped |= plot.width() < attempt.size.width() * leastPlotWidth * relief ||
-                       plot.height() < attempt.size.height() * leastPlotHeight * relief;
+    attempt.cramped |= plot.width() < attempt.size.width() * LeastPlotWidth * relief ||
+                       plot.height() < attempt.size.height() * LeastPlotHeight * relief;
     if (attempt.cramped)
         return;
     attempt.layout.plot = plot;
@@ -290,7 +290,7 @@ void layoutAxes(LayoutTry &attempt)
     placeRowLabels(attempt, labels);
     if (figures.shown)
         placeBarFigures(attempt, figures);
-    if (look.values && rows * attempt.subject.figures.seriesCount() <= mostPointFigures)
+    if (look.values && rows * attempt.subject.figures.seriesCount() <= MostPointFigures)
         placePointFigures(attempt);
 }
 
@@ -326,4 +326,4 @@ QPointF figurePoint(const ChartSubject &subject, const ChartLayout &layout, int 
     return {layout.plot.left() + slot * (row + 0.5 + aside), layout.plot.bottom() - layout.plot.height() * part};
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

@@ -10,7 +10,7 @@
 #include <vector>
 
 // What a chart shows and how. Columns are series (the legend), rows are categories along the axis.
-namespace kalvenor {
+namespace kalvenor::chart {
 
 /// Types by the numbers of the chart control. The solid ones are drawn as their flat kin, any other number as bars.
 /// Combination: the last column is a line over the bars of the others. Pie: one slice a row, of the last column.
@@ -58,7 +58,7 @@ struct ChartLook {
 };
 
 /// The size of the surrounding text in a picture, in points.
-constexpr int chartTextPoints = 9;
+constexpr int ChartTextPoints = 9;
 
 /// The chart on white paper, opaque. The layout follows from the picture's size on paper (pixels / dpi), so that 96 and
 /// 300 dpi give the same chart. Null for a size that cannot be (empty, or above 20000 pixels). `dpi` is held within 24
@@ -74,4 +74,4 @@ void writeChart(const ChartTable &table, const ChartLook &look, QSize pixels, co
 /// A figure as the chart shows it: completed tenths ("45,9" for 45.99), like the ages of the statistic.
 QString chartFigureText(double value, const QLocale &locale);
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

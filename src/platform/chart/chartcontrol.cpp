@@ -19,10 +19,12 @@
 #include <QTableWidget>
 #include <QToolTip>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::chart {
 namespace {
 
-constexpr double copyDpi = 192; // sharp when pasted into a letter
+constexpr double CopyDpi = 192; // sharp when pasted into a letter
 
 } // namespace
 
@@ -43,7 +45,7 @@ ChartControl::ChartControl(QWidget *parent)
     copyAction->setShortcut(QKeySequence::Copy);
     copyAction->setShortcutContext(Qt::WidgetWithChildrenShortcut);
 
-    m_figures->setObjectName(QStringLiteral("chartFigures"));
+    m_figures->setObjectName(u"chartFigures"_s);
     m_figures->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_figures->setContextMenuPolicy(Qt::NoContextMenu); // goes up to the chart's
     m_figures->hide();
@@ -137,7 +139,7 @@ QString ChartControl::hoverText(QPointF place) const
 void ChartControl::copyPicture()
 {
     auto *content = new QMimeData;
-    content->setImageData(chartImage(m_table, m_look, (QSizeF(size()) * (copyDpi / 96)).toSize(), copyDpi));
+    content->setImageData(chartImage(m_table, m_look, (QSizeF(size()) * (CopyDpi / 96)).toSize(), CopyDpi));
     content->setText(figuresForClipboard(m_table, m_look.locale));
     QGuiApplication::clipboard()->setMimeData(content);
 }
@@ -191,4 +193,4 @@ bool ChartControl::event(QEvent *event)
     return QWidget::event(event);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

@@ -11,7 +11,7 @@
 
 class QTableWidget;
 
-namespace kalvenor {
+namespace kalvenor::chart {
 
 class ChartDrawing;
 
@@ -66,4 +66,4 @@ private:
     QTableWidget *m_figures;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

@@ -13,7 +13,9 @@
 #include <QPalette>
 #include <QValueAxis>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::chart {
 namespace {
 
 /// What Qt Charts has not: the marks (the legend shows the same), the texts, the legend, the leaders of a pie.
@@ -101,8 +103,8 @@ QChart *makeChart(const ChartSubject &subject, const ChartLayout &layout, const 
 
 ChartStyle paperStyle()
 {
-    QFont font(QStringLiteral("Arial"));
-    font.setPixelSize(chartTextPoints * 96 / 72);
+    QFont font(u"Arial"_s);
+    font.setPixelSize(ChartTextPoints * 96 / 72);
     return {font, Qt::white, QColor(0x20, 0x20, 0x20), QColor(0xc8, 0xc8, 0xc8), false};
 }
 
@@ -145,8 +147,8 @@ QString ChartDrawing::textAt(QPointF place) const
         if (!part.isEmpty())
             name << part;
     }
-    const QString format = m_subject.look.valueFormat.isEmpty() ? QStringLiteral("%1: %2") : m_subject.look.valueFormat;
-    return format.arg(name.join(QStringLiteral(", ")), figure);
+    const QString format = m_subject.look.valueFormat.isEmpty() ? u"%1: %2"_s : m_subject.look.valueFormat;
+    return format.arg(name.join(u", "_s), figure);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

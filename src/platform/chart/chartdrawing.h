@@ -14,7 +14,7 @@ class QPalette;
 
 // A chart ready to be painted: Qt Charts draws series, grid and axes into the place that the layout gives them; the
 // texts, which Qt Charts would shorten where they do not fit, are the layout's.
-namespace kalvenor {
+namespace kalvenor::chart {
 
 struct ChartStyle {
     QFont font; ///< of the surrounding text, its size in pixels
@@ -53,4 +53,4 @@ private:
     std::unique_ptr<QGraphicsScene> m_scene;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

@@ -7,15 +7,17 @@
 #include <algorithm>
 #include <cmath>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::chart {
 namespace {
 
-constexpr double largestFigure = 1e15; // beyond it tenths are lost, and sums could overflow
+constexpr double LargestFigure = 1e15; // beyond it tenths are lost, and sums could overflow
 
 double figure(const QString &text)
 {
-    const double value = leadingNumber(text);
-    return std::isfinite(value) ? std::clamp(value, -largestFigure, largestFigure) : 0;
+    const double value = basic::leadingNumber(text);
+    return std::isfinite(value) ? std::clamp(value, -LargestFigure, LargestFigure) : 0;
 }
 
 } // namespace
@@ -80,7 +82,7 @@ QString figuresText(const ChartTable &table, const QLocale &locale)
         QStringList cells;
         for (int column = 0; column < figures.seriesCount(); ++column)
             cells << (figures.series[column] + u' ' + chartFigureText(figures.value(column, row), locale)).trimmed();
-        lines << figures.rows[row] + QStringLiteral(": ") + cells.join(QStringLiteral("; "));
+        lines << figures.rows[row] + u": "_s + cells.join(u"; "_s);
     }
     return lines.join(u'\n');
 }
@@ -128,4 +130,4 @@ ValueAxis valueAxis(const ChartFigures &figures, int mostIntervals)
     }
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

@@ -5,7 +5,7 @@
 #include "platform/chart/chart.h"
 
 // A chart's table made sound: a full rectangle of finite numbers.
-namespace kalvenor {
+namespace kalvenor::chart {
 
 enum class ChartKind { Bars, Lines, Areas, Steps, Combination, Pie, Points };
 
@@ -45,4 +45,4 @@ struct ValueAxis {
 
 ValueAxis valueAxis(const ChartFigures &figures, int mostIntervals);
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

@@ -6,11 +6,11 @@
 #include <cmath>
 #include <numbers>
 
-namespace kalvenor {
+namespace kalvenor::chart {
 namespace {
 
-constexpr double near = 12; // from a point, in units of the drawing
-constexpr double slack = 2; // beside a bar
+constexpr double Near = 12; // from a point, in units of the drawing
+constexpr double Slack = 2; // beside a bar
 
 std::optional<ChartHit> sliceAt(const ChartFigures &figures, const QRectF &square, QPointF place)
 {
@@ -45,7 +45,7 @@ std::optional<ChartHit> figureAt(const ChartSubject &subject, const ChartLayout 
         return {};
     // Points lie over bars.
     std::optional<ChartHit> hit;
-    double nearest = near;
+    double nearest = Near;
     for (int column = 0; column < figures.seriesCount(); ++column) {
         if (isBarColumn(subject, column) || figures.value(column, row) == 0)
             continue;
@@ -65,10 +65,10 @@ std::optional<ChartHit> figureAt(const ChartSubject &subject, const ChartLayout 
             continue;
         const QPointF end = figurePoint(subject, layout, column, row);
         const bool beside = std::abs(place.x() - end.x()) <= barWidth(subject) * slot / 2;
-        if (beside && place.y() >= std::min(end.y(), zero) - slack && place.y() <= std::max(end.y(), zero) + slack)
+        if (beside && place.y() >= std::min(end.y(), zero) - Slack && place.y() <= std::max(end.y(), zero) + Slack)
             return ChartHit{column, row};
     }
     return {};
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

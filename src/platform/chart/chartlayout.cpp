@@ -5,22 +5,22 @@
 #include <algorithm>
 #include <cmath>
 
-namespace kalvenor {
+namespace kalvenor::chart {
 namespace {
 
-constexpr double defaultFontFactor = 3;
-constexpr double smallestScale = 0.5;
-constexpr double largestScale = 3;
-constexpr double shrinkStep = 0.92;
-constexpr int wellReadable = 8; // pixels
-constexpr int readable = 6;
-constexpr int mostPieColours = 8;
+constexpr double DefaultFontFactor = 3;
+constexpr double SmallestScale = 0.5;
+constexpr double LargestScale = 3;
+constexpr double ShrinkStep = 0.92;
+constexpr int WellReadable = 8; // pixels
+constexpr int Readable = 6;
+constexpr int MostPieColours = 8;
 
 double fontScale(double factor)
 {
     if (!(factor > 0)) // NaN as well
-        factor = defaultFontFactor;
-    return std::clamp(factor / defaultFontFactor, smallestScale, largestScale);
+        factor = DefaultFontFactor;
+    return std::clamp(factor / DefaultFontFactor, SmallestScale, LargestScale);
 }
 
 // What is given up, bit by bit, where a picture is too small for everything.
@@ -120,7 +120,7 @@ std::optional<ChartLayout> tryLayout(const ChartSubject &full, QSizeF size, cons
     if (relief.title && !subject.look.title.trimmed().isEmpty())
         placeTitle(attempt, ChartFont(base, titlePixels, true));
     const bool pie = subject.kind == ChartKind::Pie;
-    if (relief.legend && subject.look.legend && (!pie || subject.figures.rowCount() <= mostPieColours))
+    if (relief.legend && subject.look.legend && (!pie || subject.figures.rowCount() <= MostPieColours))
         placeLegend(attempt, pie ? subject.figures.rows : subject.figures.series);
     if (!attempt.cramped)
         pie ? layoutPie(attempt) : layoutAxes(attempt);
@@ -165,18 +165,18 @@ ChartLayout layoutChart(const ChartSubject &subject, QSizeF size, const QFont &f
     };
     const int bodySize = std::min(wanted, base);
     const Round rounds[] = {
-        {{false, true, true, true, false}, wanted, wellReadable},
-        {{true, true, true, true, false}, bodySize, wellReadable},
-        {{true, false, true, true, false}, bodySize, readable},
-        {{true, false, false, true, false}, bodySize, readable},
-        {{true, false, true, true, true}, readable, readable},
-        {{true, false, false, true, true}, readable, readable},
-        {{true, false, false, false, true}, readable, readable},
+        {{false, true, true, true, false}, wanted, WellReadable},
+        {{true, true, true, true, false}, bodySize, WellReadable},
+        {{true, false, true, true, false}, bodySize, Readable},
+        {{true, false, false, true, false}, bodySize, Readable},
+        {{true, false, true, true, true}, Readable, Readable},
+        {{true, false, false, true, true}, Readable, Readable},
+        {{true, false, false, false, true}, Readable, Readable},
     };
     for (const Round &round : rounds) {
         const int last = std::min(round.first, round.last);
         for (int pixels = round.first; pixels >= last;
-             pixels = std::min(pixels - 1, static_cast<int>(pixels * shrinkStep))) {
+             pixels = std::min(pixels - 1, static_cast<int>(pixels * ShrinkStep))) {
             // The title does not follow the font factor, only the lack of room.
             const double title = base * 1.2 * std::clamp(static_cast<double>(pixels) / bodySize, 0.6, 1.0);
             if (auto layout = tryLayout(subject, size, font, pixels, title, round.relief))
@@ -194,4 +194,4 @@ ChartLayout layoutChart(const ChartSubject &subject, QSizeF size, const QFont &f
     return bare;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

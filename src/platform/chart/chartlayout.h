@@ -9,7 +9,7 @@
 #include <QRectF>
 
 // Where everything of a chart stands: plain arithmetic over font measures, so that nothing is cut and nothing overlaps.
-namespace kalvenor {
+namespace kalvenor::chart {
 
 struct ChartSubject {
     ChartFigures figures;
@@ -73,4 +73,4 @@ struct ChartHit {
 /// The figure that is drawn there.
 std::optional<ChartHit> figureAt(const ChartSubject &subject, const ChartLayout &layout, QPointF place);
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/basic/error.h"
-#include "platform/basic/file.h"
 #include "platform/chart/chart.h"
 #include "platform/chart/chartdrawing.h"
+#include "platform/storage/file.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,26 +13,28 @@
 #include <QPainter>
 #include <QSvgGenerator>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::chart {
 namespace {
 
-constexpr double drawingDpi = 96; // a unit of the drawing is 1/96 inch
-constexpr int largestSide = 20000;
-constexpr double metersPerInch = 0.0254;
+constexpr double DrawingDpi = 96; // a unit of the drawing is 1/96 inch
+constexpr int LargestSide = 20000;
+constexpr double MetersPerInch = 0.0254;
 
 double heldDpi(double dpi)
 {
-    return std::isnan(dpi) ? drawingDpi : std::clamp(dpi, 24.0, 2400.0);
+    return std::isnan(dpi) ? DrawingDpi : std::clamp(dpi, 24.0, 2400.0);
 }
 
 bool possible(QSize pixels)
 {
-    return !pixels.isEmpty() && std::max(pixels.width(), pixels.height()) <= largestSide;
+    return !pixels.isEmpty() && std::max(pixels.width(), pixels.height()) <= LargestSide;
 }
 
 ChartDrawing paperDrawing(const ChartTable &table, const ChartLook &look, QSize pixels, double dpi)
 {
-    return {table, look, QSizeF(pixels) * (drawingDpi / dpi), paperStyle()};
+    return {table, look, QSizeF(pixels) * (DrawingDpi / dpi), paperStyle()};
 }
 
 QByteArray pictureBytes(const QImage &image, const char *format, int quality)
@@ -51,8 +53,8 @@ QByteArray svgBytes(const ChartTable &table, const ChartLook &look, QSize pixels
     QBuffer buffer(&bytes);
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
-    generator.setResolution(static_cast<int>(drawingDpi));
-    const QSizeF size = QSizeF(pixels) * (drawingDpi / dpi);
+    generator.setResolution(static_cast<int>(DrawingDpi));
+    const QSizeF size = QSizeF(pixels) * (DrawingDpi / dpi);
     generator.setSize(size.toSize());
     generator.setViewBox(QRectF(QPointF(), size));
     QPainter painter(&generator);
@@ -75,7 +77,7 @@ QImage chartImage(const ChartTable &table, const ChartLook &look, QSize pixels, 
     QPainter painter(&image);
     paperDrawing(table, look, pixels, dpi).paint(painter, QRectF(QPointF(), pixels));
     painter.end();
-    const int perMeter = static_cast<int>(std::lround(dpi / metersPerInch));
+    const int perMeter = static_cast<int>(std::lround(dpi / MetersPerInch));
     image.setDotsPerMeterX(perMeter);
     image.setDotsPerMeterY(perMeter);
     return image;
@@ -85,26 +87,26 @@ void writeChart(const ChartTable &table, const ChartLook &look, QSize pixels, co
                 double dpi)
 {
     const QString ending = QFileInfo(nativeFile).suffix().toLower();
-    const bool jpeg = ending == QLatin1String("jpg") || ending == QLatin1String("jpeg");
-    if (!jpeg && ending != QLatin1String("png") && ending != QLatin1String("svg"))
-        throw Error(ErrorKind::Refused, nativeFile,
-                    QStringLiteral("A chart can be saved as .png, .jpg, .jpeg or .svg. Choose one of these endings."));
+    const bool jpeg = ending == "jpg"_L1 || ending == "jpeg"_L1;
+    if (!jpeg && ending != "png"_L1 && ending != "svg"_L1)
+        throw basic::Error(basic::ErrorKind::Refused, nativeFile,
+                           u"A chart can be saved as .png, .jpg, .jpeg or .svg. Choose one of these endings."_s);
     if (!possible(pixels))
-        throw Error(ErrorKind::Refused, nativeFile,
-                    QStringLiteral("A picture cannot be %1 by %2 pixels large. Choose 1 to %3 for each side.")
-                        .arg(pixels.width())
-                        .arg(pixels.height())
-                        .arg(largestSide));
-    const QByteArray bytes = ending == QLatin1String("svg")
+        throw basic::Error(
+            basic::ErrorKind::Refused, nativeFile,
+            u"A picture cannot be %1 by %2 pixels large. Choose 1 to %3 for each side."_s.arg(pixels.width())
+                .arg(pixels.height())
+                .arg(LargestSide));
+    const QByteArray bytes = ending == "svg"_L1
                                  ? svgBytes(table, look, pixels, heldDpi(dpi))
                                  : pictureBytes(chartImage(table, look, pixels, dpi), jpeg ? "jpg" : "png", quality);
     if (bytes.isEmpty())
-        throw Error(ErrorKind::WriteFailed, nativeFile,
-                    QStringLiteral("There is not enough memory for a picture of this size. Choose a smaller one."));
+        throw basic::Error(basic::ErrorKind::WriteFailed, nativeFile,
+                           u"There is not enough memory for a picture of this size. Choose a smaller one."_s);
     QString reason;
-    if (!replaceFileSafely(nativeFile, bytes, &reason))
-        throw Error(ErrorKind::WriteFailed, nativeFile,
-                    QStringLiteral("The picture cannot be written: %1. Choose another folder or name.").arg(reason));
+    if (!storage::replaceFileSafely(nativeFile, bytes, &reason))
+        throw basic::Error(basic::ErrorKind::WriteFailed, nativeFile,
+                           u"The picture cannot be written: %1. Choose another folder or name."_s.arg(reason));
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

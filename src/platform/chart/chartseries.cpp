@@ -14,18 +14,18 @@
 #include <QPainter>
 #include <QPieSeries>
 
-namespace kalvenor {
+namespace kalvenor::chart {
 namespace {
 
-constexpr double lineWidth = 2;
-constexpr double markSize = 8;
-constexpr float areaAlpha = 0.18F;
-constexpr double loneHalfWidth = 0.2; // of an area that has one row only, in rows
+constexpr double LineWidth = 2;
+constexpr double MarkSize = 8;
+constexpr float AreaAlpha = 0.18F;
+constexpr double LoneHalfWidth = 0.2; // of an area that has one row only, in rows
 
 // The hues of Okabe and Ito, set apart in lightness as well: the first three differ by 20 of 100 or more in grey.
-constexpr std::array lightColors{0x005A9C, 0xDB8800, 0x1A1A1A, 0x00876A, 0x56B4E9, 0xB8460A, 0xCC79A7, 0xC9B800};
-constexpr std::array darkColors{0x3D9AE0, 0xF5B83D, 0xF2F2F2, 0x1FB890, 0x9AD4F5, 0xE8713A, 0xD98FBA, 0xF0E442};
-constexpr std::array lineStyles{Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine};
+constexpr std::array LightColors{0x005A9C, 0xDB8800, 0x1A1A1A, 0x00876A, 0x56B4E9, 0xB8460A, 0xCC79A7, 0xC9B800};
+constexpr std::array DarkColors{0x3D9AE0, 0xF5B83D, 0xF2F2F2, 0x1FB890, 0x9AD4F5, 0xE8713A, 0xD98FBA, 0xF0E442};
+constexpr std::array LineStyles{Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine};
 
 template <typename Array>
 auto cyclic(const Array &array, int index)
@@ -40,7 +40,7 @@ QPen edgePen(const QColor &color, bool dark)
 
 QPen linePen(int index, bool dark)
 {
-    QPen pen(seriesColor(index, dark), lineWidth, cyclic(lineStyles, index));
+    QPen pen(seriesColor(index, dark), LineWidth, cyclic(LineStyles, index));
     pen.setCapStyle(Qt::FlatCap);
     pen.setJoinStyle(Qt::RoundJoin);
     return pen;
@@ -103,8 +103,8 @@ QLineSeries *runOfLine(const ChartSubject &subject, int column, int first, int l
             line->append(row - 0.5, value);
             line->append(row + 0.5, value);
         } else if (subject.kind == ChartKind::Areas && first == last) {
-            line->append(row - loneHalfWidth, value);
-            line->append(row + loneHalfWidth, value);
+            line->append(row - LoneHalfWidth, value);
+            line->append(row + LoneHalfWidth, value);
         } else {
             line->append(row, value);
         }
@@ -125,7 +125,7 @@ void addLines(QChart &chart, const ChartSubject &subject, int column, const Char
             line->setParent(area);
             base->setParent(area);
             QColor fill = seriesColor(column, style.dark);
-            fill.setAlphaF(areaAlpha);
+            fill.setAlphaF(AreaAlpha);
             area->setBrush(fill);
             area->setPen(Qt::NoPen);
             attached(chart, area);
@@ -175,7 +175,7 @@ void drawMark(QPainter &painter, int index, QPointF centre, double size)
 // The last slice touches the first.
 int pieColorIndex(int row, int rows)
 {
-    const bool sameAsFirst = row == rows - 1 && row > 0 && row % static_cast<int>(lightColors.size()) == 0;
+    const bool sameAsFirst = row == rows - 1 && row > 0 && row % static_cast<int>(LightColors.size()) == 0;
     return sameAsFirst ? row + 1 : row;
 }
 
@@ -183,7 +183,7 @@ int pieColorIndex(int row, int rows)
 
 QColor seriesColor(int index, bool dark)
 {
-    return QColor::fromRgb(static_cast<QRgb>(dark ? cyclic(darkColors, index) : cyclic(lightColors, index)));
+    return QColor::fromRgb(static_cast<QRgb>(dark ? cyclic(DarkColors, index) : cyclic(LightColors, index)));
 }
 
 void addSeries(QChart &chart, const ChartSubject &subject, const ChartStyle &style)
@@ -231,7 +231,7 @@ void drawSwatch(QPainter &painter, const ChartSubject &subject, int index, const
     }
     if (kind == ChartKind::Areas) {
         QColor fill = color;
-        fill.setAlphaF(areaAlpha);
+        fill.setAlphaF(AreaAlpha);
         painter.fillRect(QRectF(box.left(), middle.y(), box.width(), box.height() / 2), fill);
     }
     if (kind != ChartKind::Points) {
@@ -242,7 +242,7 @@ void drawSwatch(QPainter &painter, const ChartSubject &subject, int index, const
         return;
     painter.setPen(Qt::NoPen);
     painter.setBrush(color);
-    drawMark(painter, index, middle, std::min(markSize, box.height()));
+    drawMark(painter, index, middle, std::min(MarkSize, box.height()));
 }
 
 void drawMarks(QPainter &painter, const ChartSubject &subject, const ChartLayout &layout, const ChartStyle &style)
@@ -253,7 +253,7 @@ void drawMarks(QPainter &painter, const ChartSubject &subject, const ChartLayout
     for (int column = 0; column < subject.figures.seriesCount(); ++column) {
         painter.setBrush(seriesColor(column, style.dark));
         // Large below small, so that each is seen where figures are the same.
-        const double size = markSize + 2 * std::min(2, subject.figures.seriesCount() - 1 - column);
+        const double size = MarkSize + 2 * std::min(2, subject.figures.seriesCount() - 1 - column);
         for (int row = 0; !isBarColumn(subject, column) && row < subject.figures.rowCount(); ++row) {
             if (subject.figures.value(column, row) != 0)
                 drawMark(painter, column, figurePoint(subject, layout, column, row), size);
@@ -261,4 +261,4 @@ void drawMarks(QPainter &painter, const ChartSubject &subject, const ChartLayout
     }
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

@@ -7,7 +7,7 @@
 class QChart;
 
 // The shapes of a chart, told apart by colour, line style and mark.
-namespace kalvenor {
+namespace kalvenor::chart {
 
 /// To a chart that has its two axes.
 void addSeries(QChart &chart, const ChartSubject &subject, const ChartStyle &style);
@@ -17,4 +17,4 @@ void drawMarks(QPainter &painter, const ChartSubject &subject, const ChartLayout
 /// The legend's sample of a series (of a row in a pie).
 void drawSwatch(QPainter &painter, const ChartSubject &subject, int index, const QRectF &box, bool dark);
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

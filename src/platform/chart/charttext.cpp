@@ -9,10 +9,10 @@
 #include <QTransform>
 #include <utility>
 
-namespace kalvenor {
+namespace kalvenor::chart {
 namespace {
 
-constexpr double touching = 0.5; // rounding, not an overlap
+constexpr double Touching = 0.5; // rounding, not an overlap
 
 // The pieces between which a line may end; blanks stay at the end of their piece.
 QStringList pieces(const QString &text)
@@ -122,7 +122,7 @@ bool overlap(const QPolygonF &one, const QPolygonF &other)
             };
             const auto [lowBy, highBy] = range(by);
             const auto [lowWith, highWith] = range(with);
-            if (std::min(highBy, highWith) - std::max(lowBy, lowWith) < touching)
+            if (std::min(highBy, highWith) - std::max(lowBy, lowWith) < Touching)
                 return true;
         }
         return false;
@@ -130,4 +130,4 @@ bool overlap(const QPolygonF &one, const QPolygonF &other)
     return !parted(one, other) && !parted(other, one);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

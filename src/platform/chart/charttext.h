@@ -10,7 +10,7 @@
 class QPainter;
 
 // Texts of a chart: measured first, then placed. Lengths are units of the drawing (1/96 inch in a picture).
-namespace kalvenor {
+namespace kalvenor::chart {
 
 enum class TextRole { Title, CategoryTitle, ValueTitle, Tick, Category, Legend, Figure, Callout, Message };
 
@@ -55,4 +55,4 @@ private:
 /// Whether the two outlines share any area.
 bool overlap(const QPolygonF &one, const QPolygonF &other);
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

@@ -7,11 +7,13 @@
 #include <numbers>
 #include <numeric>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::chart {
 namespace {
 
-constexpr double leastDiameter = 0.4; // of the shorter side
-constexpr double reach = 1.1;         // from a slice's rim to the bend of its leader, in radii
+constexpr double LeastDiameter = 0.4; // of the shorter side
+constexpr double Reach = 1.1;         // from a slice's rim to the bend of its leader, in radii
 
 struct Callout {
     TextBlock block;
@@ -60,7 +62,7 @@ std::vector<Callout> makeCallouts(LayoutTry &attempt)
         const double value = figures.value(0, row);
         QString text = chartFigureText(value, attempt.subject.look.locale);
         if (!figures.rows[row].isEmpty())
-            text = figures.rows[row] + QStringLiteral(": ") + text;
+            text = figures.rows[row] + u": "_s + text;
         const PieSlice &slice = slices[static_cast<std::size_t>(row)];
         callouts.push_back(
             {attempt.fitted(attempt.font, text, attempt.area.width() * 0.3, 3), slice.begin + slice.span / 2, value});
@@ -103,7 +105,7 @@ void layoutPie(LayoutTry &attempt)
 
     QString caption = subject.look.valueTitle.simplified();
     if (const QString &column = subject.figures.series.front(); !caption.isEmpty() && !column.isEmpty())
-        caption += QStringLiteral(" (%1)").arg(column);
+        caption += u" (%1)"_s.arg(column);
     if (!caption.isEmpty()) {
         const TextBlock block = attempt.fitted(attempt.font, caption, area.width(), 2);
         area.setBottom(area.bottom() - block.size.height());
@@ -137,7 +139,7 @@ void layoutPie(LayoutTry &attempt)
     const double bend = line * 0.8; // room for the leaders
     const double across = area.width() - widest(left) - widest(right) - 4 * bend;
     const double diameter = std::min(across, area.height() - line * 1.2) / 1.05;
-    if (diameter < std::min(attempt.size.width(), attempt.size.height()) * leastDiameter * (attempt.force ? 0.5 : 1) ||
+    if (diameter < std::min(attempt.size.width(), attempt.size.height()) * LeastDiameter * (attempt.force ? 0.5 : 1) ||
         std::max(std::ssize(left), std::ssize(right)) > capacity) {
         attempt.cramped = true;
         return;
@@ -148,7 +150,7 @@ void layoutPie(LayoutTry &attempt)
     attempt.layout.plot = QRectF(centre - QPointF(radius, radius), QSizeF(diameter, diameter));
 
     for (Callout &callout : callouts)
-        callout.y = onCircle(centre, radius * reach, callout.angle).y();
+        callout.y = onCircle(centre, radius * Reach, callout.angle).y();
     for (std::vector<Callout *> *column : {&left, &right}) {
         spread(*column, pitch, area.top(), area.bottom());
         const double direction = column == &right ? 1 : -1;
@@ -164,4 +166,4 @@ void layoutPie(LayoutTry &attempt)
     }
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::chart

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 SqlSession &Database::Private::open() const
 {
     if (!session)
-        throw Error(ErrorKind::ObjectClosed, file, u"The database was closed."_s);
+        throw basic::Error(basic::ErrorKind::ObjectClosed, file, u"The database was closed."_s);
     return *session;
 }
 
@@ -77,7 +77,7 @@ std::shared_ptr<Recordset> Database::openTable(const QString &name)
     return d->recordsets.emplace_back(std::make_shared<Recordset>(std::move(priv)));
 }
 
-std::shared_ptr<Recordset> Database::openQuery(const QString &sql, const Progress &progress)
+std::shared_ptr<Recordset> Database::openQuery(const QString &sql, const basic::Progress &progress)
 {
     d->reloadIfStale();
     const std::shared_ptr<SqlSession> session = d->session;
@@ -93,20 +93,21 @@ std::shared_ptr<Recordset> Database::openQuery(const QString &sql, const Progres
     return d->recordsets.emplace_back(std::make_shared<Recordset>(std::move(priv)));
 }
 
-Execution Database::execute(const QString &sql, const Progress &progress)
+Execution Database::execute(const QString &sql, const basic::Progress &progress)
 {
     return writeMarks([&](SqlSession &session) { return session.update(sql, progress); }, progress);
 }
 
-Execution Database::setMarks(const QString &table, std::span<const qint32> keys, bool value, const Progress &progress)
+Execution Database::setMarks(const QString &table, std::span<const qint32> keys, bool value,
+                             const basic::Progress &progress)
 {
     const auto collect = [&](SqlSession &session) {
         UpdateResult update{session.snapshot()->view(table)};
         const jet::Table &rows = *update.view->table();
-        update.markColumn = rows.columnOf(markColumnName);
+        update.markColumn = rows.columnOf(MarkColumnName);
         if (update.markColumn < 0)
-            throw Error(ErrorKind::ColumnNotFound, tablePlace(d->file, table),
-                        u"There is no column %1."_s.arg(markColumnName));
+            throw basic::Error(basic::ErrorKind::ColumnNotFound, tablePlace(d->file, table),
+                               u"There is no column %1."_s.arg(MarkColumnName));
         const LongIndex &index = update.view->index(keyColumnOf(rows));
         for (const qint32 key : keys) {
             for (const quint32 row : index.rows(key))
@@ -117,7 +118,8 @@ Execution Database::setMarks(const QString &table, std::span<const qint32> keys,
     return writeMarks(collect, progress);
 }
 
-Execution Database::writeMarks(const std::function<UpdateResult(SqlSession &)> &collect, const Progress &progress)
+Execution Database::writeMarks(const std::function<UpdateResult(SqlSession &)> &collect,
+                               const basic::Progress &progress)
 {
     d->reloadIfStale();
     Execution execution;
@@ -145,13 +147,13 @@ Execution Database::writeMarks(const std::function<UpdateResult(SqlSession &)> &
                 execution.matched += static_cast<qint64>(before.size());
             }
             break;
-        } catch (const Error &error) {
-            if (error.kind() != ErrorKind::ChangedElsewhere)
+        } catch (const basic::Error &error) {
+            if (error.kind() != basic::ErrorKind::ChangedElsewhere)
                 throw;
             if (again)
-                throw Error(ErrorKind::ChangedElsewhere, error.place(),
-                            u"Another program changed the file again and again while it was written. Try again "
-                            u"when the other program has finished."_s);
+                throw basic::Error(basic::ErrorKind::ChangedElsewhere, error.place(),
+                                   u"Another program changed the file again and again while it was written. Try again "
+                                   u"when the other program has finished."_s);
             for (const jet::Mark &mark : update.marks) {
                 const auto key = table.integer(mark.row, keyColumn);
                 if (key && old.test(mark.row) != table.boolean(mark.row, update.markColumn) &&
@@ -225,7 +227,7 @@ Engine::Engine()
 Workspace &Engine::workspace(int index)
 {
     if (index < 0 || index >= workspaceCount())
-        throw Error(ErrorKind::Subscript, {}, u"There is no workspace %1."_s.arg(index));
+        throw basic::Error(basic::ErrorKind::Subscript, {}, u"There is no workspace %1."_s.arg(index));
     return *m_workspaces[static_cast<std::size_t>(index)];
 }
 

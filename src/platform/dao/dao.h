@@ -41,12 +41,13 @@ public:
     std::shared_ptr<Recordset> openTable(const QString &name);
     /// A query recordset (a keyset: row numbers, no values copied), on the first row. The SQL text is executed as it
     /// stands, one SELECT only. Throws InvalidSql, InvalidPattern, TableNotFound, Refused, Cancelled.
-    std::shared_ptr<Recordset> openQuery(const QString &sql, const Progress &progress = {});
+    std::shared_ptr<Recordset> openQuery(const QString &sql, const basic::Progress &progress = {});
     /// Executes one UPDATE that sets `Markierung`. Throws as openQuery, and as jet::MarkWriter::write.
-    Execution execute(const QString &sql, const Progress &progress = {});
+    Execution execute(const QString &sql, const basic::Progress &progress = {});
     /// Sets `Markierung` of the rows with these `Counter` values, as Edit and Update would one by one; keys that the
     /// table does not hold are passed over. Throws TableNotFound, ColumnNotFound, and as jet::MarkWriter::write.
-    Execution setMarks(const QString &table, std::span<const qint32> keys, bool value, const Progress &progress = {});
+    Execution setMarks(const QString &table, std::span<const qint32> keys, bool value,
+                       const basic::Progress &progress = {});
 
     /// Reads the file anew where another program changed it. True where it did. Open recordsets keep their state.
     bool refresh();
@@ -67,7 +68,7 @@ private:
     friend class Workspace;
     /// Writes what `collect` finds in the present state of the file; where another program changed it meanwhile, reads
     /// it anew and does both once more.
-    Execution writeMarks(const std::function<UpdateResult(SqlSession &)> &collect, const Progress &progress);
+    Execution writeMarks(const std::function<UpdateResult(SqlSession &)> &collect, const basic::Progress &progress);
     std::unique_ptr<Private> d;
 };
 

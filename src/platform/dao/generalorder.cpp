@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/dao/generalorder.h"
 
-#include "platform/jet/sortkey.h"
+#include "platform/jet/order/sortkey.h"
 #include <algorithm>
 #include <cstring>
 #include <QtEndian>
@@ -12,7 +12,7 @@ namespace kalvenor::dao {
 
 namespace {
 
-constexpr std::size_t window = 8; ///< bytes of a key that are compared at once
+constexpr std::size_t Window = 8; ///< bytes of a key that are compared at once
 
 struct Entry {
     quint64 bytes = 0; ///< the window at hand, big-endian, zeros behind the key's end
@@ -34,7 +34,7 @@ public:
             const std::size_t begin = entry.key == 0 ? 0 : ends[entry.key - 1];
             const std::size_t length = ends[entry.key] - begin;
             entry.bytes = length > depth ? load(begin + depth, length - depth) : 0;
-            more |= length > depth + window;
+            more |= length > depth + Window;
         }
         const auto before = [](const Entry &left, const Entry &right) {
             return left.bytes != right.bytes ? left.bytes < right.bytes : left.row < right.row;
@@ -48,7 +48,7 @@ public:
             while (to < entries.size() && entries[to].bytes == entries[from].bytes)
                 ++to;
             if (to - from > 1)
-                sort(entries.subspan(from, to - from), depth + window);
+                sort(entries.subspan(from, to - from), depth + Window);
             from = to;
         }
     }
@@ -57,7 +57,7 @@ private:
     quint64 load(std::size_t at, std::size_t available) const
     {
         quint64 bytes = 0;
-        std::memcpy(&bytes, arena.data() + at, std::min(available, window));
+        std::memcpy(&bytes, arena.data() + at, std::min(available, Window));
         return qFromBigEndian(bytes);
     }
 };

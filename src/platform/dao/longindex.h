@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/jet/table.h"
+#include "platform/jet/reader/table.h"
 #include <span>
 #include <vector>
 

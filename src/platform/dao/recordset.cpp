@@ -14,28 +14,28 @@ using namespace Qt::StringLiterals;
 void Recordset::Private::requireOpen() const
 {
     if (!snapshot)
-        throw Error(ErrorKind::ObjectClosed, place, u"The recordset was closed."_s);
+        throw basic::Error(basic::ErrorKind::ObjectClosed, place, u"The recordset was closed."_s);
 }
 
 void Recordset::Private::requireRow() const
 {
     requireOpen();
     if (!valid)
-        throw Error(ErrorKind::NoCurrentRow, place, u"There is no current row."_s);
+        throw basic::Error(basic::ErrorKind::NoCurrentRow, place, u"There is no current row."_s);
 }
 
 void Recordset::Private::requireTable() const
 {
     requireOpen();
     if (!isTable)
-        throw Error(ErrorKind::Refused, place, u"Only a table recordset can be searched and changed."_s);
+        throw basic::Error(basic::ErrorKind::Refused, place, u"Only a table recordset can be searched and changed."_s);
 }
 
 void Recordset::Private::requireField(int field) const
 {
     requireRow();
     if (field < 0 || field >= result.names.size())
-        throw Error(ErrorKind::ColumnNotFound, place, u"There is no field %1."_s.arg(field));
+        throw basic::Error(basic::ErrorKind::ColumnNotFound, place, u"There is no field %1."_s.arg(field));
 }
 
 void Recordset::Private::stand(qint64 where)
@@ -143,7 +143,7 @@ void Recordset::moveNext()
 {
     d->requireOpen();
     if (eof())
-        throw Error(ErrorKind::NoCurrentRow, d->place, u"There is no row behind the last one."_s);
+        throw basic::Error(basic::ErrorKind::NoCurrentRow, d->place, u"There is no row behind the last one."_s);
     d->stand(d->position + 1);
     d->fetchAhead();
 }
@@ -172,12 +172,12 @@ void Recordset::setIndex(const QString &name)
             return index.columns.size() == 1 && candidate.number == index.columns.front().columnNumber;
         });
         if (column == columns.end() || !d->result.view->isWhole(static_cast<int>(column - columns.begin())))
-            throw Error(ErrorKind::IndexNotFound, d->place,
-                        u"The index \"%1\" is not over one column of whole numbers."_s.arg(name));
+            throw basic::Error(basic::ErrorKind::IndexNotFound, d->place,
+                               u"The index \"%1\" is not over one column of whole numbers."_s.arg(name));
         d->indexColumn = static_cast<int>(column - columns.begin());
         return;
     }
-    throw Error(ErrorKind::IndexNotFound, d->place, u"There is no index named \"%1\"."_s.arg(name));
+    throw basic::Error(basic::ErrorKind::IndexNotFound, d->place, u"There is no index named \"%1\"."_s.arg(name));
 }
 
 void Recordset::seekEqual(qint32 key)
@@ -187,7 +187,7 @@ void Recordset::seekEqual(qint32 key)
     if (database && database->isOpen())
         d->adopt(database->d->session->snapshot());
     if (d->indexColumn < 0)
-        throw Error(ErrorKind::IndexNotFound, d->place, u"No index was chosen to seek by."_s);
+        throw basic::Error(basic::ErrorKind::IndexNotFound, d->place, u"No index was chosen to seek by."_s);
     const auto rows = d->result.view->index(d->indexColumn).rows(key);
     d->noMatch = rows.empty();
     if (rows.empty()) {
@@ -217,11 +217,11 @@ void Recordset::setValue(const QString &field, bool value)
     d->requireTable();
     d->requireRow();
     if (!d->editing)
-        throw Error(ErrorKind::Refused, d->place, u"The row must be put into edit mode first."_s);
+        throw basic::Error(basic::ErrorKind::Refused, d->place, u"The row must be put into edit mode first."_s);
     const int index = fieldIndex(field);
-    if (d->result.names[index].compare(markColumnName, Qt::CaseInsensitive) != 0)
-        throw Error(ErrorKind::Refused, d->place,
-                    u"Only %1 can be changed, not \"%2\"."_s.arg(markColumnName).arg(field));
+    if (d->result.names[index].compare(MarkColumnName, Qt::CaseInsensitive) != 0)
+        throw basic::Error(basic::ErrorKind::Refused, d->place,
+                           u"Only %1 can be changed, not \"%2\"."_s.arg(MarkColumnName).arg(field));
     d->edited = value;
 }
 
@@ -230,7 +230,7 @@ bool Recordset::update()
     d->requireTable();
     d->requireRow();
     if (!d->editing)
-        throw Error(ErrorKind::Refused, d->place, u"The row must be put into edit mode first."_s);
+        throw basic::Error(basic::ErrorKind::Refused, d->place, u"The row must be put into edit mode first."_s);
     const std::shared_ptr<Database> database = d->database.lock();
     const std::optional<bool> value = d->edited;
     d->editing = false;
@@ -238,7 +238,7 @@ bool Recordset::update()
     if (!value)
         return false;
     if (!database || !database->isOpen())
-        throw Error(ErrorKind::ObjectClosed, d->place, u"The database was closed."_s);
+        throw basic::Error(basic::ErrorKind::ObjectClosed, d->place, u"The database was closed."_s);
 
     for (bool again = false;; again = true) {
         // The row may be another one in a newer state of the file; its key says which.
@@ -248,19 +248,20 @@ bool Recordset::update()
             const auto rows = key ? d->result.view->index(keyColumnOf(*d->result.view->table())).rows(*key)
                                   : std::span<const quint32>();
             if (rows.empty())
-                throw Error(ErrorKind::ChangedElsewhere, d->place,
-                            u"Another program deleted the row. Load the list anew."_s);
+                throw basic::Error(basic::ErrorKind::ChangedElsewhere, d->place,
+                                   u"Another program deleted the row. Load the list anew."_s);
             d->stand(rows.front());
         }
         TableView &view = *d->result.view;
-        const int markColumn = view.table()->columnOf(markColumnName);
+        const int markColumn = view.table()->columnOf(MarkColumnName);
         if (markColumn < 0)
-            throw Error(ErrorKind::ColumnNotFound, d->place, u"There is no column %1."_s.arg(markColumnName));
+            throw basic::Error(basic::ErrorKind::ColumnNotFound, d->place,
+                               u"There is no column %1."_s.arg(MarkColumnName));
         const jet::Mark mark{d->row(), *value};
         try {
             return !d->snapshot->write(view, markColumn, {&mark, 1}, {}).empty();
-        } catch (const Error &error) {
-            if (error.kind() != ErrorKind::ChangedElsewhere || again)
+        } catch (const basic::Error &error) {
+            if (error.kind() != basic::ErrorKind::ChangedElsewhere || again)
                 throw;
             database->d->reload();
         }
@@ -293,7 +294,7 @@ int Recordset::fieldIndex(const QString &name) const
         if (names[i].compare(name, Qt::CaseInsensitive) == 0)
             return i;
     }
-    throw Error(ErrorKind::ColumnNotFound, d->place, u"There is no column named \"%1\"."_s.arg(name));
+    throw basic::Error(basic::ErrorKind::ColumnNotFound, d->place, u"There is no column named \"%1\"."_s.arg(name));
 }
 
 QVariant Recordset::value(int field) const
@@ -329,7 +330,7 @@ std::optional<qint32> Recordset::integer(int field) const
     if (const auto &view = d->result.view; view && view->isWhole(d->column(field)))
         return view->table()->integer(d->row(), d->column(field));
     const auto value = number(field);
-    return value ? std::optional(toLong32(*value)) : std::nullopt;
+    return value ? std::optional(basic::toLong32(*value)) : std::nullopt;
 }
 
 bool Recordset::boolean(int field) const
@@ -354,7 +355,7 @@ QString Recordset::text(int field) const
     if (const auto &view = d->result.view; view && view->isText(d->column(field)))
         return view->table()->text(d->row(), d->column(field));
     if (const auto value = number(field))
-        return trimmedNumberText(*value);
+        return basic::trimmedNumberText(*value);
     return this->value(field).toString();
 }
 

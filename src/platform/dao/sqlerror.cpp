@@ -14,7 +14,7 @@ struct Complaint {
     const char *pattern;
     QStringView words; ///< %1: what the pattern's group holds
 };
-constexpr Complaint complaints[] = {
+constexpr Complaint Complaints[] = {
     {"^no such column: (.*)$", u"There is no column \"%1\""},
     {"^ambiguous column name: (.*)$", u"The column \"%1\" stands in more than one table"},
     {"^near \"(.*)\": syntax error$", u"The statement is not understood at \"%1\""},
@@ -36,7 +36,7 @@ constexpr Complaint complaints[] = {
 QString plainComplaint(const QString &complaint, const QString &sql, int offset, bool hasQuotes)
 {
     QString words = complaint;
-    for (const Complaint &known : complaints) {
+    for (const Complaint &known : Complaints) {
         const auto match =
             QRegularExpression(QString::fromLatin1(known.pattern), QRegularExpression::DotMatchesEverythingOption)
                 .match(complaint);

@@ -3,8 +3,8 @@
 #include "platform/dao/sqlguard.h"
 
 #include "platform/dao/sqlsession.h"
-#include "platform/jet/like.h"
-#include "platform/jet/sortkey.h"
+#include "platform/jet/order/like.h"
+#include "platform/jet/order/sortkey.h"
 #include <algorithm>
 #include <array>
 
@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array allowedFunctions{u"abs",    u"avg",   u"coalesce", u"count", u"ifnull", u"length", u"like",
+constexpr std::array AllowedFunctions{u"abs",    u"avg",   u"coalesce", u"count", u"ifnull", u"length", u"like",
                                       u"lower",  u"ltrim", u"max",      u"min",   u"nullif", u"round",  u"rtrim",
                                       u"substr", u"sum",   u"total",    u"trim",  u"upper"};
 
@@ -22,7 +22,7 @@ struct Limit {
     int id;
     int value;
 };
-constexpr std::array limits{
+constexpr std::array Limits{
     Limit{SQLITE_LIMIT_LENGTH, 64 * 1024 * 1024}, // a picture of an OLE column must fit
     Limit{SQLITE_LIMIT_SQL_LENGTH, 100'000},
     Limit{SQLITE_LIMIT_COLUMN, 1024},
@@ -36,7 +36,7 @@ constexpr std::array limits{
     Limit{SQLITE_LIMIT_WORKER_THREADS, 0},
 };
 
-constexpr int stepsPerTick = 20'000; ///< instructions of SQLite's machine; about a millisecond
+constexpr int StepsPerTick = 20'000; ///< instructions of SQLite's machine; about a millisecond
 
 int compareTexts(void *, int leftBytes, const void *left, int rightBytes, const void *right)
 {
@@ -57,7 +57,7 @@ void forgetPattern(void *pattern)
 
 QString statementsAllowed()
 {
-    return u"Only SELECT and UPDATE … SET %1 are carried out."_s.arg(markColumnName);
+    return u"Only SELECT and UPDATE … SET %1 are carried out."_s.arg(MarkColumnName);
 }
 
 void refuseEscape(sqlite3_context *context, int, sqlite3_value **)
@@ -95,9 +95,9 @@ int SqlGuard::setUp(sqlite3 *handle)
          {std::pair{SQLITE_DBCONFIG_DQS_DML, 0}, std::pair{SQLITE_DBCONFIG_DQS_DDL, 0},
           std::pair{SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, 0}, std::pair{SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0}})
         sqlite3_db_config(handle, option, on, nullptr);
-    for (const Limit &limit : limits)
+    for (const Limit &limit : Limits)
         sqlite3_limit(handle, limit.id, limit.value);
-    sqlite3_progress_handler(handle, stepsPerTick, tick, this);
+    sqlite3_progress_handler(handle, StepsPerTick, tick, this);
     // Texts stay in UTF-16, as they come; what must be sorted stays in memory.
     int code = sqlite3_exec(handle, "PRAGMA encoding='UTF-16'; PRAGMA temp_store=MEMORY;", nullptr, nullptr, nullptr);
     if (code == SQLITE_OK)
@@ -128,11 +128,11 @@ QString SqlGuard::objection(int action, const QString &first, const QString &sec
     case SQLITE_UPDATE:
         if (run == nullptr || !run->updating)
             return statementsAllowed();
-        return second.compare(markColumnName, Qt::CaseInsensitive) == 0
+        return second.compare(MarkColumnName, Qt::CaseInsensitive) == 0
                    ? QString()
-                   : u"Only %1 can be changed, not \"%2\"."_s.arg(markColumnName).arg(second);
+                   : u"Only %1 can be changed, not \"%2\"."_s.arg(MarkColumnName).arg(second);
     case SQLITE_FUNCTION:
-        return std::any_of(allowedFunctions.begin(), allowedFunctions.end(),
+        return std::any_of(AllowedFunctions.begin(), AllowedFunctions.end(),
                            [&second](const char16_t *name) {
                                return second.compare(QStringView(name), Qt::CaseInsensitive) == 0;
                            })

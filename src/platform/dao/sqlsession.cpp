@@ -15,16 +15,17 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A result that SQLite had to sort or compute is copied; the lists of the program never are.
-constexpr qint64 mostCells = 4'000'000;
-constexpr qint64 mostBytes = 512LL * 1024 * 1024;
+constexpr qint64 MostCells = 4'000'000;
+constexpr qint64 MostBytes = 512LL * 1024 * 1024;
 
 } // namespace
 
-SqlRun::SqlRun(SqlRun *&current, const QString &place, const Progress &progress)
+SqlRun::SqlRun(SqlRun *&current, const QString &place, const basic::Progress &progress)
     : m_current(current), m_place(place), m_progress(progress)
 {
     if (current != nullptr)
-        throw Error(ErrorKind::Refused, place, u"Another query of this file is still running. Wait for its end."_s);
+        throw basic::Error(basic::ErrorKind::Refused, place,
+                           u"Another query of this file is still running. Wait for its end."_s);
     current = this;
 }
 
@@ -52,13 +53,13 @@ void SqlRun::rethrow() const
     try {
         if (m_exception)
             std::rethrow_exception(m_exception);
-    } catch (const Error &error) {
-        throw Error(error.kind(), error.place().isEmpty() ? m_place : error.place(), error.text());
+    } catch (const basic::Error &error) {
+        throw basic::Error(error.kind(), error.place().isEmpty() ? m_place : error.place(), error.text());
     }
     if (m_cancelled)
-        throw Error(ErrorKind::Cancelled, m_place, u"The query was stopped. Nothing was changed."_s);
+        throw basic::Error(basic::ErrorKind::Cancelled, m_place, u"The query was stopped. Nothing was changed."_s);
     if (!refusal.isEmpty())
-        throw Error(ErrorKind::Refused, m_place, refusal);
+        throw basic::Error(basic::ErrorKind::Refused, m_place, refusal);
 }
 
 struct SqlSession::Parts {
@@ -98,7 +99,7 @@ public:
         if (code != SQLITE_OK)
             fail(code);
         if (statement == nullptr || tail != utf8.constData() + utf8.size())
-            throw Error(ErrorKind::Refused, m_place, u"Only one statement can be carried out."_s);
+            throw basic::Error(basic::ErrorKind::Refused, m_place, u"Only one statement can be carried out."_s);
     }
 
     operator sqlite3_stmt *() const { return m_statement.get(); }
@@ -119,12 +120,12 @@ private:
         const QString complaint = QString::fromUtf8(sqlite3_errmsg(m_parts.handle));
         const QString missingTable = u"no such table: "_s;
         if (complaint.startsWith(missingTable))
-            throw Error(ErrorKind::TableNotFound, m_place,
-                        u"There is no table named \"%1\"."_s.arg(complaint.mid(missingTable.size())));
+            throw basic::Error(basic::ErrorKind::TableNotFound, m_place,
+                               u"There is no table named \"%1\"."_s.arg(complaint.mid(missingTable.size())));
         if (code == SQLITE_NOMEM)
             throw std::bad_alloc();
-        throw Error(
-            ErrorKind::InvalidSql, m_place,
+        throw basic::Error(
+            basic::ErrorKind::InvalidSql, m_place,
             plainComplaint(complaint, m_adapted, sqlite3_error_offset(m_parts.handle), m_adapted.contains(u'\'')));
     }
 
@@ -147,8 +148,8 @@ SqlSession::SqlSession(std::shared_ptr<Snapshot> snapshot)
     if (code == SQLITE_OK)
         code = registerTableModule(m_parts->handle, &m_parts->module);
     if (code != SQLITE_OK)
-        throw Error(ErrorKind::InvalidProcedureCall, place(),
-                    u"The query engine cannot be set up: %1."_s.arg(QString::fromUtf8(sqlite3_errstr(code))));
+        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, place(),
+                           u"The query engine cannot be set up: %1."_s.arg(QString::fromUtf8(sqlite3_errstr(code))));
 }
 
 SqlSession::~SqlSession() = default;
@@ -172,8 +173,8 @@ void SqlSession::declare(const QString &name)
                                   nullptr, nullptr, nullptr);
     parts.guard.watch(parts.handle, true);
     if (code != SQLITE_OK)
-        throw Error(ErrorKind::Damaged, tablePlace(place(), name),
-                    u"The table cannot be queried: %1."_s.arg(QString::fromUtf8(sqlite3_errmsg(parts.handle))));
+        throw basic::Error(basic::ErrorKind::Damaged, tablePlace(place(), name),
+                           u"The table cannot be queried: %1."_s.arg(QString::fromUtf8(sqlite3_errmsg(parts.handle))));
     parts.declared.emplace(name, std::exchange(parts.module.next, nullptr));
 }
 
@@ -274,16 +275,16 @@ bool SqlSession::collectRows(const SqlText &sql, QueryResult &result) const
     return true;
 }
 
-QueryResult SqlSession::query(const QString &text, const Progress &progress)
+QueryResult SqlSession::query(const QString &text, const basic::Progress &progress)
 {
     const SqlText sql(text, place());
     if (!sql.beginsWith(u"SELECT"))
-        throw Error(ErrorKind::Refused, place(), u"A query must begin with SELECT."_s);
+        throw basic::Error(basic::ErrorKind::Refused, place(), u"A query must begin with SELECT."_s);
     SqlRun run(m_parts->run, place(), progress);
     declareTables(sql);
     Statement statement(*m_parts, sql.adapted(knownNames()), place());
     if (sqlite3_stmt_readonly(statement) == 0)
-        throw Error(ErrorKind::Refused, place(), u"A query changes nothing."_s);
+        throw basic::Error(basic::ErrorKind::Refused, place(), u"A query changes nothing."_s);
     QueryResult result;
     const int fields = sqlite3_column_count(statement);
     std::vector<bool> yesNo;
@@ -308,9 +309,9 @@ QueryResult SqlSession::query(const QString &text, const Progress &progress)
     while (statement.step()) {
         for (int i = 0; i < fields; ++i)
             result.cells.push_back(cellOf(statement, i, yesNo[static_cast<std::size_t>(i)], bytes));
-        if (static_cast<qint64>(result.cells.size()) > mostCells || bytes > mostBytes)
-            throw Error(ErrorKind::Refused, place(),
-                        u"The result is too large to be sorted or computed. Select fewer rows or columns."_s);
+        if (static_cast<qint64>(result.cells.size()) > MostCells || bytes > MostBytes)
+            throw basic::Error(basic::ErrorKind::Refused, place(),
+                               u"The result is too large to be sorted or computed. Select fewer rows or columns."_s);
     }
     return result;
 }
@@ -336,11 +337,12 @@ bool SqlSession::collectMarks(const ConstantUpdate &wanted, UpdateResult &update
     return true;
 }
 
-UpdateResult SqlSession::update(const QString &text, const Progress &progress)
+UpdateResult SqlSession::update(const QString &text, const basic::Progress &progress)
 {
     const SqlText sql(text, place());
     if (!sql.beginsWith(u"UPDATE"))
-        throw Error(ErrorKind::Refused, place(), u"Only UPDATE … SET %1 is carried out."_s.arg(markColumnName));
+        throw basic::Error(basic::ErrorKind::Refused, place(),
+                           u"Only UPDATE … SET %1 is carried out."_s.arg(MarkColumnName));
     SqlRun run(m_parts->run, place(), progress);
     run.updating = true;
     declareTables(sql);

@@ -5,7 +5,7 @@
 #include "platform/basic/progress.h"
 #include "platform/dao/sqltext.h"
 #include "platform/dao/tableview.h"
-#include "platform/jet/markwriter.h"
+#include "platform/jet/marks/markwriter.h"
 #include <exception>
 #include <memory>
 #include <QVariant>
@@ -36,7 +36,7 @@ class SqlRun {
 public:
     /// Takes the place of the run at hand until it ends. Throws Refused where one is at hand: a Progress must not
     /// begin another statement on the same database.
-    SqlRun(SqlRun *&current, const QString &place, const Progress &progress);
+    SqlRun(SqlRun *&current, const QString &place, const basic::Progress &progress);
     ~SqlRun() { m_current = nullptr; }
     SqlRun(const SqlRun &) = delete;
     SqlRun &operator=(const SqlRun &) = delete;
@@ -58,7 +58,7 @@ public:
 private:
     SqlRun *&m_current;
     QString m_place;
-    Progress m_progress;
+    basic::Progress m_progress;
     std::exception_ptr m_exception;
     qint64 m_done = 0;
     qint64 m_total = 0;
@@ -76,9 +76,9 @@ public:
 
     const std::shared_ptr<Snapshot> &snapshot() const { return m_snapshot; }
     /// Throws InvalidSql, InvalidPattern, TableNotFound, Damaged, Refused, Cancelled.
-    QueryResult query(const QString &sql, const Progress &progress);
+    QueryResult query(const QString &sql, const basic::Progress &progress);
     /// Collects what the UPDATE sets; nothing is changed yet. Throws as query, and NotMarkable, TypeMismatch.
-    UpdateResult update(const QString &sql, const Progress &progress);
+    UpdateResult update(const QString &sql, const basic::Progress &progress);
 
 private:
     class Statement;

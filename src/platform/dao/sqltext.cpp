@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Words that the grammar of the statements here needs: never taken for a name, in Jet neither.
-constexpr std::array structural{
+constexpr std::array Structural{
     u"ALL",    u"AND",      u"AS",     u"ASC",       u"BETWEEN", u"BY",     u"CASE",   u"CAST",  u"COLLATE", u"CROSS",
     u"DESC",   u"DISTINCT", u"ELSE",   u"END",       u"ESCAPE",  u"EXCEPT", u"EXISTS", u"FROM",  u"FULL",    u"GROUP",
     u"HAVING", u"IN",       u"INNER",  u"INTERSECT", u"IS",      u"JOIN",   u"LEFT",   u"LIKE",  u"LIMIT",   u"NATURAL",
@@ -28,7 +28,7 @@ bool same(QStringView left, QStringView right)
 
 bool isStructural(QStringView word)
 {
-    return std::any_of(structural.begin(), structural.end(),
+    return std::any_of(Structural.begin(), Structural.end(),
                        [word](const char16_t *other) { return same(word, QStringView(other)); });
 }
 
@@ -110,11 +110,11 @@ SqlText::SqlText(const QString &sql, const QString &place) : m_text(sql)
         m_tokens.pop_back();
     const auto seam = std::find_if(m_tokens.begin(), m_tokens.end(), isSemicolon);
     if (seam != m_tokens.end())
-        throw Error(ErrorKind::Refused, place,
-                    u"Only one statement can be carried out; a second one begins at %1"_s.arg(
-                        excerpt(m_text, seam->start + 1).trimmed()));
+        throw basic::Error(basic::ErrorKind::Refused, place,
+                           u"Only one statement can be carried out; a second one begins at %1"_s.arg(
+                               excerpt(m_text, seam->start + 1).trimmed()));
     if (m_tokens.empty())
-        throw Error(ErrorKind::InvalidSql, place, u"The statement is empty."_s);
+        throw basic::Error(basic::ErrorKind::InvalidSql, place, u"The statement is empty."_s);
 }
 
 void SqlText::cut(const QString &place)
@@ -142,12 +142,13 @@ void SqlText::cut(const QString &place)
             kind = Token::Kind::Number;
             end = endOfNumber(text, at);
         } else if ((c == u'-' && next == u'-') || (c == u'/' && next == u'*')) {
-            throw Error(ErrorKind::InvalidSql, place,
-                        u"The signs %1%2 are not understood; there are no comments in a statement."_s.arg(c).arg(next));
+            throw basic::Error(
+                basic::ErrorKind::InvalidSql, place,
+                u"The signs %1%2 are not understood; there are no comments in a statement."_s.arg(c).arg(next));
         } else if (!QStringView(u"+-*/%&|~<>=!(),.;").contains(c)) {
-            throw Error(ErrorKind::InvalidSql, place,
-                        c.isPrint() ? u"The sign %1 is not understood at %2"_s.arg(c).arg(excerpt(text, at))
-                                    : u"The statement holds a control character."_s);
+            throw basic::Error(basic::ErrorKind::InvalidSql, place,
+                               c.isPrint() ? u"The sign %1 is not understood at %2"_s.arg(c).arg(excerpt(text, at))
+                                           : u"The statement holds a control character."_s);
         }
         m_tokens.push_back({kind, at, end - at});
         at = end;
@@ -157,8 +158,8 @@ void SqlText::cut(const QString &place)
 void SqlText::failUnclosed(qsizetype at, bool isText, const QString &place) const
 {
     if (!isText)
-        throw Error(ErrorKind::InvalidSql, place,
-                    u"The name that begins at %1 is not closed."_s.arg(excerpt(m_text, at)));
+        throw basic::Error(basic::ErrorKind::InvalidSql, place,
+                           u"The name that begins at %1 is not closed."_s.arg(excerpt(m_text, at)));
     // An apostrophe within a text ended it; what is left of it stands directly behind.
     for (std::size_t i = 1; i < m_tokens.size(); ++i) {
         const Token &before = m_tokens[i - 1];
@@ -167,9 +168,10 @@ void SqlText::failUnclosed(qsizetype at, bool isText, const QString &place) cons
             break;
         }
     }
-    throw Error(ErrorKind::InvalidSql, place,
-                u"The search text that begins at %1 is not closed. Write an apostrophe within a text twice ('')."_s.arg(
-                    excerpt(m_text, at)));
+    throw basic::Error(
+        basic::ErrorKind::InvalidSql, place,
+        u"The search text that begins at %1 is not closed. Write an apostrophe within a text twice ('')."_s.arg(
+            excerpt(m_text, at)));
 }
 
 bool SqlText::isWord(std::size_t token, QStringView word) const

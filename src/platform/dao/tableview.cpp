@@ -18,13 +18,15 @@ QString tablePlace(const QString &file, const QString &table)
 int keyColumnOf(const jet::Table &table)
 {
     const QString place = tablePlace(table.image().file(), table.name());
-    const int column = table.columnOf(keyColumnName);
+    const int column = table.columnOf(KeyColumnName);
     if (column < 0)
-        throw Error(ErrorKind::NotMarkable, place,
-                    u"Marks cannot be set: the table has no column %1 that tells its rows apart."_s.arg(keyColumnName));
+        throw basic::Error(
+            basic::ErrorKind::NotMarkable, place,
+            u"Marks cannot be set: the table has no column %1 that tells its rows apart."_s.arg(KeyColumnName));
     if (table.columns()[static_cast<std::size_t>(column)].type != jet::ColumnType::Long)
-        throw Error(ErrorKind::NotMarkable, place,
-                    u"Marks cannot be set: the column %1 does not hold whole numbers (Long)."_s.arg(keyColumnName));
+        throw basic::Error(
+            basic::ErrorKind::NotMarkable, place,
+            u"Marks cannot be set: the column %1 does not hold whole numbers (Long)."_s.arg(KeyColumnName));
     return column;
 }
 
@@ -108,7 +110,7 @@ QStringList Snapshot::warnings() const
 }
 
 std::vector<quint32> Snapshot::write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
-                                     const Progress &progress)
+                                     const basic::Progress &progress)
 {
     auto writer = m_writers.find({&view, markColumn});
     if (writer == m_writers.end())

@@ -4,8 +4,8 @@
 
 #include "platform/dao/bits.h"
 #include "platform/dao/longindex.h"
-#include "platform/jet/database.h"
-#include "platform/jet/markwriter.h"
+#include "platform/jet/marks/markwriter.h"
+#include "platform/jet/reader/database.h"
 #include <map>
 #include <memory>
 #include <vector>
@@ -13,8 +13,8 @@
 namespace kalvenor::dao {
 
 /// The one column that is ever changed, and the key that tells whose mark it is.
-inline constexpr QStringView markColumnName = u"Markierung";
-inline constexpr QStringView keyColumnName = u"Counter";
+inline constexpr QStringView MarkColumnName = u"Markierung";
+inline constexpr QStringView KeyColumnName = u"Counter";
 
 /// "file, table name", as errors name their place.
 QString tablePlace(const QString &file, const QString &table);
@@ -66,7 +66,7 @@ public:
     /// ascending.
     /// Throws NotMarkable, and as jet::MarkWriter::write.
     std::vector<quint32> write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
-                               const Progress &progress);
+                               const basic::Progress &progress);
 
 private:
     std::shared_ptr<jet::Database> m_database;

@@ -4,7 +4,7 @@
 
 #include "platform/basic/error.h"
 #include "platform/dao/sqlsession.h"
-#include "platform/jet/likescan.h"
+#include "platform/jet/order/likescan.h"
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -25,7 +25,7 @@ struct VirtualTable : sqlite3_vtab {
 // order of their arguments; "o" has none.
 enum Operation : char { Lookup = 'e', ByMark = 'm', ByPattern = 'l', Ordered = 'o' };
 
-constexpr int mostArguments = 15; ///< SQLite drops its own check of no more terms than these
+constexpr int MostArguments = 15; ///< SQLite drops its own check of no more terms than these
 
 SqlRun &runOf(const sqlite3_vtab *table)
 {
@@ -92,7 +92,7 @@ int create(sqlite3 *handle, void *aux, int, const char *const *, sqlite3_vtab **
         auto table = std::make_unique<VirtualTable>();
         table->module = module;
         table->view = module->next;
-        table->markColumn = module->next->table()->columnOf(markColumnName);
+        table->markColumn = module->next->table()->columnOf(MarkColumnName);
         *result = table.release();
         return SQLITE_OK;
     } catch (const std::exception &error) {
@@ -129,7 +129,7 @@ int bestIndex(sqlite3_vtab *table, sqlite3_index_info *info)
             info->aConstraintUsage[constraint].omit = 1;
             plan += operation + QByteArray::number(column) + ' ';
         };
-        for (int i = 0; i < info->nConstraint && arguments < mostArguments; ++i) {
+        for (int i = 0; i < info->nConstraint && arguments < MostArguments; ++i) {
             const auto &constraint = info->aConstraint[i];
             const int column = constraint.iColumn;
             if (!constraint.usable || column < 0)
@@ -187,13 +187,13 @@ int close(sqlite3_vtab_cursor *base)
     return SQLITE_OK;
 }
 
-constexpr quint32 rowsPerReport = 16384;
+constexpr quint32 RowsPerReport = 16384;
 
 /// Stands on the next row that passes, from `position` on. SQLite's code.
 int settle(TableCursor &cursor)
 {
     for (; !cursor.atEnd(); ++cursor.position) {
-        if (cursor.position % rowsPerReport == 0 && !runOf(cursor.pVtab).reached(cursor.position, cursor.end))
+        if (cursor.position % RowsPerReport == 0 && !runOf(cursor.pVtab).reached(cursor.position, cursor.end))
             return SQLITE_INTERRUPT;
         cursor.row = cursor.rowAt(cursor.position);
         if (cursor.passes(cursor.row))
@@ -262,7 +262,7 @@ int choosePattern(TableCursor &cursor, int column, sqlite3_value *value)
     jet::LikeScan scan(table, column, jet::LikePattern(textOf(value)));
     Bits choice(table.rowCount());
     for (quint32 i = 0; i < cursor.end; ++i) {
-        if (i % rowsPerReport == 0 && !runOf(cursor.pVtab).reached(i, cursor.end))
+        if (i % RowsPerReport == 0 && !runOf(cursor.pVtab).reached(i, cursor.end))
             return SQLITE_INTERRUPT;
         const quint32 row = cursor.rowAt(i);
         table.fetchAhead(row);
@@ -396,7 +396,8 @@ bool truthOf(sqlite3_value *value, const QString &place)
     const QStringView text = type == SQLITE_TEXT ? textOf(value) : QStringView();
     const bool on = text.compare(u"true", Qt::CaseInsensitive) == 0;
     if (!on && text.compare(u"false", Qt::CaseInsensitive) != 0)
-        throw Error(ErrorKind::TypeMismatch, place, u"%1 can only be set to 0 or -1."_s.arg(markColumnName));
+        throw basic::Error(basic::ErrorKind::TypeMismatch, place,
+                           u"%1 can only be set to 0 or -1."_s.arg(MarkColumnName));
     return on;
 }
 
@@ -407,17 +408,17 @@ int change(sqlite3_vtab *base, int count, sqlite3_value **arguments, sqlite3_int
         SqlRun &run = runOf(base);
         const QString place = tablePlace(table.view->table()->image().file(), table.view->table()->name());
         if (!run.updating || count == 1 || sqlite3_value_type(arguments[0]) == SQLITE_NULL)
-            throw Error(ErrorKind::Refused, place, u"Rows are never inserted or deleted."_s);
+            throw basic::Error(basic::ErrorKind::Refused, place, u"Rows are never inserted or deleted."_s);
         const sqlite3_int64 row = sqlite3_value_int64(arguments[0]);
         if (sqlite3_value_int64(arguments[1]) != row || row < 0 || row >= table.view->table()->rowCount())
-            throw Error(ErrorKind::Refused, place, u"A row's number cannot be changed."_s);
+            throw basic::Error(basic::ErrorKind::Refused, place, u"A row's number cannot be changed."_s);
         for (int i = 2; i < count; ++i) {
             if (i - 2 != table.markColumn && !sqlite3_value_nochange(arguments[i]))
-                throw Error(ErrorKind::Refused, place, u"Only %1 can be changed."_s.arg(markColumnName));
+                throw basic::Error(basic::ErrorKind::Refused, place, u"Only %1 can be changed."_s.arg(MarkColumnName));
         }
         if (table.markColumn < 0 || table.view->typeOf(table.markColumn) != jet::ColumnType::Boolean)
-            throw Error(ErrorKind::NotMarkable, place,
-                        u"Marks cannot be set: the table has no Yes/No column %1."_s.arg(markColumnName));
+            throw basic::Error(basic::ErrorKind::NotMarkable, place,
+                               u"Marks cannot be set: the table has no Yes/No column %1."_s.arg(MarkColumnName));
         run.update.view = table.view;
         run.update.markColumn = table.markColumn;
         run.update.marks.push_back({static_cast<std::uint32_t>(row), truthOf(arguments[2 + table.markColumn], place)});
@@ -425,7 +426,7 @@ int change(sqlite3_vtab *base, int count, sqlite3_value **arguments, sqlite3_int
     });
 }
 
-const sqlite3_module moduleFunctions = [] {
+const sqlite3_module ModuleFunctions = [] {
     sqlite3_module functions{};
     functions.iVersion = 1;
     functions.xCreate = create;
@@ -448,7 +449,7 @@ const sqlite3_module moduleFunctions = [] {
 
 int registerTableModule(sqlite3 *handle, TableModule *module)
 {
-    return sqlite3_create_module(handle, "jet", &moduleFunctions, module);
+    return sqlite3_create_module(handle, "jet", &ModuleFunctions, module);
 }
 
 } // namespace kalvenor::dao

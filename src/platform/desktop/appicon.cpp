@@ -6,18 +6,20 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 
+using namespace Qt::StringLiterals;
+
 // A static library's resources are not found by themselves; the macro must stand outside of any namespace.
 static void initResources()
 {
     Q_INIT_RESOURCE(icon);
 }
 
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 QIcon applicationIcon()
 {
     initResources();
-    QSvgRenderer drawing(QStringLiteral(":/kalvenor.svg"));
+    QSvgRenderer drawing(u":/kalvenor.svg"_s);
     QIcon icon;
     for (const int side : {16, 20, 24, 32, 48, 64, 128, 256}) {
         QPixmap pixmap(side, side);
@@ -30,4 +32,4 @@ QIcon applicationIcon()
     return icon;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

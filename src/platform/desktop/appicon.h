@@ -4,9 +4,9 @@
 
 #include <QIcon>
 
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 /// The program's icon, drawn sharp for each usual size.
 QIcon applicationIcon();
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

@@ -5,7 +5,9 @@
 #include "platform/desktop/terminal.h"
 #include <QWindow>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::desktop {
 
 bool Desktop::setStackPlace(QWindow *window, StackPlace place, bool activate)
 {
@@ -49,13 +51,13 @@ bool Desktop::runDialog(QDialog &)
 
 int TerminalDesktop::messageBox(const QString &text, int, const QString &title)
 {
-    writeError(title.isEmpty() ? text : title + QStringLiteral(": ") + text);
+    writeError(title.isEmpty() ? text : title + u": "_s + text);
     return ResultOk;
 }
 
-void TerminalDesktop::runtimeError(const Error &error)
+void TerminalDesktop::runtimeError(const basic::Error &error)
 {
-    writeError(QStringLiteral("run-time error %1: %2").arg(error.number()).arg(error.message()));
+    writeError(u"run-time error %1: %2"_s.arg(error.number()).arg(error.message()));
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

@@ -4,7 +4,7 @@
 
 #include <QPainterPath>
 
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 namespace {
 
@@ -125,4 +125,4 @@ QIcon colorIcon(const QColor &color)
     return pathIcon(path, color);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

@@ -4,7 +4,7 @@
 
 #include "platform/desktop/lineicon.h"
 
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 /// The signs of a text editor's tools.
 enum class FormatIcon { Bold, Italic, Underline, StrikeOut, Left, Centre, Right, Justify, Bullets, Plain };
@@ -13,4 +13,4 @@ QIcon formatIcon(FormatIcon which);
 /// A letter over a bar of the colour; an invalid one gives it that of the letter.
 QIcon colorIcon(const QColor &color);
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

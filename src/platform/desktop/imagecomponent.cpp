@@ -10,13 +10,15 @@
 #include <QImageWriter>
 #include <QSaveFile>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::desktop {
 
 namespace {
 
 struct Registry {
     std::mutex mutex;
-    std::map<QString, ImageComponentFactory> factories{{QStringLiteral("Pictarex.Compendium"), createJpegComponent}};
+    std::map<QString, ImageComponentFactory> factories{{u"Pictarex.Compendium"_s, createJpegComponent}};
 };
 
 Registry &registry()
@@ -42,7 +44,7 @@ public:
         QImageReader reader(bmpFile);
         QImage image = reader.read();
         if (image.isNull())
-            return bmpFile + QStringLiteral(": ") + reader.errorString();
+            return bmpFile + u": "_s + reader.errorString();
         image = scaled(image, width, height);
         if (resolution > 0) {
             const int dotsPerMeter = qRound(resolution / 0.0254);
@@ -51,12 +53,12 @@ public:
         }
         QSaveFile file(outputFile); // an old picture stays whole until the new one is
         if (!file.open(QIODevice::WriteOnly))
-            return outputFile + QStringLiteral(": ") + file.errorString();
+            return outputFile + u": "_s + file.errorString();
         QImageWriter writer(&file, "jpeg");
         writer.setQuality(std::clamp(quality, 0, 100));
         if (!writer.write(image))
-            return outputFile + QStringLiteral(": ") + writer.errorString();
-        return file.commit() ? QString() : outputFile + QStringLiteral(": ") + file.errorString();
+            return outputFile + u": "_s + writer.errorString();
+        return file.commit() ? QString() : outputFile + u": "_s + file.errorString();
     }
 };
 
@@ -95,4 +97,4 @@ std::unique_ptr<ImageComponent> createJpegComponent()
     return std::make_unique<JpegComponent>();
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

@@ -6,7 +6,7 @@
 #include <QString>
 
 // Components that convert pictures, found by their program identifier.
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 class ImageComponent {
 public:
@@ -32,4 +32,4 @@ std::unique_ptr<ImageComponent> createImageComponent(const QString &programId);
 /// Our own component: writes JPEG.
 std::unique_ptr<ImageComponent> createJpegComponent();
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

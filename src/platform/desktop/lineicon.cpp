@@ -11,7 +11,7 @@
 #include <QPalette>
 #include <utility>
 
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 namespace {
 
@@ -296,4 +296,4 @@ QIcon pathIcon(const QPainterPath &path, const QColor &bar)
     return QIcon(new LineEngine(path, bar));
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

@@ -7,7 +7,7 @@
 
 class QPainterPath;
 
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 enum class LineIcon {
     Right,
@@ -43,4 +43,4 @@ QIcon lineIcon(LineIcon which);
 /// The same for a drawing on a field of 24 × 24 units; a valid colour adds a bar of that colour at its foot.
 QIcon pathIcon(const QPainterPath &path, const QColor &bar = {});
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

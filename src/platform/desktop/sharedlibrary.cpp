@@ -5,7 +5,7 @@
 #include <system_error>
 #include <thread>
 
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 namespace {
 
@@ -34,4 +34,4 @@ std::int32_t runOnThread(SharedLibrary::EntryPoint entryPoint)
     return exitCode;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

@@ -12,7 +12,7 @@
 #define KALVENOR_ENTRY
 #endif
 
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 /// A library loaded by its file (native path) and unloaded with the object.
 class SharedLibrary {
@@ -38,4 +38,4 @@ private:
 /// or the entry point throws it is a failure, below 0.
 std::int32_t runOnThread(SharedLibrary::EntryPoint entryPoint);
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

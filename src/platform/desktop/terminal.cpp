@@ -14,7 +14,9 @@
 #include <unistd.h>
 #endif
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::desktop {
 
 namespace {
 
@@ -40,8 +42,8 @@ bool isTerminal(FILE *stream)
 
 [[noreturn]] void throwOutputFailed()
 {
-    throw Error(ErrorKind::WriteFailed, QStringLiteral("standard output"),
-                QStringLiteral("the result could not be written completely (disk full, or the reader has gone)"));
+    throw basic::Error(basic::ErrorKind::WriteFailed, u"standard output"_s,
+                       u"the result could not be written completely (disk full, or the reader has gone)"_s);
 }
 
 } // namespace
@@ -56,7 +58,7 @@ void writeError(const QString &line)
 void writeOutput(QByteArrayView utf8)
 {
     if (interrupted != 0)
-        throw Error(ErrorKind::Cancelled, {}, QStringLiteral("Stopped; the result is not complete."));
+        throw basic::Error(basic::ErrorKind::Cancelled, {}, u"Stopped; the result is not complete."_s);
     const auto size = static_cast<std::size_t>(utf8.size());
     if (std::fwrite(utf8.data(), 1, size, stdout) != size)
         throwOutputFailed();
@@ -88,7 +90,7 @@ TerminalProgress::~TerminalProgress()
         std::fputs("\r\033[K", stderr);
 }
 
-Progress TerminalProgress::progress()
+basic::Progress TerminalProgress::progress()
 {
     return [this](qint64 done, qint64 total) {
         return show(done, total);
@@ -102,11 +104,11 @@ bool TerminalProgress::show(qint64 done, qint64 total)
         m_lastShown = now;
         m_shown = true;
         const qint64 percent = total > 0 ? std::min<qint64>(100, done * 100 / total) : 0;
-        const QByteArray line = QStringLiteral("\r\033[K%1 … %2 % (Ctrl+C stops)").arg(m_what).arg(percent).toUtf8();
+        const QByteArray line = u"\r\033[K%1 … %2 % (Ctrl+C stops)"_s.arg(m_what).arg(percent).toUtf8();
         std::fputs(line.constData(), stderr);
         std::fflush(stderr);
     }
     return interrupted == 0;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

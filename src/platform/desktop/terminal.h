@@ -8,7 +8,7 @@
 #include <QString>
 
 // Standard output, standard error and the interrupt key. All texts are UTF-8.
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 /// One line on stderr, "kalvenor: " before it.
 void writeError(const QString &line);
@@ -31,7 +31,7 @@ public:
     TerminalProgress(const TerminalProgress &) = delete;
     TerminalProgress &operator=(const TerminalProgress &) = delete;
     /// To be handed to the work; asks for an end once the interrupt key was pressed. Valid as long as this object.
-    Progress progress();
+    basic::Progress progress();
 
 private:
     bool show(qint64 done, qint64 total);
@@ -42,4 +42,4 @@ private:
     bool m_shown = false;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

@@ -8,7 +8,9 @@
 #include <QRegularExpression>
 #include <QWindow>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::desktop {
 
 namespace {
 
@@ -63,7 +65,7 @@ int WidgetDesktop::messageBox(const QString &text, int style, const QString &tit
     setPointer(Pointer::Default);
     QMessageBox box(iconOf(style), title.isEmpty() ? QApplication::applicationDisplayName() : title, text,
                     buttonsOf(style), QApplication::activeWindow());
-    box.setObjectName(QStringLiteral("Meldung"));
+    box.setObjectName(u"Meldung"_s);
     box.setTextFormat(Qt::PlainText); // file names and names of persons are no markup
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     // Behind a window that stays on top nobody would see it.
@@ -82,9 +84,9 @@ int WidgetDesktop::messageBox(const QString &text, int style, const QString &tit
     }
 }
 
-void WidgetDesktop::runtimeError(const Error &error)
+void WidgetDesktop::runtimeError(const basic::Error &error)
 {
-    messageBox(error.message(), MessageCritical, QStringLiteral("Run-time error %1").arg(error.number()));
+    messageBox(error.message(), MessageCritical, u"Run-time error %1"_s.arg(error.number()));
 }
 
 void WidgetDesktop::setPointer(Pointer pointer)
@@ -115,7 +117,7 @@ QString WidgetDesktop::saveFileName(QWidget *parent, const FileQuestion &questio
     dialog.setDefaultSuffix(question.suffix);
     // Who chooses a type of file means its suffix.
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString &filter) {
-        static const QRegularExpression oneSuffix(QStringLiteral("\\(\\*\\.(\\w+)\\)"));
+        static const QRegularExpression oneSuffix(u"\\(\\*\\.(\\w+)\\)"_s);
         if (const auto match = oneSuffix.match(filter); match.hasMatch())
             dialog.setDefaultSuffix(match.captured(1));
     });
@@ -133,10 +135,10 @@ QString WidgetDesktop::chooseFolder(QWidget *parent, const FileQuestion &questio
 
 QString WidgetDesktop::askForFile(QFileDialog &dialog, const FileQuestion &question)
 {
-    dialog.setObjectName(QStringLiteral("Dateidialog"));
+    dialog.setObjectName(u"Dateidialog"_s);
     dialog.setWindowTitle(question.title);
     if (!question.filters.isEmpty())
-        dialog.setNameFilters(question.filters.split(QStringLiteral(";;")));
+        dialog.setNameFilters(question.filters.split(u";;"_s));
     const QString folder = question.folder.isEmpty() ? m_lastFolder : question.folder;
     if (!folder.isEmpty())
         dialog.setDirectory(folder);
@@ -158,4 +160,4 @@ bool WidgetDesktop::runDialog(QDialog &dialog)
     return accepted;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

@@ -6,14 +6,14 @@
 
 class QFileDialog;
 
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 /// The desktop of a program with windows. A QApplication must exist.
 class WidgetDesktop : public Desktop {
 public:
     /// A box over the active window. While it is open the pointer is the usual one.
     int messageBox(const QString &text, int style, const QString &title) override;
-    void runtimeError(const Error &error) override;
+    void runtimeError(const basic::Error &error) override;
     /// The pointer over all windows. `Custom` shows none of its own here: windows set it where they need it.
     void setPointer(Pointer pointer) override;
     QString openFileName(QWidget *parent, const FileQuestion &question) override;
@@ -29,4 +29,4 @@ private:
     QString m_lastFolder; ///< where the last file dialog ended
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

@@ -9,7 +9,7 @@
 #include <QKeyEvent>
 #include <QScopeGuard>
 
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 namespace {
 
@@ -118,4 +118,4 @@ bool Work::eventFilter(QObject *watched, QEvent *event)
     return !reaches(watched);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

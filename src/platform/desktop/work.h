@@ -10,7 +10,7 @@
 #include <QObject>
 #include <QPointer>
 
-namespace kalvenor {
+namespace kalvenor::desktop {
 
 /// Long work on the one thread of the windows, one at a time. While it runs the pointer is the hourglass and windows
 /// are painted, but mouse and keys reach only what was let through; Escape cancels.
@@ -19,7 +19,7 @@ class Work : public QObject {
 public:
     explicit Work(Desktop &desktop, QObject *parent = nullptr);
 
-    using Task = std::function<void(const Progress &progress)>;
+    using Task = std::function<void(const basic::Progress &progress)>;
     /// What the user can do meanwhile: cancel, or also type where `letTypingThrough` says.
     enum class Input { CancelOnly, Typing };
 
@@ -59,4 +59,4 @@ private:
     bool m_cancelled = false;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::desktop

@@ -9,7 +9,7 @@
 #include <QPainter>
 #include <utility>
 
-namespace kalvenor {
+namespace kalvenor::print {
 namespace {
 
 /// A printed page knows no transparency, and PDF/A-1 forbids it.
@@ -135,7 +135,7 @@ void BlockSetter::setRow(const std::vector<Cell> &cells, double spaceBefore, std
     qsizetype count = 1;
     for (std::size_t i = 0; i < cells.size(); ++i) {
         const TextFace &face = faceOf(cells[i].style);
-        const double room = std::max(1.0, m_edges[i + 1] - m_edges[i] - 2 * cellPadding);
+        const double room = std::max(1.0, m_edges[i + 1] - m_edges[i] - 2 * CellPadding);
         if (m_columns[i].overflow == Overflow::Elide)
             lines[i] = {face.elided(cells[i].text, room)};
         else
@@ -162,7 +162,7 @@ void BlockSetter::setRow(const std::vector<Cell> &cells, double spaceBefore, std
                 strip.headings.push_back({0, cells[i].outlineLevel, outlineTitle(cells[i].text)});
             setLine(strip, hasLine ? std::move(lines[i][n]) : QString(), cells[i].style,
                     cells[i].alignment.value_or(m_columns[i].alignment), n + 1 < lines[i].size(),
-                    m_edges[i] + cellPadding, m_edges[i + 1] - cellPadding, ascent);
+                    m_edges[i] + CellPadding, m_edges[i + 1] - CellPadding, ascent);
         }
     }
 }
@@ -173,7 +173,7 @@ void BlockSetter::setLine(Strip &strip, QString line, StyleId style, Alignment a
 {
     const TextFace &face = faceOf(style);
     if (face.style().background.isValid())
-        strip.grounds.push_back({QRectF(left - cellPadding, 0, right - left + 2 * cellPadding, strip.height), style});
+        strip.grounds.push_back({QRectF(left - CellPadding, 0, right - left + 2 * CellPadding, strip.height), style});
     if (line.isEmpty())
         return;
     const double width = face.width(line);
@@ -209,4 +209,4 @@ void BlockSetter::spreadLine(Strip &strip, const QString &line, StyleId style, d
     strip.texts.back().width = static_cast<float>(face.width(strip.texts.back().text));
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

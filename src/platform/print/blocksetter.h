@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// Turns a document's blocks into strips; they are visited in their order.
 class BlockSetter {
@@ -44,4 +44,4 @@ private:
     std::vector<Strip> m_headingOwed;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -9,10 +9,12 @@
 #include <algorithm>
 #include <array>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
-constexpr const char *baseRules = R"(*{box-sizing:border-box}
+constexpr const char *BaseRules = R"(*{box-sizing:border-box}
 html{background:#ececec;color-scheme:light}
 body{margin:18pt auto;font-size:6pt;background:#fff;color:#000;line-height:1.25;overflow-wrap:anywhere}
 p,h1,h2,h3,td,th,li,.run span{white-space:pre-wrap}
@@ -37,7 +39,7 @@ p{orphans:2;widows:2}
 )";
 
 /// For paper and for narrow windows; behind the rules that they override.
-constexpr const char *mediaRules =
+constexpr const char *MediaRules =
     R"(@media screen and (max-width:45em){html{background:#fff}body{margin:0;padding:9pt}main table{width:100%!important;margin:0!important}}
 @media print{html{background:#fff}body{margin:0;padding:0;max-width:none}}
 )";
@@ -65,11 +67,11 @@ const char *genericFamily(const QString &family)
 QByteArray marginBoxes(const PrintDocument &document, const RunningText &text, const char *edge)
 {
     constexpr std::array<const char *, 3> places{"left", "center", "right"};
-    const std::array<QString, 3> parts = runningTextParts(QString(text.text).replace(QLatin1String("%d"), pageMark), 0);
+    const std::array<QString, 3> parts = runningTextParts(QString(text.text).replace("%d"_L1, PageMark), 0);
     const TextStyle &style = document.styles().at(static_cast<std::size_t>(text.style));
     QByteArray out;
     for (std::size_t i = 0; i < places.size(); ++i) {
-        const QStringList pieces = printable(parts[i]).split(pageMark);
+        const QStringList pieces = printable(parts[i]).split(PageMark);
         if (pieces.size() < 2)
             continue;
         out += QByteArray("@") + edge + '-' + places[i] + "{font:" + QByteArray::number(style.pointSize) + "pt " +
@@ -107,7 +109,7 @@ QByteArray htmlAttribute(QStringView text)
 
 QByteArray cssString(QStringView text)
 {
-    QString out = QStringLiteral("'");
+    QString out = u"'"_s;
     for (const QChar c : text) {
         if (QStringView(u"'\"\\<>&").contains(c) || c < u' ')
             out += u'\\' + QString::number(c.unicode(), 16) + u' ';
@@ -122,7 +124,7 @@ QByteArray cssLength(double twips)
     return QByteArray::number(twips / 20, 'g', 6) + "pt";
 }
 
-HtmlStyle::HtmlStyle(const PrintDocument &document, const QRectF &area) : m_sheet(baseRules)
+HtmlStyle::HtmlStyle(const PrintDocument &document, const QRectF &area) : m_sheet(BaseRules)
 {
     addPage(document, area);
     for (std::size_t i = 0; i < document.styles().size(); ++i)
@@ -134,7 +136,7 @@ HtmlStyle::HtmlStyle(const PrintDocument &document, const QRectF &area) : m_shee
         m_tables.push_back(withoutWidths(table->columns));
         addTable(table->columns, m_tables.size() - 1);
     }
-    m_sheet += mediaRules;
+    m_sheet += MediaRules;
 }
 
 std::size_t HtmlStyle::tableClass(const std::vector<Column> &columns) const
@@ -189,4 +191,4 @@ void HtmlStyle::addTable(const std::vector<Column> &columns, std::size_t number)
     }
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

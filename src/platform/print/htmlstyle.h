@@ -9,7 +9,7 @@
 #include <QStringView>
 #include <vector>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// Adds a text for an element's content; line ends become <br/>.
 void appendHtmlText(QByteArray &out, QStringView text);
@@ -38,4 +38,4 @@ private:
     std::vector<std::vector<Column>> m_tables; ///< without their widths
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -10,7 +10,9 @@
 #include <algorithm>
 #include <utility>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
 QByteArray styleClass(StyleId style)
@@ -122,7 +124,7 @@ public:
         const std::vector<double> edges = columnEdges(table.columns, m_area.left(), m_area.right());
         const double width = edges.back() - edges.front();
         m_opening = " style=\"width:" + QByteArray::number(100 * width / m_area.width(), 'g', 5) + "%;margin:0 " +
-                    cssLength(-cellPadding) + ";--gap:" + cssLength(table.rowSpacing) + "\">\n<colgroup>";
+                    cssLength(-CellPadding) + ";--gap:" + cssLength(table.rowSpacing) + "\">\n<colgroup>";
         for (std::size_t i = 1; i < edges.size(); ++i)
             m_opening +=
                 "<col style=\"width:" + QByteArray::number(100 * (edges[i] - edges[i - 1]) / width, 'g', 5) + "%\"/>";
@@ -247,9 +249,9 @@ private:
     {
         QByteArray parts;
         bool isBare = true;
-        for (const QString &part : runningTextParts(QString(running.text).replace(QLatin1String("%d"), pageMark), 0)) {
+        for (const QString &part : runningTextParts(QString(running.text).replace("%d"_L1, PageMark), 0)) {
             parts += "<span>";
-            if (!part.contains(pageMark)) { // else the page box has it
+            if (!part.contains(PageMark)) { // else the page box has it
                 appendHtmlText(parts, printable(part));
                 isBare = isBare && part.isEmpty();
             }
@@ -272,14 +274,14 @@ private:
 
 } // namespace
 
-void writeHtmlFile(const PrintDocument &document, const QString &nativePath, const Progress &progress)
+void writeHtmlFile(const PrintDocument &document, const QString &nativePath, const basic::Progress &progress)
 {
     const QRectF area = textArea(document);
-    OutputFile file(nativePath, QStringLiteral("HTML"));
+    OutputFile file(nativePath, u"HTML"_s);
     const HtmlStyle style(document, area);
     HtmlBody body(document, style, area);
     body.head();
     writeBlocks(document, file, body, progress);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -7,7 +7,7 @@
 
 #include <QString>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// Writes a document as one HTML 5 page in UTF-8 that needs no other file, well-formed as XML too, one row a line, LF.
 /// It reads as a page as wide as the paper's text on a screen and prints on the document's paper; a header or footer
@@ -16,6 +16,6 @@ namespace kalvenor {
 /// &lt; or &gt;, so that tags composed as texts come to life when these are turned back.
 /// The file takes its place at the end, as a PDF does. Throws Error(WriteFailed), Error(Cancelled) and
 /// Error(InvalidProcedureCall) where the margins leave no room. Steps are blocks. Needs a QGuiApplication.
-void writeHtmlFile(const PrintDocument &document, const QString &nativePath, const Progress &progress = {});
+void writeHtmlFile(const PrintDocument &document, const QString &nativePath, const basic::Progress &progress = {});
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -6,28 +6,30 @@
 
 #include <QFileInfo>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 
 OutputFile::OutputFile(const QString &nativePath, const QString &kind) : m_kind(kind), m_file(nativePath)
 {
     const QFileInfo place(nativePath);
     if (place.exists() && !place.isFile()) // a device would be replaced, too
-        fail(QStringLiteral("this is a folder or a device, not a file. Choose another name."));
+        fail(u"this is a folder or a device, not a file. Choose another name."_s);
     if (!m_file.open(WriteOnly))
-        fail(u"%1. Choose another folder or name, or allow writing there."_qs.arg(m_file.errorString()));
+        fail(u"%1. Choose another folder or name, or allow writing there."_s.arg(m_file.errorString()));
     open(WriteOnly | Unbuffered);
 }
 
 void OutputFile::check() const
 {
     if (m_failed)
-        fail(QStringLiteral("the disk may be full. Make room on it or choose another one; an older file of this name "
-                            "is unchanged."));
+        fail(u"the disk may be full. Make room on it or choose another one; an older file of this name "
+             "is unchanged."_s);
 }
 
 void OutputFile::cancel() const
 {
-    throw Error(ErrorKind::Cancelled, m_file.fileName(), QStringLiteral("Stopped by the user; nothing was written."));
+    throw basic::Error(basic::ErrorKind::Cancelled, m_file.fileName(), u"Stopped by the user; nothing was written."_s);
 }
 
 void OutputFile::commit()
@@ -36,9 +38,8 @@ void OutputFile::commit()
     m_failed = m_failed || !m_file.flush();
     check();
     if (!m_file.commit())
-        fail(
-            u"%1. Close it where it is open in another program, or choose another name; the older file is unchanged."_qs
-                .arg(m_file.errorString()));
+        fail(u"%1. Close it where it is open in another program, or choose another name; the older file is unchanged."_s
+                 .arg(m_file.errorString()));
     close();
 }
 
@@ -55,7 +56,8 @@ qint64 OutputFile::writeData(const char *data, qint64 size)
 
 void OutputFile::fail(const QString &text) const
 {
-    throw Error(ErrorKind::WriteFailed, m_file.fileName(), u"The %1 file cannot be written: %2"_qs.arg(m_kind, text));
+    throw basic::Error(basic::ErrorKind::WriteFailed, m_file.fileName(),
+                       u"The %1 file cannot be written: %2"_s.arg(m_kind, text));
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

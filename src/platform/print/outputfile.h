@@ -6,7 +6,7 @@
 #include <QSaveFile>
 #include <QString>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// A file that is written beside its place and takes it at the end, so that an old one stays whole until then and no
 /// half one is ever left: neither by an error nor by an object that goes without commit().
@@ -37,4 +37,4 @@ private:
     bool m_failed = false;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -7,7 +7,9 @@
 #include <algorithm>
 #include <utility>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 
 PageFlow::PageFlow(double top, double bottom) : m_top(top), m_bottom(bottom), m_y(top), m_pages(1)
 {
@@ -16,9 +18,9 @@ PageFlow::PageFlow(double top, double bottom) : m_top(top), m_bottom(bottom), m_
 void PageFlow::add(Strip strip)
 {
     if (strip.height > m_bottom - m_top)
-        throw Error(ErrorKind::InvalidProcedureCall, QStringLiteral("page layout"),
-                    QStringLiteral("A line of text is higher than the page between its margins. "
-                                   "Choose a smaller font or smaller margins."));
+        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, u"page layout"_s,
+                           u"A line of text is higher than the page between its margins. "
+                           "Choose a smaller font or smaller margins."_s);
     const bool complete = !strip.keepWithNext;
     m_group.push_back(std::move(strip));
     if (complete)
@@ -109,4 +111,4 @@ void PageFlow::newPage()
     m_pageIsBare = true;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -7,7 +7,7 @@
 #include <optional>
 #include <vector>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// What is never cut across pages: one line of text, the n-th lines of a row's cells, or a picture. Places count from
 /// its own top, x from the paper's left edge.
@@ -51,4 +51,4 @@ private:
     std::vector<Page> m_pages;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::print

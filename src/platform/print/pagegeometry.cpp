@@ -7,10 +7,12 @@
 
 #include <algorithm>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
-constexpr double leastRoom = 720; // half an inch each way, below that nothing can be set
+constexpr double LeastRoom = 720; // half an inch each way, below that nothing can be set
 
 } // namespace
 
@@ -32,15 +34,15 @@ QRectF textArea(const PrintDocument &document, double headerLine, double footerL
         bottom = std::min(bottom, paper.height() - setup.footerDistance - footerLine * 1.5);
     const double width = paper.width() - setup.left - setup.right;
     const bool offPaper = std::min({setup.left, setup.top, setup.right, setup.bottom}) < 0;
-    if (offPaper || width < leastRoom || bottom - top < leastRoom)
-        throw Error(ErrorKind::InvalidProcedureCall, QStringLiteral("page layout"),
-                    QStringLiteral("The margins leave no room for text on the paper. Choose smaller margins."));
+    if (offPaper || width < LeastRoom || bottom - top < LeastRoom)
+        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, u"page layout"_s,
+                           u"The margins leave no room for text on the paper. Choose smaller margins."_s);
     return {QPointF(setup.left, top), QPointF(paper.width() - setup.right, bottom)};
 }
 
 std::vector<double> columnEdges(const std::vector<Column> &columns, double left, double right)
 {
-    const double line = right - left + 2 * cellPadding;
+    const double line = right - left + 2 * CellPadding;
     double given = 0;
     int open = 0;
     for (const Column &column : columns) {
@@ -52,7 +54,7 @@ std::vector<double> columnEdges(const std::vector<Column> &columns, double left,
     const double room = line - least * open;
     const double scale = given > room ? room / given : 1;
     const double share = open == 0 ? 0 : (line - given * scale) / open;
-    std::vector<double> edges{left - cellPadding};
+    std::vector<double> edges{left - CellPadding};
     for (const Column &column : columns)
         edges.push_back(edges.back() + (column.width == 0 ? share : column.width * scale));
     return edges;
@@ -77,4 +79,4 @@ QString outlineTitle(const RichParagraph &paragraph)
     return outlineTitle(text);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -9,9 +9,9 @@
 #include <vector>
 
 // What of a page stands where, the same for all forms of output; in twips.
-namespace kalvenor {
+namespace kalvenor::print {
 
-constexpr double cellPadding = 70; ///< left and right inside a cell
+constexpr double CellPadding = 70; ///< left and right inside a cell
 
 /// The paper as it is read (landscape is wider than high).
 QSizeF paperSize(const PageSetup &setup);
@@ -31,4 +31,4 @@ QSizeF fittedSize(const Picture &picture, QSizeF room);
 QString outlineTitle(const QString &text);
 QString outlineTitle(const RichParagraph &paragraph);
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -8,10 +8,12 @@
 
 #include <algorithm>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
-constexpr qint64 blocksAStep = 512; // between two reports of progress
+constexpr qint64 BlocksAStep = 512; // between two reports of progress
 
 /// Puts a header or footer on a page. Parts that would meet are elided: to a third of the line each, or where the
 /// middle is empty, the longer one to what the shorter leaves.
@@ -33,11 +35,11 @@ void setRunningText(Page &page, const RunningText &running, const TextFace &face
     const double outer = std::max(widths[0], widths[2]);
     const bool meet = widths[1] > 0 ? outer + widths[1] / 2 > line / 2 && outer > 0 : widths[0] + widths[2] > line;
     if (meet && widths[1] > 0) {
-        measure(line / 3 - cellPadding);
+        measure(line / 3 - CellPadding);
     } else if (meet) {
         const std::size_t shorter = widths[0] < widths[2] ? 0 : 2;
-        fit(shorter, line / 2 - cellPadding);
-        fit(2 - shorter, line - widths[shorter] - 2 * cellPadding);
+        fit(shorter, line / 2 - CellPadding);
+        fit(2 - shorter, line - widths[shorter] - 2 * CellPadding);
     }
     const std::array<double, 3> places{left, left + (line - widths[1]) / 2, right - widths[2]};
     for (std::size_t i = 0; i < 3; ++i) {
@@ -49,8 +51,8 @@ void setRunningText(Page &page, const RunningText &running, const TextFace &face
 
 } // namespace
 
-PageLayout::PageLayout(const PrintDocument &document, const Progress &progress)
-    : m_language(document.language), m_paper(kalvenor::paperSize(document.page))
+PageLayout::PageLayout(const PrintDocument &document, const basic::Progress &progress)
+    : m_language(document.language), m_paper(print::paperSize(document.page))
 {
     for (const TextStyle &style : document.styles())
         m_faces.emplace_back(style);
@@ -64,8 +66,8 @@ PageLayout::PageLayout(const PrintDocument &document, const Progress &progress)
     qint64 done = 0;
     for (const Block &block : document.blocks()) {
         std::visit(setter, block);
-        if (progress && (++done % blocksAStep == 0 || done == total) && !progress(done, total))
-            throw Error(ErrorKind::Cancelled, QStringLiteral("page layout"), QStringLiteral("Stopped by the user."));
+        if (progress && (++done % BlocksAStep == 0 || done == total) && !progress(done, total))
+            throw basic::Error(basic::ErrorKind::Cancelled, u"page layout"_s, u"Stopped by the user."_s);
     }
     m_pages = flow.take();
 
@@ -79,4 +81,4 @@ PageLayout::PageLayout(const PrintDocument &document, const Progress &progress)
     }
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -12,7 +12,7 @@
 #include <QString>
 #include <vector>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// One line of text on its page; x and baseline in twips from the paper's top left corner.
 struct PlacedText {
@@ -57,7 +57,7 @@ class PageLayout {
 public:
     /// Throws Error(InvalidProcedureCall) where margins leave no room for text or a single line is higher than the
     /// page, Error(Cancelled) where the watcher says so. Steps are blocks. The document may go afterwards.
-    explicit PageLayout(const PrintDocument &document, const Progress &progress = {});
+    explicit PageLayout(const PrintDocument &document, const basic::Progress &progress = {});
 
     const std::vector<Page> &pages() const { return m_pages; }
     /// The paper as it is read (landscape is wider than high).
@@ -74,4 +74,4 @@ private:
     std::vector<Page> m_pages;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::print

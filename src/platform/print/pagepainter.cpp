@@ -4,7 +4,7 @@
 
 #include <QPainter>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 void PagePainter::paint(QPainter &painter, const Page &page)
 {
@@ -27,4 +27,4 @@ void PagePainter::paint(QPainter &painter, const Page &page)
     }
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -8,7 +8,7 @@
 
 class QPainter;
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// Paints pages of one layout on anything: screen, printer, PDF.
 class PagePainter {
@@ -23,4 +23,4 @@ private:
     std::vector<TextFace> m_faces;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::print

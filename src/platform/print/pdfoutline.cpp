@@ -4,12 +4,12 @@
 
 #include <algorithm>
 
-namespace kalvenor {
+namespace kalvenor::print {
 namespace {
 
-constexpr qsizetype headSize = 64 * 1024; // before it a colour profile of 3 KB at most
-constexpr qsizetype tailBase = 64 * 1024; // fonts have few objects
-constexpr qsizetype tailPage = 400;       // objects of a page (6 to 8) at 20 bytes, its place in the list of pages
+constexpr qsizetype HeadSize = 64 * 1024; // before it a colour profile of 3 KB at most
+constexpr qsizetype TailBase = 64 * 1024; // fonts have few objects
+constexpr qsizetype TailPage = 400;       // objects of a page (6 to 8) at 20 bytes, its place in the list of pages
 
 /// What stands between two marks behind `from`; empty where there is nothing.
 QByteArray between(const QByteArray &text, qsizetype from, const char *begin, const char *end)
@@ -47,7 +47,7 @@ QByteArray crossReference(qint64 place)
 
 PdfOutline::PdfOutline(const PageLayout &layout)
     : m_language(layout.language().toLatin1()),
-      m_tailSize(tailBase + tailPage * static_cast<qsizetype>(layout.pages().size()))
+      m_tailSize(TailBase + TailPage * static_cast<qsizetype>(layout.pages().size()))
 {
     for (std::size_t page = 0; page < layout.pages().size(); ++page) {
         for (const PlacedHeading &heading : layout.pages()[page].headings) {
@@ -59,8 +59,8 @@ PdfOutline::PdfOutline(const PageLayout &layout)
 
 void PdfOutline::watch(const char *data, qint64 size)
 {
-    if (m_head.size() < headSize)
-        m_head.append(data, std::min(size, headSize - m_head.size()));
+    if (m_head.size() < HeadSize)
+        m_head.append(data, std::min(size, HeadSize - m_head.size()));
     m_tail.append(data, size);
     if (m_tail.size() > 4 * m_tailSize)
         m_tail.remove(0, m_tail.size() - m_tailSize);
@@ -160,4 +160,4 @@ QByteArray PdfOutline::items(const std::vector<QByteArray> &pages, qsizetype fir
     return out;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -8,7 +8,7 @@
 #include <QString>
 #include <vector>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// What QPdfWriter of Qt 6.4 cannot say, added behind the file it has written as an incremental update (ISO 32000-1,
 /// 7.5.6): the language of the texts, the outline, the title in the window's frame. The file's own bytes stay as they
@@ -41,4 +41,4 @@ private:
     qint64 m_size = 0;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::print

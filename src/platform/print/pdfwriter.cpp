@@ -9,13 +9,15 @@
 #include <QPainter>
 #include <QPdfWriter>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
 /// The file, with an eye on what goes into it.
 class PdfFile : public OutputFile {
 public:
-    PdfFile(const QString &path, PdfOutline &outline) : OutputFile(path, QStringLiteral("PDF")), m_outline(outline) {}
+    PdfFile(const QString &path, PdfOutline &outline) : OutputFile(path, u"PDF"_s), m_outline(outline) {}
 
 protected:
     qint64 writeData(const char *data, qint64 size) override
@@ -30,7 +32,7 @@ private:
 
 } // namespace
 
-void writePdf(const PageLayout &layout, const QString &title, const QString &path, const Progress &progress,
+void writePdf(const PageLayout &layout, const QString &title, const QString &path, const basic::Progress &progress,
               PdfKind kind)
 {
     PdfOutline outline(layout);
@@ -66,4 +68,4 @@ void writePdf(const PageLayout &layout, const QString &title, const QString &pat
     file.commit();
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

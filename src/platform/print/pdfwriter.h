@@ -7,7 +7,7 @@
 
 #include <QString>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 enum class PdfKind {
     Plain,
@@ -18,7 +18,7 @@ enum class PdfKind {
 /// is written beside its place and takes it at the end, so that an old one stays whole until then and no half one is
 /// ever left. Throws Error(WriteFailed) where the place cannot be written or the disk is full, Error(Cancelled) where
 /// the watcher says so. Steps are pages.
-void writePdf(const PageLayout &layout, const QString &title, const QString &path, const Progress &progress = {},
+void writePdf(const PageLayout &layout, const QString &title, const QString &path, const basic::Progress &progress = {},
               PdfKind kind = PdfKind::Plain);
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -4,9 +4,9 @@
 
 #include <utility>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
-void PrintControl::setDocument(PrintDocument document, const Progress &progress)
+void PrintControl::setDocument(PrintDocument document, const basic::Progress &progress)
 {
     auto layout = std::make_shared<const PageLayout>(document, progress);
     m_document = std::move(document);
@@ -14,4 +14,4 @@ void PrintControl::setDocument(PrintDocument document, const Progress &progress)
     Q_EMIT changed();
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

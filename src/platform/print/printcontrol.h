@@ -10,7 +10,7 @@
 #include <QObject>
 #include <QString>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// Where a run of the report goes, by the numbers of the control.
 enum class ExportFormat { Pages = 0, Html = 1, Rtf = 4, RtfPlain = 5 };
@@ -28,7 +28,7 @@ public:
 
     /// Takes the composed document, which has its own page setup, and lays it out. The old one stays where this
     /// throws PageLayout's Error.
-    void setDocument(PrintDocument document, const Progress &progress = {});
+    void setDocument(PrintDocument document, const basic::Progress &progress = {});
     bool hasDocument() const { return m_layout != nullptr; }
     const PrintDocument &document() const { return m_document; }
     /// Only where there is a document. Holders keep the old pages alive while a new document comes in.
@@ -43,4 +43,4 @@ private:
     std::shared_ptr<const PageLayout> m_layout;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::print

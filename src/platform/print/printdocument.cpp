@@ -7,12 +7,14 @@
 #include <algorithm>
 #include <utility>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
 [[noreturn]] void refuse(const QString &text)
 {
-    throw Error(ErrorKind::InvalidProcedureCall, QStringLiteral("print document"), text);
+    throw basic::Error(basic::ErrorKind::InvalidProcedureCall, u"print document"_s, text);
 }
 
 std::optional<Alignment> alignmentOf(QChar sign)
@@ -34,13 +36,13 @@ std::optional<Alignment> alignmentOf(QChar sign)
 void checkSpace(Twips before, Twips after)
 {
     if (before < 0 || after < 0)
-        refuse(QStringLiteral("The space around a paragraph or picture cannot be negative."));
+        refuse(u"The space around a paragraph or picture cannot be negative."_s);
 }
 
 void checkLevel(int level)
 {
-    if (level < 0 || level > deepestOutlineLevel)
-        refuse(u"There is no outline level %1."_qs.arg(level));
+    if (level < 0 || level > DeepestOutlineLevel)
+        refuse(u"There is no outline level %1."_s.arg(level));
 }
 
 } // namespace
@@ -58,7 +60,7 @@ std::vector<Column> columnsFromFormat(QStringView format)
         bool isNumber = false;
         column.width = part.toInt(&isNumber);
         if (!isNumber || column.width < 0)
-            refuse(u"\"%1\" is not a column format such as \"<4000|>900\"."_qs.arg(format));
+            refuse(u"\"%1\" is not a column format such as \"<4000|>900\"."_s.arg(format));
         columns.push_back(column);
     }
     return columns;
@@ -74,7 +76,7 @@ std::array<QString, 3> runningTextParts(QStringView text, int pageNumber)
     }
     parts[2] = text.toString();
     for (QString &part : parts)
-        part.replace(QLatin1String("%d"), QString::number(pageNumber));
+        part.replace("%d"_L1, QString::number(pageNumber));
     return parts;
 }
 
@@ -83,9 +85,9 @@ StyleId PrintDocument::addStyle(const TextStyle &style)
     const auto found = std::find(m_styles.begin(), m_styles.end(), style);
     if (found != m_styles.end())
         return static_cast<StyleId>(found - m_styles.begin());
-    if (!(style.pointSize > 0 && style.pointSize <= largestPointSize))
-        refuse(u"A font size of %1 points cannot be printed; sizes go from above 0 to %2."_qs.arg(style.pointSize)
-                   .arg(largestPointSize));
+    if (!(style.pointSize > 0 && style.pointSize <= LargestPointSize))
+        refuse(u"A font size of %1 points cannot be printed; sizes go from above 0 to %2."_s.arg(style.pointSize)
+                   .arg(LargestPointSize));
     m_styles.push_back(style);
     return static_cast<StyleId>(m_styles.size() - 1);
 }
@@ -115,23 +117,23 @@ void PrintDocument::check(const RichParagraph &paragraph) const
     checkSpace(paragraph.spaceBefore, paragraph.spaceAfter);
     checkLevel(paragraph.outlineLevel);
     if (paragraph.leftIndent < 0)
-        refuse(QStringLiteral("A paragraph cannot be indented by less than nothing."));
+        refuse(u"A paragraph cannot be indented by less than nothing."_s);
 }
 
 void PrintDocument::check(const Picture &picture) const
 {
     checkSpace(picture.spaceBefore, picture.spaceAfter);
     if (picture.image.isNull() || picture.width <= 0 || picture.height <= 0)
-        refuse(QStringLiteral("A picture without content or size cannot be printed."));
+        refuse(u"A picture without content or size cannot be printed."_s);
 }
 
 void PrintDocument::check(const TableStart &table) const
 {
     if (table.columns.empty())
-        refuse(QStringLiteral("A table needs at least one column."));
+        refuse(u"A table needs at least one column."_s);
     if (table.rowSpacing < 0 ||
         std::any_of(table.columns.begin(), table.columns.end(), [](const Column &column) { return column.width < 0; }))
-        refuse(QStringLiteral("Column widths and row spacing cannot be negative."));
+        refuse(u"Column widths and row spacing cannot be negative."_s);
     for (const auto &row : table.heading)
         checkCells(row, table.columns.size());
 }
@@ -139,14 +141,14 @@ void PrintDocument::check(const TableStart &table) const
 void PrintDocument::check(const TableRow &row) const
 {
     if (m_columns == 0)
-        refuse(QStringLiteral("A table row stands outside a table."));
+        refuse(u"A table row stands outside a table."_s);
     checkCells(row.cells, m_columns);
 }
 
 void PrintDocument::checkCells(const std::vector<Cell> &cells, std::size_t columns) const
 {
     if (cells.size() > columns)
-        refuse(u"A row of %1 cells does not fit a table of %2 columns."_qs.arg(cells.size()).arg(columns));
+        refuse(u"A row of %1 cells does not fit a table of %2 columns."_s.arg(cells.size()).arg(columns));
     for (const Cell &cell : cells) {
         checkStyle(cell.style);
         checkLevel(cell.outlineLevel);
@@ -156,7 +158,7 @@ void PrintDocument::checkCells(const std::vector<Cell> &cells, std::size_t colum
 void PrintDocument::checkStyle(StyleId style) const
 {
     if (style < 0 || static_cast<std::size_t>(style) >= m_styles.size())
-        refuse(u"There is no text style %1."_qs.arg(style));
+        refuse(u"There is no text style %1."_s.arg(style));
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -12,16 +12,18 @@
 #include <vector>
 
 // What is to be printed, as a sequence of blocks that knows nothing of pages. All lengths are twips (1/1440 inch).
-namespace kalvenor {
+namespace kalvenor::print {
+
+using namespace Qt::StringLiterals;
 
 using Twips = int;
 
 /// Beyond about 820 points Qt's font metrics overflow.
-constexpr double largestPointSize = 800;
+constexpr double LargestPointSize = 800;
 
 /// How a text looks. An invalid colour means black text and no background.
 struct TextStyle {
-    QString family = QStringLiteral("Arial");
+    QString family = u"Arial"_s;
     double pointSize = 10;
     bool bold = false;
     bool italic = false;
@@ -58,7 +60,7 @@ struct Column {
 std::vector<Column> columnsFromFormat(QStringView format);
 
 /// The outline of a document has this many levels.
-constexpr int deepestOutlineLevel = 3;
+constexpr int DeepestOutlineLevel = 3;
 
 struct Cell {
     QString text = {};
@@ -162,8 +164,8 @@ std::array<QString, 3> runningTextParts(QStringView text, int pageNumber);
 
 class PrintDocument {
 public:
-    QString title;                           ///< in the file's metadata
-    QString language = QStringLiteral("de"); ///< of its texts, "de" or "en"
+    QString title;              ///< in the file's metadata
+    QString language = u"de"_s; ///< of its texts, "de" or "en"
     PageSetup page;
     RunningText header;
     RunningText footer;
@@ -193,4 +195,4 @@ private:
     std::size_t m_columns = 0; ///< of the open table, 0 outside
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::print

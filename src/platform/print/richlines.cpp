@@ -9,17 +9,19 @@
 #include <QTextLayout>
 #include <utility>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
-constexpr double leastLine = 720; // an indent leaves half an inch at least
-constexpr double tabDistance = 720;
+constexpr double LeastLine = 720; // an indent leaves half an inch at least
+constexpr double TabDistance = 720;
 
 /// Line ends as Qt's text layout knows them; other control characters than the tab as blanks.
 QString layoutText(const QString &text)
 {
     QString out = text;
-    out.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    out.replace("\r\n"_L1, "\n"_L1);
     for (QChar &c : out) {
         if (c == u'\n' || c == u'\r')
             c = QChar::LineSeparator;
@@ -45,13 +47,13 @@ public:
 
     std::vector<Strip> set(double left, double right)
     {
-        const double indent = std::clamp(static_cast<double>(m_paragraph.leftIndent), 0.0, right - left - leastLine);
-        const double start = std::clamp(indent - m_paragraph.hanging, 0.0, right - left - leastLine);
+        const double indent = std::clamp(static_cast<double>(m_paragraph.leftIndent), 0.0, right - left - LeastLine);
+        const double start = std::clamp(indent - m_paragraph.hanging, 0.0, right - left - LeastLine);
         double first = start;
         if (!m_paragraph.bullet.text.isEmpty()) {
             const TextFace &face = faceOf(m_paragraph.bullet.style);
             m_bulletWidth = face.width(m_paragraph.bullet.text);
-            first = std::min(std::max(indent, start + m_bulletWidth + face.width(u" ")), right - left - leastLine);
+            first = std::min(std::max(indent, start + m_bulletWidth + face.width(u" ")), right - left - LeastLine);
         }
 
         QTextLayout layout(m_text, faceOf(firstStyle()).font());
@@ -102,7 +104,7 @@ private:
         option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
         constexpr Qt::Alignment alignments[]{Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight, Qt::AlignJustify};
         option.setAlignment(alignments[static_cast<int>(m_paragraph.alignment)]);
-        option.setTabStopDistance(tabDistance);
+        option.setTabStopDistance(TabDistance);
         if (m_paragraph.hanging > 0)
             option.setTabArray({static_cast<qreal>(m_paragraph.hanging)});
         return option;
@@ -215,4 +217,4 @@ std::vector<Strip> richLines(const RichParagraph &paragraph, const std::vector<T
     return RichLines(paragraph, faces).set(left, right);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -6,11 +6,11 @@
 
 #include <vector>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// The lines of a paragraph of several styles, at least one, between two places of the paper (twips). Space around and
 /// keeping together are the caller's.
 std::vector<Strip> richLines(const RichParagraph &paragraph, const std::vector<TextFace> &faces, double left,
                              double right);
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -8,15 +8,17 @@
 #include <QTextDocument>
 #include <QTextList>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
-constexpr double pixel = 15; // twips
-constexpr Twips bulletRoom = 300;
+constexpr double Pixel = 15; // twips
+constexpr Twips BulletRoom = 300;
 
 Twips twips(double pixels)
 {
-    return static_cast<Twips>(std::lround(pixels * pixel));
+    return static_cast<Twips>(std::lround(pixels * Pixel));
 }
 
 TextStyle styleOf(const QTextCharFormat &format, const QFont &defaultFont)
@@ -27,7 +29,7 @@ TextStyle styleOf(const QTextCharFormat &format, const QFont &defaultFont)
     if (!families.isEmpty() && !families.front().isEmpty())
         style.family = families.front();
     const double points = font.pointSizeF() > 0 ? font.pointSizeF() : font.pixelSize() * 0.75;
-    style.pointSize = std::clamp(points, 1.0, largestPointSize);
+    style.pointSize = std::clamp(points, 1.0, LargestPointSize);
     style.bold = font.bold();
     style.italic = font.italic();
     style.underline = font.underline();
@@ -52,11 +54,11 @@ QString bulletOf(const QTextBlock &block, const QTextList &list)
 {
     switch (list.format().style()) {
     case QTextListFormat::ListDisc:
-        return QStringLiteral("•");
+        return u"•"_s;
     case QTextListFormat::ListCircle:
-        return QStringLiteral("◦");
+        return u"◦"_s;
     case QTextListFormat::ListSquare:
-        return QStringLiteral("▪");
+        return u"▪"_s;
     default:
         return list.itemText(block);
     }
@@ -87,8 +89,8 @@ RichParagraph paragraphOf(const QTextBlock &block, const QTextDocument &text, Pr
     if (const QTextList *list = block.textList()) {
         paragraph.leftIndent += twips(std::max(0, list->format().indent() - 1) * text.indentWidth());
         if (paragraph.hanging <= 0) { // the sign needs room of its own
-            paragraph.leftIndent += bulletRoom;
-            paragraph.hanging = bulletRoom;
+            paragraph.leftIndent += BulletRoom;
+            paragraph.hanging = BulletRoom;
         }
         TextStyle plain = document.styles()[static_cast<std::size_t>(paragraph.runs.front().style)];
         plain.underline = plain.strikeOut = false;
@@ -108,4 +110,4 @@ std::vector<Block> richTextBlocks(const QTextDocument &text, PrintDocument &docu
     return blocks;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

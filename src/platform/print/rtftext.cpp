@@ -10,17 +10,17 @@
 #include <QList>
 #include <QStringList>
 
-namespace kalvenor {
+namespace kalvenor::print {
 namespace {
 
-constexpr char hexDigits[] = "0123456789abcdef";
+constexpr char HexDigits[] = "0123456789abcdef";
 
 /// 0 where the code page lacks the character.
 int ansiByte(char16_t unit)
 {
     static const QString upper =
-        decodeAnsi(QByteArray("\x80\x81\x82\x83\x84\x85\x86\x87\x88\x89\x8a\x8b\x8c\x8d\x8e\x8f"
-                              "\x90\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9a\x9b\x9c\x9d\x9e\x9f"));
+        basic::decodeAnsi(QByteArray("\x80\x81\x82\x83\x84\x85\x86\x87\x88\x89\x8a\x8b\x8c\x8d\x8e\x8f"
+                                     "\x90\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9a\x9b\x9c\x9d\x9e\x9f"));
     if (unit >= 0xA0 && unit <= 0xFF)
         return unit;
     const qsizetype place = unit < 0x152 || unit > 0x2122 ? -1 : upper.indexOf(QChar(unit));
@@ -31,8 +31,8 @@ void appendUnit(QByteArray &out, char16_t unit)
 {
     if (const int byte = ansiByte(unit)) {
         out += "\\'";
-        out += hexDigits[byte >> 4];
-        out += hexDigits[byte & 0xF];
+        out += HexDigits[byte >> 4];
+        out += HexDigits[byte & 0xF];
     } else {
         out += "\\u" + QByteArray::number(static_cast<qint16>(unit)) + '?';
     }
@@ -118,4 +118,4 @@ RtfStyles::RtfStyles(const std::vector<TextStyle> &styles)
     m_tables = "{\\fonttbl" + fontTable + "}\n{\\colortbl;" + colorTable + "}\n";
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -8,7 +8,7 @@
 #include <QStringView>
 #include <vector>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// Adds a text in seven bits: Windows-1252 as \'xx, all else as \uN? with N as a signed number. Line ends become
 /// \line, tabs \tab.
@@ -32,4 +32,4 @@ private:
     std::vector<int> m_backgrounds;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -13,7 +13,9 @@
 #include <type_traits>
 #include <utility>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
 QByteArray number(const char *word, double value)
@@ -45,7 +47,7 @@ public:
         out += m_document.language == u"en" ? "1033" : "1031";
         out += "\\deftab720\n" + m_styles.tables();
         out += "{\\stylesheet{\\s0 Normal;}";
-        for (int level = 1; level <= deepestOutlineLevel; ++level)
+        for (int level = 1; level <= DeepestOutlineLevel; ++level)
             out += "{\\s" + QByteArray::number(level) + "\\outlinelevel" + QByteArray::number(level - 1) +
                    "\\sbasedon0\\snext0 heading " + QByteArray::number(level) + ";}";
         out += "}\n{\\*\\generator Kalvenor " KALVENOR_VERSION ";}{\\info{\\title ";
@@ -277,11 +279,11 @@ private:
             return;
         out += "{\\" + QByteArray(word) + "\\pard\\plain" + number("\\tqc\\tx", m_area.width() / 2) +
                number("\\tqr\\tx", m_area.width()) + m_styles.words(text.style);
-        const auto parts = runningTextParts(QString(text.text).replace(QLatin1String("%d"), pageMark), 0);
+        const auto parts = runningTextParts(QString(text.text).replace("%d"_L1, PageMark), 0);
         for (std::size_t i = 0; i < parts.size(); ++i) {
             if (i > 0)
                 out += "\\tab ";
-            const QStringList pieces = printable(parts[i]).split(pageMark);
+            const QStringList pieces = printable(parts[i]).split(PageMark);
             for (qsizetype n = 0; n < pieces.size(); ++n) {
                 if (n > 0)
                     out += "\\chpgn ";
@@ -305,14 +307,14 @@ private:
 
 } // namespace
 
-void writeRtfFile(const PrintDocument &document, const QString &nativePath, const Progress &progress)
+void writeRtfFile(const PrintDocument &document, const QString &nativePath, const basic::Progress &progress)
 {
     const QRectF area = textArea(document);
-    OutputFile file(nativePath, QStringLiteral("RTF"));
+    OutputFile file(nativePath, u"RTF"_s);
     const RtfStyles styles(document.styles());
     RtfBody body(document, styles, area);
     body.head();
     writeBlocks(document, file, body, progress);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

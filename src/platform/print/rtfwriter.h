@@ -7,12 +7,12 @@
 
 #include <QString>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// Writes a document as an RTF file (1.5 and later) for word processors, which make the pages anew: paper, margins,
 /// header and footer, table headings repeated, the outline as heading levels. An elided column is whole there.
 /// The file takes its place at the end, as a PDF does. Throws Error(WriteFailed), Error(Cancelled) and
 /// Error(InvalidProcedureCall) where the margins leave no room. Steps are blocks. Needs a QGuiApplication.
-void writeRtfFile(const PrintDocument &document, const QString &nativePath, const Progress &progress = {});
+void writeRtfFile(const PrintDocument &document, const QString &nativePath, const basic::Progress &progress = {});
 
-} // namespace kalvenor
+} // namespace kalvenor::print

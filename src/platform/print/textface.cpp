@@ -8,19 +8,21 @@
 #include <QPainter>
 #include <QTextLayout>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
-constexpr char16_t letterEnd = 0x0483; // Latin, Greek, Cyrillic; from here on combining marks
-constexpr char16_t punctuationBegin = 0x2010;
-constexpr char16_t punctuationEnd = 0x2028;
+constexpr char16_t LetterEnd = 0x0483; // Latin, Greek, Cyrillic; from here on combining marks
+constexpr char16_t PunctuationBegin = 0x2010;
+constexpr char16_t PunctuationEnd = 0x2028;
 
 // Characters that stand alone: one unit, one glyph, left to right, nothing to combine.
 bool standsAlone(char16_t unit)
 {
-    if (unit >= punctuationBegin)
-        return unit < punctuationEnd || unit == 0x20AC;
-    return unit >= 0x20 && unit < letterEnd && unit != 0x00AD && !(unit >= 0x7F && unit < 0xA0) &&
+    if (unit >= PunctuationBegin)
+        return unit < PunctuationEnd || unit == 0x20AC;
+    return unit >= 0x20 && unit < LetterEnd && unit != 0x00AD && !(unit >= 0x7F && unit < 0xA0) &&
            !(unit >= 0x0300 && unit < 0x0370);
 }
 
@@ -53,7 +55,7 @@ QString printable(const QString &text)
     for (qsizetype i = 0; i < text.size(); ++i) {
         const char16_t unit = text[i].unicode();
         if (unit == u'\t')
-            out += QLatin1String("    ");
+            out += "    "_L1;
         else if (unit == u'\n' || (unit == u'\r' && (i + 1 == text.size() || text[i + 1] != u'\n')))
             out += u'\n';
         else if (unit != u'\r')
@@ -83,8 +85,8 @@ TextFace::TextFace(const TextStyle &style)
                 table[static_cast<std::size_t>(i)] = {indexes[i], static_cast<float>(advances[i].x())};
         }
     };
-    fill(m_letters, 0, letterEnd);
-    fill(m_punctuation, punctuationBegin, 0x20AD);
+    fill(m_letters, 0, LetterEnd);
+    fill(m_punctuation, PunctuationBegin, 0x20AD);
 }
 
 const TextFace::Glyph &TextFace::glyph(char16_t unit) const
@@ -92,7 +94,7 @@ const TextFace::Glyph &TextFace::glyph(char16_t unit) const
     static const Glyph none;
     if (unit < m_letters.size())
         return m_letters[unit];
-    const std::size_t place = static_cast<std::size_t>(unit) - punctuationBegin; // wraps around below
+    const std::size_t place = static_cast<std::size_t>(unit) - PunctuationBegin; // wraps around below
     return place < m_punctuation.size() ? m_punctuation[place] : none;
 }
 
@@ -178,7 +180,7 @@ QString TextFace::elided(const QString &text, double width) const
     QString clean = printable(text).replace(u'\n', u' ');
     if (this->width(clean) <= width)
         return clean;
-    const QString dots = QStringLiteral("…");
+    const QString dots = u"…"_s;
     if (!isPlain(clean) || !isPlain(dots))
         return m_metrics.elidedText(clean, Qt::ElideRight, width);
     double room = width - this->width(dots);
@@ -219,4 +221,4 @@ void TextFace::draw(QPainter &painter, QPointF baseline, const QString &text, do
         painter.fillRect(QRectF(baseline.x(), baseline.y() - m_strikeOutPosition, width, m_ruleWidth), color);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

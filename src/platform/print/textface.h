@@ -14,7 +14,7 @@
 
 class QPainter;
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// One style ready for measuring and painting, in twips and without hinting, so that a line is as long on the screen
 /// as on paper. Texts of the European alphabets, each of whose characters the font has, go by a table of advances,
@@ -72,4 +72,4 @@ private:
 /// The text with tabs as four blanks, line ends as "\n" and other control characters as blanks.
 QString printable(const QString &text);
 
-} // namespace kalvenor
+} // namespace kalvenor::print

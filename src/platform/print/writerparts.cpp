@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <QBuffer>
 
-namespace kalvenor {
+namespace kalvenor::print {
 
 FontKind fontKind(const QString &family)
 {
@@ -38,4 +38,4 @@ QByteArray pngBytes(const QImage &image)
     return bytes;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -12,7 +12,7 @@
 #include <variant>
 
 // What the writers that go by blocks share.
-namespace kalvenor {
+namespace kalvenor::print {
 
 /// What to take where a font is not at hand.
 enum class FontKind { Sans, Serif, Fixed };
@@ -22,14 +22,14 @@ FontKind fontKind(const QString &family);
 QRectF textArea(const PrintDocument &document);
 
 /// Stands for "%d" where a running text is taken apart; of no other meaning.
-constexpr QChar pageMark(0xE000);
+constexpr QChar PageMark(0xE000);
 
 QByteArray pngBytes(const QImage &image);
 
 /// Writes the text of all blocks, `body.out`, piece by piece, and takes the file to its place. Steps are blocks.
 /// Throws Error(WriteFailed), Error(Cancelled).
 template <typename Body>
-void writeBlocks(const PrintDocument &document, OutputFile &file, Body &body, const Progress &progress)
+void writeBlocks(const PrintDocument &document, OutputFile &file, Body &body, const basic::Progress &progress)
 {
     constexpr qsizetype bytesAWrite = 64 * 1024;
     constexpr qint64 blocksAStep = 512;
@@ -52,4 +52,4 @@ void writeBlocks(const PrintDocument &document, OutputFile &file, Body &body, co
     file.commit();
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -8,9 +8,11 @@
 #include <QStringView>
 
 #include "platform/basic/codepage.h"
-#include "platform/basic/file.h"
+#include "platform/storage/file.h"
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::profile {
 
 namespace {
 
@@ -44,8 +46,11 @@ public:
         return bytes + m_oddByte;
     }
 
-    QString fromAnsi(const QByteArray &ansi) const { return m_wide ? decodeAnsi(ansi) : QString::fromLatin1(ansi); }
-    QByteArray toAnsi(QStringView part) const { return m_wide ? encodeAnsi(part) : part.toLatin1(); }
+    QString fromAnsi(const QByteArray &ansi) const
+    {
+        return m_wide ? basic::decodeAnsi(ansi) : QString::fromLatin1(ansi);
+    }
+    QByteArray toAnsi(QStringView part) const { return m_wide ? basic::encodeAnsi(part) : part.toLatin1(); }
 
     QString text;
 
@@ -166,21 +171,21 @@ QByteArray trimmedName(const QByteArray &name)
 }
 
 // The bytes of a file; `fault` says why there are none.
-QByteArray readWhole(const QString &nativeFile, FileFault &fault)
+QByteArray readWhole(const QString &nativeFile, storage::FileFault &fault)
 {
-    const File file = File::open(nativeFile, File::Mode::Read, nullptr);
+    const storage::File file = storage::File::open(nativeFile, storage::File::Mode::Read, nullptr);
     fault = file.fault();
     if (!file.isOpen())
         return {};
     QByteArray bytes(qMax(file.size(), 0), '\0');
     if (!file.readAt(0, {reinterpret_cast<std::uint8_t *>(bytes.data()), static_cast<std::size_t>(bytes.size())})) {
-        fault = FileFault::Other;
+        fault = storage::FileFault::Other;
         return {};
     }
     return bytes;
 }
 
-const QString LineEnd = QStringLiteral("\r\n");
+const QString LineEnd = u"\r\n"_s;
 
 // `line` with its end as a line of its own at `at`, which is the begin of a line or the end of the text.
 void insertLines(QString &text, qsizetype at, const QString &lines)
@@ -194,10 +199,10 @@ std::optional<Units> contentToChange(const QString &nativeFile)
 {
     if (nativeFile.isEmpty())
         return std::nullopt;
-    FileFault fault = FileFault::None;
+    storage::FileFault fault = storage::FileFault::None;
     Units file(readWhole(nativeFile, fault));
-    if (fault == FileFault::NotFound ? !QFileInfo(QFileInfo(nativeFile).absolutePath()).isDir()
-                                     : fault != FileFault::None)
+    if (fault == storage::FileFault::NotFound ? !QFileInfo(QFileInfo(nativeFile).absolutePath()).isDir()
+                                              : fault != storage::FileFault::None)
         return std::nullopt;
     return file;
 }
@@ -238,7 +243,7 @@ QByteArray getPrivateProfileString(const QByteArray &section, const QByteArray &
     while (result.endsWith(' '))
         result.chop(1);
 
-    FileFault fault = FileFault::None;
+    storage::FileFault fault = storage::FileFault::None;
     const Units file(nativeFile.isEmpty() ? QByteArray() : readWhole(nativeFile, fault));
     const Found found = find(file.text, file.fromAnsi(trimmedName(section)), file.fromAnsi(trimmedName(key)));
     if (found.key && found.key->value) {
@@ -256,7 +261,7 @@ bool writePrivateProfileString(const QByteArray &section, const std::optional<QB
     std::optional<Units> file = contentToChange(nativeFile);
     if (!file)
         return false;
-    return !change(*file, section, key, value) || replaceFileSafely(nativeFile, file->toBytes(), nullptr);
+    return !change(*file, section, key, value) || storage::replaceFileSafely(nativeFile, file->toBytes(), nullptr);
 }
 
 bool writePrivateProfileStrings(std::span<const ProfileValue> values, const QString &nativeFile)
@@ -268,7 +273,7 @@ bool writePrivateProfileStrings(std::span<const ProfileValue> values, const QStr
         return false;
     for (const ProfileValue &each : values)
         change(*file, each.section, each.key, each.value);
-    return replaceFileSafely(nativeFile, file->toBytes(), nullptr);
+    return storage::replaceFileSafely(nativeFile, file->toBytes(), nullptr);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::profile

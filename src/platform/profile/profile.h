@@ -9,7 +9,7 @@
 
 // Profile (INI) files with the semantics of GetPrivateProfileStringA and WritePrivateProfileStringA.
 // Behaviour after github.com/WelliSolutions/IniFileFormatReverseEngineering and Microsoft's documentation.
-namespace kalvenor {
+namespace kalvenor::profile {
 
 /// One value of a profile file: at most size-1 bytes. Never fails; a missing file, section or key gives the default
 /// (without its trailing blanks). `nativeFile` is a native path; "" gives the default.
@@ -29,4 +29,4 @@ struct ProfileValue {
 /// it cannot be written.
 bool writePrivateProfileStrings(std::span<const ProfileValue> values, const QString &nativeFile);
 
-} // namespace kalvenor
+} // namespace kalvenor::profile

@@ -5,14 +5,14 @@
 #include "platform/richtext/rtfcharacters.h"
 #include <QTextBlock>
 
-namespace kalvenor {
+namespace kalvenor::richtext {
 
 namespace {
 
 // What a document may grow to, some 100 MB at worst; an introduction is a page or two.
-constexpr qint64 mostCharacters = 4'000'000;
-constexpr int mostRuns = 200'000;
-constexpr int mostParagraphs = 100'000;
+constexpr qint64 MostCharacters = 4'000'000;
+constexpr int MostRuns = 200'000;
+constexpr int MostParagraphs = 100'000;
 
 } // namespace
 
@@ -29,7 +29,7 @@ void RtfBuilder::append(QStringView text, const QTextCharFormat &format)
 
 bool RtfBuilder::isFull() const
 {
-    return m_characters > mostCharacters || m_runs > mostRuns || m_paragraphs > mostParagraphs;
+    return m_characters > MostCharacters || m_runs > MostRuns || m_paragraphs > MostParagraphs;
 }
 
 void RtfBuilder::begin()
@@ -80,4 +80,4 @@ void RtfBuilder::joinList(int level)
     m_list = m_cursor.createList(format);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

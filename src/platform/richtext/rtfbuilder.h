@@ -11,7 +11,7 @@
 
 class QTextDocument;
 
-namespace kalvenor {
+namespace kalvenor::richtext {
 
 /// Fills an empty document from its beginning, paragraph by paragraph. Characters that a text document reserves or
 /// cannot show are left out. Once it is full nothing more is taken.
@@ -42,4 +42,4 @@ private:
     int m_paragraphs = 0; ///< ended
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

@@ -6,46 +6,46 @@
 #include <algorithm>
 #include <string_view>
 
-namespace kalvenor {
+namespace kalvenor::richtext {
 
 namespace {
 
 // The upper halves (0x80 to 0xFF) of three old code pages, from the mappings of the Unicode Consortium
 // (unicode.org/Public/MAPPINGS/VENDORS: APPLE/ROMAN, MICSFT/PC/CP437 and CP850).
 // clang-format off
-constexpr std::u16string_view macRoman =
+constexpr std::u16string_view MacRoman =
     u"ÄÅÇÉÑÖÜáàâäãåçéèêëíìîïñóòôöõúùûü"
     u"†°¢£§•¶ß®©™´¨≠ÆØ∞±≤≥¥µ∂∑∏π∫ªºΩæø"
     u"¿¡¬√ƒ≈∆«»…\u00A0ÀÃÕŒœ–—“”‘’÷◊ÿŸ⁄€‹›\uFB01\uFB02"
     u"‡·‚„‰ÂÊÁËÈÍÎÏÌÓÔ\uF8FFÒÚÛÙıˆ˜¯˘˙˚¸˝˛ˇ";
-constexpr std::u16string_view codePage437 =
+constexpr std::u16string_view CodePage437 =
     u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜ¢£¥₧ƒ"
     u"áíóúñÑªº¿⌐¬½¼¡«»░▒▓│┤╡╢╖╕╣║╗╝╜╛┐"
     u"└┴┬├─┼╞╟╚╔╩╦╠═╬╧╨╤╥╙╘╒╓╫╪┘┌█▄▌▐▀"
     u"αßΓπΣσµτΦΘΩδ∞φε∩≡±≥≤⌠⌡÷≈°∙·√ⁿ²■\u00A0";
-constexpr std::u16string_view codePage850 =
+constexpr std::u16string_view CodePage850 =
     u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜø£Ø×ƒ"
     u"áíóúñÑªº¿®¬½¼¡«»░▒▓│┤ÁÂÀ©╣║╗╝¢¥┐"
     u"└┴┬├─┼ãÃ╚╔╩╦╠═╬¤ðÐÊËÈıÍÎÏ┘┌█▄¦Ì▀"
     u"ÓßÔÒõÕµþÞÚÛÙýÝ¯´\u00AD±‗¾¶§÷¸°¨·¹³²■\u00A0";
 // 0x20 to 0x7F and 0xA0 to 0xFF of the font Symbol (VENDORS/ADOBE/symbol.txt there).
-constexpr std::u16string_view symbolLower =
+constexpr std::u16string_view SymbolLower =
     u" !∀#∃%&∋()∗+,−./0123456789:;<=>?"
     u"≅ΑΒΧΔΕΦΓΗΙϑΚΛΜΝΟΠΘΡΣΤΥςΩΞΨΖ[∴]⊥_"
     u"‾αβχδεφγηιϕκλμνοπθρστυϖωξψζ{|}∼\x7f";
-constexpr std::u16string_view symbolUpper =
+constexpr std::u16string_view SymbolUpper =
     u"€ϒ′≤⁄∞ƒ♣♦♥♠↔←↑→↓°±″≥×∝∂•÷≠≡≈…⏐⎯↵"
     u"ℵℑℜ℘⊗⊕∅∩∪⊃⊇⊄⊂⊆∈∉∠∇®©™∏√⋅¬∧∨⇔⇐⇑⇒⇓"
     u"◊〈®©™∑⎛⎜⎝⎡⎢⎣⎧⎨⎩⎪\uF0F0〉∫⌠⎮⌡⎞⎟⎠⎤⎥⎦⎫⎬⎭\uF0FF";
 // clang-format on
-static_assert(macRoman.size() == 128 && codePage437.size() == 128 && codePage850.size() == 128);
-static_assert(symbolLower.size() == 96 && symbolUpper.size() == 96);
+static_assert(MacRoman.size() == 128 && CodePage437.size() == 128 && CodePage850.size() == 128);
+static_assert(SymbolLower.size() == 96 && SymbolUpper.size() == 96);
 
 struct CharacterSet {
     int number;
     int codePage;
 };
-constexpr CharacterSet characterSets[] = {{0, 1252},   {77, RtfCodePage::Mac},
+constexpr CharacterSet CharacterSets[] = {{0, 1252},   {77, RtfCodePage::Mac},
                                           {161, 1253}, {162, 1254},
                                           {163, 1258}, {177, 1255},
                                           {178, 1256}, {186, 1257},
@@ -56,7 +56,7 @@ struct SpecialWord {
     std::string_view name;
     char16_t character;
 };
-constexpr SpecialWord specialWords[] = {{"tab", u'\t'},           {"emdash", u'\u2014'},  {"endash", u'\u2013'},
+constexpr SpecialWord SpecialWords[] = {{"tab", u'\t'},           {"emdash", u'\u2014'},  {"endash", u'\u2013'},
                                         {"lquote", u'\u2018'},    {"rquote", u'\u2019'},  {"ldblquote", u'\u201C'},
                                         {"rdblquote", u'\u201D'}, {"bullet", u'\u2022'},  {"emspace", u'\u2003'},
                                         {"enspace", u'\u2002'},   {"qmspace", u'\u2005'}, {"zwj", u'\u200D'},
@@ -85,8 +85,8 @@ QString decodeUpperHalf(QByteArrayView bytes, std::u16string_view upper)
 
 int codePageOfCharacterSet(int characterSet, int documentCodePage)
 {
-    const auto found = std::ranges::find(characterSets, characterSet, &CharacterSet::number);
-    return found == std::end(characterSets) ? documentCodePage : found->codePage;
+    const auto found = std::ranges::find(CharacterSets, characterSet, &CharacterSet::number);
+    return found == std::end(CharacterSets) ? documentCodePage : found->codePage;
 }
 
 QString decodeRtf(QByteArrayView bytes, int codePage)
@@ -98,15 +98,15 @@ QString decodeRtf(QByteArrayView bytes, int codePage)
         return text;
     }
     case RtfCodePage::Mac:
-        return decodeUpperHalf(bytes, macRoman);
+        return decodeUpperHalf(bytes, MacRoman);
     case 437:
-        return decodeUpperHalf(bytes, codePage437);
+        return decodeUpperHalf(bytes, CodePage437);
     case 850:
-        return decodeUpperHalf(bytes, codePage850);
+        return decodeUpperHalf(bytes, CodePage850);
     case RtfCodePage::Utf8:
         return QString::fromUtf8(bytes);
     default:
-        return decodeCodePage(bytes, codePage);
+        return basic::decodeCodePage(bytes, codePage);
     }
 }
 
@@ -114,9 +114,9 @@ char16_t symbolCharacter(char16_t character)
 {
     const char16_t low = (character & 0xFF00U) == 0xF000U ? character & 0xFFU : character;
     if (low >= 0x20 && low < 0x80)
-        return symbolLower[low - 0x20U];
+        return SymbolLower[low - 0x20U];
     if (low >= 0xA0 && low < 0x100)
-        return symbolUpper[low - 0xA0U];
+        return SymbolUpper[low - 0xA0U];
     return character;
 }
 
@@ -141,8 +141,8 @@ QString shownCharacters(QStringView text)
 char16_t specialCharacter(QByteArrayView word)
 {
     const std::string_view name(word.data(), static_cast<std::size_t>(word.size()));
-    const auto found = std::ranges::find(specialWords, name, &SpecialWord::name);
-    return found == std::end(specialWords) ? u'\0' : found->character;
+    const auto found = std::ranges::find(SpecialWords, name, &SpecialWord::name);
+    return found == std::end(SpecialWords) ? u'\0' : found->character;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

@@ -6,7 +6,7 @@
 #include <QString>
 
 // How the bytes and words of RTF become characters.
-namespace kalvenor {
+namespace kalvenor::richtext {
 
 /// Code pages beside those of Windows (codepage.h) and of the PC, 437 and 850, by the numbers RTF gives them.
 struct RtfCodePage {
@@ -15,7 +15,7 @@ struct RtfCodePage {
     static constexpr int Utf8 = 65001;
 };
 
-constexpr int longestRtfFontName = 100;
+constexpr int LongestRtfFontName = 100;
 
 /// The code page for a font's \fcharset; unknown ones (East Asian, 1 = default) have the document's.
 int codePageOfCharacterSet(int characterSet, int documentCodePage);
@@ -28,4 +28,4 @@ char16_t specialCharacter(QByteArrayView word);
 /// Without characters that a text document reserves or cannot show; a half of a pair that lost the other is U+FFFD.
 QString shownCharacters(QStringView text);
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

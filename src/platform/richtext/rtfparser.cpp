@@ -5,12 +5,14 @@
 #include <algorithm>
 #include <QTextDocument>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::richtext {
 
 namespace {
 
 /// Groups within groups that are kept apart; office programs need some 20.
-constexpr std::size_t deepestGroup = 500;
+constexpr std::size_t DeepestGroup = 500;
 
 bool is(QByteArrayView name, std::initializer_list<const char *> names)
 {
@@ -98,7 +100,7 @@ bool RtfParser::passOverFallback(const RtfToken &token)
 
 void RtfParser::startGroup()
 {
-    if (m_tooDeep > 0 || m_outer.size() >= deepestGroup) {
+    if (m_tooDeep > 0 || m_outer.size() >= DeepestGroup) {
         m_result.damaged = true;
         ++m_tooDeep;
         return;
@@ -250,7 +252,7 @@ bool RtfParser::characterWord(const RtfToken &token)
     else if (name == QByteArrayView("f"))
         state.font = token.value;
     else if (name == QByteArrayView("fs"))
-        state.halfPoints = token.value > 0 ? std::clamp(token.value, 2, largestHalfPoints) : 24;
+        state.halfPoints = token.value > 0 ? std::clamp(token.value, 2, LargestHalfPoints) : 24;
     else if (name == QByteArrayView("cf"))
         state.foreground = token.value;
     else if (is(name, {"cb", "highlight", "chcbpat"}))
@@ -348,7 +350,7 @@ void RtfParser::takeSymbol(char symbol)
         takeText(QString(QChar(QChar::SoftHyphen)));
         break;
     case '\t':
-        takeText(QStringLiteral("\t"));
+        takeText(u"\t"_s);
         break;
     case '\\':
     case '{':
@@ -372,4 +374,4 @@ void RtfParser::takeUnicode(int value)
     m_toPassOver = m_state.fallback;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

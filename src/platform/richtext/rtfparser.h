@@ -10,7 +10,7 @@
 #include <QHash>
 #include <vector>
 
-namespace kalvenor {
+namespace kalvenor::richtext {
 
 /// Reads one RTF text into an empty document; readRtf is what others call.
 class RtfParser {
@@ -104,4 +104,4 @@ private:
     bool m_formatKnown = false;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

@@ -5,15 +5,17 @@
 
 #include <algorithm>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::richtext {
 
 namespace {
 
-constexpr std::size_t mostColors = 65536;
+constexpr std::size_t MostColors = 65536;
 
 int listLevel(int leftTwips)
 {
-    return std::clamp((leftTwips + twipsPerListLevel / 2) / twipsPerListLevel, 1, 9);
+    return std::clamp((leftTwips + TwipsPerListLevel / 2) / TwipsPerListLevel, 1, 9);
 }
 
 /// A bullet is one character that does not count.
@@ -25,7 +27,7 @@ bool isBulletText(const QString &text)
 
 qreal pixels(int twips)
 {
-    return static_cast<qreal>(twips) / twipsPerPixel;
+    return static_cast<qreal>(twips) / TwipsPerPixel;
 }
 
 } // namespace
@@ -83,7 +85,7 @@ void RtfParser::takeFontText(QStringView text)
     for (const QChar c : text) {
         if (c == u';')
             endFont();
-        else if (m_fontName.size() < longestRtfFontName && c.isPrint())
+        else if (m_fontName.size() < LongestRtfFontName && c.isPrint())
             m_fontName += c;
     }
 }
@@ -95,7 +97,7 @@ void RtfParser::endFont()
     if (name.isEmpty())
         return;
     Font &font = m_fonts[m_openFont];
-    const bool isSymbol = name == QStringLiteral("Symbol");
+    const bool isSymbol = name == u"Symbol"_s;
     if (isSymbol && font.codePage == 0)
         font.codePage = RtfCodePage::Symbol;
     else if (!isSymbol && font.codePage == RtfCodePage::Symbol)
@@ -106,7 +108,7 @@ void RtfParser::endFont()
 void RtfParser::takeColorText(QStringView text)
 {
     for (const QChar c : text) {
-        if (c != u';' || m_colors.size() >= mostColors)
+        if (c != u';' || m_colors.size() >= MostColors)
             continue;
         m_colors.push_back(m_openColor);
         m_openColor = QColor();
@@ -218,4 +220,4 @@ void RtfParser::endBullet()
         insert(QStringView(m_bulletText).trimmed().toString() + u'\t');
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

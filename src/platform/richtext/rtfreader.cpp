@@ -12,11 +12,13 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::richtext {
 
 namespace {
 
-constexpr qsizetype longestPlainText = 4'000'000;
+constexpr qsizetype LongestPlainText = 4'000'000;
 
 bool isBlank(char c)
 {
@@ -39,15 +41,15 @@ QString decodePlain(QByteArrayView text)
         return QStringDecoder(*marked).decode(text);
     QStringDecoder utf8(QStringDecoder::Utf8);
     const QString decoded = utf8.decode(text);
-    return utf8.hasError() ? decodeAnsi(text) : decoded;
+    return utf8.hasError() ? basic::decodeAnsi(text) : decoded;
 }
 
 RtfResult readPlain(QByteArrayView text, QTextDocument &document)
 {
     RtfResult result{.isRtf = false};
-    result.tooLarge = text.size() > longestPlainText;
-    QString lines = decodePlain(text.first(std::min(text.size(), longestPlainText)));
-    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+    result.tooLarge = text.size() > LongestPlainText;
+    QString lines = decodePlain(text.first(std::min(text.size(), LongestPlainText)));
+    lines.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
     QStringList shown = lines.split(u'\n');
     for (QString &line : shown)
         line = shownCharacters(line);
@@ -80,7 +82,7 @@ RtfResult readRtf(QByteArrayView rtf, QTextDocument &document)
 
 QByteArray rtfBytes(const QString &rtf)
 {
-    const QByteArray ansi = encodeAnsi(rtf);
+    const QByteArray ansi = basic::encodeAnsi(rtf);
     if (!looksLikeRtf(ansi))
         return rtf.toUtf8();
     QByteArray bytes;
@@ -94,4 +96,4 @@ QByteArray rtfBytes(const QString &rtf)
     return bytes;
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

@@ -9,14 +9,14 @@
 class QTextDocument;
 
 // Rich text of classic controls and of office programs (RTF 1.9.1, as published by its maker) into a text document.
-namespace kalvenor {
+namespace kalvenor::richtext {
 
 /// Lengths of block formats are pixels at 96 to the inch, so many twips each.
-constexpr int twipsPerPixel = 15;
+constexpr int TwipsPerPixel = 15;
 /// A list's level moves its text so many twips to the right (the indent width of a QTextDocument).
-constexpr int twipsPerListLevel = 40 * twipsPerPixel;
+constexpr int TwipsPerListLevel = 40 * TwipsPerPixel;
 /// Font sizes beyond are made smaller, in half points.
-constexpr int largestHalfPoints = 1600;
+constexpr int LargestHalfPoints = 1600;
 
 /// What a text held beside what the document now shows.
 struct RtfResult {
@@ -42,4 +42,4 @@ RtfResult readRtf(QByteArrayView rtf, QTextDocument &document);
 /// UTF-8. readRtf takes both.
 QByteArray rtfBytes(const QString &rtf);
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace kalvenor {
+namespace kalvenor::richtext {
 
 namespace {
 
@@ -137,4 +137,4 @@ void RtfTokenizer::passOver(int bytes)
     m_at += std::clamp<qsizetype>(bytes, 0, left);
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

@@ -4,7 +4,7 @@
 
 #include <QByteArrayView>
 
-namespace kalvenor {
+namespace kalvenor::richtext {
 
 struct RtfToken {
     enum class Kind {
@@ -45,4 +45,4 @@ private:
     bool m_cut = false;
 };
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

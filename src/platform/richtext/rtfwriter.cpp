@@ -14,14 +14,16 @@
 #include <QTextList>
 #include <vector>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::richtext {
 
 namespace {
 
-constexpr int longestIndent = 30000; // twips
-constexpr double fallbackPointSize = 10;
-constexpr double pointsPerPixel = 0.75;
-constexpr int boldFrom = QFont::DemiBold;
+constexpr int LongestIndent = 30000; // twips
+constexpr double FallbackPointSize = 10;
+constexpr double PointsPerPixel = 0.75;
+constexpr int BoldFrom = QFont::DemiBold;
 
 struct Look {
     int font = -1;
@@ -41,7 +43,7 @@ struct ParagraphLook {
 
 int twips(qreal pixels)
 {
-    return static_cast<int>(std::lround(std::clamp<qreal>(pixels * twipsPerPixel, -longestIndent, longestIndent)));
+    return static_cast<int>(std::lround(std::clamp<qreal>(pixels * TwipsPerPixel, -LongestIndent, LongestIndent)));
 }
 
 QByteArray number(const char *word, int value)
@@ -51,7 +53,7 @@ QByteArray number(const char *word, int value)
 
 QByteArray escaped(QChar c)
 {
-    const QByteArray ansi = encodeAnsi(QStringView(&c, 1));
+    const QByteArray ansi = basic::encodeAnsi(QStringView(&c, 1));
     if (ansi != "?" || c == u'?')
         return "\\'" + QByteArrayView(ansi).toByteArray().toHex();
     return number("\\u", static_cast<qint16>(c.unicode())) + '?';
@@ -82,8 +84,8 @@ QByteArray characterOf(QChar c)
 
 QString soundFontName(const QString &family)
 {
-    QString name = shownCharacters(family).simplified().left(longestRtfFontName);
-    name.removeIf([](QChar c) { return QStringLiteral("\\{};").contains(c) || !c.isPrint(); });
+    QString name = shownCharacters(family).simplified().left(LongestRtfFontName);
+    name.removeIf([](QChar c) { return u"\\{};"_s.contains(c) || !c.isPrint(); });
     return name.simplified();
 }
 
@@ -130,10 +132,10 @@ ParagraphLook paragraphLookOf(const QTextBlock &block)
     look.after = std::max(twips(format.bottomMargin()), 0);
     if (const QTextList *list = block.textList(); list != nullptr) {
         look.bullet = true;
-        look.left = std::clamp(list->format().indent(), 1, 9) * twipsPerListLevel;
-        look.first = -twipsPerListLevel / 2;
+        look.left = std::clamp(list->format().indent(), 1, 9) * TwipsPerListLevel;
+        look.first = -TwipsPerListLevel / 2;
     } else {
-        look.left = std::clamp(twips(format.leftMargin()) + format.indent() * twipsPerListLevel, 0, longestIndent);
+        look.left = std::clamp(twips(format.leftMargin()) + format.indent() * TwipsPerListLevel, 0, LongestIndent);
         look.first = twips(format.textIndent());
     }
     return look;
@@ -169,7 +171,7 @@ void Writer::writeParagraphLook(const ParagraphLook &look)
 {
     if (look.bullet && m_bulletFont < 0) {
         m_bulletFont = static_cast<int>(m_fonts.size());
-        m_fonts.append(QStringLiteral("Symbol"));
+        m_fonts.append(u"Symbol"_s);
     }
     const QByteArray font = QByteArray::number(m_bulletFont);
     const QByteArray bulletText = "{\\pntext\\f" + font + "\\'b7\\tab}";
@@ -206,15 +208,15 @@ Look Writer::lookOf(const QTextCharFormat &format)
     Look look;
     double points = format.fontPointSize();
     if (points <= 0 && format.hasProperty(QTextFormat::FontPixelSize))
-        points = format.intProperty(QTextFormat::FontPixelSize) * pointsPerPixel;
+        points = format.intProperty(QTextFormat::FontPixelSize) * PointsPerPixel;
     if (points <= 0)
-        points = m_default.pointSizeF() > 0 ? m_default.pointSizeF() : fallbackPointSize;
-    look.halfPoints = std::clamp(static_cast<int>(std::lround(points * 2)), 2, largestHalfPoints);
+        points = m_default.pointSizeF() > 0 ? m_default.pointSizeF() : FallbackPointSize;
+    look.halfPoints = std::clamp(static_cast<int>(std::lround(points * 2)), 2, LargestHalfPoints);
     const QStringList families = format.fontFamilies().toStringList();
     look.font = fontIndex(families.isEmpty() ? m_default.family() : families.constFirst());
     look.foreground = colorIndex(format.foreground());
     look.background = colorIndex(format.background());
-    look.bold = format.fontWeight() >= boldFrom;
+    look.bold = format.fontWeight() >= BoldFrom;
     look.italic = format.fontItalic();
     look.underline = format.fontUnderline();
     look.strikeOut = format.fontStrikeOut();
@@ -307,4 +309,4 @@ QByteArray writeRtf(const QTextDocument &document)
     return Writer(document).write();
 }
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

@@ -6,7 +6,7 @@
 
 class QTextDocument;
 
-namespace kalvenor {
+namespace kalvenor::richtext {
 
 /// The document as 7-bit RTF in the form of the classic control: bold, italic, underline, strike-out, font, size,
 /// colours, alignment, indents, spacing and bullets; pictures and tables' frames are left out. What readRtf reads from
@@ -15,4 +15,4 @@ namespace kalvenor {
 /// the text stands as `\'5c`, and no word of the form holds an underscore.
 QByteArray writeRtf(const QTextDocument &document);
 
-} // namespace kalvenor
+} // namespace kalvenor::richtext

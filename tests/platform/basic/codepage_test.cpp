@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace kalvenor;
+using namespace kalvenor::basic;
 
 TEST(CodePage, SomeCharactersOfEach)
 {

@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
-using namespace kalvenor;
+using namespace Qt::StringLiterals;
+
+using namespace kalvenor::basic;
 
 namespace {
 
@@ -104,8 +106,8 @@ TEST(Date, Format)
     for (const auto &row : rows)
         EXPECT_EQ(formatDate(row.serial, row.pattern).toStdString(), row.text);
     EXPECT_EQ(formatDate(std::nan(""), u"yyyy"), QString());
-    EXPECT_EQ(dateText(35795, German), QStringLiteral("31.12.1997"));
-    EXPECT_EQ(dateText(35795, American), QStringLiteral("12/31/1997"));
+    EXPECT_EQ(dateText(35795, German), u"31.12.1997"_s);
+    EXPECT_EQ(dateText(35795, American), u"12/31/1997"_s);
 }
 
 TEST(Date, TimesOfNegativeDaysComeBack)
@@ -113,5 +115,5 @@ TEST(Date, TimesOfNegativeDaysComeBack)
     const auto serial = dateFromText(u"01-01-0200 06:00", German);
     ASSERT_TRUE(serial);
     EXPECT_EQ(*serial, -620910.25);
-    EXPECT_EQ(formatDate(*serial, u"dd-mm-yyyy hh:mm"), QStringLiteral("01-01-0200 06:00"));
+    EXPECT_EQ(formatDate(*serial, u"dd-mm-yyyy hh:mm"), u"01-01-0200 06:00"_s);
 }

@@ -11,7 +11,7 @@
 #include "platform/basic/error.h"
 #include "platform/basic/text.h"
 
-using namespace kalvenor;
+using namespace kalvenor::basic;
 
 namespace {
 

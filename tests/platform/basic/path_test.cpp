@@ -7,7 +7,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-using namespace kalvenor;
+using namespace Qt::StringLiterals;
+
+using namespace kalvenor::basic;
 
 namespace {
 
@@ -15,7 +17,7 @@ class Paths : public testing::Test {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(QDir(root()).mkpath(QStringLiteral("Daten/QV")));
+        ASSERT_TRUE(QDir(root()).mkpath(u"Daten/QV"_s));
         for (const char *name : {"Daten/Familie.MDB", "Daten/b.txt", "Daten/A.TXT", "Daten/.geheim", "Daten/[x].txt",
                                  "Daten/QV/x", "daten"}) {
             QFile file(root() + u'/' + QString::fromLatin1(name));
@@ -32,7 +34,7 @@ protected:
 
 TEST_F(Paths, Native)
 {
-    const DriveMap drives = {{u'C', root()}, {u'D', root() + QStringLiteral("/Daten/")}};
+    const DriveMap drives = {{u'C', root()}, {u'D', root() + u"/Daten/"_s}};
     const struct {
         QString text;
         QString native;
@@ -56,14 +58,14 @@ TEST_F(Paths, Native)
     for (const auto &row : rows)
         EXPECT_EQ(nativePath(row.text, drives).toStdString(), row.native.toStdString());
 
-    const QString unmapped = nativePath(QStringLiteral("X:\\a\\b.txt"), drives);
+    const QString unmapped = nativePath(u"X:\\a\\b.txt"_s, drives);
     EXPECT_FALSE(QFile(unmapped).open(QIODevice::ReadWrite)) << "it must not come to be in the current folder";
-    EXPECT_EQ(windowsPath(unmapped), QStringLiteral("X:\\a\\b.txt"));
+    EXPECT_EQ(windowsPath(unmapped), u"X:\\a\\b.txt"_s);
 }
 
 TEST_F(Paths, Windows)
 {
-    const DriveMap drives = {{u'C', QStringLiteral("/media/win")}, {u'D', QStringLiteral("/media/win/Data/")}};
+    const DriveMap drives = {{u'C', u"/media/win"_s}, {u'D', u"/media/win/Data/"_s}};
     const struct {
         const char *native;
         const char *text;

@@ -14,14 +14,14 @@
 #include <QXmlStreamReader>
 #include <set>
 
-namespace kalvenor {
+namespace kalvenor::chart {
 namespace {
 
 using namespace Qt::StringLiterals;
 using test::centuries;
 using test::fullLook;
 
-constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 bool isUniform(const QImage &image)
 {
@@ -47,13 +47,13 @@ double difference(const QImage &one, const QImage &other)
 
 TEST(Chart, FiguresAreAFullRectangleOfNumbers)
 {
-    const ChartTable table{{u" M "_qs, u"W"_qs}, {u" 1800-99"_qs}, {{u" 45.99"_qs}, {u"x"_qs, u"1e999"_qs, u"-.5"_qs}}};
+    const ChartTable table{{u" M "_s, u"W"_s}, {u" 1800-99"_s}, {{u" 45.99"_s}, {u"x"_s, u"1e999"_s, u"-.5"_s}}};
     const ChartFigures all = chartFigures(table, ChartKind::Bars);
-    EXPECT_EQ(all.series, (QStringList{u"M"_qs, u"W"_qs, QString()}));
-    EXPECT_EQ(all.rows, (QStringList{u"1800-99"_qs, QString()}));
+    EXPECT_EQ(all.series, (QStringList{u"M"_s, u"W"_s, QString()}));
+    EXPECT_EQ(all.rows, (QStringList{u"1800-99"_s, QString()}));
     EXPECT_EQ(all.values, (std::vector<std::vector<double>>{{45.99, 0}, {0, 0}, {0, -0.5}}));
     EXPECT_EQ(chartFigures(table, ChartKind::Pie).values, (std::vector<std::vector<double>>{{0, 0}}));
-    EXPECT_EQ(chartFigureText(45.99, QLocale(QLocale::German)), u"45,9"_qs);
+    EXPECT_EQ(chartFigureText(45.99, QLocale(QLocale::German)), u"45,9"_s);
 }
 
 TEST(Chart, AxisIsRoundAndHoldsEveryFigure)
@@ -61,9 +61,9 @@ TEST(Chart, AxisIsRoundAndHoldsEveryFigure)
     const struct {
         QString low, high;
         double axisLow, axisHigh, step;
-    } cases[] = {{u"38"_qs, u"74"_qs, 0, 80, 10},        {u"0"_qs, u"0"_qs, 0, 10, 1},
-                 {u"90"_qs, u"104.2"_qs, 0, 120, 20},    {u"-7"_qs, u"30"_qs, -10, 30, 5},
-                 {u".0027"_qs, u".01"_qs, 0, .01, .001}, {u"1e-300"_qs, u"0"_qs, 0, 10, 1}};
+    } cases[] = {{u"38"_s, u"74"_s, 0, 80, 10},        {u"0"_s, u"0"_s, 0, 10, 1},
+                 {u"90"_s, u"104.2"_s, 0, 120, 20},    {u"-7"_s, u"30"_s, -10, 30, 5},
+                 {u".0027"_s, u".01"_s, 0, .01, .001}, {u"1e-300"_s, u"0"_s, 0, 10, 1}};
     for (const auto &[low, high, axisLow, axisHigh, step] : cases) {
         const ValueAxis axis = valueAxis(chartFigures({{}, {}, {{low}, {high}}}, ChartKind::Bars), 10);
         EXPECT_NEAR(axis.low, axisLow, 1e-9) << high.toStdString();
@@ -74,7 +74,7 @@ TEST(Chart, AxisIsRoundAndHoldsEveryFigure)
 
 TEST(Chart, NoTextIsCutOrMeetsAnother)
 {
-    for (const ChartType type : test::allChartTypes) {
+    for (const ChartType type : test::AllChartTypes) {
         for (const int rows : {1, 5, 20}) {
             for (const bool longLabels : {false, true}) {
                 for (const double factor : {1.0, 3.0, 8.0}) {
@@ -85,8 +85,7 @@ TEST(Chart, NoTextIsCutOrMeetsAnother)
                         const ChartDrawing drawing(centuries(rows, longLabels), look, size, paperStyle());
                         const std::vector<PlacedText> &texts = drawing.layout().texts;
                         const auto name = [&] {
-                            return QStringLiteral("type %1, %2 rows, long %3, factor %4, width %5")
-                                .arg(static_cast<int>(type))
+                            return u"type %1, %2 rows, long %3, factor %4, width %5"_s.arg(static_cast<int>(type))
                                 .arg(rows)
                                 .arg(longLabels)
                                 .arg(factor)
@@ -125,10 +124,10 @@ TEST(Chart, OddTablesAndLooksArePainted)
 {
     const QString huge(3000, u'w');
     const ChartTable tables[] = {{{}, {}, {{}}},
-                                 {{u"M"_qs}, {}, {{u"1"_qs}, {}, {u"2"_qs, u"3"_qs}}},
-                                 {{u"M"_qs}, {u"1"_qs, u"2"_qs}, {{u"x"_qs}}},
-                                 {{u"M"_qs}, {u"1"_qs, u"2"_qs}, {{u"-4"_qs}, {u"1e300"_qs}}},
-                                 {{huge, huge}, {huge, huge}, {{u"1"_qs, u"2"_qs}, {u"1"_qs, u"0"_qs}}},
+                                 {{u"M"_s}, {}, {{u"1"_s}, {}, {u"2"_s, u"3"_s}}},
+                                 {{u"M"_s}, {u"1"_s, u"2"_s}, {{u"x"_s}}},
+                                 {{u"M"_s}, {u"1"_s, u"2"_s}, {{u"-4"_s}, {u"1e300"_s}}},
+                                 {{huge, huge}, {huge, huge}, {{u"1"_s, u"2"_s}, {u"1"_s, u"0"_s}}},
                                  centuries(400)};
     for (const int type : {-1, 1, 2, 5, 7, 8, 14, 16, 77}) { // numbers without a type among them
         for (const ChartTable &table : tables) {
@@ -151,7 +150,7 @@ TEST(Chart, AbsurdFontFactorsAreHeldWithinLimits)
         look.fontFactor = factor;
         return chartImage(centuries(5), look, {900, 600}, 96);
     };
-    for (const double factor : {0.0, -5.0, notANumber})
+    for (const double factor : {0.0, -5.0, NotANumber})
         EXPECT_EQ(picture(factor), picture(3)) << factor;
     EXPECT_EQ(picture(99999), picture(9));
     EXPECT_EQ(picture(0.01), picture(1.5));
@@ -192,8 +191,8 @@ TEST(Chart, FileIsOfTheKindOfItsEnding)
 {
     const QTemporaryDir folder;
     ChartLook look = fullLook(ChartType::Pie);
-    look.title = u"A & <B>"_qs;
-    for (const QString &name : {u"c.png"_qs, u"c.JPG"_qs, u"c.jpeg"_qs, u"c.svg"_qs}) {
+    look.title = u"A & <B>"_s;
+    for (const QString &name : {u"c.png"_s, u"c.JPG"_s, u"c.jpeg"_s, u"c.svg"_s}) {
         const QString file = folder.filePath(name);
         writeChart(centuries(5), look, {600, 400}, file, 80);
         QImageReader reader(file);
@@ -205,7 +204,7 @@ TEST(Chart, FileIsOfTheKindOfItsEnding)
         }
         EXPECT_FALSE(isUniform(reader.read()));
     }
-    QFile svg(folder.filePath(u"c.svg"_qs));
+    QFile svg(folder.filePath(u"c.svg"_s));
     ASSERT_TRUE(svg.open(QIODevice::ReadOnly));
     QXmlStreamReader xml(&svg);
     QString texts;
@@ -223,26 +222,28 @@ TEST(Chart, FileIsOfTheKindOfItsEnding)
 TEST(Chart, FailedWriteIsAnErrorAndLeavesTheOldFile)
 {
     const QTemporaryDir folder;
-    ASSERT_TRUE(QDir(folder.path()).mkdir(u"taken.png"_qs));
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"taken.png"_s));
     const struct {
         QString file;
         QSize size;
-        ErrorKind kind;
-    } cases[] = {
-        {u"c.bmp"_qs, {300, 200}, ErrorKind::Refused},        {u"c"_qs, {300, 200}, ErrorKind::Refused},
-        {u"c.png"_qs, {0, 200}, ErrorKind::Refused},          {u"c.svg"_qs, {99999, 2}, ErrorKind::Refused},
-        {u"none/c.png"_qs, {30, 20}, ErrorKind::WriteFailed}, {u"taken.png"_qs, {30, 20}, ErrorKind::WriteFailed}};
+        basic::ErrorKind kind;
+    } cases[] = {{u"c.bmp"_s, {300, 200}, basic::ErrorKind::Refused},
+                 {u"c"_s, {300, 200}, basic::ErrorKind::Refused},
+                 {u"c.png"_s, {0, 200}, basic::ErrorKind::Refused},
+                 {u"c.svg"_s, {99999, 2}, basic::ErrorKind::Refused},
+                 {u"none/c.png"_s, {30, 20}, basic::ErrorKind::WriteFailed},
+                 {u"taken.png"_s, {30, 20}, basic::ErrorKind::WriteFailed}};
     for (const auto &[name, size, kind] : cases) {
         try {
             writeChart(centuries(1), {}, size, folder.filePath(name));
             ADD_FAILURE() << name.toStdString();
-        } catch (const Error &error) {
+        } catch (const basic::Error &error) {
             EXPECT_EQ(error.kind(), kind) << error.what();
             EXPECT_EQ(error.place(), folder.filePath(name));
         }
     }
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{u"taken.png"_qs});
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{u"taken.png"_s});
 }
 
 } // namespace
-} // namespace kalvenor
+} // namespace kalvenor::chart

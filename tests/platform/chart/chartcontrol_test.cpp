@@ -14,7 +14,7 @@
 #include <QTest>
 #include <QTimer>
 
-namespace kalvenor {
+namespace kalvenor::chart {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -25,7 +25,7 @@ struct ShownChart : ChartControl {
     explicit ShownChart(ChartType type = ChartType::Bar, int rows = 5)
     {
         ChartLook look = fullLook(type);
-        look.valueFormat = u"%1: %2 Jahre"_qs;
+        look.valueFormat = u"%1: %2 Jahre"_s;
         setLook(look);
         setTable(centuries(rows));
         resize(600, 400);
@@ -45,7 +45,7 @@ struct ShownChart : ChartControl {
 
 TEST(ChartControl, EveryFigureIsFoundUnderTheMouse)
 {
-    for (const ChartType type : test::allChartTypes) {
+    for (const ChartType type : test::AllChartTypes) {
         const QStringList texts = ShownChart(type).hoverTexts();
         EXPECT_EQ(texts.size(), type == ChartType::Pie ? 4 : 12) << static_cast<int>(type); // one row is empty
         EXPECT_TRUE(texts.contains(u"Alle, 300-99: 67,4 Jahre")) << texts.join(u'\n').toStdString();
@@ -96,10 +96,10 @@ TEST(ChartControl, FiguresCanBeReadWithoutThePicture)
     chart.activateWindow();
     chart.setFocus();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&chart));
-    auto *table = chart.findChild<QTableWidget *>(u"chartFigures"_qs);
+    auto *table = chart.findChild<QTableWidget *>(u"chartFigures"_s);
     chart.tableAction->trigger();
     EXPECT_TRUE(table->isVisible() && table->hasFocus());
-    EXPECT_EQ(table->item(0, 2)->text(), u"67,4"_qs);
+    EXPECT_EQ(table->item(0, 2)->text(), u"67,4"_s);
     chart.tableAction->trigger();
     EXPECT_TRUE(!table->isVisible() && chart.hasFocus());
 }
@@ -111,7 +111,7 @@ TEST(ChartControl, MenuComesUpByKeyOverChartAndTable)
     for (const bool asTable : {false, true}) {
         chart.tableAction->setChecked(asTable);
         QWidget *receiver =
-            asTable ? chart.findChild<QTableWidget *>(u"chartFigures"_qs) : static_cast<QWidget *>(&chart);
+            asTable ? chart.findChild<QTableWidget *>(u"chartFigures"_s) : static_cast<QWidget *>(&chart);
         QList<QAction *> offered;
         QTimer closer;
         QObject::connect(&closer, &QTimer::timeout, &closer, [&offered] {
@@ -128,4 +128,4 @@ TEST(ChartControl, MenuComesUpByKeyOverChartAndTable)
 }
 
 } // namespace
-} // namespace kalvenor
+} // namespace kalvenor::chart

@@ -9,44 +9,45 @@
 #include <QApplication>
 #include <QDir>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-using namespace kalvenor;
+using namespace kalvenor::chart;
 
-constexpr QSize small(300, 200);
-constexpr QSize middle(600, 400);
-constexpr QSize large(1200, 800);
+constexpr QSize SmallPicture(300, 200);
+constexpr QSize Middle(600, 400);
+constexpr QSize LargePicture(1200, 800);
 
 void picture(const QString &folder, const QString &name, const ChartTable &table, const ChartLook &look, QSize size,
              double dpi = 96)
 {
-    writeChart(table, look, size, folder + u'/' + name + QStringLiteral(".png"), 90, dpi);
+    writeChart(table, look, size, folder + u'/' + name + u".png"_s, 90, dpi);
 }
 
 void pictures(const QString &folder)
 {
-    for (const ChartType type : test::allChartTypes) {
-        const QString kind = QStringLiteral("type%1-").arg(static_cast<int>(type), 2, 10, QLatin1Char('0'));
+    for (const ChartType type : test::AllChartTypes) {
+        const QString kind = u"type%1-"_s.arg(static_cast<int>(type), 2, 10, QLatin1Char('0'));
         for (const int rows : {1, 5, 20}) {
-            const QString name = kind + QStringLiteral("%1rows-").arg(rows, 2, 10, QLatin1Char('0'));
+            const QString name = kind + u"%1rows-"_s.arg(rows, 2, 10, QLatin1Char('0'));
             ChartLook look = test::fullLook(type);
-            picture(folder, name + QStringLiteral("middle"), test::centuries(rows), look, middle);
-            picture(folder, name + QStringLiteral("small"), test::centuries(rows), look, small);
-            picture(folder, name + QStringLiteral("small-long"), test::centuries(rows, true), look, small);
+            picture(folder, name + u"middle"_s, test::centuries(rows), look, Middle);
+            picture(folder, name + u"small"_s, test::centuries(rows), look, SmallPicture);
+            picture(folder, name + u"small-long"_s, test::centuries(rows, true), look, SmallPicture);
             look.values = true;
             look.legend = false;
-            picture(folder, name + QStringLiteral("middle-long-values"), test::centuries(rows, true), look, middle);
+            picture(folder, name + u"middle-long-values"_s, test::centuries(rows, true), look, Middle);
             for (const int factor : {1, 8}) {
                 look.fontFactor = factor;
                 look.legend = true;
-                picture(folder, name + QStringLiteral("middle-font%1-values").arg(factor), test::centuries(rows), look,
-                        middle);
-                picture(folder, name + QStringLiteral("small-font%1").arg(factor), test::centuries(rows), look, small);
+                picture(folder, name + u"middle-font%1-values"_s.arg(factor), test::centuries(rows), look, Middle);
+                picture(folder, name + u"small-font%1"_s.arg(factor), test::centuries(rows), look, SmallPicture);
             }
         }
         ChartLook look = test::fullLook(type);
-        picture(folder, kind + QStringLiteral("large"), test::centuries(20), look, large);
-        picture(folder, kind + QStringLiteral("300dpi"), test::centuries(5), look, middle * 300 / 96, 300);
+        picture(folder, kind + u"large"_s, test::centuries(20), look, LargePicture);
+        picture(folder, kind + u"300dpi"_s, test::centuries(5), look, Middle * 300 / 96, 300);
         ChartControl control;
         QPalette dark;
         dark.setColor(QPalette::Base, QColor(0x23, 0x26, 0x29));
@@ -55,11 +56,11 @@ void pictures(const QString &folder)
         look.values = true;
         control.setLook(look);
         control.setTable(test::centuries(5));
-        control.resize(middle);
-        control.grab().save(folder + u'/' + kind + QStringLiteral("dark.png"));
+        control.resize(Middle);
+        control.grab().save(folder + u'/' + kind + u"dark.png"_s);
     }
-    picture(folder, QStringLiteral("empty-small"), {}, test::fullLook(ChartType::Bar), small);
-    picture(folder, QStringLiteral("empty-middle"), {}, test::fullLook(ChartType::Bar), middle);
+    picture(folder, u"empty-small"_s, {}, test::fullLook(ChartType::Bar), SmallPicture);
+    picture(folder, u"empty-middle"_s, {}, test::fullLook(ChartType::Bar), Middle);
 }
 
 } // namespace
@@ -77,7 +78,7 @@ int main(int argc, char **argv)
         const QString folder = QString::fromLocal8Bit(argv[1]);
         QDir().mkpath(folder);
         pictures(folder);
-    } catch (const Error &error) {
+    } catch (const basic::Error &error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;
     }

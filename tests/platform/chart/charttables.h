@@ -7,23 +7,23 @@
 #include <QPair>
 
 // Charts as the statistic fills them, for tests and for pictures to look at.
-namespace kalvenor::test {
+namespace kalvenor::chart::test {
 
-constexpr ChartType allChartTypes[] = {ChartType::Bar,         ChartType::Line, ChartType::Area, ChartType::Step,
+using namespace Qt::StringLiterals;
+
+constexpr ChartType AllChartTypes[] = {ChartType::Bar,         ChartType::Line, ChartType::Area, ChartType::Step,
                                        ChartType::Combination, ChartType::Pie,  ChartType::XY};
 
 /// Average ages by century and sex; the third century has nobody. `longLabels`: German words instead of years.
 inline ChartTable centuries(int rows, bool longLabels = false)
 {
-    ChartTable table{{QStringLiteral("M"), QStringLiteral("W"), QStringLiteral("Alle")}, {}, {}};
+    ChartTable table{{u"M"_s, u"W"_s, u"Alle"_s}, {}, {}};
     if (longLabels)
-        table.columnLabels = {QStringLiteral("Männliche Personen mit vollständigen Angaben"),
-                              QStringLiteral("Weibliche Personen mit vollständigen Angaben"),
-                              QStringLiteral("Durchschnitt aller Personen")};
+        table.columnLabels = {u"Männliche Personen mit vollständigen Angaben"_s,
+                              u"Weibliche Personen mit vollständigen Angaben"_s, u"Durchschnitt aller Personen"_s};
     for (int row = 0; row < rows; ++row) {
-        table.rowLabels << (longLabels
-                                ? QStringLiteral("Achtzehnhundertfünfzig bis %1. Jahrhundertviertel").arg(row + 1)
-                                : QStringLiteral(" %1-99").arg((row + 3) * 100));
+        table.rowLabels << (longLabels ? u"Achtzehnhundertfünfzig bis %1. Jahrhundertviertel"_s.arg(row + 1)
+                                       : u" %1-99"_s.arg((row + 3) * 100));
         QStringList cells;
         for (int column = 0; column < 3; ++column)
             cells << QString::number(row == 2 ? 0 : 38 + (row * 37 + column * 11) % 29 + column * 3.7 + row * 0.9);
@@ -36,12 +36,12 @@ inline ChartLook fullLook(ChartType type)
 {
     ChartLook look;
     look.type = type;
-    look.title = QStringLiteral("Durchschnittsalter nach Jahrhunderten");
-    look.categoryTitle = QStringLiteral("Jahrhundert der Geburt");
-    look.valueTitle = QStringLiteral("Alter in Jahren");
-    look.emptyText = QStringLiteral("Es sind keine Personen mit Geburts- und Sterbedatum markiert.");
+    look.title = u"Durchschnittsalter nach Jahrhunderten"_s;
+    look.categoryTitle = u"Jahrhundert der Geburt"_s;
+    look.valueTitle = u"Alter in Jahren"_s;
+    look.emptyText = u"Es sind keine Personen mit Geburts- und Sterbedatum markiert."_s;
     look.locale = QLocale(QLocale::German);
     return look;
 }
 
-} // namespace kalvenor::test
+} // namespace kalvenor::chart::test

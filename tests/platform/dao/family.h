@@ -4,16 +4,18 @@
 
 #include "platform/basic/error.h"
 #include "platform/dao/dao.h"
-#include "platform/jet/database.h"
-#include "platform/jet/markwriter.h"
-#include "platform/jet/sortkey.h"
+#include "platform/jet/marks/markwriter.h"
+#include "platform/jet/order/sortkey.h"
+#include "platform/jet/reader/database.h"
 #include "support/fixtures.h"
 #include <gtest/gtest.h>
 #include <QTemporaryDir>
 
 namespace kalvenor {
 
-inline void PrintTo(ErrorKind kind, std::ostream *out)
+using namespace Qt::StringLiterals;
+
+inline void PrintTo(basic::ErrorKind kind, std::ostream *out)
 {
     *out << "kind " << static_cast<int>(kind);
 }
@@ -24,12 +26,12 @@ namespace kalvenor::test {
 
 /// The kind of error that the work ends with, and its text for those who ask.
 template <class Work>
-std::optional<ErrorKind> errorOf(Work work, QString *message = nullptr)
+std::optional<basic::ErrorKind> errorOf(Work work, QString *message = nullptr)
 {
     try {
         work();
         return {};
-    } catch (const Error &error) {
+    } catch (const basic::Error &error) {
         if (message != nullptr)
             *message = error.message();
         return error.kind();
@@ -44,33 +46,20 @@ protected:
     {
         using P = TestPerson;
         persons = {
-            P{.counter = 10,
-              .listname = QStringLiteral("zu Berg, Karl"),
-              .marked = true,
-              .birth = 18263,
-              .death = 30000},
-            P{.counter = 20,
-              .listname = QStringLiteral("Müller, Anna"),
-              .sex = QStringLiteral("W"),
-              .birth = -30000,
-              .father = 10,
-              .mother = 30},
-            P{.counter = 30, .listname = QStringLiteral("Weiß, Eva"), .sex = QStringLiteral("W"), .death = -70000},
-            P{.counter = 40,
-              .listname = QStringLiteral("O'Brien, Sean"),
-              .marked = true,
-              .birth = -620911,
-              .father = 10},
+            P{.counter = 10, .listname = u"zu Berg, Karl"_s, .marked = true, .birth = 18263, .death = 30000},
+            P{.counter = 20, .listname = u"Müller, Anna"_s, .sex = u"W"_s, .birth = -30000, .father = 10, .mother = 30},
+            P{.counter = 30, .listname = u"Weiß, Eva"_s, .sex = u"W"_s, .death = -70000},
+            P{.counter = 40, .listname = u"O'Brien, Sean"_s, .marked = true, .birth = -620911, .father = 10},
             P{.counter = 50,
-              .listname = QStringLiteral("MÜLLER, Bert"),
+              .listname = u"MÜLLER, Bert"_s,
               .birth = -620911,
-              .birthXX = QStringLiteral("XXX_______"),
+              .birthXX = u"XXX_______"_s,
               .changed = 39000},
-            P{.counter = 60, .listname = QStringLiteral("Ärmel, Paul"), .marked = true},
-            P{.counter = 70, .listname = QStringLiteral("Armin, Otto"), .sex = QString(QChar(u'm')), .birth = 700},
-            P{.counter = 80, .listname = QStringLiteral("Muth, Ida"), .sex = QStringLiteral("W"), .father = 40},
+            P{.counter = 60, .listname = u"Ärmel, Paul"_s, .marked = true},
+            P{.counter = 70, .listname = u"Armin, Otto"_s, .sex = QString(QChar(u'm')), .birth = 700},
+            P{.counter = 80, .listname = u"Muth, Ida"_s, .sex = u"W"_s, .father = 40},
         };
-        file = folder.filePath(QStringLiteral("familie.mdb"));
+        file = folder.filePath(u"familie.mdb"_s);
         writeFamily(file, persons);
         database = engine.workspace(0).openDatabase(file);
     }
@@ -83,13 +72,13 @@ protected:
             found << rows->integer(0).value_or(-99);
         return found;
     }
-    QList<int> marked() const { return numbers(QStringLiteral("SELECT Counter FROM Daten WHERE Markierung = -1 ;")); }
+    QList<int> marked() const { return numbers(u"SELECT Counter FROM Daten WHERE Markierung = -1 ;"_s); }
 
     /// What another program does to the same file.
     void markElsewhere(int counter, bool on) const
     {
         const auto other = jet::Database::open(file);
-        const auto table = other->table(QStringLiteral("Daten"));
+        const auto table = other->table(u"Daten"_s);
         for (std::uint32_t row = 0; row < table->rowCount(); ++row) {
             if (table->integer(row, 0) == counter) {
                 const jet::Mark mark{row, on};

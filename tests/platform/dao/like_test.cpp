@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "family.h"
-#include "platform/jet/creator.h"
-#include "platform/jet/like.h"
+#include "platform/jet/creator/creator.h"
+#include "platform/jet/order/like.h"
 #include <QFile>
 #include <random>
+
+using namespace Qt::StringLiterals;
 
 namespace kalvenor::test {
 
@@ -19,12 +21,11 @@ protected:
     {
         using T = jet::ColumnType;
         jet::Creator creator;
-        auto &table = creator.addTable(QStringLiteral("Daten"),
-                                       {{.name = QStringLiteral("Counter"), .type = T::Long},
-                                        {.name = QStringLiteral("Listname"), .type = T::Text},
-                                        {.name = QStringLiteral("Weit"), .type = T::Text, .compressed = false},
-                                        {.name = QStringLiteral("Lang"), .type = T::Memo},
-                                        {.name = QStringLiteral("Markierung"), .type = T::Boolean}});
+        auto &table = creator.addTable(u"Daten"_s, {{.name = u"Counter"_s, .type = T::Long},
+                                                    {.name = u"Listname"_s, .type = T::Text},
+                                                    {.name = u"Weit"_s, .type = T::Text, .compressed = false},
+                                                    {.name = u"Lang"_s, .type = T::Memo},
+                                                    {.name = u"Markierung"_s, .type = T::Boolean}});
         const QStringView pieces[] = {u"Müller", u"MÜLLER", u"Schmidt", u"o", u"?", u"#", u"7",   u"[x]",
                                       u", ",     u"Ärmel",  u"ß",       u"*", u" ", u"-", u"%",   u"Αθήνα",
                                       u"Жуков",  u"’",      u"😀",       u"é", u"E", u"'", u"ÿÿÿ", u"Ā"};
@@ -32,7 +33,7 @@ protected:
         for (int i = 0; i < Count; ++i) {
             std::optional<QString> text;
             if (i % 9 != 0) { // else null
-                text.emplace(QStringLiteral(""));
+                text.emplace(u""_s);
                 for (auto length = random() % 5; length > 0; --length)
                     *text += pieces[random() % std::size(pieces)];
                 if (i % 100 == 50)
@@ -42,7 +43,7 @@ protected:
             table.addRow({jet::NewValue(i), value, value, value, jet::NewValue(i % 3 == 0)});
             texts.push_back(text == Placeholder ? Switching : text);
         }
-        const QString file = folder.filePath(QStringLiteral("namen.mdb"));
+        const QString file = folder.filePath(u"namen.mdb"_s);
         creator.write(file);
         switchModes(file);
         database = engine.workspace(0).openDatabase(file);
@@ -70,14 +71,14 @@ protected:
     QList<int> numbers(const QString &condition) const
     {
         QList<int> found;
-        const auto rows = database->openQuery(QStringLiteral("SELECT Counter FROM Daten WHERE ") + condition);
+        const auto rows = database->openQuery(u"SELECT Counter FROM Daten WHERE "_s + condition);
         for (; !rows->eof(); rows->moveNext())
             found << rows->integer(0).value_or(-1);
         return found;
     }
 
-    const QString Placeholder = QStringLiteral("QQQQQQQ");
-    const QString Switching = QStringLiteral("MЖox");
+    const QString Placeholder = u"QQQQQQQ"_s;
+    const QString Switching = u"MЖox"_s;
     QTemporaryDir folder;
     dao::Engine engine;
     std::shared_ptr<dao::Database> database;
@@ -95,14 +96,13 @@ TEST_F(Names, AnswerLikeAsSqliteItselfWould)
     int found = 0;
     for (const QStringView pattern : patterns) {
         QList<int> expected;
-        const jet::LikePattern like(pattern.toString().replace(QStringLiteral("''"), QStringLiteral("'")));
+        const jet::LikePattern like(pattern.toString().replace(u"''"_s, u"'"_s));
         for (int i = 0; i < Count; ++i) {
             const auto &text = texts[static_cast<std::size_t>(i)];
             if (text && like.matches(*text))
                 expected << i;
         }
-        EXPECT_EQ(numbers(QStringLiteral("Listname LIKE '%1'").arg(pattern)), expected)
-            << pattern.toString().toStdString();
+        EXPECT_EQ(numbers(u"Listname LIKE '%1'"_s.arg(pattern)), expected) << pattern.toString().toStdString();
         found += expected.isEmpty() ? 0 : 1;
         for (const char *column : {"Listname", "Weit", "Lang"}) {
             const QString name = QString::fromLatin1(column);
@@ -115,7 +115,7 @@ TEST_F(Names, AnswerLikeAsSqliteItselfWould)
                   "Counter = 250 AND %1 LIKE '%2'", "Counter IN (50, 51, 52, 350) AND %1 LIKE '%2'"}) {
                 const QString plain = QString::fromLatin1(condition).arg(name, pattern.toString());
                 const QString computed =
-                    QString::fromLatin1(condition).arg(u'(' + name + QStringLiteral(" || '')"), pattern.toString());
+                    QString::fromLatin1(condition).arg(u'(' + name + u" || '')"_s, pattern.toString());
                 EXPECT_EQ(numbers(plain), numbers(computed)) << plain.toStdString();
             }
         }

@@ -2,23 +2,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "family.h"
 
+using namespace Qt::StringLiterals;
+
 namespace kalvenor::test {
 
 namespace {
 
-const QString Daten = QStringLiteral("Daten");
-const QString AllPersons = QStringLiteral("SELECT * FROM Daten");
+const QString Daten = u"Daten"_s;
+const QString AllPersons = u"SELECT * FROM Daten"_s;
 
 TEST_F(Family, OpensTablesByNameWithoutCaseButWithTheirBlanks)
 {
     EXPECT_EQ(database->tableNames().size(), 21);
-    EXPECT_TRUE(database->tableNames().contains(QStringLiteral("Adressen_DS ")));
-    EXPECT_EQ(database->openTable(QStringLiteral("dATEN"))->recordCount(), 8);
-    EXPECT_EQ(database->openTable(QStringLiteral("Adressen_DS "))->recordCount(), 1);
+    EXPECT_TRUE(database->tableNames().contains(u"Adressen_DS "_s));
+    EXPECT_EQ(database->openTable(u"dATEN"_s)->recordCount(), 8);
+    EXPECT_EQ(database->openTable(u"Adressen_DS "_s)->recordCount(), 1);
     QString message;
     for (const char *name : {"Adressen_DS", "Daten ", "Nichts", ""}) {
         EXPECT_EQ(errorOf([&] { (void)database->openTable(QString::fromUtf8(name)); }, &message),
-                  ErrorKind::TableNotFound)
+                  basic::ErrorKind::TableNotFound)
             << name;
         EXPECT_TRUE(message.contains(file)) << message.toStdString();
     }
@@ -31,28 +33,28 @@ TEST_F(Family, WalksFromTheFirstRowBehindTheLast)
     for (; !table->eof(); table->moveNext())
         counters << table->integer(0).value_or(0);
     EXPECT_EQ(counters, (QList<int>{10, 20, 30, 40, 50, 60, 70, 80}));
-    EXPECT_EQ(errorOf([&] { (void)table->text(1); }), ErrorKind::NoCurrentRow);
-    EXPECT_EQ(errorOf([&] { table->moveNext(); }), ErrorKind::NoCurrentRow);
+    EXPECT_EQ(errorOf([&] { (void)table->text(1); }), basic::ErrorKind::NoCurrentRow);
+    EXPECT_EQ(errorOf([&] { table->moveNext(); }), basic::ErrorKind::NoCurrentRow);
     table->moveTo(6);
     EXPECT_EQ(table->integer(0), 70);
     table->moveTo(-1);
-    EXPECT_EQ(errorOf([&] { (void)table->integer(0); }), ErrorKind::NoCurrentRow);
+    EXPECT_EQ(errorOf([&] { (void)table->integer(0); }), basic::ErrorKind::NoCurrentRow);
     table->moveFirst();
     EXPECT_EQ(table->integer(0), 10);
-    EXPECT_EQ(errorOf([&] { (void)table->integer(13); }), ErrorKind::ColumnNotFound);
+    EXPECT_EQ(errorOf([&] { (void)table->integer(13); }), basic::ErrorKind::ColumnNotFound);
 
-    const auto none = database->openQuery(QStringLiteral("SELECT * FROM Daten WHERE Counter = 5"));
+    const auto none = database->openQuery(u"SELECT * FROM Daten WHERE Counter = 5"_s);
     EXPECT_TRUE(none->eof());
     EXPECT_EQ(none->recordCount(), 0);
-    EXPECT_EQ(errorOf([&] { (void)none->integer(0); }), ErrorKind::NoCurrentRow);
+    EXPECT_EQ(errorOf([&] { (void)none->integer(0); }), basic::ErrorKind::NoCurrentRow);
 }
 
 TEST_F(Family, SeeksByKey)
 {
     const auto table = database->openTable(Daten);
-    EXPECT_EQ(errorOf([&] { table->seekEqual(10); }), ErrorKind::IndexNotFound);
-    EXPECT_EQ(errorOf([&] { table->setIndex(QStringLiteral("Name")); }), ErrorKind::IndexNotFound);
-    table->setIndex(QStringLiteral("COUNTER"));
+    EXPECT_EQ(errorOf([&] { table->seekEqual(10); }), basic::ErrorKind::IndexNotFound);
+    EXPECT_EQ(errorOf([&] { table->setIndex(u"Name"_s); }), basic::ErrorKind::IndexNotFound);
+    table->setIndex(u"COUNTER"_s);
     for (const auto &[key, name] :
          {std::pair(50, "MÜLLER, Bert"), std::pair(10, "zu Berg, Karl"), std::pair(80, "Muth, Ida")}) {
         table->seekEqual(key);
@@ -62,11 +64,11 @@ TEST_F(Family, SeeksByKey)
     for (const int key : {0, 9, 11, 81, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
         table->seekEqual(key);
         EXPECT_TRUE(table->noMatch()) << key;
-        EXPECT_EQ(errorOf([&] { (void)table->text(1); }), ErrorKind::NoCurrentRow) << key;
+        EXPECT_EQ(errorOf([&] { (void)table->text(1); }), basic::ErrorKind::NoCurrentRow) << key;
     }
     const auto query = database->openQuery(AllPersons);
-    EXPECT_EQ(errorOf([&] { query->seekEqual(10); }), ErrorKind::Refused);
-    EXPECT_EQ(errorOf([&] { query->edit(); }), ErrorKind::Refused);
+    EXPECT_EQ(errorOf([&] { query->seekEqual(10); }), basic::ErrorKind::Refused);
+    EXPECT_EQ(errorOf([&] { query->edit(); }), basic::ErrorKind::Refused);
 }
 
 TEST_F(Family, SeeksFarApartKeys)
@@ -77,7 +79,7 @@ TEST_F(Family, SeeksFarApartKeys)
         persons.push_back({.counter = key, .listname = QString::number(key)});
     writeFamily(file, persons);
     const auto table = database->openTable(Daten);
-    table->setIndex(QStringLiteral("Counter"));
+    table->setIndex(u"Counter"_s);
     for (const int key : keys) {
         table->seekEqual(key);
         ASSERT_FALSE(table->noMatch()) << key;
@@ -85,7 +87,7 @@ TEST_F(Family, SeeksFarApartKeys)
     }
     table->seekEqual(1);
     EXPECT_TRUE(table->noMatch());
-    EXPECT_EQ(numbers(QStringLiteral("SELECT Counter FROM Daten ORDER BY Counter")),
+    EXPECT_EQ(numbers(u"SELECT Counter FROM Daten ORDER BY Counter"_s),
               (QList<int>{-2147483647 - 1, -7, 0, 1900000000, 2147483647}));
 }
 
@@ -111,7 +113,7 @@ TEST_F(Family, ClosesFromTheInsideOut)
     EXPECT_EQ(engine.workspaceCount(), 1);
     EXPECT_FALSE(database->isOpen());
     EXPECT_TRUE(engine.workspace(0).databases().empty());
-    EXPECT_EQ(errorOf([&] { (void)engine.workspace(1); }), ErrorKind::Subscript);
+    EXPECT_EQ(errorOf([&] { (void)engine.workspace(1); }), basic::ErrorKind::Subscript);
     EXPECT_TRUE(engine.workspace(0).openDatabase(file)->isOpen());
 }
 
@@ -124,23 +126,23 @@ TEST_F(Family, RefusesUseAfterClosing)
         [&] { (void)database->tableNames(); },
         [&] { (void)database->openTable(Daten); },
         [&] { (void)database->openQuery(AllPersons); },
-        [&] { (void)database->execute(QStringLiteral("UPDATE Daten SET Markierung = 0")); },
+        [&] { (void)database->execute(u"UPDATE Daten SET Markierung = 0"_s); },
         [&] { (void)database->refresh(); },
         [&] { (void)database->warnings(); },
         [&] { (void)query->recordCount(); },
         [&] { (void)query->eof(); },
         [&] { query->moveFirst(); },
         [&] { (void)query->text(0); },
-        [&] { (void)query->fieldIndex(QStringLiteral("Counter")); },
+        [&] { (void)query->fieldIndex(u"Counter"_s); },
         [&] { (void)query->rows(); },
-        [&] { table->setIndex(QStringLiteral("Counter")); },
+        [&] { table->setIndex(u"Counter"_s); },
         [&] { table->seekEqual(1); },
         [&] { table->edit(); },
         [&] { (void)table->update(); },
     };
     int number = 0;
     for (const auto &use : uses)
-        EXPECT_EQ(errorOf(use), ErrorKind::ObjectClosed) << number++;
+        EXPECT_EQ(errorOf(use), basic::ErrorKind::ObjectClosed) << number++;
 }
 
 TEST_F(Family, DropsQueriesThatNobodyHolds)
@@ -155,15 +157,14 @@ TEST_F(Family, DropsQueriesThatNobodyHolds)
 
 TEST_F(Family, SeesWhatAnotherProgramChanged)
 {
-    const auto before =
-        database->openQuery(QStringLiteral("SELECT * FROM Daten WHERE Markierung = -1 ORDER BY Listname"));
+    const auto before = database->openQuery(u"SELECT * FROM Daten WHERE Markierung = -1 ORDER BY Listname"_s);
     const auto table = database->openTable(Daten);
-    table->setIndex(QStringLiteral("Counter"));
+    table->setIndex(u"Counter"_s);
     EXPECT_FALSE(database->refresh());
     const quint64 generation = database->generation();
 
     persons.erase(persons.begin());
-    persons.push_back({.counter = 90, .listname = QStringLiteral("Neu, Nina"), .marked = true});
+    persons.push_back({.counter = 90, .listname = u"Neu, Nina"_s, .marked = true});
     writeFamily(file, persons);
     EXPECT_TRUE(database->refresh());
     EXPECT_FALSE(database->refresh());
@@ -172,11 +173,11 @@ TEST_F(Family, SeesWhatAnotherProgramChanged)
     // What was opened before keeps its rows and values …
     EXPECT_EQ(before->recordCount(), 3);
     before->moveTo(2);
-    EXPECT_EQ(before->text(1), QStringLiteral("zu Berg, Karl"));
+    EXPECT_EQ(before->text(1), u"zu Berg, Karl"_s);
     // … and a table goes over at the next seek.
     table->seekEqual(90);
     ASSERT_FALSE(table->noMatch());
-    EXPECT_EQ(table->text(1), QStringLiteral("Neu, Nina"));
+    EXPECT_EQ(table->text(1), u"Neu, Nina"_s);
 
     markElsewhere(60, false); // without a refresh: the next query looks by itself
     EXPECT_EQ(marked(), (QList<int>{40, 90}));

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "family.h"
-#include "platform/jet/creator.h"
+#include "platform/jet/creator/creator.h"
+
+using namespace Qt::StringLiterals;
 
 namespace kalvenor::test {
 
@@ -117,29 +119,29 @@ TEST_F(Family, GivesFieldsByNameWithoutCase)
     for (const char *sql :
          {"SELECT * FROM Daten WHERE Counter = 10", "SELECT * FROM Daten ORDER BY Counter * -1 DESC"}) {
         const auto rows = database->openQuery(QString::fromUtf8(sql));
-        EXPECT_EQ(rows->text(rows->fieldIndex(QStringLiteral("LISTNAME"))), QStringLiteral("zu Berg, Karl")) << sql;
-        EXPECT_EQ(rows->integer(rows->fieldIndex(QStringLiteral("geburtsdatum"))), 18263) << sql;
-        EXPECT_EQ(rows->number(rows->fieldIndex(QStringLiteral("markierung"))), -1.0) << sql;
-        EXPECT_TRUE(rows->boolean(rows->fieldIndex(QStringLiteral("Markierung")))) << sql;
-        EXPECT_EQ(rows->value(QStringLiteral("Markierung")), QVariant(true)) << sql;
-        EXPECT_FALSE(rows->value(QStringLiteral("Geburt_XX")).isValid()) << sql;
-        EXPECT_EQ(rows->text(rows->fieldIndex(QStringLiteral("geburt_xx"))), QString()) << sql;
+        EXPECT_EQ(rows->text(rows->fieldIndex(u"LISTNAME"_s)), u"zu Berg, Karl"_s) << sql;
+        EXPECT_EQ(rows->integer(rows->fieldIndex(u"geburtsdatum"_s)), 18263) << sql;
+        EXPECT_EQ(rows->number(rows->fieldIndex(u"markierung"_s)), -1.0) << sql;
+        EXPECT_TRUE(rows->boolean(rows->fieldIndex(u"Markierung"_s))) << sql;
+        EXPECT_EQ(rows->value(u"Markierung"_s), QVariant(true)) << sql;
+        EXPECT_FALSE(rows->value(u"Geburt_XX"_s).isValid()) << sql;
+        EXPECT_EQ(rows->text(rows->fieldIndex(u"geburt_xx"_s)), QString()) << sql;
         EXPECT_FALSE(rows->integer(1)) << sql; // a text is no number
-        EXPECT_EQ(errorOf([&] { (void)rows->value(QStringLiteral("Nachname")); }), ErrorKind::ColumnNotFound) << sql;
+        EXPECT_EQ(errorOf([&] { (void)rows->value(u"Nachname"_s); }), basic::ErrorKind::ColumnNotFound) << sql;
     }
 }
 
 TEST(Query, QuotesColumnsThatAreWordsOfSql)
 {
     QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("Ereignis.mdb"));
+    const QString file = folder.filePath(u"Ereignis.mdb"_s);
     jet::Creator creator;
     using T = jet::ColumnType;
-    auto &table = creator.addTable(QStringLiteral("Français"), {{.name = QStringLiteral("Index"), .type = T::Long},
-                                                                {.name = QStringLiteral("Größe"), .type = T::Long},
-                                                                {.name = QStringLiteral("Art"), .type = T::Text}});
-    table.addRow({jet::NewValue(3), jet::NewValue(5), jet::NewValue(QStringLiteral("Taufe Index"))});
-    table.addRow({jet::NewValue(1), jet::NewValue(7), jet::NewValue(QStringLiteral("Geburt"))});
+    auto &table = creator.addTable(u"Français"_s, {{.name = u"Index"_s, .type = T::Long},
+                                                   {.name = u"Größe"_s, .type = T::Long},
+                                                   {.name = u"Art"_s, .type = T::Text}});
+    table.addRow({jet::NewValue(3), jet::NewValue(5), jet::NewValue(u"Taufe Index"_s)});
+    table.addRow({jet::NewValue(1), jet::NewValue(7), jet::NewValue(u"Geburt"_s)});
     table.addRow({jet::NewValue(), jet::NewValue(6), jet::NewValue()});
     creator.write(file);
     dao::Engine engine;
@@ -152,7 +154,7 @@ TEST(Query, QuotesColumnsThatAreWordsOfSql)
     for (const Case &row : cases) {
         QList<int> found;
         for (const auto rows = database->openQuery(QString::fromUtf8(row.sql)); !rows->eof(); rows->moveNext())
-            found << rows->integer(rows->fieldIndex(QStringLiteral("index"))).value_or(-1);
+            found << rows->integer(rows->fieldIndex(u"index"_s)).value_or(-1);
         EXPECT_EQ(found, row.counters) << row.sql;
     }
 }
@@ -161,15 +163,14 @@ TEST_F(Family, SortsManyNamesAsTheirKeysCompare)
 {
     // Same beginnings of many lengths, and equal names, which keep the order of the file.
     persons.clear();
-    const QStringList ends{QString(),           QStringLiteral("a"), QStringLiteral("-a"), QStringLiteral("'a"),
-                           QStringLiteral("ä"), QStringLiteral("A"), QStringLiteral("Ω"),  QStringLiteral(" ")};
+    const QStringList ends{QString(), u"a"_s, u"-a"_s, u"'a"_s, u"ä"_s, u"A"_s, u"Ω"_s, u" "_s};
     for (int i = 0; i < 600; ++i) {
-        const QString start = QStringLiteral("Schulze von der Heide").left(i * 7 % 22);
+        const QString start = u"Schulze von der Heide"_s.left(i * 7 % 22);
         persons.push_back({.counter = i, .listname = start + ends[i % ends.size()] + ends[i / 8 % ends.size()]});
     }
     writeFamily(file, persons);
-    const QList<int> found = numbers(QStringLiteral("SELECT Counter FROM Daten ORDER BY Listname"));
-    QList<int> expected = numbers(QStringLiteral("SELECT Counter FROM Daten"));
+    const QList<int> found = numbers(u"SELECT Counter FROM Daten ORDER BY Listname"_s);
+    QList<int> expected = numbers(u"SELECT Counter FROM Daten"_s);
     std::stable_sort(expected.begin(), expected.end(), [this](int a, int b) {
         return jet::compareGeneral(persons[static_cast<std::size_t>(a)].listname,
                                    persons[static_cast<std::size_t>(b)].listname) < 0;
@@ -182,46 +183,46 @@ TEST_F(Family, RefusesWhatIsNoPlainQuery)
 {
     const struct {
         const char *sql;
-        ErrorKind kind;
+        basic::ErrorKind kind;
         const char *says;
     } cases[] = {
-        {"SELECT * FROM Daten; DELETE FROM Daten", ErrorKind::Refused, "DELETE FROM Daten"},
-        {"SELECT * FROM Daten;;SELECT 1;", ErrorKind::Refused, "second"},
-        {"INSERT INTO Daten (Counter) VALUES (1)", ErrorKind::Refused, "SELECT"},
-        {"DELETE FROM Daten", ErrorKind::Refused, "SELECT"},
-        {"UPDATE Daten SET Markierung = 0", ErrorKind::Refused, "SELECT"},
-        {"DROP TABLE Daten", ErrorKind::Refused, "SELECT"},
-        {"ATTACH '/tmp/x' AS x", ErrorKind::Refused, "SELECT"},
-        {"PRAGMA writable_schema = 1", ErrorKind::Refused, "SELECT"},
-        {"BEGIN", ErrorKind::Refused, "SELECT"},
-        {"EXPLAIN SELECT * FROM Daten", ErrorKind::Refused, "SELECT"},
-        {"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT i FROM n", ErrorKind::Refused,
+        {"SELECT * FROM Daten; DELETE FROM Daten", basic::ErrorKind::Refused, "DELETE FROM Daten"},
+        {"SELECT * FROM Daten;;SELECT 1;", basic::ErrorKind::Refused, "second"},
+        {"INSERT INTO Daten (Counter) VALUES (1)", basic::ErrorKind::Refused, "SELECT"},
+        {"DELETE FROM Daten", basic::ErrorKind::Refused, "SELECT"},
+        {"UPDATE Daten SET Markierung = 0", basic::ErrorKind::Refused, "SELECT"},
+        {"DROP TABLE Daten", basic::ErrorKind::Refused, "SELECT"},
+        {"ATTACH '/tmp/x' AS x", basic::ErrorKind::Refused, "SELECT"},
+        {"PRAGMA writable_schema = 1", basic::ErrorKind::Refused, "SELECT"},
+        {"BEGIN", basic::ErrorKind::Refused, "SELECT"},
+        {"EXPLAIN SELECT * FROM Daten", basic::ErrorKind::Refused, "SELECT"},
+        {"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT i FROM n", basic::ErrorKind::Refused,
          "SELECT"},
         {"SELECT i FROM (WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) SELECT i FROM n)",
-         ErrorKind::Refused, "itself"},
-        {"SELECT load_extension('x')", ErrorKind::Refused, "load_extension"},
-        {"SELECT randomblob(100000000)", ErrorKind::Refused, "randomblob"},
-        {"SELECT Counter FROM Daten WHERE Listname GLOB '*'", ErrorKind::Refused, "glob"},
-        {"SELECT * FROM sqlite_master", ErrorKind::Refused, "sqlite_master"},
-        {"SELECT * FROM pragma_database_list", ErrorKind::Refused, "Only"},
-        {"SELECT * FROM jet", ErrorKind::TableNotFound, "jet"},
-        {"SELECT * FROM MSysObjects", ErrorKind::TableNotFound, "MSysObjects"},
-        {"SELECT * FROM Adressen_DS", ErrorKind::TableNotFound, "Adressen_DS"}, // the blank counts
-        {"SELECT Nachname FROM Daten", ErrorKind::InvalidSql, "Nachname"},
-        {"SELECT \"M\" FROM Daten", ErrorKind::InvalidSql, "M"},
-        {"SELECT * FROM Daten WHERE Listname LIKE '*O'Brien*' AND Markierung = 0", ErrorKind::InvalidSql,
+         basic::ErrorKind::Refused, "itself"},
+        {"SELECT load_extension('x')", basic::ErrorKind::Refused, "load_extension"},
+        {"SELECT randomblob(100000000)", basic::ErrorKind::Refused, "randomblob"},
+        {"SELECT Counter FROM Daten WHERE Listname GLOB '*'", basic::ErrorKind::Refused, "glob"},
+        {"SELECT * FROM sqlite_master", basic::ErrorKind::Refused, "sqlite_master"},
+        {"SELECT * FROM pragma_database_list", basic::ErrorKind::Refused, "Only"},
+        {"SELECT * FROM jet", basic::ErrorKind::TableNotFound, "jet"},
+        {"SELECT * FROM MSysObjects", basic::ErrorKind::TableNotFound, "MSysObjects"},
+        {"SELECT * FROM Adressen_DS", basic::ErrorKind::TableNotFound, "Adressen_DS"}, // the blank counts
+        {"SELECT Nachname FROM Daten", basic::ErrorKind::InvalidSql, "Nachname"},
+        {"SELECT \"M\" FROM Daten", basic::ErrorKind::InvalidSql, "M"},
+        {"SELECT * FROM Daten WHERE Listname LIKE '*O'Brien*' AND Markierung = 0", basic::ErrorKind::InvalidSql,
          "'*O'Brien*' AND"},
-        {"SELECT * FROM Daten WHERE Listname LIKE 'O'Bri'en'", ErrorKind::InvalidSql, "twice"},
-        {"SELECT * FROM Daten WHERE Listname LIKE '*' -- AND Markierung = 0", ErrorKind::InvalidSql, "--"},
-        {"SELECT * FROM Daten /* alle", ErrorKind::InvalidSql, "/*"},
-        {"SELECT * FROM Daten WHERE Counter = ?", ErrorKind::InvalidSql, "?"},
-        {"SELECT * FROM [Daten", ErrorKind::InvalidSql, "[Daten"},
-        {"SELECT * FROM Daten WHERE", ErrorKind::InvalidSql, "too early"},
-        {"SELECT * FROM Daten WHERE AND", ErrorKind::InvalidSql, "\"AND\""},
-        {" ; ", ErrorKind::InvalidSql, "empty"},
-        {"SELECT * FROM Daten WHERE Listname LIKE '[a'", ErrorKind::InvalidPattern, "[a"},
-        {"SELECT * FROM Daten WHERE NOT Listname LIKE '*[z-a]'", ErrorKind::InvalidPattern, "[z-a]"},
-        {"SELECT * FROM Daten WHERE Listname LIKE 'a' ESCAPE 'b'", ErrorKind::InvalidSql, "ESCAPE"},
+        {"SELECT * FROM Daten WHERE Listname LIKE 'O'Bri'en'", basic::ErrorKind::InvalidSql, "twice"},
+        {"SELECT * FROM Daten WHERE Listname LIKE '*' -- AND Markierung = 0", basic::ErrorKind::InvalidSql, "--"},
+        {"SELECT * FROM Daten /* alle", basic::ErrorKind::InvalidSql, "/*"},
+        {"SELECT * FROM Daten WHERE Counter = ?", basic::ErrorKind::InvalidSql, "?"},
+        {"SELECT * FROM [Daten", basic::ErrorKind::InvalidSql, "[Daten"},
+        {"SELECT * FROM Daten WHERE", basic::ErrorKind::InvalidSql, "too early"},
+        {"SELECT * FROM Daten WHERE AND", basic::ErrorKind::InvalidSql, "\"AND\""},
+        {" ; ", basic::ErrorKind::InvalidSql, "empty"},
+        {"SELECT * FROM Daten WHERE Listname LIKE '[a'", basic::ErrorKind::InvalidPattern, "[a"},
+        {"SELECT * FROM Daten WHERE NOT Listname LIKE '*[z-a]'", basic::ErrorKind::InvalidPattern, "[z-a]"},
+        {"SELECT * FROM Daten WHERE Listname LIKE 'a' ESCAPE 'b'", basic::ErrorKind::InvalidSql, "ESCAPE"},
     };
     for (const auto &row : cases) {
         QString message;
@@ -230,8 +231,8 @@ TEST_F(Family, RefusesWhatIsNoPlainQuery)
         EXPECT_TRUE(message.contains(QString::fromUtf8(row.says))) << row.sql << ": " << message.toStdString();
         EXPECT_TRUE(message.contains(file)) << row.sql << ": " << message.toStdString();
     }
-    EXPECT_EQ(errorOf([&] { (void)database->openQuery(QStringLiteral("SELECT 1") + QChar(u'\0') + u'x'); }),
-              ErrorKind::InvalidSql);
+    EXPECT_EQ(errorOf([&] { (void)database->openQuery(u"SELECT 1"_s + QChar(u'\0') + u'x'); }),
+              basic::ErrorKind::InvalidSql);
     EXPECT_EQ(marked(), (QList<int>{10, 40, 60}));
 }
 
@@ -248,20 +249,20 @@ TEST_F(Family, StopsWhereTheWatcherWishes)
             EXPECT_EQ(errorOf([&] {
                           (void)database->openQuery(QString::fromUtf8(sql), [&](qint64, qint64) { return --left > 0; });
                       }),
-                      ErrorKind::Cancelled)
+                      basic::ErrorKind::Cancelled)
                 << sql;
             EXPECT_EQ(left, 0) << sql;
         }
     }
     // A watcher that begins another query, or throws, does no harm.
     EXPECT_EQ(errorOf([&] {
-                  (void)database->openQuery(QStringLiteral("SELECT * FROM Daten"), [&](qint64, qint64) {
-                      (void)database->openQuery(QStringLiteral("SELECT 1"));
+                  (void)database->openQuery(u"SELECT * FROM Daten"_s, [&](qint64, qint64) {
+                      (void)database->openQuery(u"SELECT 1"_s);
                       return true;
                   });
               }),
-              ErrorKind::Refused);
-    EXPECT_EQ(numbers(QStringLiteral("SELECT count(*) FROM Daten")), QList<int>{20000});
+              basic::ErrorKind::Refused);
+    EXPECT_EQ(numbers(u"SELECT count(*) FROM Daten"_s), QList<int>{20000});
 }
 
 } // namespace

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "family.h"
 #include "platform/dao/sqltext.h"
-#include "platform/jet/creator.h"
+#include "platform/jet/creator/creator.h"
 #include <QFile>
+
+using namespace Qt::StringLiterals;
 
 namespace kalvenor::test {
 
@@ -46,7 +48,7 @@ TEST_F(Family, SetsMarksByStatement)
         // The file itself says the same.
         dao::Engine other;
         const auto fresh = other.workspace(0).openDatabase(file);
-        EXPECT_EQ(fresh->openQuery(QStringLiteral("SELECT * FROM Daten WHERE Markierung = -1"))->recordCount(),
+        EXPECT_EQ(fresh->openQuery(u"SELECT * FROM Daten WHERE Markierung = -1"_s)->recordCount(),
                   row.markedThen.size())
             << row.sql;
     }
@@ -84,12 +86,12 @@ TEST(SqlText, KnowsAnUpdateToOneValue)
         {"UPDATE", {}, ""},
     };
     for (const auto &row : cases) {
-        const auto update = dao::SqlText(QString::fromUtf8(row.sql), {}).constantUpdate({QStringLiteral("Yes")});
+        const auto update = dao::SqlText(QString::fromUtf8(row.sql), {}).constantUpdate({u"Yes"_s});
         ASSERT_EQ(update.has_value(), row.on.has_value()) << row.sql;
         EXPECT_EQ(update ? update->on : false, row.on.value_or(false)) << row.sql;
         EXPECT_EQ(update ? update->rows : QString(), QString::fromUtf8(row.rows)) << row.sql;
     }
-    EXPECT_FALSE(dao::SqlText(QStringLiteral("UPDATE a SET b = True"), {}).constantUpdate({QStringLiteral("TRUE")}));
+    EXPECT_FALSE(dao::SqlText(u"UPDATE a SET b = True"_s, {}).constantUpdate({u"TRUE"_s}));
 }
 
 TEST_F(Family, SetsOneValueAsItSetsAComputedOne)
@@ -118,13 +120,12 @@ TEST_F(Family, SetsOneValueAsItSetsAComputedOne)
                               "WHERE (SELECT count(*) FROM sqlite_master) = 0"}) {
         for (const char *value : {"-1", "0", "True", "False", "5"}) {
             std::optional<dao::Execution> done[2];
-            std::optional<ErrorKind> errors[2];
+            std::optional<basic::ErrorKind> errors[2];
             QList<int> markedThen[2];
             for (const bool computed : {false, true}) {
                 writeFamily(file, persons);
-                const QString sql = QStringLiteral("UPDATE Daten SET Markierung = %1 %2 %3")
-                                        .arg(QString::fromUtf8(value), computed ? QStringLiteral("+ 0") : QString(),
-                                             QString::fromUtf8(where));
+                const QString sql = u"UPDATE Daten SET Markierung = %1 %2 %3"_s.arg(
+                    QString::fromUtf8(value), computed ? u"+ 0"_s : QString(), QString::fromUtf8(where));
                 errors[computed] = errorOf([&] { done[computed] = database->execute(sql); });
                 markedThen[computed] = marked();
             }
@@ -144,25 +145,25 @@ TEST_F(Family, ChangesNothingElse)
     const QByteArray before = bytesOf(file);
     const struct {
         const char *sql;
-        ErrorKind kind;
+        basic::ErrorKind kind;
     } cases[] = {
-        {"UPDATE Daten SET Counter = 5", ErrorKind::Refused},
-        {"UPDATE Daten SET Markierung = 0, Listname = 'x'", ErrorKind::Refused},
-        {"UPDATE Daten SET rowid = 5", ErrorKind::Refused},
-        {"UPDATE Daten SET Markierung = 0; UPDATE Daten SET Counter = 5", ErrorKind::Refused},
-        {"UPDATE Daten SET Markierung = (SELECT randomblob(5))", ErrorKind::Refused},
-        {"UPDATE sqlite_master SET sql = ''", ErrorKind::InvalidSql},
-        {"UPDATE Daten SET Markierung = 0 RETURNING Counter", ErrorKind::InvalidSql},
-        {"UPDATE Namen SET Markierung = 0", ErrorKind::InvalidSql},
-        {"UPDATE Daten SET Markierung = Null", ErrorKind::TypeMismatch},
-        {"UPDATE Daten SET Markierung = 'vielleicht'", ErrorKind::TypeMismatch},
-        {"UPDATE Daten SET Markierung = 0 WHERE Listname LIKE '['", ErrorKind::InvalidPattern},
-        {"SELECT * FROM Daten", ErrorKind::Refused},
-        {"DELETE FROM Daten", ErrorKind::Refused},
-        {"INSERT INTO Daten (Counter) VALUES (1)", ErrorKind::Refused},
-        {"REPLACE INTO Daten (Counter) VALUES (1)", ErrorKind::Refused},
-        {"DROP TABLE Daten", ErrorKind::Refused},
-        {"VACUUM INTO '/tmp/x'", ErrorKind::Refused},
+        {"UPDATE Daten SET Counter = 5", basic::ErrorKind::Refused},
+        {"UPDATE Daten SET Markierung = 0, Listname = 'x'", basic::ErrorKind::Refused},
+        {"UPDATE Daten SET rowid = 5", basic::ErrorKind::Refused},
+        {"UPDATE Daten SET Markierung = 0; UPDATE Daten SET Counter = 5", basic::ErrorKind::Refused},
+        {"UPDATE Daten SET Markierung = (SELECT randomblob(5))", basic::ErrorKind::Refused},
+        {"UPDATE sqlite_master SET sql = ''", basic::ErrorKind::InvalidSql},
+        {"UPDATE Daten SET Markierung = 0 RETURNING Counter", basic::ErrorKind::InvalidSql},
+        {"UPDATE Namen SET Markierung = 0", basic::ErrorKind::InvalidSql},
+        {"UPDATE Daten SET Markierung = Null", basic::ErrorKind::TypeMismatch},
+        {"UPDATE Daten SET Markierung = 'vielleicht'", basic::ErrorKind::TypeMismatch},
+        {"UPDATE Daten SET Markierung = 0 WHERE Listname LIKE '['", basic::ErrorKind::InvalidPattern},
+        {"SELECT * FROM Daten", basic::ErrorKind::Refused},
+        {"DELETE FROM Daten", basic::ErrorKind::Refused},
+        {"INSERT INTO Daten (Counter) VALUES (1)", basic::ErrorKind::Refused},
+        {"REPLACE INTO Daten (Counter) VALUES (1)", basic::ErrorKind::Refused},
+        {"DROP TABLE Daten", basic::ErrorKind::Refused},
+        {"VACUUM INTO '/tmp/x'", basic::ErrorKind::Refused},
     };
     for (const auto &row : cases) {
         EXPECT_EQ(errorOf([&] { (void)database->execute(QString::fromUtf8(row.sql)); }), row.kind) << row.sql;
@@ -172,15 +173,15 @@ TEST_F(Family, ChangesNothingElse)
 
 TEST_F(Family, EditsOneRow)
 {
-    const auto table = database->openTable(QStringLiteral("Daten"));
-    const QString mark = QStringLiteral("markierung");
-    table->setIndex(QStringLiteral("Counter"));
+    const auto table = database->openTable(u"Daten"_s);
+    const QString mark = u"markierung"_s;
+    table->setIndex(u"Counter"_s);
     table->seekEqual(20);
-    EXPECT_EQ(errorOf([&] { table->setValue(mark, true); }), ErrorKind::Refused);
-    EXPECT_EQ(errorOf([&] { (void)table->update(); }), ErrorKind::Refused);
+    EXPECT_EQ(errorOf([&] { table->setValue(mark, true); }), basic::ErrorKind::Refused);
+    EXPECT_EQ(errorOf([&] { (void)table->update(); }), basic::ErrorKind::Refused);
     table->edit();
-    EXPECT_EQ(errorOf([&] { table->setValue(QStringLiteral("Vater"), true); }), ErrorKind::Refused);
-    EXPECT_EQ(errorOf([&] { table->setValue(QStringLiteral("Nichts"), true); }), ErrorKind::ColumnNotFound);
+    EXPECT_EQ(errorOf([&] { table->setValue(u"Vater"_s, true); }), basic::ErrorKind::Refused);
+    EXPECT_EQ(errorOf([&] { table->setValue(u"Nichts"_s, true); }), basic::ErrorKind::ColumnNotFound);
     table->setValue(mark, true);
     EXPECT_TRUE(table->update());
     EXPECT_EQ(marked(), (QList<int>{10, 20, 40, 60}));
@@ -191,31 +192,31 @@ TEST_F(Family, EditsOneRow)
     table->edit();
     table->setValue(mark, false);
     table->moveFirst(); // gives the edit up
-    EXPECT_EQ(errorOf([&] { (void)table->update(); }), ErrorKind::Refused);
+    EXPECT_EQ(errorOf([&] { (void)table->update(); }), basic::ErrorKind::Refused);
     EXPECT_EQ(marked(), (QList<int>{10, 20, 40, 60}));
     table->seekEqual(99);
-    EXPECT_EQ(errorOf([&] { table->edit(); }), ErrorKind::NoCurrentRow);
+    EXPECT_EQ(errorOf([&] { table->edit(); }), basic::ErrorKind::NoCurrentRow);
 }
 
 TEST_F(Family, WritesTheRightRowAfterAnotherProgramMovedIt)
 {
-    const auto table = database->openTable(QStringLiteral("Daten"));
-    table->setIndex(QStringLiteral("Counter"));
+    const auto table = database->openTable(u"Daten"_s);
+    table->setIndex(u"Counter"_s);
     table->seekEqual(80);
     table->edit();
-    table->setValue(QStringLiteral("Markierung"), true);
+    table->setValue(u"Markierung"_s, true);
     persons.erase(persons.begin() + 1, persons.begin() + 4);
     writeFamily(file, persons);
     EXPECT_TRUE(table->update());
-    EXPECT_EQ(table->text(1), QStringLiteral("Muth, Ida"));
+    EXPECT_EQ(table->text(1), u"Muth, Ida"_s);
     EXPECT_EQ(marked(), (QList<int>{10, 60, 80}));
 
     table->seekEqual(10);
     table->edit();
-    table->setValue(QStringLiteral("Markierung"), false);
+    table->setValue(u"Markierung"_s, false);
     persons.erase(persons.begin());
     writeFamily(file, persons);
-    EXPECT_EQ(errorOf([&] { (void)table->update(); }), ErrorKind::ChangedElsewhere);
+    EXPECT_EQ(errorOf([&] { (void)table->update(); }), basic::ErrorKind::ChangedElsewhere);
     EXPECT_EQ(marked(), (QList<int>{60}));
 }
 
@@ -228,7 +229,7 @@ TEST_F(Family, RunsAnewWhereAnotherProgramCameBetween)
         return true;
     };
     const dao::Execution done =
-        database->execute(QStringLiteral("Update Daten SET Markierung = 0 Where Markierung = -1 ;"), comeBetween);
+        database->execute(u"Update Daten SET Markierung = 0 Where Markierung = -1 ;"_s, comeBetween);
     EXPECT_EQ(done.matched, 4);
     EXPECT_EQ(done.changedKeys, (std::vector<qint32>{10, 20, 40, 60}));
     EXPECT_EQ(marked(), QList<int>{});
@@ -238,19 +239,17 @@ TEST_F(Family, RunsAnewWhereAnotherProgramCameBetween)
         markElsewhere(30, on = !on);
         return true;
     };
-    EXPECT_EQ(
-        errorOf([&] { (void)database->execute(QStringLiteral("Update Daten SET Markierung = -1 ;"), alwaysBetween); }),
-        ErrorKind::ChangedElsewhere);
+    EXPECT_EQ(errorOf([&] { (void)database->execute(u"Update Daten SET Markierung = -1 ;"_s, alwaysBetween); }),
+              basic::ErrorKind::ChangedElsewhere);
 }
 
 TEST_F(Family, StopsWritingWhereTheWatcherWishes)
 {
     const QByteArray before = bytesOf(file);
     EXPECT_EQ(errorOf([&] {
-                  (void)database->execute(QStringLiteral("Update Daten SET Markierung = 0 ;"),
-                                          [](qint64, qint64) { return false; });
+                  (void)database->execute(u"Update Daten SET Markierung = 0 ;"_s, [](qint64, qint64) { return false; });
               }),
-              ErrorKind::Cancelled);
+              basic::ErrorKind::Cancelled);
     EXPECT_EQ(bytesOf(file), before);
     EXPECT_EQ(marked(), (QList<int>{10, 40, 60}));
 }
@@ -259,17 +258,16 @@ TEST(Update, NeedsAKeyOfWholeNumbers)
 {
     using T = jet::ColumnType;
     QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("a.mdb"));
+    const QString file = folder.filePath(u"a.mdb"_s);
     jet::Creator creator;
-    const jet::NewColumn mark{.name = QStringLiteral("Markierung"), .type = T::Boolean};
-    const jet::NewColumn text{.name = QStringLiteral("Counter"), .type = T::Text};
-    const jet::NewColumn number{.name = QStringLiteral("Counter"), .type = T::Long};
-    const jet::NewColumn wrong{.name = QStringLiteral("Markierung"), .type = T::Long};
-    creator.addTable(QStringLiteral("NoKey"), {mark}).addRow({jet::NewValue(false)});
-    creator.addTable(QStringLiteral("TextKey"), {text, mark})
-        .addRow({jet::NewValue(QStringLiteral("a")), jet::NewValue(false)});
-    creator.addTable(QStringLiteral("NoMark"), {number, wrong}).addRow({jet::NewValue(1), jet::NewValue(0)});
-    auto &twice = creator.addTable(QStringLiteral("Twice"), {number, mark});
+    const jet::NewColumn mark{.name = u"Markierung"_s, .type = T::Boolean};
+    const jet::NewColumn text{.name = u"Counter"_s, .type = T::Text};
+    const jet::NewColumn number{.name = u"Counter"_s, .type = T::Long};
+    const jet::NewColumn wrong{.name = u"Markierung"_s, .type = T::Long};
+    creator.addTable(u"NoKey"_s, {mark}).addRow({jet::NewValue(false)});
+    creator.addTable(u"TextKey"_s, {text, mark}).addRow({jet::NewValue(u"a"_s), jet::NewValue(false)});
+    creator.addTable(u"NoMark"_s, {number, wrong}).addRow({jet::NewValue(1), jet::NewValue(0)});
+    auto &twice = creator.addTable(u"Twice"_s, {number, mark});
     for (int i = 0; i < 2; ++i)
         twice.addRow({jet::NewValue(1), jet::NewValue(false)});
     creator.write(file);
@@ -279,9 +277,8 @@ TEST(Update, NeedsAKeyOfWholeNumbers)
     for (const char *table : {"NoKey", "TextKey", "NoMark", "Twice"}) {
         QString message;
         const QString name = QString::fromUtf8(table);
-        EXPECT_EQ(errorOf([&] { (void)database->execute(QStringLiteral("UPDATE %1 SET Markierung = -1").arg(name)); },
-                          &message),
-                  ErrorKind::NotMarkable)
+        EXPECT_EQ(errorOf([&] { (void)database->execute(u"UPDATE %1 SET Markierung = -1"_s.arg(name)); }, &message),
+                  basic::ErrorKind::NotMarkable)
             << table;
         EXPECT_TRUE(message.contains(name) && message.contains(file)) << message.toStdString();
     }

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/jet/creator.h"
+#include "platform/jet/creator/creator.h"
 
 #include "platform/basic/error.h"
-#include "platform/jet/database.h"
-#include "platform/jet/datapage.h"
-#include "platform/jet/encoding.h"
+#include "platform/jet/reader/database.h"
+#include "platform/jet/reader/datapage.h"
+#include "platform/jet/reader/encoding.h"
 #include "samples.h"
 #include "support/fixtures.h"
 #include <algorithm>
@@ -14,6 +14,8 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QUuid>
+
+using namespace Qt::StringLiterals;
 
 namespace kalvenor::jet {
 namespace {
@@ -31,7 +33,7 @@ protected:
     }
 
     QTemporaryDir folder;
-    QString file = folder.filePath(QStringLiteral("new.mdb"));
+    QString file = folder.filePath(u"new.mdb"_s);
 };
 
 /// All rows of a table as the reader gives them.
@@ -52,8 +54,8 @@ TEST_F(CreatorTest, keepsEveryValue)
     QByteArray blob(20000, '\0');
     for (qsizetype i = 0; i < blob.size(); ++i)
         blob[i] = static_cast<char>(i * 7 + i / 256);
-    const QString umlauts = QStringLiteral("Äöüß ÿ\u0001");
-    const QUuid guid(QStringLiteral("{00112233-4455-6677-8899-aabbccddeeff}"));
+    const QString umlauts = u"Äöüß ÿ\u0001"_s;
+    const QUuid guid(u"{00112233-4455-6677-8899-aabbccddeeff}"_s);
 
     struct Case {
         NewColumn column;
@@ -65,8 +67,8 @@ TEST_F(CreatorTest, keepsEveryValue)
     const auto bytes = [](const QByteArray &some) {
         return std::pair<NewValue, QVariant>(some, some);
     };
-    const QString u0100 = QString(QChar(0x100)) + QStringLiteral("bc");
-    const QString withNul = QStringLiteral("a") + QChar(0) + QStringLiteral("bcd");
+    const QString u0100 = QString(QChar(0x100)) + u"bc"_s;
+    const QString withNul = u"a"_s + QChar(0) + u"bcd"_s;
     const Case cases[] = {
         {{"Yes", ColumnType::Boolean}, {{true, true}, {false, false}}},
         {{"Byte", ColumnType::Byte}, {{0, 0}, {255, 255}, {7.0, 7}}},
@@ -84,7 +86,7 @@ TEST_F(CreatorTest, keepsEveryValue)
         {{"Binary", ColumnType::Binary, 255}, {bytes(blob.left(255)), bytes(QByteArray(""))}},
         {{"Text", ColumnType::Text},
          {same(umlauts), same(""), same("ab"), same(QString(255, u'x')), same(QString(200, u'\u20ac')), same(u0100),
-          same(withNul), same(QStringLiteral("\U0001F600"))}},
+          same(withNul), same(u"\U0001F600"_s)}},
         {{"Wide", ColumnType::Text, 20, false}, {same(umlauts), same("plain text")}},
         {{"Memo", ColumnType::Memo},
          {same(""), same(QString(62, u'i')), same(QString(1024, u'r')), same(QString(1025, u'w')),
@@ -207,13 +209,13 @@ TEST_F(CreatorTest, splitsALongDefinition)
     std::vector<NewValue> row;
     columns.reserve(255);
     for (int i = 0; i < 255; ++i) {
-        columns.push_back({QStringLiteral("Spalte mit einem recht langen Namen Nummer %1").arg(i),
-                           i < 40 ? ColumnType::Memo : ColumnType::Long});
+        columns.push_back(
+            {u"Spalte mit einem recht langen Namen Nummer %1"_s.arg(i), i < 40 ? ColumnType::Memo : ColumnType::Long});
         row.push_back(i < 40 ? NewValue(QString(200, u'm')) : NewValue(i));
     }
     indexes.reserve(32);
     for (int i = 0; i < 32; ++i)
-        indexes.push_back({QStringLiteral("Index %1").arg(i), {columns[100 + static_cast<std::size_t>(i)].name}});
+        indexes.push_back({u"Index %1"_s.arg(i), {columns[100 + static_cast<std::size_t>(i)].name}});
     auto &table = creator.addTable("Viele Spalten", columns, indexes);
     table.addRow(row);
     const auto database = written(creator);
@@ -267,8 +269,7 @@ TEST_F(CreatorTest, writesTheSystemTables)
     }
     QStringList rights;
     for (const auto &row : rowsOf(*database, "MSysACEs")) {
-        rights += QStringLiteral("%1 %2 %3 %4")
-                      .arg(row[0].toInt(), 0, 16)
+        rights += u"%1 %2 %3 %4"_s.arg(row[0].toInt(), 0, 16)
                       .arg(QString::fromLatin1(row[1].toByteArray().toHex()))
                       .arg(row[2].toInt())
                       .arg(row[3].toInt());
@@ -407,7 +408,7 @@ TEST_F(CreatorTest, refusesWhatTheFormatCannotHold)
     };
     for (const auto &row : tables) {
         Creator creator;
-        EXPECT_THROW(row.act(creator), Error) << row.what;
+        EXPECT_THROW(row.act(creator), basic::Error) << row.what;
     }
 
     const struct {
@@ -437,8 +438,8 @@ TEST_F(CreatorTest, refusesWhatTheFormatCannotHold)
     for (const auto &row : values) {
         Creator creator;
         auto &table = creator.addTable("T", {row.column});
-        EXPECT_THROW(table.addRow({row.value}), Error) << static_cast<int>(row.column.type);
-        EXPECT_THROW(table.addRow({}), Error);
+        EXPECT_THROW(table.addRow({row.value}), basic::Error) << static_cast<int>(row.column.type);
+        EXPECT_THROW(table.addRow({}), basic::Error);
         EXPECT_EQ(table.rowCount(), 0U);
     }
 
@@ -452,11 +453,11 @@ TEST_F(CreatorTest, refusesWhatTheFormatCannotHold)
                                                                {"F", ColumnType::Text},
                                                                {"G", ColumnType::Text},
                                                                {"H", ColumnType::Text}});
-    EXPECT_THROW(table.addRow({wide, wide, wide, wide, wide, wide, wide, wide}), Error);
+    EXPECT_THROW(table.addRow({wide, wide, wide, wide, wide, wide, wide, wide}), basic::Error);
     table.addRow({wide, wide, wide, wide, wide, wide, wide, {}});
     EXPECT_EQ(rowsOf(*written(creator), "T").size(), 1U);
-    EXPECT_THROW(table.addRow(std::vector<NewValue>(8)), Error) << "after the file was written";
-    EXPECT_THROW(creator.write(folder.filePath("none/x.mdb")), Error);
+    EXPECT_THROW(table.addRow(std::vector<NewValue>(8)), basic::Error) << "after the file was written";
+    EXPECT_THROW(creator.write(folder.filePath("none/x.mdb")), basic::Error);
 }
 
 std::string outputOf(const QString &program, const QStringList &arguments)

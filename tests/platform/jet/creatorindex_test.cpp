@@ -1,15 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/jet/creator.h"
+#include "platform/jet/creator/creator.h"
 
 #include "indexwalker.h"
 #include "platform/basic/error.h"
-#include "platform/jet/database.h"
-#include "platform/jet/sortkey.h"
+#include "platform/jet/order/sortkey.h"
+#include "platform/jet/reader/database.h"
 #include <algorithm>
 #include <numeric>
 #include <QTemporaryDir>
 #include <random>
+
+using namespace Qt::StringLiterals;
 
 namespace kalvenor::jet {
 namespace {
@@ -17,7 +19,7 @@ namespace {
 struct Written {
     explicit Written(Creator &creator)
     {
-        const QString file = folder.filePath(QStringLiteral("new.mdb"));
+        const QString file = folder.filePath(u"new.mdb"_s);
         creator.write(file);
         database = Database::open(file);
     }
@@ -118,7 +120,7 @@ TEST(CreatedIndex, ordersTextsAndYesNoAndSeveralColumns)
         creator.addTable("Daten", {{"Name", ColumnType::Text}, {"Ja", ColumnType::Boolean}, {"Nr", ColumnType::Long}},
                          {{"Name", {"Name"}, false}, {"Ja", {"Ja"}, false}, {"Beides", {"Ja", "Name", "Nr"}}});
     std::mt19937 random(9);
-    const QString alphabet = QStringLiteral("abÄäzß-' E");
+    const QString alphabet = u"abÄäzß-' E"_s;
     for (int row = 0; row < 4000; ++row) {
         QString name;
         for (auto length = random() % 40; length > 0; --length)
@@ -160,18 +162,18 @@ TEST(CreatedIndex, refusesWhatItsKindForbids)
     };
     const NewIndex number{"I", {"Nr"}};
     const NewIndex name{"I", {"Name"}};
-    EXPECT_THROW(rowsTwice(number, 7, 7), Error);
-    EXPECT_THROW(rowsTwice(name, QString("Weiß"), QString("WEISS ")), Error);
-    EXPECT_THROW(rowsTwice({"I", {"Ja"}}, 1, 2), Error);
-    EXPECT_THROW(rowsTwice({"I", {"Name"}, false}, QString("Ω"), {}), Error);
-    EXPECT_THROW(rowsTwice({"I", {"Nr"}, true, true}, 7, {}), Error);
+    EXPECT_THROW(rowsTwice(number, 7, 7), basic::Error);
+    EXPECT_THROW(rowsTwice(name, QString("Weiß"), QString("WEISS ")), basic::Error);
+    EXPECT_THROW(rowsTwice({"I", {"Ja"}}, 1, 2), basic::Error);
+    EXPECT_THROW(rowsTwice({"I", {"Name"}, false}, QString("Ω"), {}), basic::Error);
+    EXPECT_THROW(rowsTwice({"I", {"Nr"}, true, true}, 7, {}), basic::Error);
     EXPECT_NO_THROW(rowsTwice(number, {}, {}));
     EXPECT_NO_THROW(rowsTwice({"I", {"Nr", "Name"}}, {}, {}));
     EXPECT_NO_THROW(rowsTwice({"I", {"Nr"}, false}, 7, 7));
     try {
         rowsTwice(number, -5, -5);
         ADD_FAILURE();
-    } catch (const Error &error) {
+    } catch (const basic::Error &error) {
         EXPECT_TRUE(error.text().contains("-5")) << error.what();
         EXPECT_EQ(error.place(), "Daten");
     }

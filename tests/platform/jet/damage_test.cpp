@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <random>
 
+using namespace Qt::StringLiterals;
+
 namespace kalvenor::jet {
 namespace {
 
@@ -24,11 +26,11 @@ struct Outcome {
 Outcome readAllOf(const Bytes &bytes)
 {
     try {
-        const auto database = Database::open(Image::fromBytes(QStringLiteral("mutant"), bytes));
+        const auto database = Database::open(Image::fromBytes(u"mutant"_s, bytes));
         QStringList warnings;
         const std::size_t rows = testing::readEverything(*database, &warnings);
         return {0, warnings.join(u'\n'), rows};
-    } catch (const Error &error) {
+    } catch (const basic::Error &error) {
         return {error.number(), error.message(), 0};
     }
 }
@@ -37,7 +39,7 @@ const Bytes &persons()
 {
     static const Bytes bytes = [] {
         const QTemporaryDir folder;
-        const QString file = folder.filePath(QStringLiteral("familie.mdb"));
+        const QString file = folder.filePath(u"familie.mdb"_s);
         testing::makePersons(file, 60);
         return testing::readAll(file);
     }();
@@ -59,7 +61,7 @@ struct Places {
 
     explicit Places(Pages &pages)
     {
-        const auto table = Database::open(Image::fromBytes({}, pages.bytes()))->table(QStringLiteral("Daten"));
+        const auto table = Database::open(Image::fromBytes({}, pages.bytes()))->table(u"Daten"_s);
         definition = table->definitionPage();
         const std::uint32_t pointer = pages.get(definition, 55, 4);
         map = pointer >> 8;
@@ -246,12 +248,12 @@ TEST(Damage, OtherFilesAreRefusedByName)
     };
     for (const auto &[name, bytes, error, part] : cases) {
         SCOPED_TRACE(name);
-        const QString file = folder.filePath(QStringLiteral("a.mdb"));
+        const QString file = folder.filePath(u"a.mdb"_s);
         testing::writeAll(file, bytes);
         try {
             Database::open(file);
             ADD_FAILURE() << "was opened";
-        } catch (const Error &found) {
+        } catch (const basic::Error &found) {
             EXPECT_EQ(found.number(), error);
             EXPECT_EQ(found.place(), file);
             EXPECT_TRUE(found.text().contains(QLatin1String(part))) << found.text().toStdString();
@@ -260,13 +262,13 @@ TEST(Damage, OtherFilesAreRefusedByName)
     const auto kindOf = [](const QString &file) {
         try {
             Database::open(file);
-        } catch (const Error &error) {
+        } catch (const basic::Error &error) {
             return error.kind();
         }
-        return ErrorKind::Overflow;
+        return basic::ErrorKind::Overflow;
     };
-    EXPECT_EQ(kindOf(folder.filePath(QStringLiteral("none.mdb"))), ErrorKind::FileNotFound);
-    EXPECT_EQ(kindOf(folder.path()), ErrorKind::FileUnreadable);
+    EXPECT_EQ(kindOf(folder.filePath(u"none.mdb"_s)), basic::ErrorKind::FileNotFound);
+    EXPECT_EQ(kindOf(folder.path()), basic::ErrorKind::FileUnreadable);
 }
 
 TEST(Damage, EveryPrefixEndsInAnErrorOrInAWarning)

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/jet/creator.h"
-#include "platform/jet/database.h"
-#include "platform/jet/encoding.h"
+#include "platform/jet/creator/creator.h"
+#include "platform/jet/reader/database.h"
+#include "platform/jet/reader/encoding.h"
 #include "samples.h"
 #include <algorithm>
 #include <cstdint>
@@ -15,6 +15,8 @@
 
 // Small databases made for a test, and a way to change single bytes of their (decoded) pages.
 namespace kalvenor::testing {
+
+using namespace Qt::StringLiterals;
 
 /// The decoded pages of a database in memory.
 class Pages {
@@ -68,19 +70,17 @@ private:
 inline void makePersons(const QString &file, int rows, std::uint32_t encodingKey = 0, bool repeatLastKey = false)
 {
     jet::Creator creator;
-    auto &table = creator.addTable(
-        QStringLiteral("Daten"),
-        {{QStringLiteral("Counter"), jet::ColumnType::Long},
-         {QStringLiteral("Listname"), jet::ColumnType::Text},
-         {QStringLiteral("Markierung"), jet::ColumnType::Boolean},
-         {QStringLiteral("Bemerkung"), jet::ColumnType::Memo},
-         {QStringLiteral("Bild"), jet::ColumnType::Ole}},
-        repeatLastKey ? std::vector<jet::NewIndex>{}
-                      : std::vector<jet::NewIndex>{{QStringLiteral("Counter"), {QStringLiteral("Counter")}}});
+    auto &table = creator.addTable(u"Daten"_s,
+                                   {{u"Counter"_s, jet::ColumnType::Long},
+                                    {u"Listname"_s, jet::ColumnType::Text},
+                                    {u"Markierung"_s, jet::ColumnType::Boolean},
+                                    {u"Bemerkung"_s, jet::ColumnType::Memo},
+                                    {u"Bild"_s, jet::ColumnType::Ole}},
+                                   repeatLastKey ? std::vector<jet::NewIndex>{}
+                                                 : std::vector<jet::NewIndex>{{u"Counter"_s, {u"Counter"_s}}});
     for (int i = 1; i <= rows; ++i) {
-        table.addRow({i == rows && repeatLastKey ? i - 1 : i,
-                      QStringLiteral("Mayer, Anna %1 ").arg(i).repeated(14).left(200), i % 3 == 0,
-                      QStringLiteral("Notiz %1 ").arg(i).repeated(i % 10 == 0 ? 900 : 2),
+        table.addRow({i == rows && repeatLastKey ? i - 1 : i, u"Mayer, Anna %1 "_s.arg(i).repeated(14).left(200),
+                      i % 3 == 0, u"Notiz %1 "_s.arg(i).repeated(i % 10 == 0 ? 900 : 2),
                       QByteArray(i % 7 * 30, static_cast<char>(i))});
     }
     creator.write(file, encodingKey);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/jet/cursor.h"
-#include "platform/jet/image.h"
+#include "platform/jet/reader/cursor.h"
+#include "platform/jet/reader/image.h"
 #include <cstdint>
 #include <gtest/gtest.h>
 #include <QByteArray>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "platform/jet/encoding.h"
+#include "platform/jet/reader/encoding.h"
 #include <cstdint>
 #include <QByteArray>
 #include <vector>

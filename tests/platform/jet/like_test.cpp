@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/jet/like.h"
+#include "platform/jet/order/like.h"
 
 #include "platform/basic/error.h"
 #include <chrono>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace kalvenor::jet {
 namespace {
@@ -86,8 +88,8 @@ TEST(Like, refusesPatternsThatAreNone)
         try {
             const LikePattern made{pattern};
             ADD_FAILURE() << pattern.toString().toStdString();
-        } catch (const Error &error) {
-            EXPECT_EQ(error.kind(), ErrorKind::InvalidPattern);
+        } catch (const basic::Error &error) {
+            EXPECT_EQ(error.kind(), basic::ErrorKind::InvalidPattern);
             EXPECT_TRUE(error.text().contains(pattern)) << error.what();
         }
     }
@@ -97,12 +99,11 @@ TEST(Like, staysPolynomialWithManyStars)
 {
     QString pattern;
     for (int i = 0; i < 40; ++i)
-        pattern += QStringLiteral("*a*?b");
+        pattern += u"*a*?b"_s;
     const LikePattern like(QString(pattern + u'c'));
     const auto start = std::chrono::steady_clock::now();
     EXPECT_FALSE(like.matches(QString(20000, u'a')));
-    EXPECT_FALSE(
-        LikePattern(QString(2000, u'*') + QString(100, u'?') + QStringLiteral("*x")).matches(QString(20000, u'a')));
+    EXPECT_FALSE(LikePattern(QString(2000, u'*') + QString(100, u'?') + u"*x"_s).matches(QString(20000, u'a')));
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/jet/likescan.h"
+#include "platform/jet/order/likescan.h"
 
 #include <gtest/gtest.h>
 #include <numeric>
 #include <random>
+
+using namespace Qt::StringLiterals;
 
 namespace kalvenor::jet {
 namespace {
@@ -58,10 +60,10 @@ TEST(ByteLike, leavesToOthersWhatItCannotTell)
         Bytes text;
         std::optional<bool> matches;
     } cases[] = {
-        {QStringLiteral("*b"), {'a', 0, 'b'}, std::nullopt},
-        {QStringLiteral("*"), {0}, std::nullopt},
-        {QStringLiteral("x*"), {'a', 0}, false}, // decided before
-        {QStringLiteral("*"), {}, true},
+        {u"*b"_s, {'a', 0, 'b'}, std::nullopt},
+        {u"*"_s, {0}, std::nullopt},
+        {u"x*"_s, {'a', 0}, false}, // decided before
+        {u"*"_s, {}, true},
         {QString(), {}, true},
         {QString(), {'a'}, false},
         {QString(63, u'?'), Bytes(63, 'a'), true},

@@ -3,11 +3,13 @@
 #include "fixtures.h"
 #include "jet3fixture.h"
 #include "platform/basic/error.h"
-#include "platform/jet/creator.h"
-#include "platform/jet/markwriter.h"
+#include "platform/jet/creator/creator.h"
+#include "platform/jet/marks/markwriter.h"
 #include <array>
 #include <bit>
 #include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
 
 namespace kalvenor::jet {
 namespace {
@@ -23,13 +25,13 @@ struct Opened {
     std::shared_ptr<const Table> table;
     int mark, counter;
 
-    explicit Opened(const QString &file, const QString &name = QStringLiteral("Daten"))
+    explicit Opened(const QString &file, const QString &name = u"Daten"_s)
         : database(Database::open(file)), table(database->table(name)), mark(table->columnOf(u"Markierung")),
           counter(table->columnOf(u"Counter"))
     {
     }
     MarkWriter writer() const { return {database, table, mark, counter}; }
-    std::vector<std::uint32_t> write(const std::vector<Mark> &marks, const Progress &progress = {}) const
+    std::vector<std::uint32_t> write(const std::vector<Mark> &marks, const basic::Progress &progress = {}) const
     {
         return writer().write(marks, progress);
     }
@@ -51,21 +53,21 @@ int differentBits(const std::vector<std::uint8_t> &a, const std::vector<std::uin
     return bits;
 }
 
-Error errorOf(const std::function<void()> &action)
+basic::Error errorOf(const std::function<void()> &action)
 {
     try {
         action();
-    } catch (const Error &error) {
+    } catch (const basic::Error &error) {
         return error;
     }
     ADD_FAILURE() << "no error";
-    return {ErrorKind::Overflow, {}, {}};
+    return {basic::ErrorKind::Overflow, {}, {}};
 }
 
 class MarkWriterTest : public ::testing::Test {
 protected:
     QTemporaryDir m_folder;
-    QString m_file = m_folder.filePath(QStringLiteral("familie.mdb"));
+    QString m_file = m_folder.filePath(u"familie.mdb"_s);
 };
 
 TEST_F(MarkWriterTest, ChangesOneBitARowAndBackAgain)
@@ -136,7 +138,7 @@ TEST_F(MarkWriterTest, ChangesOneBitARowAndBackAgain)
 
 TEST_F(MarkWriterTest, RefusesWhatItMustNotWrite)
 {
-    const std::array<std::pair<const char *, std::function<Error()>>, 9> cases{{
+    const std::array<std::pair<const char *, std::function<basic::Error()>>, 9> cases{{
         {"3027 is not a Yes/No",
          [&] {
              makePersons(m_file, 3);
@@ -183,7 +185,7 @@ TEST_F(MarkWriterTest, RefusesWhatItMustNotWrite)
          [&] {
              makePersons(m_file, 3);
              QFile::setPermissions(m_file, QFile::ReadOwner);
-             const Error error = errorOf([&] { Opened(m_file).write({{0, true}}); });
+             const basic::Error error = errorOf([&] { Opened(m_file).write({{0, true}}); });
              QFile::setPermissions(m_file, QFile::ReadOwner | QFile::WriteOwner);
              return error;
          }},
@@ -191,7 +193,7 @@ TEST_F(MarkWriterTest, RefusesWhatItMustNotWrite)
          [&] {
              makePersons(m_file, 3);
              QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::ExeOwner);
-             const Error error = errorOf([&] { Opened(m_file).write({{0, true}}); });
+             const basic::Error error = errorOf([&] { Opened(m_file).write({{0, true}}); });
              QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
              return error;
          }},
@@ -203,7 +205,7 @@ TEST_F(MarkWriterTest, RefusesWhatItMustNotWrite)
     }};
     for (const auto &[expected, refuse] : cases) {
         SCOPED_TRACE(expected);
-        const Error error = refuse();
+        const basic::Error error = refuse();
         const QStringList words = QString::fromLatin1(expected).split(u' ');
         EXPECT_EQ(error.number(), words[0].toInt());
         for (const QString &word : words.mid(1))
@@ -216,22 +218,21 @@ TEST_F(MarkWriterTest, RefusesWhatItMustNotWrite)
 TEST_F(MarkWriterTest, RefusesAnIndexedColumn)
 {
     Creator creator;
-    const QString mark = QStringLiteral("Markierung");
+    const QString mark = u"Markierung"_s;
     creator
-        .addTable(QStringLiteral("Daten"),
-                  {{.name = QStringLiteral("Counter")}, {.name = mark, .type = ColumnType::Boolean}},
+        .addTable(u"Daten"_s, {{.name = u"Counter"_s}, {.name = mark, .type = ColumnType::Boolean}},
                   {{.name = mark, .columns = {mark}, .unique = false}})
         .addRow({1, false});
     creator.write(m_file);
     const auto refused = [](const QString &file) {
         const Opened opened(file);
-        const Error error = errorOf([&] { opened.writer(); });
-        EXPECT_EQ(error.kind(), ErrorKind::NotMarkable);
-        EXPECT_TRUE(error.text().contains(QStringLiteral("index"))) << error.text().toStdString();
+        const basic::Error error = errorOf([&] { opened.writer(); });
+        EXPECT_EQ(error.kind(), basic::ErrorKind::NotMarkable);
+        EXPECT_TRUE(error.text().contains(u"index"_s)) << error.text().toStdString();
     };
     refused(m_file);
     SKIP_WITHOUT_SAMPLES();
-    refused(testing::sample(QStringLiteral("boolIndexJackcess.mdb")));
+    refused(testing::sample(u"boolIndexJackcess.mdb"_s));
 }
 
 TEST_F(MarkWriterTest, RefusesAFileThatChangedSinceItWasRead)
@@ -242,8 +243,8 @@ TEST_F(MarkWriterTest, RefusesAFileThatChangedSinceItWasRead)
     EXPECT_EQ(first.write({{0, true}}).size(), 1U);
     EXPECT_TRUE(second.database->isStale());
     const auto before = readAll(m_file);
-    const Error error = errorOf([&] { second.write({{1, true}}); });
-    EXPECT_EQ(error.kind(), ErrorKind::ChangedElsewhere);
+    const basic::Error error = errorOf([&] { second.write({{1, true}}); });
+    EXPECT_EQ(error.kind(), basic::ErrorKind::ChangedElsewhere);
     EXPECT_EQ(readAll(m_file), before);
 }
 
@@ -306,10 +307,9 @@ TEST_F(MarkWriterTest, ComparesEachPageWithTheFileBeforeItWrites)
             opened.database->image()->setStamp(Image::stampOf(m_file));
             const auto before = readAll(m_file);
             // Row 20 lies on a page before the record's one.
-            const Error error = errorOf([&] { opened.write({{0, true}, {20, !opened.marks()[20]}}); });
-            EXPECT_EQ(error.kind(), ErrorKind::ChangedElsewhere);
-            EXPECT_TRUE(error.text().contains(QStringLiteral(" 1 rows were changed before")))
-                << error.text().toStdString();
+            const basic::Error error = errorOf([&] { opened.write({{0, true}, {20, !opened.marks()[20]}}); });
+            EXPECT_EQ(error.kind(), basic::ErrorKind::ChangedElsewhere);
+            EXPECT_TRUE(error.text().contains(u" 1 rows were changed before"_s)) << error.text().toStdString();
             EXPECT_EQ(differentBits(before, readAll(m_file)), 1);
             EXPECT_TRUE(opened.database->isStale());
         }
@@ -324,12 +324,12 @@ TEST_F(MarkWriterTest, StopsBetweenPagesWhenAskedTo)
     std::vector<Mark> marks;
     for (std::uint32_t row = 0; row < opened.table->rowCount(); ++row)
         marks.push_back({row, true});
-    const Error error = errorOf([&] { opened.write(marks, [](qint64 done, qint64) { return done == 0; }); });
-    EXPECT_EQ(error.kind(), ErrorKind::Cancelled);
+    const basic::Error error = errorOf([&] { opened.write(marks, [](qint64 done, qint64) { return done == 0; }); });
+    EXPECT_EQ(error.kind(), basic::ErrorKind::Cancelled);
     const int changed = differentBits(before, readAll(m_file));
     EXPECT_GT(changed, 0);
     EXPECT_LT(changed, 1000);
-    EXPECT_TRUE(error.text().contains(QStringLiteral(" %1 rows").arg(changed))) << error.text().toStdString();
+    EXPECT_TRUE(error.text().contains(u" %1 rows"_s.arg(changed))) << error.text().toStdString();
 
     const Opened again(m_file);
     qint64 reported = 0;

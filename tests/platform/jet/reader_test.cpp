@@ -4,10 +4,12 @@
 #include "jet3fixture.h"
 #include "platform/basic/date.h"
 #include "platform/basic/error.h"
-#include "platform/jet/database.h"
+#include "platform/jet/reader/database.h"
 #include <algorithm>
 #include <cmath>
 #include <QUuid>
+
+using namespace Qt::StringLiterals;
 
 namespace kalvenor::jet {
 namespace {
@@ -28,11 +30,11 @@ quint32 crc32(const QByteArray &bytes)
 
 QString escaped(QString text)
 {
-    return text.replace(u'\\', QStringLiteral("\\\\"))
-        .replace(u'\t', QStringLiteral("\\t"))
-        .replace(u'\n', QStringLiteral("\\n"))
-        .replace(u'\r', QStringLiteral("\\r"))
-        .replace(QChar(u'\0'), QStringLiteral("\\0"));
+    return text.replace(u'\\', u"\\\\"_s)
+        .replace(u'\t', u"\\t"_s)
+        .replace(u'\n', u"\\n"_s)
+        .replace(u'\r', u"\\r"_s)
+        .replace(QChar(u'\0'), u"\\0"_s);
 }
 
 /// The value as the dumps beside the samples write it; floating numbers with all digits, to be compared as numbers.
@@ -41,21 +43,19 @@ QString dumped(const Table &table, std::uint32_t row, int column)
     const QVariant value = table.value(row, column);
     EXPECT_EQ(value.isNull(), table.isNull(row, column));
     if (value.isNull())
-        return QStringLiteral("\\N");
+        return u"\\N"_s;
     switch (table.columns()[static_cast<std::size_t>(column)].type) {
     case ColumnType::Boolean:
-        return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+        return value.toBool() ? u"1"_s : u"0"_s;
     case ColumnType::DateTime:
-        return formatDate(value.toDouble(), u"yyyy-mm-dd hh:nn:ss");
+        return basic::formatDate(value.toDouble(), u"yyyy-mm-dd hh:nn:ss");
     case ColumnType::Float:
         return QString::number(value.toDouble(), 'g', 9);
     case ColumnType::Double:
         return QString::number(value.toDouble(), 'g', 17);
     case ColumnType::Binary:
     case ColumnType::Ole:
-        return QStringLiteral("<%1:%2>")
-            .arg(value.toByteArray().size())
-            .arg(crc32(value.toByteArray()), 8, 16, QChar(u'0'));
+        return u"<%1:%2>"_s.arg(value.toByteArray().size()).arg(crc32(value.toByteArray()), 8, 16, QChar(u'0'));
     case ColumnType::Guid:
         return value.toUuid().toString().toUpper();
     default:
@@ -79,29 +79,29 @@ QString typeName(ColumnType type)
 {
     switch (type) {
     case ColumnType::Boolean:
-        return QStringLiteral("BOOLEAN");
+        return u"BOOLEAN"_s;
     case ColumnType::Byte:
-        return QStringLiteral("BYTE");
+        return u"BYTE"_s;
     case ColumnType::Integer:
-        return QStringLiteral("INT");
+        return u"INT"_s;
     case ColumnType::Long:
-        return QStringLiteral("LONG");
+        return u"LONG"_s;
     case ColumnType::Money:
-        return QStringLiteral("MONEY");
+        return u"MONEY"_s;
     case ColumnType::Double:
-        return QStringLiteral("DOUBLE");
+        return u"DOUBLE"_s;
     case ColumnType::DateTime:
-        return QStringLiteral("SHORT_DATE_TIME");
+        return u"SHORT_DATE_TIME"_s;
     case ColumnType::Text:
-        return QStringLiteral("TEXT");
+        return u"TEXT"_s;
     case ColumnType::Ole:
-        return QStringLiteral("OLE");
+        return u"OLE"_s;
     case ColumnType::Memo:
-        return QStringLiteral("MEMO");
+        return u"MEMO"_s;
     case ColumnType::Guid:
-        return QStringLiteral("GUID");
+        return u"GUID"_s;
     default:
-        return QStringLiteral("?");
+        return u"?"_s;
     }
 }
 
@@ -112,11 +112,9 @@ QStringList indexTexts(const Table &table)
         QStringList columns;
         for (const IndexColumn &part : index.columns) {
             const auto found = std::ranges::find(table.columns(), part.columnNumber, &Column::number);
-            columns.append(found == table.columns().end() ? QStringLiteral("?") : found->name);
+            columns.append(found == table.columns().end() ? u"?"_s : found->name);
         }
-        texts.append(QStringLiteral("%1(%2)%3")
-                         .arg(index.name, columns.join(QStringLiteral(", ")),
-                              index.unique ? QStringLiteral(" unique") : QString()));
+        texts.append(u"%1(%2)%3"_s.arg(index.name, columns.join(u", "_s), index.unique ? u" unique"_s : QString()));
     }
     texts.sort();
     return texts;
@@ -146,7 +144,7 @@ TEST(Reader, SamplesEqualTheirDumps)
             if (!entry.system)
                 names.append(entry.name);
         }
-        QList<QStringList> tables = readTsv(sample(base + QStringLiteral(".tables.tsv")));
+        QList<QStringList> tables = readTsv(sample(base + u".tables.tsv"_s));
         tables.removeFirst();
         ASSERT_EQ(names.size(), tables.size());
         for (const QStringList &line : std::as_const(tables)) {
@@ -157,12 +155,12 @@ TEST(Reader, SamplesEqualTheirDumps)
             QStringList columns;
             for (const Column &column : table->columns())
                 columns.append(column.name + u' ' + typeName(column.type));
-            EXPECT_EQ(columns.join(QStringLiteral(", ")).toStdString(), line[2].toStdString());
-            QStringList indexes = line.value(3).split(QStringLiteral("; "), Qt::SkipEmptyParts);
+            EXPECT_EQ(columns.join(u", "_s).toStdString(), line[2].toStdString());
+            QStringList indexes = line.value(3).split(u"; "_s, Qt::SkipEmptyParts);
             indexes.sort();
             EXPECT_EQ(indexTexts(*table).join(u';').toStdString(), indexes.join(u';').toStdString());
 
-            const QString dump = sample(base + u'.' + line[0].trimmed() + QStringLiteral(".tsv"));
+            const QString dump = sample(base + u'.' + line[0].trimmed() + u".tsv"_s);
             if (!QFile::exists(dump))
                 continue;
             const QList<QStringList> rows = readTsv(dump);
@@ -185,16 +183,16 @@ TEST(Reader, SamplesEqualTheirDumps)
 TEST(Reader, TableNamesCountTrailingBlanksButNotCase)
 {
     SKIP_WITHOUT_SAMPLES();
-    const auto database = Database::open(sample(QStringLiteral("family300Jackcess.mdb")));
-    EXPECT_EQ(database->table(QStringLiteral("ADRESSEN_ds "))->rowCount(), 25U);
-    EXPECT_EQ(database->entry(QStringLiteral("Adressen_DS")), nullptr);
+    const auto database = Database::open(sample(u"family300Jackcess.mdb"_s));
+    EXPECT_EQ(database->table(u"ADRESSEN_ds "_s)->rowCount(), 25U);
+    EXPECT_EQ(database->entry(u"Adressen_DS"_s), nullptr);
     try {
-        database->table(QStringLiteral("Adressen_DS"));
+        database->table(u"Adressen_DS"_s);
         FAIL();
-    } catch (const Error &error) {
-        EXPECT_EQ(error.kind(), ErrorKind::TableNotFound);
+    } catch (const basic::Error &error) {
+        EXPECT_EQ(error.kind(), basic::ErrorKind::TableNotFound);
     }
-    const auto daten = database->table(QStringLiteral("daten"));
+    const auto daten = database->table(u"daten"_s);
     EXPECT_EQ(daten->columnOf(u"COUNTER"), 0);
     EXPECT_EQ(daten->columnOf(u"Counter "), -1);
     EXPECT_TRUE(daten->isIndexed(daten->columns()[0].number));
@@ -202,7 +200,7 @@ TEST(Reader, TableNamesCountTrailingBlanksButNotCase)
 
 std::shared_ptr<Database> openBytes(const std::vector<std::uint8_t> &bytes)
 {
-    return Database::open(Image::fromBytes(QStringLiteral("bytes"), bytes));
+    return Database::open(Image::fromBytes(u"bytes"_s, bytes));
 }
 
 TEST(Reader, Jet3TextIsInTheCodePageOfTheHeader)
@@ -227,7 +225,7 @@ TEST(Reader, Jet3TextIsInTheCodePageOfTheHeader)
         SCOPED_TRACE(codePage);
         testing::Jet3File file(codePage);
         file.addRow({7, true, stored, "x"});
-        const auto table = openBytes(file.bytes())->table(QStringLiteral("Daten"));
+        const auto table = openBytes(file.bytes())->table(u"Daten"_s);
         ASSERT_EQ(table->rowCount(), 1U);
         EXPECT_EQ(table->text(0, table->columnOf(u"Name")), expected.toString());
     }
@@ -240,7 +238,7 @@ TEST(Reader, Jet3OffsetsBeyondOneByteTakeTheirHighPartFromTheJumpTable)
             SCOPED_TRACE(::testing::Message() << name << ", " << place);
             testing::Jet3File file(1252);
             file.addRow({name, name % 2 == 1, QByteArray(name, 'n'), QByteArray(place, 'o')});
-            const auto table = openBytes(file.bytes())->table(QStringLiteral("Daten"));
+            const auto table = openBytes(file.bytes())->table(u"Daten"_s);
             ASSERT_EQ(table->rowCount(), 1U) << table->warnings().join(u'\n').toStdString();
             EXPECT_EQ(table->integer(0, 0), name);
             EXPECT_EQ(table->boolean(0, 1), name % 2 == 1);
@@ -258,22 +256,22 @@ TEST(Reader, DecodesStoredText)
     } cases[] = {
         {QByteArray("\xff\xfe"
                     "abc"),
-         QStringLiteral("abc")},
-        {QByteArray("\xff\xfe\xe4\x80"), QStringLiteral("ä\u0080")},
+         u"abc"_s},
+        {QByteArray("\xff\xfe\xe4\x80"), u"ä\u0080"_s},
         {QByteArray("\xff\xfe"
                     "a\0\x1c\x04\0b",
                     8),
-         QStringLiteral("a\u041cb")},
+         u"a\u041cb"_s},
         {QByteArray("\xff\xfe"
                     "a\0\x1c\x04\x38",
                     7),
-         QStringLiteral("a\u041c")},
+         u"a\u041c"_s},
         {QByteArray("a\0\0\0b\0c", 7), QString(QChar(u'a')) + QChar(u'\0') + QChar(u'b')},
-        {QByteArray("\x3d\xd8\x00\xde", 4), QStringLiteral("\U0001f600")},
+        {QByteArray("\x3d\xd8\x00\xde", 4), u"\U0001f600"_s},
         {QByteArray("\x3d\xd8"
                     "a\0\x00\xde\xff\xff",
                     8),
-         QStringLiteral("\ufffda\ufffd\ufffd")},
+         u"\ufffda\ufffd\ufffd"_s},
         {QByteArray("\xff\xfe"), QString()},
         {QByteArray(), QString()},
     };

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/jet/sortkey.h"
+#include "platform/jet/order/sortkey.h"
 
 #include "indexwalker.h"
 #include "platform/basic/error.h"
-#include "platform/jet/database.h"
+#include "platform/jet/reader/database.h"
 #include "samples.h"
 #include <algorithm>
 #include <optional>
@@ -34,7 +34,7 @@ std::optional<QByteArray> expectedKey(const Table &table, const Index &index, st
         } else if (column->type == ColumnType::Text) {
             try {
                 key += '\x7f' + generalKey(table.text(row, place), Unlisted::Refused);
-            } catch (const Error &) {
+            } catch (const basic::Error &) {
                 return std::nullopt;
             }
         } else {

@@ -15,7 +15,9 @@
 // Sample databases that are not part of the source tree; tests with them are skipped where they are missing.
 namespace kalvenor::testing {
 
-inline const QString SampleFolder = QStringLiteral(KALVENOR_SOURCE_DIR "/../shared/jet-samples");
+using namespace Qt::StringLiterals;
+
+inline const QString SampleFolder = u"" KALVENOR_SOURCE_DIR "/../shared/jet-samples"_s;
 
 inline QString sample(const QString &name)
 {
@@ -24,7 +26,7 @@ inline QString sample(const QString &name)
 
 inline QStringList sampleDatabases()
 {
-    return QDir(SampleFolder).entryList({QStringLiteral("*.mdb")}, QDir::Files, QDir::Name);
+    return QDir(SampleFolder).entryList({u"*.mdb"_s}, QDir::Files, QDir::Name);
 }
 
 inline std::vector<std::uint8_t> readAll(const QString &file)

@@ -1,12 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/jet/sortkey.h"
+#include "platform/jet/order/sortkey.h"
 
 #include "platform/basic/error.h"
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace kalvenor::jet {
 namespace {
@@ -64,7 +66,7 @@ TEST(GeneralKey, equalsTheKeysOfAccess)
 TEST(GeneralKey, looksAt255CharactersOnly)
 {
     const QString longText(255, u'a');
-    EXPECT_EQ(hex(longText), hex(longText + QStringLiteral("bcd")));
+    EXPECT_EQ(hex(longText), hex(longText + u"bcd"_s));
     EXPECT_NE(hex(longText.left(254)), hex(longText));
     EXPECT_EQ(compareGeneral(longText + u'x', longText + u'y'), 0);
 }
@@ -73,8 +75,8 @@ TEST(GeneralKey, refusesCharactersThatAnIndexCannotHold)
 {
     const QStringView refused[] = {u"Ωmega", u"ș", u"ab\U0001F600", u"ẞ"};
     for (const QStringView text : refused)
-        EXPECT_THROW(generalKey(text, Unlisted::Refused), Error) << text.toString().toStdString();
-    EXPECT_THROW(generalKey(QStringView(u"\0", 1), Unlisted::Refused), Error);
+        EXPECT_THROW(generalKey(text, Unlisted::Refused), basic::Error) << text.toString().toStdString();
+    EXPECT_THROW(generalKey(QStringView(u"\0", 1), Unlisted::Refused), basic::Error);
     EXPECT_NO_THROW(generalKey(u"„Åse ‰ Žižek“ – ſ", Unlisted::Refused));
 }
 
@@ -110,7 +112,7 @@ TEST(CompareGeneral, ordersNames)
 TEST(CompareGeneral, agreesWithTheKeys)
 {
     std::mt19937 random(7);
-    const QString alphabet = QStringLiteral("aAäsßS-' \u00e6e\u0101\u0301\u0100\u0000Ω1¹");
+    const QString alphabet = u"aAäsßS-' \u00e6e\u0101\u0301\u0100\u0000Ω1¹"_s;
     for (int round = 0; round < 20000; ++round) {
         QString texts[2];
         for (QString &text : texts) {

@@ -7,7 +7,9 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
 /// Ten lines of the default style fit on its page.
@@ -55,31 +57,30 @@ TEST(PageLayout, EmptyDocumentIsOnePageWithHeaderAndFooter)
 {
     PrintDocument document;
     EXPECT_EQ(texts(document), std::vector<QStringList>{{}});
-    document.header.text = u"a|%d|b"_qs;
-    document.footer.text = u"||%d"_qs;
+    document.header.text = u"a|%d|b"_s;
+    document.footer.text = u"||%d"_s;
     document.add(PageBreak{});
     EXPECT_EQ(texts(document),
-              (std::vector<QStringList>{{u"a"_qs, u"1"_qs, u"b"_qs, u"1"_qs}, {u"a"_qs, u"2"_qs, u"b"_qs, u"2"_qs}}));
+              (std::vector<QStringList>{{u"a"_s, u"1"_s, u"b"_s, u"1"_s}, {u"a"_s, u"2"_s, u"b"_s, u"2"_s}}));
 }
 
 TEST(PageLayout, HeadingStandsOnEachPageOfItsTable)
 {
     PrintDocument document = tenLinePage();
-    document.add(TableStart{{{}}, {{{u"H"_qs}}}});
+    document.add(TableStart{{{}}, {{{u"H"_s}}}});
     addRows(document, 1, 20);
-    document.add(Paragraph{u"end"_qs});
+    document.add(Paragraph{u"end"_s});
     document.add(PageBreak{});
-    document.add(Paragraph{u"after"_qs});
-    const QStringList h{u"H"_qs};
-    EXPECT_EQ(
-        texts(document),
-        (std::vector<QStringList>{
-            h + numbers(1, 9), h + numbers(10, 18), h + numbers(19, 20) + QStringList{u"end"_qs}, {u"after"_qs}}));
+    document.add(Paragraph{u"after"_s});
+    const QStringList h{u"H"_s};
+    EXPECT_EQ(texts(document),
+              (std::vector<QStringList>{
+                  h + numbers(1, 9), h + numbers(10, 18), h + numbers(19, 20) + QStringList{u"end"_s}, {u"after"_s}}));
 }
 
 TEST(PageLayout, NothingIsOrphaned)
 {
-    const Paragraph heading{.text = u"H"_qs, .keepWithNext = true};
+    const Paragraph heading{.text = u"H"_s, .keepWithNext = true};
     const auto document = [](int linesBefore) {
         PrintDocument d = tenLinePage();
         for (const QString &text : numbers(1, linesBefore))
@@ -89,30 +90,29 @@ TEST(PageLayout, NothingIsOrphaned)
     { // a heading with its text
         PrintDocument d = document(9);
         d.add(heading);
-        d.add(Paragraph{u"text"_qs});
-        EXPECT_EQ(texts(d), (std::vector<QStringList>{numbers(1, 9), {u"H"_qs, u"text"_qs}}));
+        d.add(Paragraph{u"text"_s});
+        EXPECT_EQ(texts(d), (std::vector<QStringList>{numbers(1, 9), {u"H"_s, u"text"_s}}));
     }
     { // a heading above a table, its heading and its first row; the heading stands once on the new page
         PrintDocument d = document(8);
         d.add(heading);
-        d.add(TableStart{{{}}, {{{u"T"_qs}}}});
+        d.add(TableStart{{{}}, {{{u"T"_s}}}});
         addRows(d, 1, 2);
-        EXPECT_EQ(texts(d), (std::vector<QStringList>{numbers(1, 8), {u"H"_qs, u"T"_qs, u"1"_qs, u"2"_qs}}));
+        EXPECT_EQ(texts(d), (std::vector<QStringList>{numbers(1, 8), {u"H"_s, u"T"_s, u"1"_s, u"2"_s}}));
     }
     { // first and last lines of paragraphs
         PrintDocument d = document(9);
-        d.add(Paragraph{u"a\nb\nc\nd"_qs});
-        EXPECT_EQ(texts(d), (std::vector<QStringList>{numbers(1, 9), {u"a"_qs, u"b"_qs, u"c"_qs, u"d"_qs}}));
+        d.add(Paragraph{u"a\nb\nc\nd"_s});
+        EXPECT_EQ(texts(d), (std::vector<QStringList>{numbers(1, 9), {u"a"_s, u"b"_s, u"c"_s, u"d"_s}}));
         d = document(7);
-        d.add(Paragraph{u"a\nb\nc\nd"_qs});
-        EXPECT_EQ(texts(d),
-                  (std::vector<QStringList>{numbers(1, 7) + QStringList{u"a"_qs, u"b"_qs}, {u"c"_qs, u"d"_qs}}));
+        d.add(Paragraph{u"a\nb\nc\nd"_s});
+        EXPECT_EQ(texts(d), (std::vector<QStringList>{numbers(1, 7) + QStringList{u"a"_s, u"b"_s}, {u"c"_s, u"d"_s}}));
     }
     { // a row of several lines stays together, unless no page can hold it
         PrintDocument d = document(9);
         d.add(TableStart{{{}, {}}});
-        d.add(TableRow{{{u"a\nb"_qs}, {u"c"_qs}}});
-        EXPECT_EQ(texts(d), (std::vector<QStringList>{numbers(1, 9), {u"a"_qs, u"c"_qs, u"b"_qs}}));
+        d.add(TableRow{{{u"a\nb"_s}, {u"c"_s}}});
+        EXPECT_EQ(texts(d), (std::vector<QStringList>{numbers(1, 9), {u"a"_s, u"c"_s, u"b"_s}}));
         d = document(1);
         d.add(TableStart{{{}}});
         d.add(TableRow{{{numbers(1, 25).join(u'\n')}}});
@@ -130,10 +130,10 @@ TEST(PageLayout, NothingIsOrphaned)
 TEST(PageLayout, SpaceIsLeftOutAtTheTopOfAPage)
 {
     PrintDocument document = tenLinePage();
-    document.add(Paragraph{.text = u"a"_qs, .spaceBefore = 1000, .spaceAfter = 300});
-    document.add(Paragraph{.text = u"b"_qs, .spaceBefore = 200});
+    document.add(Paragraph{.text = u"a"_s, .spaceBefore = 1000, .spaceAfter = 300});
+    document.add(Paragraph{.text = u"b"_s, .spaceBefore = 200});
     document.add(PageBreak{});
-    document.add(Paragraph{.text = u"c"_qs, .spaceBefore = 1000});
+    document.add(Paragraph{.text = u"c"_s, .spaceBefore = 1000});
     const PageLayout layout(document);
     const auto baseline = [&](std::size_t page, std::size_t text) {
         return static_cast<double>(layout.pages().at(page).texts.at(text).baseline);
@@ -146,7 +146,7 @@ TEST(PageLayout, SpaceIsLeftOutAtTheTopOfAPage)
 
 TEST(PageLayout, TextsNeitherMeetNorLeaveTheirLine)
 {
-    const QString name = u"Freifrau von Hohenstaufen-Wittelsbach zu Oberunterbach, Anna Maria Theresia Katharina"_qs;
+    const QString name = u"Freifrau von Hohenstaufen-Wittelsbach zu Oberunterbach, Anna Maria Theresia Katharina"_s;
     for (const char16_t *format :
          {u"<2000|^2000|>1000", u"<9000|^9000|>3000", u"=0|>0|0", u"<9000|0|>0", u"0|=2000|0"}) {
         for (const Overflow overflow : {Overflow::Wrap, Overflow::Elide}) {
@@ -193,9 +193,9 @@ TEST(PageLayout, SaysWhatCannotBe)
     PrintDocument offPaper;
     offPaper.page.top = -1;
     PrintDocument huge;
-    huge.add(Paragraph{u"A"_qs, huge.addStyle({.pointSize = largestPointSize})});
+    huge.add(Paragraph{u"A"_s, huge.addStyle({.pointSize = LargestPointSize})});
     for (const PrintDocument *document : {&narrow, &offPaper, &huge})
-        EXPECT_THROW(PageLayout layout(*document), Error);
+        EXPECT_THROW(PageLayout layout(*document), basic::Error);
 }
 
 TEST(PageLayout, CanBeStopped)
@@ -211,11 +211,11 @@ TEST(PageLayout, CanBeStopped)
             return done < 2000;
         });
         FAIL() << "went on";
-    } catch (const Error &error) {
-        EXPECT_EQ(error.kind(), ErrorKind::Cancelled);
+    } catch (const basic::Error &error) {
+        EXPECT_EQ(error.kind(), basic::ErrorKind::Cancelled);
     }
     EXPECT_LT(last, 4000);
 }
 
 } // namespace
-} // namespace kalvenor
+} // namespace kalvenor::print

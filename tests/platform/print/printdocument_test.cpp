@@ -7,7 +7,9 @@
 #include <gtest/gtest.h>
 #include <limits>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
 TEST(RunningText, SplitsAtBarsAndNumbersPages)
@@ -16,13 +18,13 @@ TEST(RunningText, SplitsAtBarsAndNumbersPages)
         QString text;
         QStringList parts;
     } cases[] = {
-        {u""_qs, {u""_qs, u""_qs, u""_qs}},
-        {u"left"_qs, {u"left"_qs, u""_qs, u""_qs}},
-        {u"left|centre|right"_qs, {u"left"_qs, u"centre"_qs, u"right"_qs}},
-        {u"||%d"_qs, {u""_qs, u""_qs, u"12"_qs}},
-        {u"%d/%d|Seite %d"_qs, {u"12/12"_qs, u"Seite 12"_qs, u""_qs}},
-        {u"a|b|c|d"_qs, {u"a"_qs, u"b"_qs, u"c|d"_qs}},
-        {u"100 %|%D|%"_qs, {u"100 %"_qs, u"%D"_qs, u"%"_qs}},
+        {u""_s, {u""_s, u""_s, u""_s}},
+        {u"left"_s, {u"left"_s, u""_s, u""_s}},
+        {u"left|centre|right"_s, {u"left"_s, u"centre"_s, u"right"_s}},
+        {u"||%d"_s, {u""_s, u""_s, u"12"_s}},
+        {u"%d/%d|Seite %d"_s, {u"12/12"_s, u"Seite 12"_s, u""_s}},
+        {u"a|b|c|d"_s, {u"a"_s, u"b"_s, u"c|d"_s}},
+        {u"100 %|%D|%"_s, {u"100 %"_s, u"%D"_s, u"%"_s}},
     };
     for (const auto &c : cases) {
         const auto parts = runningTextParts(c.text, 12);
@@ -37,8 +39,8 @@ TEST(ColumnFormat, ReadsSignsAndWidths)
         {Alignment::Justified, 0}, {Alignment::Left, 5},
     };
     EXPECT_EQ(columnsFromFormat(u"<4000|^1200| >900 |=0|5"), expected);
-    for (const QString &bad : {u""_qs, u"<"_qs, u"<12|"_qs, u"<x"_qs, u"<-5"_qs, u"<1.5"_qs, u"<99999999999"_qs})
-        EXPECT_THROW(columnsFromFormat(bad), Error) << qPrintable(bad);
+    for (const QString &bad : {u""_s, u"<"_s, u"<12|"_s, u"<x"_s, u"<-5"_s, u"<1.5"_s, u"<99999999999"_s})
+        EXPECT_THROW(columnsFromFormat(bad), basic::Error) << qPrintable(bad);
 }
 
 TEST(PrintDocument, SharesEqualStyles)
@@ -49,29 +51,29 @@ TEST(PrintDocument, SharesEqualStyles)
     EXPECT_NE(bold, 0);
     EXPECT_EQ(document.addStyle({.bold = true}), bold);
     for (const double size : {0.0, -3.0, 801.0, std::numeric_limits<double>::quiet_NaN()})
-        EXPECT_THROW(document.addStyle({.pointSize = size}), Error) << size;
+        EXPECT_THROW(document.addStyle({.pointSize = size}), basic::Error) << size;
 }
 
 TEST(PrintDocument, RefusesBlocksThatCannotStand)
 {
-    const TableRow two{{{u"a"_qs}, {u"b"_qs}}};
+    const TableRow two{{{u"a"_s}, {u"b"_s}}};
     PrintDocument document;
-    EXPECT_THROW(document.add(two), Error);
+    EXPECT_THROW(document.add(two), basic::Error);
     document.add(TableStart{{{}, {}}});
     document.add(two);
     document.add(PageBreak{});
     document.add(two); // a page break does not end the table
-    EXPECT_THROW(document.add(TableRow{{{}, {}, {}}}), Error);
-    EXPECT_THROW(document.add(TableRow{{{u"a"_qs, 1}}}), Error);
-    EXPECT_THROW(document.add(TableStart{}), Error);
-    EXPECT_THROW(document.add((TableStart{{{Alignment::Left, -1}}})), Error);
-    EXPECT_THROW(document.add((TableStart{{{}}, {{{}, {}}}})), Error);
-    EXPECT_THROW(document.add((Paragraph{u"a"_qs, -1})), Error);
-    EXPECT_THROW(document.add((Paragraph{.spaceBefore = -1})), Error);
-    document.add(Paragraph{u"text"_qs});
-    EXPECT_THROW(document.add(two), Error);
+    EXPECT_THROW(document.add(TableRow{{{}, {}, {}}}), basic::Error);
+    EXPECT_THROW(document.add(TableRow{{{u"a"_s, 1}}}), basic::Error);
+    EXPECT_THROW(document.add(TableStart{}), basic::Error);
+    EXPECT_THROW(document.add((TableStart{{{Alignment::Left, -1}}})), basic::Error);
+    EXPECT_THROW(document.add((TableStart{{{}}, {{{}, {}}}})), basic::Error);
+    EXPECT_THROW(document.add((Paragraph{u"a"_s, -1})), basic::Error);
+    EXPECT_THROW(document.add((Paragraph{.spaceBefore = -1})), basic::Error);
+    document.add(Paragraph{u"text"_s});
+    EXPECT_THROW(document.add(two), basic::Error);
     EXPECT_EQ(document.blocks().size(), 5u) << "a refused block is not kept";
 }
 
 } // namespace
-} // namespace kalvenor
+} // namespace kalvenor::print

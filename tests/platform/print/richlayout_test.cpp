@@ -11,7 +11,9 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
 /// A page 6000 wide and 4000 high, without margins; a character of its fixed font is 120 wide.
@@ -21,10 +23,10 @@ struct Sheet : PrintDocument {
         page = {.left = 0, .top = 0, .right = 0, .bottom = 0};
         page.paperWidth = 6000;
         page.paperHeight = 4000;
-        plain = addStyle({.family = u"Courier New"_qs});
-        bold = addStyle({.family = u"Courier New"_qs, .bold = true});
-        big = addStyle({.family = u"Courier New"_qs, .pointSize = 20});
-        ground = addStyle({.family = u"Courier New"_qs, .background = Qt::yellow});
+        plain = addStyle({.family = u"Courier New"_s});
+        bold = addStyle({.family = u"Courier New"_s, .bold = true});
+        big = addStyle({.family = u"Courier New"_s, .pointSize = 20});
+        ground = addStyle({.family = u"Courier New"_s, .background = Qt::yellow});
     }
     StyleId plain, bold, big, ground;
 };
@@ -42,7 +44,7 @@ QString pieces(const Page &page)
     QStringList lines;
     float baseline = -1;
     for (const PlacedText &text : page.texts) {
-        const QString piece = u"%1@%2"_qs.arg(text.text).arg(qRound(text.x / 10) * 10);
+        const QString piece = u"%1@%2"_s.arg(text.text).arg(qRound(text.x / 10) * 10);
         if (text.baseline == baseline)
             lines.back() += u' ' + piece;
         else
@@ -55,25 +57,25 @@ QString pieces(const Page &page)
 TEST(RichLayout, SetsRunsOnLines)
 {
     const Sheet s;
-    const QString words10 = u"abcd efgh "_qs; // 1200 wide
+    const QString words10 = u"abcd efgh "_s; // 1200 wide
     const struct {
         RichParagraph paragraph;
         QString pieces;
     } cases[] = {
-        {{.runs = {}}, u""_qs},
-        {{.runs = {{u"ab"_qs, s.plain}, {u"cd"_qs, s.bold}, {u" ef"_qs, s.plain}}}, u"ab@0 cd@240  ef@480"_qs},
-        {{.runs = {{words10.repeated(4), s.plain}, {u"ijklmnop-qr tail"_qs, s.bold}}}, // 48 + 3 characters for 50
-         u"abcd efgh abcd efgh abcd efgh abcd efgh @0 ijklmnop-@4800 / qr tail@0"_qs},
-        {{.runs = {{u"x"_qs, s.plain}}, .alignment = Alignment::Right}, u"x@5880"_qs},
-        {{.runs = {{u"xx"_qs, s.plain}}, .alignment = Alignment::Centre}, u"xx@2880"_qs},
-        {{.runs = {{u"a\tb\tc"_qs, s.plain}}}, u"a@0 b@720 c@1440"_qs},
-        {{.runs = {{u"a\nb\r\nc"_qs, s.plain}}, .leftIndent = 600, .hanging = 240}, u"a@360 / b@600 / c@600"_qs},
-        {{.runs = {{u"a\nb"_qs, s.plain}}, .leftIndent = 600, .hanging = -240}, u"a@840 / b@600"_qs},
-        {{.runs = {{u"a\nb"_qs, s.plain}}, .leftIndent = 600, .hanging = 300, .bullet = {u"-"_qs, s.plain}},
-         u"-@300 a@600 / b@600"_qs},
-        {{.runs = {{u"a"_qs, s.plain}}, .leftIndent = 600, .hanging = 300, .bullet = {u"viii."_qs, s.plain}},
-         u"viii.@300 a@1020"_qs},
-        {{.runs = {{u"a"_qs, s.plain}}, .leftIndent = 90000}, u"a@5280"_qs},
+        {{.runs = {}}, u""_s},
+        {{.runs = {{u"ab"_s, s.plain}, {u"cd"_s, s.bold}, {u" ef"_s, s.plain}}}, u"ab@0 cd@240  ef@480"_s},
+        {{.runs = {{words10.repeated(4), s.plain}, {u"ijklmnop-qr tail"_s, s.bold}}}, // 48 + 3 characters for 50
+         u"abcd efgh abcd efgh abcd efgh abcd efgh @0 ijklmnop-@4800 / qr tail@0"_s},
+        {{.runs = {{u"x"_s, s.plain}}, .alignment = Alignment::Right}, u"x@5880"_s},
+        {{.runs = {{u"xx"_s, s.plain}}, .alignment = Alignment::Centre}, u"xx@2880"_s},
+        {{.runs = {{u"a\tb\tc"_s, s.plain}}}, u"a@0 b@720 c@1440"_s},
+        {{.runs = {{u"a\nb\r\nc"_s, s.plain}}, .leftIndent = 600, .hanging = 240}, u"a@360 / b@600 / c@600"_s},
+        {{.runs = {{u"a\nb"_s, s.plain}}, .leftIndent = 600, .hanging = -240}, u"a@840 / b@600"_s},
+        {{.runs = {{u"a\nb"_s, s.plain}}, .leftIndent = 600, .hanging = 300, .bullet = {u"-"_s, s.plain}},
+         u"-@300 a@600 / b@600"_s},
+        {{.runs = {{u"a"_s, s.plain}}, .leftIndent = 600, .hanging = 300, .bullet = {u"viii."_s, s.plain}},
+         u"viii.@300 a@1020"_s},
+        {{.runs = {{u"a"_s, s.plain}}, .leftIndent = 90000}, u"a@5280"_s},
     };
     for (const auto &c : cases) {
         Sheet sheet;
@@ -85,7 +87,7 @@ TEST(RichLayout, SetsRunsOnLines)
 TEST(RichLayout, PutsDirectionsInTheirPlaces)
 {
     Sheet sheet;
-    sheet.add(RichParagraph{.runs = {{u"a שלום "_qs, sheet.plain}, {u"עולם"_qs, sheet.bold}, {u" b"_qs, sheet.plain}}});
+    sheet.add(RichParagraph{.runs = {{u"a שלום "_s, sheet.plain}, {u"עולם"_s, sheet.bold}, {u" b"_s, sheet.plain}}});
     const PageLayout layout(sheet);
     std::vector<PlacedText> texts = layout.pages().at(0).texts;
     std::sort(texts.begin(), texts.end(), [](const auto &a, const auto &b) { return a.x < b.x; });
@@ -97,13 +99,13 @@ TEST(RichLayout, PutsDirectionsInTheirPlaces)
         end = text.x + text.width;
     }
     order.removeAll(QString());
-    EXPECT_EQ(order, (QStringList{u"a"_qs, u"עולם"_qs, u"שלום"_qs, u"b"_qs}));
+    EXPECT_EQ(order, (QStringList{u"a"_s, u"עולם"_s, u"שלום"_s, u"b"_s}));
 }
 
 TEST(RichLayout, SpreadsJustifiedLinesButTheLast)
 {
     Sheet sheet;
-    sheet.add(RichParagraph{.runs = {{u"aaaa bbbb "_qs.repeated(5), sheet.plain}, {u"tail end\nnext"_qs, sheet.bold}},
+    sheet.add(RichParagraph{.runs = {{u"aaaa bbbb "_s.repeated(5), sheet.plain}, {u"tail end\nnext"_s, sheet.bold}},
                             .alignment = Alignment::Justified});
     const PageLayout layout(sheet);
     const auto &texts = layout.pages().at(0).texts;
@@ -122,11 +124,11 @@ TEST(RichLayout, SpreadsJustifiedLinesButTheLast)
 TEST(RichLayout, LineIsAsHighAsItsTallestRunAndGroundsLieBehindWords)
 {
     Sheet sheet;
-    sheet.add(RichParagraph{.runs = {{u"a "_qs, sheet.plain},
-                                     {u"B\n"_qs, sheet.big},
-                                     {u"c"_qs, sheet.plain},
-                                     {u"de"_qs, sheet.ground},
-                                     {u"\nf"_qs, sheet.plain}}});
+    sheet.add(RichParagraph{.runs = {{u"a "_s, sheet.plain},
+                                     {u"B\n"_s, sheet.big},
+                                     {u"c"_s, sheet.plain},
+                                     {u"de"_s, sheet.ground},
+                                     {u"\nf"_s, sheet.plain}}});
     const PageLayout layout(sheet);
     const Page &page = layout.pages().at(0);
     const TextFace &plain = layout.faces()[static_cast<std::size_t>(sheet.plain)];
@@ -162,51 +164,51 @@ TEST(PictureLayout, FitsPageAndLineAndKeepsItsShape)
         EXPECT_EQ(layout.pages()[0].pictures.at(0).area, c.area) << c.width;
     }
     Sheet sheet;
-    EXPECT_THROW(sheet.add(Picture{.width = 100, .height = 100}), Error);
-    EXPECT_THROW(sheet.add(Picture{.image = image(4, 4), .width = 100}), Error);
+    EXPECT_THROW(sheet.add(Picture{.width = 100, .height = 100}), basic::Error);
+    EXPECT_THROW(sheet.add(Picture{.image = image(4, 4), .width = 100}), basic::Error);
 }
 
 TEST(PictureLayout, IsNeverCutAndKeepsItsHeading)
 {
     Sheet sheet;
-    sheet.add(Paragraph{.text = u"before"_qs, .style = sheet.plain, .spaceAfter = 100});
-    sheet.add(Paragraph{.text = u"Chart"_qs, .style = sheet.big, .keepWithNext = true, .outlineLevel = 1});
+    sheet.add(Paragraph{.text = u"before"_s, .style = sheet.plain, .spaceAfter = 100});
+    sheet.add(Paragraph{.text = u"Chart"_s, .style = sheet.big, .keepWithNext = true, .outlineLevel = 1});
     sheet.add(Picture{.image = image(4, 4), .width = 4000, .height = 4000});
-    sheet.add(RichParagraph{.runs = {{u"a  "_qs, sheet.plain}, {u"b"_qs, sheet.bold}}, .outlineLevel = 2});
+    sheet.add(RichParagraph{.runs = {{u"a  "_s, sheet.plain}, {u"b"_s, sheet.bold}}, .outlineLevel = 2});
     const PageLayout layout(sheet);
     ASSERT_EQ(layout.pages().size(), 3u);
     const Page &second = layout.pages()[1];
     const double heading = layout.faces()[static_cast<std::size_t>(sheet.big)].lineHeight();
-    EXPECT_EQ(second.texts.at(0).text, u"Chart"_qs);
+    EXPECT_EQ(second.texts.at(0).text, u"Chart"_s);
     EXPECT_NEAR(second.pictures.at(0).area.top(), heading, 1);
     EXPECT_NEAR(second.pictures.at(0).area.bottom(), 4000, 1) << "made smaller to stay with its heading";
-    EXPECT_EQ(second.headings.at(0).title, u"Chart"_qs);
-    EXPECT_EQ(layout.pages()[2].headings.at(0).title, u"a b"_qs);
+    EXPECT_EQ(second.headings.at(0).title, u"Chart"_s);
+    EXPECT_EQ(layout.pages()[2].headings.at(0).title, u"a b"_s);
     EXPECT_EQ(layout.pages()[2].headings.at(0).level, 2);
 }
 
 TEST(OutlineLayout, NamesRowsOnceAndTableHeadingsNever)
 {
     Sheet sheet;
-    sheet.add(TableStart{{{}}, {{{.text = u"H"_qs, .outlineLevel = 1}}}});
+    sheet.add(TableStart{{{}}, {{{.text = u"H"_s, .outlineLevel = 1}}}});
     for (int i = 0; i < 40; ++i)
-        sheet.add(TableRow{{{.text = u"row"_qs, .outlineLevel = i == 30 ? 1 : 0}}});
+        sheet.add(TableRow{{{.text = u"row"_s, .outlineLevel = i == 30 ? 1 : 0}}});
     const PageLayout layout(sheet);
     std::vector<std::size_t> pagesWithHeading;
     for (std::size_t i = 0; i < layout.pages().size(); ++i)
         pagesWithHeading.insert(pagesWithHeading.end(), layout.pages()[i].headings.size(), i);
     EXPECT_EQ(pagesWithHeading, (std::vector<std::size_t>{1}));
-    EXPECT_THROW(sheet.add(Paragraph{.outlineLevel = 9}), Error);
+    EXPECT_THROW(sheet.add(Paragraph{.outlineLevel = 9}), basic::Error);
 }
 
 TEST(RichTextBlocks, TakeOverWhatTheTextSays)
 {
     PrintDocument document;
     QTextDocument text;
-    text.setDefaultFont(QFont(u"Arial"_qs, 10));
+    text.setDefaultFont(QFont(u"Arial"_s, 10));
     text.setHtml(u"<p align=justify style='margin:0'>one <b>bold</b> <span style='font:italic 14pt Times New Roman;"
                  "color:#102030;background:#ffff00'>x</span><u><s>y</s></u><br>next</p>"
-                 "<ul><li>dot</li></ul><ol><li>first</li></ol>"_qs);
+                 "<ul><li>dot</li></ul><ol><li>first</li></ol>"_s);
     QTextBlockFormat format;
     format.setAlignment(Qt::AlignRight);
     format.setLeftMargin(20);
@@ -219,26 +221,26 @@ TEST(RichTextBlocks, TakeOverWhatTheTextSays)
         return std::get<RichParagraph>(blocks.at(i));
     };
     const StyleId plain = document.addStyle({});
-    const StyleId mark = document.addStyle({.family = u"Times New Roman"_qs,
+    const StyleId mark = document.addStyle({.family = u"Times New Roman"_s,
                                             .pointSize = 14,
                                             .italic = true,
                                             .color = QColor(0x10, 0x20, 0x30),
                                             .background = QColor(0xFF, 0xFF, 0)});
     const StyleId lines = document.addStyle({.underline = true, .strikeOut = true});
-    EXPECT_EQ(paragraph(0), (RichParagraph{.runs = {{u"one "_qs, plain},
-                                                    {u"bold"_qs, document.addStyle({.bold = true})},
-                                                    {u" "_qs, plain},
-                                                    {u"x"_qs, mark},
-                                                    {u"y"_qs, lines},
-                                                    {u"\nnext"_qs, plain}},
+    EXPECT_EQ(paragraph(0), (RichParagraph{.runs = {{u"one "_s, plain},
+                                                    {u"bold"_s, document.addStyle({.bold = true})},
+                                                    {u" "_s, plain},
+                                                    {u"x"_s, mark},
+                                                    {u"y"_s, lines},
+                                                    {u"\nnext"_s, plain}},
                                            .alignment = Alignment::Justified}));
-    EXPECT_EQ(paragraph(1).bullet, (TextRun{u"•"_qs, plain}));
+    EXPECT_EQ(paragraph(1).bullet, (TextRun{u"•"_s, plain}));
     EXPECT_GT(paragraph(1).hanging, 0);
-    EXPECT_EQ(paragraph(2).bullet.text, u"1."_qs);
+    EXPECT_EQ(paragraph(2).bullet.text, u"1."_s);
     EXPECT_EQ(paragraph(3).alignment, Alignment::Right);
     EXPECT_EQ(paragraph(3).leftIndent, 300);
     EXPECT_EQ(paragraph(3).runs.size(), 1u) << "an empty line has a style";
 }
 
 } // namespace
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -6,12 +6,14 @@
 #include <QImage>
 #include <QPainter>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
 TextFace mono()
 {
-    return TextFace({.family = u"Courier New"_qs, .pointSize = 10}); // each character 0.6 em = 120 twips
+    return TextFace({.family = u"Courier New"_s, .pointSize = 10}); // each character 0.6 em = 120 twips
 }
 
 TEST(TextFace, Wraps)
@@ -23,20 +25,20 @@ TEST(TextFace, Wraps)
         int columns;
         QStringList lines;
     } cases[] = {
-        {u""_qs, 5, {u""_qs}},
-        {u"abc"_qs, 3, {u"abc"_qs}},
-        {u"abc   "_qs, 3, {u"abc"_qs}},
-        {u"abc def"_qs, 7, {u"abc def"_qs}},
-        {u"abc def"_qs, 6, {u"abc"_qs, u"def"_qs}},
-        {u"abc def"_qs, 3, {u"abc"_qs, u"def"_qs}},
-        {u"abcdefgh"_qs, 3, {u"abc"_qs, u"def"_qs, u"gh"_qs}},
-        {u"a bcdefgh"_qs, 4, {u"a"_qs, u"bcde"_qs, u"fgh"_qs}},
-        {u"Müller-Lüdenscheid"_qs, 12, {u"Müller-"_qs, u"Lüdenscheid"_qs}},
-        {u"ab\n\ncd"_qs, 5, {u"ab"_qs, u""_qs, u"cd"_qs}},
-        {u"ab\r\ncd\re"_qs, 5, {u"ab"_qs, u"cd"_qs, u"e"_qs}},
-        {u"a\tb"_qs, 9, {u"a    b"_qs}},
-        {u"abc"_qs, 0, {u"a"_qs, u"b"_qs, u"c"_qs}},
-        {u"e\u0301e\u0301 e\u0301"_qs, 3, {u"e\u0301e\u0301"_qs, u"e\u0301"_qs}}, // shaped by Qt
+        {u""_s, 5, {u""_s}},
+        {u"abc"_s, 3, {u"abc"_s}},
+        {u"abc   "_s, 3, {u"abc"_s}},
+        {u"abc def"_s, 7, {u"abc def"_s}},
+        {u"abc def"_s, 6, {u"abc"_s, u"def"_s}},
+        {u"abc def"_s, 3, {u"abc"_s, u"def"_s}},
+        {u"abcdefgh"_s, 3, {u"abc"_s, u"def"_s, u"gh"_s}},
+        {u"a bcdefgh"_s, 4, {u"a"_s, u"bcde"_s, u"fgh"_s}},
+        {u"Müller-Lüdenscheid"_s, 12, {u"Müller-"_s, u"Lüdenscheid"_s}},
+        {u"ab\n\ncd"_s, 5, {u"ab"_s, u""_s, u"cd"_s}},
+        {u"ab\r\ncd\re"_s, 5, {u"ab"_s, u"cd"_s, u"e"_s}},
+        {u"a\tb"_s, 9, {u"a    b"_s}},
+        {u"abc"_s, 0, {u"a"_s, u"b"_s, u"c"_s}},
+        {u"e\u0301e\u0301 e\u0301"_s, 3, {u"e\u0301e\u0301"_s, u"e\u0301"_s}}, // shaped by Qt
     };
     for (const auto &c : cases)
         EXPECT_EQ(face.wrapped(c.text, c.columns * em + 1), c.lines) << qPrintable(c.text);
@@ -51,8 +53,8 @@ TEST(TextFace, Elides)
         int columns;
         QString line;
     } cases[] = {
-        {u"abc"_qs, 3, u"abc"_qs},  {u"abcd"_qs, 3, u"ab…"_qs}, {u"ab cdef"_qs, 4, u"ab…"_qs},
-        {u"a\nb"_qs, 3, u"a b"_qs}, {u"abc"_qs, 0, u"…"_qs},    {u""_qs, 0, u""_qs},
+        {u"abc"_s, 3, u"abc"_s},  {u"abcd"_s, 3, u"ab…"_s}, {u"ab cdef"_s, 4, u"ab…"_s},
+        {u"a\nb"_s, 3, u"a b"_s}, {u"abc"_s, 0, u"…"_s},    {u""_s, 0, u""_s},
     };
     for (const auto &c : cases)
         EXPECT_EQ(face.elided(c.text, c.columns * em + 1), c.line) << qPrintable(c.text);
@@ -81,11 +83,11 @@ TEST(TextFace, PaintsAsWideAsItMeasures)
     TextFace plain({.pointSize = 12});
     TextFace ruled({.pointSize = 12, .bold = true, .italic = true, .underline = true});
     for (const QString &text :
-         {u"Hohenstaufen, AVA Toffee Wilhelm"_qs, u"Дмитрий Ελένη Łódź – €"_qs, u"Cafe\u0301 mit Akzent e\u0301H"_qs}) {
+         {u"Hohenstaufen, AVA Toffee Wilhelm"_s, u"Дмитрий Ελένη Łódź – €"_s, u"Cafe\u0301 mit Akzent e\u0301H"_s}) {
         EXPECT_NEAR(inkEnd(plain, text), plain.width(text), 40) << qPrintable(text);
         EXPECT_NEAR(inkEnd(ruled, text), ruled.width(text), 40) << qPrintable(text);
     }
 }
 
 } // namespace
-} // namespace kalvenor
+} // namespace kalvenor::print

@@ -16,17 +16,19 @@
 #include <unistd.h>
 #endif
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
-using Writer = void (*)(const PrintDocument &, const QString &, const Progress &);
+using Writer = void (*)(const PrintDocument &, const QString &, const basic::Progress &);
 
 const struct {
     const char *name;
     Writer write;
-} writers[] = {
+} Writers[] = {
     {"PDF",
-     [](const PrintDocument &document, const QString &path, const Progress &progress) {
+     [](const PrintDocument &document, const QString &path, const basic::Progress &progress) {
          writePdf(PageLayout(document), document.title, path, progress);
      }},
     {"RTF", writeRtfFile},
@@ -39,10 +41,10 @@ protected:
     {
         m_document.add(TableStart{columnsFromFormat(u"<5000|>1200")});
         for (int i = 1; i <= 2000; ++i)
-            m_document.add(TableRow{{{u"Müller-Łódź, Jürgen Ελένη "_qs + QString::number(i)}, {u"77 J."_qs}}});
+            m_document.add(TableRow{{{u"Müller-Łódź, Jürgen Ελένη "_s + QString::number(i)}, {u"77 J."_s}}});
     }
 
-    QString path() const { return m_folder.filePath(u"out"_qs); }
+    QString path() const { return m_folder.filePath(u"out"_s); }
 
     void writeOld() const
     {
@@ -51,19 +53,19 @@ protected:
     }
 
     /// The kind of the error of writing, after which the old file must stand there alone.
-    ErrorKind failure(Writer write, const Progress &progress = {}) const
+    basic::ErrorKind failure(Writer write, const basic::Progress &progress = {}) const
     {
-        std::optional<ErrorKind> kind;
+        std::optional<basic::ErrorKind> kind;
         try {
             write(m_document, path(), progress);
-        } catch (const Error &error) {
+        } catch (const basic::Error &error) {
             kind = error.kind();
             EXPECT_EQ(error.place(), path());
         }
         QFile file(path());
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         EXPECT_EQ(file.readAll(), "old");
-        EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{u"out"_qs});
+        EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{u"out"_s});
         return kind.value();
     }
 
@@ -73,37 +75,37 @@ protected:
 
 TEST_F(WriterFailure, CancellingKeepsTheOldFile)
 {
-    for (const auto &writer : writers) {
+    for (const auto &writer : Writers) {
         writeOld();
         qint64 last = 0;
         const auto stop = [&](qint64 done, qint64 total) {
             last = done;
             return done < total / 3;
         };
-        EXPECT_EQ(failure(writer.write, stop), ErrorKind::Cancelled) << writer.name;
+        EXPECT_EQ(failure(writer.write, stop), basic::ErrorKind::Cancelled) << writer.name;
         EXPECT_LT(last, 1100) << writer.name << " went on";
     }
 }
 
 TEST_F(WriterFailure, UnwritablePlaceIsSaid)
 {
-    QStringList places{m_folder.filePath(u"none/out"_qs), m_folder.path(), QString()};
+    QStringList places{m_folder.filePath(u"none/out"_s), m_folder.path(), QString()};
 #ifdef Q_OS_UNIX
-    places << u"/dev/full"_qs << m_folder.filePath(u"pipe"_qs); // what is no file must not be replaced by one
+    places << u"/dev/full"_s << m_folder.filePath(u"pipe"_s); // what is no file must not be replaced by one
     ASSERT_EQ(mkfifo(QFile::encodeName(places.back()).constData(), 0600), 0);
     if (geteuid() != 0) { // nothing is closed to root
-        const QString closed = m_folder.filePath(u"closed"_qs);
+        const QString closed = m_folder.filePath(u"closed"_s);
         ASSERT_EQ(mkdir(QFile::encodeName(closed).constData(), 0500), 0);
-        places << closed + u"/out"_qs;
+        places << closed + u"/out"_s;
     }
 #endif
-    for (const auto &writer : writers) {
+    for (const auto &writer : Writers) {
         for (const QString &place : places) {
             try {
                 writer.write(m_document, place, {});
                 ADD_FAILURE() << writer.name << ' ' << qPrintable(place);
-            } catch (const Error &error) {
-                EXPECT_EQ(error.kind(), ErrorKind::WriteFailed) << error.what();
+            } catch (const basic::Error &error) {
+                EXPECT_EQ(error.kind(), basic::ErrorKind::WriteFailed) << error.what();
                 EXPECT_TRUE(error.text().contains(QLatin1String(writer.name))) << error.what();
             }
         }
@@ -117,14 +119,14 @@ TEST_F(WriterFailure, FullDiskKeepsTheOldFile)
     rlimit old{};
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    for (const auto &writer : writers) {
+    for (const auto &writer : Writers) {
         writer.write(m_document, path(), {});
         const auto whole = static_cast<rlim_t>(QFileInfo(path()).size());
         writeOld();
         for (const rlim_t bytes : {rlim_t(100), whole / 2, whole - 10}) {
             const rlimit few{bytes, old.rlim_max};
             ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &few), 0);
-            EXPECT_EQ(failure(writer.write), ErrorKind::WriteFailed) << writer.name << ' ' << bytes;
+            EXPECT_EQ(failure(writer.write), basic::ErrorKind::WriteFailed) << writer.name << ' ' << bytes;
             ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &old), 0);
         }
     }
@@ -133,4 +135,4 @@ TEST_F(WriterFailure, FullDiskKeepsTheOldFile)
 #endif
 
 } // namespace
-} // namespace kalvenor
+} // namespace kalvenor::print

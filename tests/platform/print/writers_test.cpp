@@ -12,10 +12,12 @@
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
-namespace kalvenor {
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::print {
 namespace {
 
-const QRegularExpression pageTwo(u"- ?2 ?-"_qs);
+const QRegularExpression PageTwo(u"- ?2 ?-"_s);
 
 /// One document with all kinds of blocks, and what readers of the files find in it.
 class Writers : public testing::Test {
@@ -23,27 +25,27 @@ protected:
     void SetUp() override
     {
         PrintDocument &d = m_document;
-        const StyleId bold = d.addStyle({.family = u"Times New Roman"_qs, .pointSize = 14, .bold = true});
+        const StyleId bold = d.addStyle({.family = u"Times New Roman"_s, .pointSize = 14, .bold = true});
         const StyleId mark = d.addStyle({.underline = true, .color = Qt::red, .background = Qt::yellow});
-        d.title = u"Altersliste der Familie Müller & <Söhne>"_qs;
-        d.header = {u"Kopf|Mitte|- %d -"_qs, mark};
-        d.footer = {u"Fuß|Seite %d|"_qs};
-        d.add(Paragraph{.text = u"Größe"_qs, .style = bold, .keepWithNext = true, .outlineLevel = 1});
-        d.add(RichParagraph{.runs = {{u"Zuerst "_qs, 0},
-                                     {u"fett"_qs, bold},
-                                     {u" \"{a}\\b <i> & 3 > 2\" "_qs, mark},
-                                     {u"dann\nZeile"_qs, 0}},
+        d.title = u"Altersliste der Familie Müller & <Söhne>"_s;
+        d.header = {u"Kopf|Mitte|- %d -"_s, mark};
+        d.footer = {u"Fuß|Seite %d|"_s};
+        d.add(Paragraph{.text = u"Größe"_s, .style = bold, .keepWithNext = true, .outlineLevel = 1});
+        d.add(RichParagraph{.runs = {{u"Zuerst "_s, 0},
+                                     {u"fett"_s, bold},
+                                     {u" \"{a}\\b <i> & 3 > 2\" "_s, mark},
+                                     {u"dann\nZeile"_s, 0}},
                             .alignment = Alignment::Justified});
-        d.add(RichParagraph{.runs = {{u"Punkt"_qs, 0}}, .leftIndent = 300, .hanging = 300, .bullet = {u"–"_qs, 0}});
-        d.add(Paragraph{.text = u"Bild"_qs, .keepWithNext = true, .outlineLevel = 2});
+        d.add(RichParagraph{.runs = {{u"Punkt"_s, 0}}, .leftIndent = 300, .hanging = 300, .bullet = {u"–"_s, 0}});
+        d.add(Paragraph{.text = u"Bild"_s, .keepWithNext = true, .outlineLevel = 2});
         QImage image(20, 10, QImage::Format_ARGB32);
         image.fill(Qt::green);
-        d.add(Picture{.image = image, .width = 2000, .height = 1000, .alternativeText = u"Das \"Bild\""_qs});
-        d.add(TableStart{columnsFromFormat(u"<5000|^1200|0"), {{{u"Name"_qs, mark}, {u"Alter"_qs, bold}}}, 20});
-        d.add(TableRow{{{u"Łódź, Ελένη 𝔘"_qs}, {u"77 J."_qs, mark}, {u"€ – “x”"_qs, 0, Alignment::Right}}});
+        d.add(Picture{.image = image, .width = 2000, .height = 1000, .alternativeText = u"Das \"Bild\""_s});
+        d.add(TableStart{columnsFromFormat(u"<5000|^1200|0"), {{{u"Name"_s, mark}, {u"Alter"_s, bold}}}, 20});
+        d.add(TableRow{{{u"Łódź, Ελένη 𝔘"_s}, {u"77 J."_s, mark}, {u"€ – “x”"_s, 0, Alignment::Right}}});
         d.add(PageBreak{});
-        d.add(TableRow{{{u"Letzte"_qs, bold, {}, 1}}});
-        d.add(Paragraph{.text = u"Schluss"_qs, .alignment = Alignment::Centre, .spaceBefore = 200});
+        d.add(TableRow{{{u"Letzte"_s, bold, {}, 1}}});
+        d.add(Paragraph{.text = u"Schluss"_s, .alignment = Alignment::Centre, .spaceBefore = 200});
     }
 
     /// Each of these behind the one before it; blanks and line ends count alike.
@@ -61,7 +63,7 @@ protected:
         }
     }
 
-    QString path(const QString &end) const { return m_folder.filePath(u"out."_qs + end); }
+    QString path(const QString &end) const { return m_folder.filePath(u"out."_s + end); }
 
     QByteArray bytes(const QString &end) const
     {
@@ -93,30 +95,30 @@ TEST_F(Writers, PdfIsReadByOthers)
     for (const PdfKind kind : {PdfKind::Plain, PdfKind::Archive}) {
         const bool isArchive = kind == PdfKind::Archive;
         m_document.page.landscape = isArchive;
-        m_document.language = isArchive ? u"en"_qs : u"de"_qs;
-        writePdf(PageLayout(m_document), m_document.title, path(u"pdf"_qs), {}, kind);
-        const auto info = output(u"pdfinfo"_qs, {path(u"pdf"_qs)});
-        const auto text = output(u"pdftotext"_qs, {u"-raw"_qs, path(u"pdf"_qs), u"-"_qs});
-        const auto fonts = output(u"pdffonts"_qs, {path(u"pdf"_qs)});
-        const auto pictures = output(u"pdfimages"_qs, {u"-list"_qs, path(u"pdf"_qs)});
-        const auto outline = output(u"pdftohtml"_qs, {u"-xml"_qs, u"-i"_qs, u"-stdout"_qs, path(u"pdf"_qs)});
+        m_document.language = isArchive ? u"en"_s : u"de"_s;
+        writePdf(PageLayout(m_document), m_document.title, path(u"pdf"_s), {}, kind);
+        const auto info = output(u"pdfinfo"_s, {path(u"pdf"_s)});
+        const auto text = output(u"pdftotext"_s, {u"-raw"_s, path(u"pdf"_s), u"-"_s});
+        const auto fonts = output(u"pdffonts"_s, {path(u"pdf"_s)});
+        const auto pictures = output(u"pdfimages"_s, {u"-list"_s, path(u"pdf"_s)});
+        const auto outline = output(u"pdftohtml"_s, {u"-xml"_s, u"-i"_s, u"-stdout"_s, path(u"pdf"_s)});
         if (!info || !text || !fonts || !pictures || !outline)
             GTEST_SKIP() << "poppler-utils is not installed";
         EXPECT_TRUE(info->contains(m_document.title)) << qPrintable(*info);
         EXPECT_TRUE(info->contains(isArchive ? u"842 x 595 pts (A4)" : u"595 x 842 pts (A4)")) << qPrintable(*info);
         EXPECT_FALSE(info->contains(u"Author:"));
         expectTexts(*text);
-        EXPECT_TRUE(text->contains(pageTwo));
+        EXPECT_TRUE(text->contains(PageTwo));
         // Columns behind the encoding: embedded, subset, with a map to Unicode.
-        static const QRegularExpression embedded(u"(?m)Identity-H +yes +(yes|no) +yes "_qs);
+        static const QRegularExpression embedded(u"(?m)Identity-H +yes +(yes|no) +yes "_s);
         EXPECT_EQ(fonts->count(embedded), fonts->count(u"Identity-H")) << qPrintable(*fonts);
         EXPECT_TRUE(pictures->contains(u"image")) << qPrintable(*pictures);
         EXPECT_FALSE(pictures->contains(u"smask")) << "PDF/A-1 has no transparency";
         const QString items = outline->mid(outline->indexOf(u"<outline>")).remove(u'\n');
         EXPECT_TRUE(items.startsWith(u"<outline><item page=\"1\">Größe</item><outline><item page=\"1\">Bild</item>"
-                                     "</outline><item page=\"2\">Letzte</item></outline>"_qs))
+                                     "</outline><item page=\"2\">Letzte</item></outline>"_s))
             << qPrintable(items);
-        const QByteArray file = bytes(u"pdf"_qs);
+        const QByteArray file = bytes(u"pdf"_s);
         EXPECT_TRUE(file.contains("/Lang (" + m_document.language.toLatin1() + ")"));
         EXPECT_EQ(file.contains("pdfaid:conformance=\"B\""), isArchive);
     }
@@ -125,8 +127,8 @@ TEST_F(Writers, PdfIsReadByOthers)
 TEST_F(Writers, RtfIsReadByOthers)
 {
     m_document.page.landscape = true;
-    writeRtfFile(m_document, path(u"rtf"_qs));
-    const QByteArray file = bytes(u"rtf"_qs);
+    writeRtfFile(m_document, path(u"rtf"_s));
+    const QByteArray file = bytes(u"rtf"_s);
     int depth = 0;
     for (qsizetype i = 0; i < file.size(); ++i) {
         ASSERT_LT(static_cast<unsigned char>(file[i]), 0x80) << "seven bits";
@@ -142,27 +144,27 @@ TEST_F(Writers, RtfIsReadByOthers)
           "\\s1\\outlinelevel0\\ql\\keepn", "\\cellx4930", "\\keepn"})
         EXPECT_TRUE(file.contains(part)) << part;
     EXPECT_EQ(file.count("\\trhdr"), 2) << "again behind the page break";
-    if (QStandardPaths::findExecutable(u"soffice"_qs).isEmpty())
+    if (QStandardPaths::findExecutable(u"soffice"_s).isEmpty())
         GTEST_SKIP() << "LibreOffice is not installed: its reading of the file is not looked at";
-    output(u"soffice"_qs,
-           {u"-env:UserInstallation=file://"_qs + m_folder.filePath(u"office"_qs), u"--headless"_qs, u"--convert-to"_qs,
-            u"pdf:writer_pdf_Export"_qs, u"--outdir"_qs, m_folder.path(), path(u"rtf"_qs)});
-    const auto text = output(u"pdftotext"_qs, {u"-raw"_qs, path(u"pdf"_qs), u"-"_qs});
-    const auto info = output(u"pdfinfo"_qs, {path(u"pdf"_qs)});
+    output(u"soffice"_s,
+           {u"-env:UserInstallation=file://"_s + m_folder.filePath(u"office"_s), u"--headless"_s, u"--convert-to"_s,
+            u"pdf:writer_pdf_Export"_s, u"--outdir"_s, m_folder.path(), path(u"rtf"_s)});
+    const auto text = output(u"pdftotext"_s, {u"-raw"_s, path(u"pdf"_s), u"-"_s});
+    const auto info = output(u"pdfinfo"_s, {path(u"pdf"_s)});
     ASSERT_TRUE(text && info);
     expectTexts(*text);
-    EXPECT_TRUE(text->contains(u"Kopf") && text->contains(pageTwo) && text->contains(u"Seite 2"));
+    EXPECT_TRUE(text->contains(u"Kopf") && text->contains(PageTwo) && text->contains(u"Seite 2"));
     EXPECT_TRUE(info->contains(u"Pages:           2") && info->contains(m_document.title)) << qPrintable(*info);
     EXPECT_TRUE(info->contains(u"841.89 x 595.3")) << qPrintable(*info);
 }
 
 TEST_F(Writers, HtmlIsSoundAndSurvivesItsTagsComingToLife)
 {
-    m_document.language = u"en"_qs;
+    m_document.language = u"en"_s;
     m_document.add(
-        Picture{.image = QImage(2, 2, QImage::Format_RGB32), .width = 9, .height = 9, .fileName = u"a.jpg"_qs});
-    writeHtmlFile(m_document, path(u"html"_qs));
-    QByteArray file = bytes(u"html"_qs);
+        Picture{.image = QImage(2, 2, QImage::Format_RGB32), .width = 9, .height = 9, .fileName = u"a.jpg"_s});
+    writeHtmlFile(m_document, path(u"html"_s));
+    QByteArray file = bytes(u"html"_s);
     QXmlStreamReader xml(file);
     QString text;
     QStringList tags;
@@ -173,9 +175,9 @@ TEST_F(Writers, HtmlIsSoundAndSurvivesItsTagsComingToLife)
             tags << xml.name().toString();
             isBody = isBody || xml.name() == u"main";
             if (xml.name() == u"html") {
-                EXPECT_EQ(xml.attributes().value(u"lang"_qs), u"en");
+                EXPECT_EQ(xml.attributes().value(u"lang"_s), u"en");
             } else if (xml.name() == u"img") {
-                EXPECT_EQ(xml.attributes().value(u"alt"_qs), u"Das \"Bild\"");
+                EXPECT_EQ(xml.attributes().value(u"alt"_s), u"Das \"Bild\"");
             } else if (xml.name() == u"title") {
                 EXPECT_EQ(xml.readElementText(), m_document.title);
             } else if (xml.name() == u"br") {
@@ -204,4 +206,4 @@ TEST_F(Writers, HtmlIsSoundAndSurvivesItsTagsComingToLife)
 }
 
 } // namespace
-} // namespace kalvenor
+} // namespace kalvenor::print

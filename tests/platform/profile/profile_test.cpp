@@ -6,7 +6,9 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-using namespace kalvenor;
+using namespace Qt::StringLiterals;
+
+using namespace kalvenor::profile;
 
 namespace {
 
@@ -40,7 +42,7 @@ protected:
     }
 
     QTemporaryDir m_folder;
-    const QString m_file = m_folder.filePath(QStringLiteral("Test.ini"));
+    const QString m_file = m_folder.filePath(u"Test.ini"_s);
 };
 
 } // namespace
@@ -171,7 +173,7 @@ TEST_F(Profile, WriteMakesOrRefuses)
     EXPECT_TRUE(writePrivateProfileString("Sec", "Key", "1", m_file));
     EXPECT_EQ(get(), "[Sec]\r\nKey=1\r\n");
     EXPECT_FALSE(writePrivateProfileString("Sec", "Key", "1", {}));
-    EXPECT_FALSE(writePrivateProfileString("Sec", "Key", "1", m_folder.filePath(QStringLiteral("fehlt/x.ini"))));
-    EXPECT_FALSE(writePrivateProfileString("Sec", "Key", {}, m_folder.filePath(QStringLiteral("fehlt/x.ini"))));
+    EXPECT_FALSE(writePrivateProfileString("Sec", "Key", "1", m_folder.filePath(u"fehlt/x.ini"_s)));
+    EXPECT_FALSE(writePrivateProfileString("Sec", "Key", {}, m_folder.filePath(u"fehlt/x.ini"_s)));
     EXPECT_FALSE(writePrivateProfileString("Sec", "Key", "1", m_folder.path()));
 }

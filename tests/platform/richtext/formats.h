@@ -7,7 +7,9 @@
 #include <QTextDocument>
 #include <QTextList>
 
-namespace kalvenor::test {
+namespace kalvenor::richtext::test {
+
+using namespace Qt::StringLiterals;
 
 /// A document as one line: "text" of equal formats after [formats], "|" between paragraphs with (their formats).
 inline QString described(const QTextDocument &document)
@@ -17,26 +19,26 @@ inline QString described(const QTextDocument &document)
         QString line;
         const QTextBlockFormat format = block.blockFormat();
         if (block.textList() != nullptr)
-            line += QStringLiteral("*").repeated(block.textList()->format().indent()) + u' ';
+            line += u"*"_s.repeated(block.textList()->format().indent()) + u' ';
         if (format.alignment() & Qt::AlignHCenter)
-            line += QStringLiteral("(centre)");
+            line += u"(centre)"_s;
         if (format.alignment() & Qt::AlignRight)
-            line += QStringLiteral("(right)");
+            line += u"(right)"_s;
         if (format.alignment() & Qt::AlignJustify)
-            line += QStringLiteral("(justified)");
+            line += u"(justified)"_s;
         if (format.leftMargin() != 0 || format.textIndent() != 0)
-            line += QStringLiteral("(%1,%2)").arg(format.leftMargin()).arg(format.textIndent());
+            line += u"(%1,%2)"_s.arg(format.leftMargin()).arg(format.textIndent());
         for (auto at = block.begin(); !at.atEnd(); ++at) {
             const QTextCharFormat look = at.fragment().charFormat();
             QStringList words;
             if (look.fontWeight() == QFont::Bold)
-                words << QStringLiteral("b");
+                words << u"b"_s;
             if (look.fontItalic())
-                words << QStringLiteral("i");
+                words << u"i"_s;
             if (look.fontUnderline())
-                words << QStringLiteral("u");
+                words << u"u"_s;
             if (look.fontStrikeOut())
-                words << QStringLiteral("s");
+                words << u"s"_s;
             if (look.fontPointSize() != 12)
                 words << QString::number(look.fontPointSize());
             if (const QStringList families = look.fontFamilies().toStringList(); !families.isEmpty())
@@ -44,7 +46,7 @@ inline QString described(const QTextDocument &document)
             if (look.hasProperty(QTextFormat::ForegroundBrush))
                 words << look.foreground().color().name();
             if (look.hasProperty(QTextFormat::BackgroundBrush))
-                words << QStringLiteral("on ") + look.background().color().name();
+                words << u"on "_s + look.background().color().name();
             if (!words.isEmpty())
                 line += u'[' + words.join(u' ') + u']';
             line += at.fragment().text().replace(QChar::LineSeparator, u'/').replace(u'\t', u'>');
@@ -54,4 +56,4 @@ inline QString described(const QTextDocument &document)
     return paragraphs.join(u'|');
 }
 
-} // namespace kalvenor::test
+} // namespace kalvenor::richtext::test

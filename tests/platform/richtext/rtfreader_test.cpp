@@ -5,17 +5,19 @@
 #include "platform/richtext/formats.h"
 #include <gtest/gtest.h>
 
-using namespace kalvenor;
+using namespace Qt::StringLiterals;
+
+using namespace kalvenor::richtext;
 
 namespace {
 
-constexpr const char *classic =
+constexpr const char *Classic =
     R"({\rtf1\ansi\ansicpg1252\deff0\deftab720{\fonttbl{\f0\fswiss MS Sans Serif;}{\f1\froman\fcharset2 Symbol;}{\f2\fnil\fcharset204 Arial{\*\falt X};}}{\colortbl ;\red255\green0\blue0;\red0\green0\blue128;}\deflang1031)";
 
 /// `body` in a document with the fonts and colours above.
 QByteArray inClassic(const char *body)
 {
-    return QByteArray(classic) + body + "}";
+    return QByteArray(Classic) + body + "}";
 }
 
 } // namespace
@@ -55,11 +57,10 @@ TEST(RtfReader, ReadsWhatControlsAndOfficeProgramsWrite)
         QTextDocument document;
         const RtfResult result = readRtf(inClassic(row.body), document);
         QString shown = test::described(document);
-        shown.replace(QStringLiteral(" MS Sans Serif"), QString())
-            .replace(QStringLiteral("MS Sans Serif "), QString())
-            .replace(QStringLiteral("[MS Sans Serif]"), QString());
-        EXPECT_EQ(shown.toStdString(), QString::fromUtf8(row.shown).remove(QStringLiteral("[]")).toStdString())
-            << row.body;
+        shown.replace(u" MS Sans Serif"_s, QString())
+            .replace(u"MS Sans Serif "_s, QString())
+            .replace(u"[MS Sans Serif]"_s, QString());
+        EXPECT_EQ(shown.toStdString(), QString::fromUtf8(row.shown).remove(u"[]"_s).toStdString()) << row.body;
         EXPECT_TRUE(result.isRtf);
         EXPECT_FALSE(result.damaged || result.tooLarge) << row.body;
     }

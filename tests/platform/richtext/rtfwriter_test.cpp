@@ -10,11 +10,13 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-using namespace kalvenor;
+using namespace Qt::StringLiterals;
+
+using namespace kalvenor::richtext;
 
 namespace {
 
-constexpr const char *html =
+constexpr const char *HtmlSource =
     "<p align=center><b>Tit\"el_\\fs9</b> <span style='font-size:8.5pt;font-family:My_Font'>klein</span></p><p></p>"
     "<ul><li>eins<li><i>zwei</i><ul><li>tief</ul></ul>"
     "<p style='color:#ff0000;background:#00ff00'>{\xE2\x82\xAC\xCE\xA9\xF0\x9F\x98\x80\xC2\xA0\xC2\xAD}<br>neu</p>";
@@ -24,10 +26,10 @@ constexpr const char *html =
 TEST(RtfWriter, WritesTheClassicForm)
 {
     QTextDocument document;
-    document.setDefaultFont(QFont(QStringLiteral("Arial"), 10));
+    document.setDefaultFont(QFont(u"Arial"_s, 10));
     EXPECT_EQ(writeRtf(document), "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1031{\\fonttbl{\\f0\\fnil\\fcharset0 "
                                   "Arial;}}\r\n\\viewkind4\\uc1\\pard\\f0\\fs20\\par\r\n}\r\n");
-    document.setHtml(QString::fromUtf8(html));
+    document.setHtml(QString::fromUtf8(HtmlSource));
     const QByteArray rtf = writeRtf(document);
     for (const char *part :
          {"\\qc\\b\\f0\\fs20 Tit\\'22el_\\'5cfs9\\b0  ", "\\fnil\\fcharset0 My\\'5fFont;", "\\fs17 klein",
@@ -39,7 +41,7 @@ TEST(RtfWriter, WritesTheClassicForm)
 TEST(RtfWriter, IsReadAgainAsItWas)
 {
     QTextDocument document;
-    document.setHtml(QString::fromUtf8(html));
+    document.setHtml(QString::fromUtf8(HtmlSource));
     const QByteArray rtf = writeRtf(document);
     QTextDocument again;
     EXPECT_TRUE(readRtf(rtf, again).everythingShown());
@@ -50,26 +52,25 @@ TEST(RtfWriter, IsReadAgainAsItWas)
 
 TEST(RtfWriter, IsReadByAnOfficeProgram)
 {
-    const QString soffice = QStandardPaths::findExecutable(QStringLiteral("soffice"));
+    const QString soffice = QStandardPaths::findExecutable(u"soffice"_s);
     if (soffice.isEmpty())
         GTEST_SKIP() << "soffice is not installed";
     QTextDocument document;
-    document.setHtml(QString::fromUtf8(html));
+    document.setHtml(QString::fromUtf8(HtmlSource));
     const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("a.rtf")));
+    QFile file(folder.filePath(u"a.rtf"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(writeRtf(document));
     file.close();
     QProcess office;
-    office.start(soffice, {QStringLiteral("-env:UserInstallation=file://") + folder.filePath(QStringLiteral("profile")),
-                           QStringLiteral("--headless"), QStringLiteral("--convert-to"), QStringLiteral("html"),
-                           QStringLiteral("--outdir"), folder.path(), file.fileName()});
+    office.start(soffice, {u"-env:UserInstallation=file://"_s + folder.filePath(u"profile"_s), u"--headless"_s,
+                           u"--convert-to"_s, u"html"_s, u"--outdir"_s, folder.path(), file.fileName()});
     ASSERT_TRUE(office.waitForFinished(120'000));
-    QFile made(folder.filePath(QStringLiteral("a.html")));
+    QFile made(folder.filePath(u"a.html"_s));
     ASSERT_TRUE(made.open(QIODevice::ReadOnly)) << office.readAllStandardError().toStdString();
     QTextDocument shown;
     shown.setHtml(QString::fromUtf8(made.readAll()));
-    const QRegularExpression blanks(QStringLiteral("\\s"));
+    const QRegularExpression blanks(u"\\s"_s);
     EXPECT_EQ(shown.toPlainText().remove(blanks).toStdString(), document.toPlainText().remove(blanks).toStdString());
-    EXPECT_TRUE(test::described(shown).contains(QStringLiteral("* ")));
+    EXPECT_TRUE(test::described(shown).contains(u"* "_s));
 }

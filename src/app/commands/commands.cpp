@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/commands/commands.h"
+
+#include "app/start/startedprogram.h"
+#include "demo/host/demohost.h"
+#include "platform/desktop/terminal.h"
+#include "selection/lists/listquery.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::app {
+
+namespace {
+
+constexpr qint16 TextLimitReached = 926;
+constexpr qint16 TextLimitReachedTitle = 1201;
+
+void tellLimitReached(Program &program)
+{
+    program.host.desktop().messageBox(program.language.text(TextLimitReached), 0,
+                                      program.language.text(TextLimitReachedTitle));
+}
+
+QString numbers(const std::vector<qint32> &counters)
+{
+    QStringList texts;
+    for (const qint32 counter : counters)
+        texts << QString::number(counter);
+    return texts.join(u", "_s);
+}
+
+} // namespace
+
+int runDemo(const DemoCommand &command)
+{
+    desktop::TerminalProgress terminal(u"making persons"_s);
+    const demo::DemoHost made =
+        demo::makeDemoHost({command.folder, command.persons, command.seed}, terminal.progress());
+    printLine(u"host folder:     %1\nprogram folder:  %2\nfamily database: %3\npersons:         %4"_s.arg(
+        made.hostFolder, made.programFolder, made.familyDatabase, QString::number(made.persons)));
+    return Done;
+}
+
+int runList(const QString &programFolder, const ListCommand &command)
+{
+    StartedProgram started(programFolder);
+    if (!started.ready)
+        return Failed;
+    desktop::TerminalProgress terminal(u"reading persons"_s);
+    const auto persons = started.program.databases.Familiendatenbank->openQuery(command.query, terminal.progress());
+    const int counter = persons->fieldIndex(u"Counter"_s);
+    const int listname = persons->fieldIndex(u"Listname"_s);
+    ListOutput output(command.format, "listname");
+    for (qint64 written = 0; !persons->eof() && written != command.limit; persons->moveNext(), ++written)
+        output.add(persons->integer(counter).value_or(0), persons->text(listname));
+    output.finish();
+    return started.done();
+}
+
+int runMark(const QString &programFolder, const MarkCommand &command)
+{
+    StartedProgram started(programFolder);
+    if (!started.ready)
+        return Failed;
+    data::Datenbankmodul &databases = started.program.databases;
+    desktop::TerminalProgress terminal(command.mark ? u"marking"_s : u"unmarking"_s);
+    std::size_t changed = 0;
+    if (command.query) {
+        const auto from = command.mark ? selection::PersonList::Unmarked : selection::PersonList::Marked;
+        changed =
+            databases.Familiendatenbank->execute(selection::markAllStatement(from, *command.query), terminal.progress())
+                .changedKeys.size();
+    } else {
+        const auto unknown = selection::unknownPersons(databases, command.counters);
+        if (!unknown.empty()) {
+            desktop::writeError(u"%1: no person with Counter %2; nothing was changed"_s.arg(
+                databases.Familiendatenbank->file(), numbers(unknown)));
+            return Failed;
+        }
+        const auto result =
+            selection::markPersons(databases, command.counters, command.mark, command.relatives, terminal.progress());
+        changed = result.changed.size();
+        if (result.limitReached)
+            tellLimitReached(started.program);
+    }
+    printLine(u"%1 rows changed"_s.arg(changed));
+    return started.done();
+}
+
+int runAges(const QString &programFolder, const AgesCommand &command)
+{
+    StartedProgram started(programFolder);
+    if (!started.ready)
+        return Failed;
+    desktop::TerminalProgress terminal(u"computing ages"_s);
+    statistics::Altersliste list;
+    statistics::alterslistenausgabe(started.program.databases, command.sex, list, terminal.progress());
+    ListOutput output(command.format, "line");
+    for (const statistics::Alterszeile &line : list)
+        output.add(line.Counter, line.text);
+    output.finish();
+    return started.done();
+}
+
+} // namespace kalvenor::app

@@ -1,0 +1,165 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/commands/reportcommand.h"
+
+#include "app/start/startedprogram.h"
+#include "platform/print/pdfwriter.h"
+#include "report/composition/bericht.h"
+#include "selection/templates/vorlageoeffnen.h"
+#include "statistics/figures/grafikbild.h"
+#include "statistics/options/statisticsoptions.h"
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::app {
+
+namespace {
+
+QString toText(const std::string &word)
+{
+    return QString::fromLocal8Bit(word.data(), static_cast<qsizetype>(word.size()));
+}
+
+QString absoluteNative(const std::string &word)
+{
+    return QDir::cleanPath(QDir::current().absoluteFilePath(toText(word)));
+}
+
+QString endingOf(const std::string &word)
+{
+    return QFileInfo(toText(word)).suffix().toLower();
+}
+
+std::string fileComplaint(const std::string &word)
+{
+    const bool known = QStringList{"pdf", "rtf", "html"}.contains(endingOf(word));
+    return known ? std::string() : "the report's file name must end in .pdf, .rtf or .html: " + word;
+}
+
+std::string typeComplaint(const std::string &word)
+{
+    bool isNumber = false;
+    const int number = toText(word).toInt(&isNumber);
+    return isNumber && statistics::grafiktyp(number) ? std::string()
+                                                     : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
+}
+
+QByteArray readFile(const QString &nativeFile)
+{
+    QFile file(nativeFile);
+    if (!file.open(QIODevice::ReadOnly))
+        throw basic::Error(basic::ErrorKind::FileUnreadable, nativeFile,
+                           u"The introduction cannot be read: %1."_s.arg(file.errorString()));
+    return file.readAll();
+}
+
+} // namespace
+
+/// What the report shows, from the settings, the template and the options, in this order.
+struct ReportCommand::Shown {
+    QString title;
+    QByteArray rtf;
+    chart::ChartType type;
+    bool legend;
+    statistics::Grafikwahl wahl;
+};
+
+void ReportCommand::addTo(CLI::App &app, const std::function<void(CLI::App *)> &addCommon)
+{
+    m_report = app.add_subcommand("report", "Writes the report of the marked persons");
+    addCommon(m_report);
+    m_report->add_option("--title", m_title, "The report's title")->type_name("T");
+    m_report->add_option("--intro", m_intro, "The introductory text, a file")->type_name("F.rtf");
+    m_report->add_option("--template", m_template, "Opens this template first, as `template open` does")
+        ->type_name("F.kvl");
+    m_report->add_option("--by", m_by, "Century of birth or of death")
+        ->check(CLI::IsMember({"birth", "death"}).description(""))
+        ->type_name("birth|death");
+    m_report->add_option("--type", m_type, "Type of the chart: 0-9, 14 or 16")->check(typeComplaint)->type_name("N");
+    m_report->add_flag("--no-legend", m_noLegend, "The chart has no legend");
+    m_report->add_flag("--archive", m_archive, "Writes the PDF as PDF/A-1b, for keeping");
+    m_report->add_option("--output", m_output, "The file to write")
+        ->required()
+        ->check(fileComplaint)
+        ->type_name("F.pdf|F.rtf|F.html");
+}
+
+void ReportCommand::apply(Shown &shown, const statistics::GeschlechtAlter &sex) const
+{
+    if (given("--title"))
+        shown.title = toText(m_title);
+    if (given("--intro"))
+        shown.rtf = readFile(absoluteNative(m_intro));
+    if (given("--type"))
+        shown.type = static_cast<chart::ChartType>(m_type);
+    if (given("--by"))
+        shown.wahl.nachGeburtsjahr = m_by == "birth";
+    if (given("--sex"))
+        shown.wahl.geschlechtalter = sex;
+    if (m_noLegend)
+        shown.legend = false;
+}
+
+int ReportCommand::run(const QString &programFolder, const statistics::GeschlechtAlter &sex) const
+{
+    StartedProgram started(programFolder);
+    if (!started.ready)
+        return Failed;
+    Program &program = started.program;
+    desktop::TerminalProgress terminal(u"composing the report"_s);
+
+    statistics::StatisticsOptions options;
+    Shown shown{{}, {}, options.type(), true, {sex, true}};
+    if (!m_template.empty()) {
+        const selection::OpenedVorlage opened =
+            selection::vorlageoeffnen({program.host, program.language, program.databases},
+                                      basic::windowsPath(absoluteNative(m_template)), terminal.progress());
+        options.grafiktyp = opened.vorlage.grafiktyp;
+        shown = {opened.vorlage.titel,
+                 opened.vorlage.rtf,
+                 options.type(),
+                 opened.vorlage.legende == 1,
+                 {opened.vorlage.geschlechtalter, opened.vorlage.nachGeburtsjahr}};
+    }
+    apply(shown, sex);
+
+    statistics::Altersliste list;
+    statistics::alterslistenausgabe(program.databases, shown.wahl.geschlechtalter, list, terminal.progress());
+    const statistics::Grafikzahlen figures =
+        statistics::grafikermitteln(program.databases, shown.wahl, terminal.progress());
+    chart::ChartLook look =
+        statistics::grafiklook(program.language, program.host, shown.type, shown.legend, shown.wahl.nachGeburtsjahr);
+    look.emptyText = statistics::leererText(program.language, figures.zahlen);
+
+    print::PrintControl print;
+    report::Bericht bericht({program.host, program.language, program.databases, print});
+    bericht.hintShown(); // it is about the window
+    const QString output = absoluteNative(m_output);
+    const QString ending = endingOf(m_output);
+    if (ending != u"pdf") {
+        print.exportFormat = ending == u"rtf" ? print::ExportFormat::Rtf : print::ExportFormat::Html;
+        print.exportFile = basic::windowsPath(output);
+    }
+    bericht.auswahldrucken({.titel = shown.title,
+                            .rtf = shown.rtf,
+                            .list = list,
+                            .figures = figures,
+                            .look = look,
+                            .criteria = {.nachGeburtsjahr = shown.wahl.nachGeburtsjahr}},
+                           terminal.progress());
+    const QString persons = QString::number(list.size());
+    if (ending == u"pdf") {
+        print::writePdf(*print.layout(), print.document().title, output, terminal.progress(),
+                        m_archive ? print::PdfKind::Archive : print::PdfKind::Plain);
+        printLine(
+            u"%1: %2 persons on %3 pages"_s.arg(output, persons, QString::number(print.layout()->pages().size())));
+    } else {
+        printLine(u"%1: %2 persons"_s.arg(program.host.native(print.exportFile), persons));
+    }
+    return started.done();
+}
+
+} // namespace kalvenor::app

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "statistics/ages/altersliste.h"
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <QString>
+#include <string>
+
+namespace kalvenor::app {
+
+/// The command `report`: the same report as from the window, as PDF, RTF or HTML.
+class ReportCommand {
+public:
+    /// `addCommon` adds the options that several commands share: --program, --sex.
+    void addTo(CLI::App &app, const std::function<void(CLI::App *)> &addCommon);
+    bool parsed() const { return m_report->parsed(); }
+    /// Returns the exit code; errors of the engine go to the caller. Needs a QApplication.
+    int run(const QString &programFolder, const statistics::GeschlechtAlter &sex) const;
+
+private:
+    struct Shown;
+    void apply(Shown &shown, const statistics::GeschlechtAlter &sex) const;
+    bool given(const char *option) const { return m_report->count(option) > 0; }
+
+    CLI::App *m_report = nullptr;
+    std::string m_title, m_intro, m_template, m_by, m_output;
+    int m_type = 0;
+    bool m_noLegend = false;
+    bool m_archive = false;
+};
+
+} // namespace kalvenor::app

@@ -1,0 +1,353 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/auswahl.h"
+
+#include "app/window/helpwindow.h"
+#include "app/window/mainactions.h"
+#include "app/window/windowstate.h"
+#include "language/about/infoform.h"
+#include "language/forms/widgetform.h"
+#include "language/progress/progresspanel.h"
+#include "selection/filter/filterpanel.h"
+#include "selection/panel/personlistpanel.h"
+#include "selection/panel/selectionpanel.h"
+#include "statistics/panel/statisticspanel.h"
+#include <QAction>
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QTimer>
+#include <QToolBar>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::app {
+
+using selection::PersonList;
+
+namespace {
+
+constexpr int SayMs = 8000;
+constexpr int SayUntilNext = 0;
+const QString ListsKey = u"Listen"_s;
+const QString PanelsKey = u"Teiler"_s;
+
+} // namespace
+
+Auswahl::Auswahl(Program &program, QWidget *parent)
+    : QMainWindow(parent), m_program(program), m_work(program.host.desktop()),
+      m_controller({program.host, program.language, program.databases, m_work}),
+      m_statistics({program.host, program.language, program.databases, m_work}),
+      m_selection(new selection::SelectionPanel(m_controller, this)),
+      m_statisticsPanel(new statistics::StatisticsPanel(m_statistics, this)),
+      m_templates({program, m_work, m_controller, m_statistics, *m_statisticsPanel}, this),
+      m_family({program, m_work, m_controller, m_statistics, m_templates}, this),
+      m_report({program, m_work, m_controller, *m_selection, m_statistics, *m_statisticsPanel}),
+      m_splitter(new QSplitter(this)), m_actions(std::make_unique<MainActions>(*this)), m_panels(*statusBar(), m_work)
+{
+    setObjectName(u"Auswahl"_s);
+    language::setDesignText(this, u"20000Altersstatistik"_s);
+    m_splitter->setObjectName(u"Teiler"_s);
+    setAcceptDrops(true);
+    m_splitter->setChildrenCollapsible(false);
+    m_splitter->addWidget(m_selection);
+    m_splitter->addWidget(m_statisticsPanel);
+    m_splitter->setStretchFactor(0, 1);
+    m_splitter->setStretchFactor(1, 1);
+    setCentralWidget(m_splitter);
+    connectActions();
+    language::formuebersetzen(*this, program.language, program.host);
+    unsetCursor();
+    updateTitle();
+    m_panels.update(program, m_controller);
+
+    m_controller.reloadLists();
+    m_selection->listPanel(PersonList::Unmarked).view().setFocus();
+    resize(1240, 720);
+    restoreWindow(*this, program.host);
+    restoreSplitter(m_selection->listSplitter(), ListsKey, program.host);
+    restoreSplitter(*m_splitter, PanelsKey, program.host);
+}
+
+Auswahl::~Auswahl() = default;
+
+QString Auswahl::text(qint16 id, const QString &germanText)
+{
+    return language::shownText(m_program.language, id, germanText);
+}
+
+void Auswahl::connectActions()
+{
+    using selection::SelectionController;
+    const MainActions &actions = *m_actions;
+    const auto on = [this](QAction *action, auto slot) {
+        connect(action, &QAction::triggered, this, slot);
+    };
+    on(actions.quit, [this] { close(); });
+    on(actions.undo, [this] { m_controller.undo(); });
+    on(actions.redo, [this] { m_controller.redo(); });
+    on(actions.copy, [this] { m_selection->copyNames(); });
+    on(actions.selectAll, [this] { m_selection->selectAllPersons(); });
+    on(actions.mark, [this] { m_selection->moveSelected(PersonList::Unmarked); });
+    on(actions.unmark, [this] { m_selection->moveSelected(PersonList::Marked); });
+    on(actions.markAll, [this] { m_selection->moveAll(PersonList::Unmarked); });
+    on(actions.unmarkAll, [this] { m_selection->moveAll(PersonList::Marked); });
+    on(actions.reload, [this] { m_controller.reloadLists(); });
+    on(actions.find, [this] {
+        m_actions->showFilter->setChecked(true);
+        m_selection->filterPanel().focusName();
+    });
+    on(actions.shortcuts, [this] { showShortcuts(); });
+    connect(actions.showTools, &QAction::toggled, actions.tools, &QWidget::setVisible);
+    connect(actions.showStatus, &QAction::toggled, statusBar(), &QWidget::setVisible);
+    connect(actions.showFilter, &QAction::toggled, &m_selection->filterPanel(), &QWidget::setVisible);
+    for (QAction *action : {actions.copy, actions.selectAll, actions.mark, actions.unmark})
+        m_selection->addListAction(action);
+
+    const auto progress = [this](const QString &what) {
+        m_progressText = what;
+        say(what, SayUntilNext);
+    };
+    connect(&m_work, &desktop::Work::began, this, progress);
+    connect(&m_work, &desktop::Work::announced, this, progress);
+    connect(&m_work, &desktop::Work::ended, this, [this] {
+        if (statusBar()->currentMessage() == m_progressText)
+            statusBar()->clearMessage();
+        if (m_closing)
+            QTimer::singleShot(0, this, &QWidget::close);
+    });
+    connect(&m_controller, &SelectionController::said, this, [this](const QString &what) { say(what, SayMs); });
+    connect(m_selection, &selection::SelectionPanel::said, this, [this](const QString &what) { say(what, SayMs); });
+    connect(&m_controller, &SelectionController::filterRefused, this,
+            [this](const QString &why) { say(why, SayUntilNext); });
+    connect(&m_controller, &SelectionController::changed, this, &Auswahl::updateState);
+    connect(m_selection, &selection::SelectionPanel::selectionChanged, this, &Auswahl::updateState);
+    connectStatistic();
+}
+
+void Auswahl::connectStatistic()
+{
+    using selection::SelectionController;
+    using statistics::StatisticsPanel;
+    const MainActions &actions = *m_actions;
+    const auto on = [this](QAction *action, auto slot) {
+        connect(action, &QAction::triggered, this, slot);
+    };
+    const std::array<QAction *, 3> tabs{actions.introduction, actions.chart, actions.ageList};
+    for (std::size_t i = 0; i < tabs.size(); ++i)
+        on(tabs[i], [this, i] { m_statisticsPanel->showTab(static_cast<StatisticsPanel::Tab>(i)); });
+    on(actions.openTemplate, [this] { m_templates.open(); });
+    on(actions.saveTemplate, [this] { m_templates.save(); });
+    on(actions.saveTemplateAs, [this] { m_templates.saveAs(); });
+    on(actions.reset, [this] { m_templates.reset(); });
+    on(actions.database, [this] { m_family.choose(); });
+    on(actions.preview, [this] { m_report.auswahldrucken(); });
+    on(actions.print, [this] { m_report.run(u"drucker"_s); });
+    on(actions.exportFile, [this] { m_report.run(u"save"_s); });
+    on(actions.settings, [this] { m_report.init(); });
+    on(actions.manual, [this] { panelaufruf(u"Hilfe"_s); });
+    on(actions.about, [this] {
+        language::Infoform form(m_program.host, m_program.language, m_program.events, this);
+        m_program.host.desktop().runDialog(form);
+    });
+    connect(actions.recent, &QMenu::aboutToShow, this, &Auswahl::fillRecent);
+
+    const auto saySome = [this](const QString &what) {
+        say(what, SayMs);
+    };
+    connect(&m_controller, &SelectionController::personsChanged, m_statisticsPanel, &StatisticsPanel::personsChanged);
+    connect(m_statisticsPanel, &StatisticsPanel::said, this, saySome);
+    connect(m_statisticsPanel, &StatisticsPanel::personWanted, this, &Auswahl::showMarkedPerson);
+    connect(m_statisticsPanel, &StatisticsPanel::edited, this, &Auswahl::updateTitle);
+    connect(&m_report, &ReportDesk::said, this, saySome);
+    connect(&m_templates, &TemplateDesk::said, this, saySome);
+    connect(&m_templates, &TemplateDesk::currentChanged, this, &Auswahl::updateTitle);
+    connect(&m_templates, &TemplateDesk::reopened, &m_report, &ReportDesk::forget);
+    connect(&m_family, &FamilyDesk::said, this, saySome);
+}
+
+/// Which template is current, and whether title or introduction still want saving.
+void Auswahl::updateTitle()
+{
+    const QString &current = m_templates.current();
+    const bool modified = m_templates.isModified();
+    m_actions->reset->setEnabled(m_templates.canReset());
+    const QString name = text(20000, u"Altersstatistik"_s);
+    setWindowTitle(current.isEmpty() ? u"%1[*]"_s.arg(name) : u"%1[*] – %2"_s.arg(QFileInfo(current).fileName(), name));
+    setWindowModified(modified);
+}
+
+void Auswahl::fillRecent()
+{
+    QMenu &menu = *m_actions->recent;
+    menu.clear();
+    const QStringList files = m_templates.recent();
+    for (const QString &file : files) {
+        QAction *entry = menu.addAction(QFileInfo(file).fileName());
+        entry->setStatusTip(file);
+        entry->setToolTip(file);
+        connect(entry, &QAction::triggered, this, [this, file] {
+            if (m_templates.mayDiscard())
+                m_templates.openFile(file);
+        });
+    }
+    if (files.isEmpty())
+        menu.addAction(text(21410, u"Keine Vorlage"_s))->setEnabled(false);
+}
+
+void Auswahl::panelaufruf(const QString &thema)
+{
+    if (!m_help)
+        m_help = std::make_unique<HelpWindow>(m_program.language, m_program.host);
+    m_help->showTopic(thema);
+}
+
+namespace {
+
+/// The template that is dragged, a native path; else "".
+QString draggedTemplate(const QMimeData &data)
+{
+    const QList<QUrl> urls = data.urls();
+    if (urls.size() != 1 || !urls.first().isLocalFile())
+        return {};
+    const QString file = urls.first().toLocalFile();
+    return file.endsWith(u".kvl", Qt::CaseInsensitive) ? file : QString();
+}
+
+} // namespace
+
+void Auswahl::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!draggedTemplate(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void Auswahl::dropEvent(QDropEvent *event)
+{
+    const QString file = draggedTemplate(*event->mimeData());
+    if (file.isEmpty())
+        return;
+    event->acceptProposedAction();
+    // The program that it was dragged from waits for an answer.
+    QTimer::singleShot(0, this, [this, file] {
+        if (m_templates.mayDiscard())
+            m_templates.openFile(file);
+    });
+}
+
+void Auswahl::showMarkedPerson(qint32 counter)
+{
+    dao::Recordset &persons = *m_program.databases.Datentabelle;
+    try {
+        persons.seekEqual(counter);
+        // The statistic may have seen what another program changed before the lists did.
+        if (m_controller.isFiltered(PersonList::Marked) ||
+            persons.table() != m_controller.model(PersonList::Marked).table()) {
+            m_controller.reloadPlain(PersonList::Marked);
+            persons.seekEqual(counter);
+        }
+        if (persons.noMatch() || persons.table() != m_controller.model(PersonList::Marked).table())
+            return;
+        selection::PersonListView &view = m_selection->listPanel(PersonList::Marked).view();
+        view.selectTableRows({static_cast<quint32>(persons.position())});
+        view.setFocus();
+    } catch (const basic::Error &error) {
+        m_program.host.desktop().messageBox(error.message(), desktop::MessageCritical, text(21020, u"Fehler"_s));
+    }
+}
+
+void Auswahl::say(const QString &what, int milliseconds)
+{
+    statusBar()->showMessage(what, milliseconds);
+}
+
+void Auswahl::updateState()
+{
+    const MainActions &actions = *m_actions;
+    const auto count = [this](PersonList list) {
+        return m_controller.model(list).rowCount();
+    };
+    actions.undo->setEnabled(m_controller.canUndo());
+    actions.redo->setEnabled(m_controller.canRedo());
+    actions.mark->setEnabled(m_selection->hasSelection(PersonList::Unmarked));
+    actions.unmark->setEnabled(m_selection->hasSelection(PersonList::Marked));
+    actions.markAll->setEnabled(count(PersonList::Unmarked) > 0);
+    actions.unmarkAll->setEnabled(count(PersonList::Marked) > 0);
+    m_panels.update(m_program, m_controller);
+}
+
+void Auswahl::showShortcuts()
+{
+    QString rows;
+    for (const QAction *action : m_actions->all) {
+        if (action->shortcut().isEmpty())
+            continue;
+        rows += u"<tr><td>%1&nbsp;&nbsp;&nbsp;</td><td>%2</td></tr>"_s.arg(
+            action->shortcut().toString(QKeySequence::NativeText).toHtmlEscaped(),
+            QString(action->text()).remove(u'&').toHtmlEscaped());
+    }
+    QMessageBox box(
+        QMessageBox::NoIcon, text(21311, u"Tastenkürzel"_s),
+        u"<table>%1</table><p>%2</p>"_s.arg(rows, text(20023, u"Doppelklick, Eingabetaste oder Ziehen verschiebt "
+                                                              "Personen in die andere Liste."_s)
+                                                      .toHtmlEscaped()),
+        QMessageBox::Ok, this);
+    box.setTextFormat(Qt::RichText);
+    m_program.host.desktop().runDialog(box);
+}
+
+void Auswahl::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    if (!m_shown && m_program.host.staysOnTop()) {
+        m_shown = true;
+        m_program.host.fensteroben(windowHandle(), -1, true);
+    }
+}
+
+void Auswahl::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    // Some file systems tell nobody of a change; coming back to the window is when it matters.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && !m_work.isRunning() && !m_closed)
+        m_controller.lookForChanges();
+}
+
+void Auswahl::closeEvent(QCloseEvent *event)
+{
+    if (m_work.isRunning()) {
+        m_closing = true;
+        m_work.cancel();
+        event->ignore();
+        return;
+    }
+    m_closing = false;
+    // A preview that shows a message stays open.
+    if (!m_closed && (!m_templates.mayDiscard() || !m_report.closePreview())) {
+        event->ignore();
+        return;
+    }
+    if (!m_closed) {
+        m_closed = true;
+        m_help.reset();
+        saveWindow(*this, m_program.host);
+        saveSplitter(m_selection->listSplitter(), ListsKey, m_program.host);
+        saveSplitter(*m_splitter, PanelsKey, m_program.host);
+        statistics::writeOptions(m_program.host, m_statisticsPanel->options());
+        m_controller.release();
+        try {
+            m_program.language.datenbankenschliessen({});
+        } catch (const basic::Error &error) {
+            m_program.host.desktop().runtimeError(error);
+        }
+    }
+    event->accept();
+}
+
+} // namespace kalvenor::app

@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/start/program.h"
+#include "app/window/familydesk.h"
+#include "app/window/reportdesk.h"
+#include "app/window/statuspanels.h"
+#include "app/window/templatedesk.h"
+#include "platform/desktop/work.h"
+#include "selection/panel/selectioncontroller.h"
+#include "statistics/panel/statisticscontroller.h"
+#include <QMainWindow>
+
+class QSplitter;
+
+namespace kalvenor::selection {
+class SelectionPanel;
+}
+namespace kalvenor::statistics {
+class StatisticsPanel;
+}
+
+namespace kalvenor::app {
+
+class HelpWindow;
+struct MainActions;
+
+/// The main window: a frame around the panels, with menus, tool bar and status bar. Closing it closes all databases;
+/// while work is running, the work is cancelled first, and what is not saved is asked for. The preview calls its slots
+/// by their names.
+class Auswahl : public QMainWindow {
+    Q_OBJECT
+public:
+    /// Loads the lists. Errors are shown, the window is there in any case.
+    explicit Auswahl(Program &program, QWidget *parent = nullptr);
+    ~Auswahl() override;
+
+    selection::SelectionController &controller() { return m_controller; }
+    selection::SelectionPanel &selectionPanel() { return *m_selection; }
+    statistics::StatisticsController &statisticsController() { return m_statistics; }
+    statistics::StatisticsPanel &statisticsPanel() { return *m_statisticsPanel; }
+    TemplateDesk &templates() { return m_templates; }
+    FamilyDesk &family() { return m_family; }
+    ReportDesk &report() { return m_report; }
+
+public Q_SLOTS:
+    void auswahldrucken() { m_report.auswahldrucken(); }
+    void initladen() { m_report.initladen(); }
+    void initspeichern() { m_report.initspeichern(); }
+    void init() { m_report.init(); }
+    /// The manual, at the chapter with this name.
+    void panelaufruf(const QString &thema);
+    void vorlageoeffnen(const QString &nativeFile) { m_templates.openFile(nativeFile); }
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    void connectActions();
+    void updateState();
+    void say(const QString &text, int milliseconds);
+    void showShortcuts();
+    void showMarkedPerson(qint32 counter);
+    void connectStatistic();
+    void fillRecent();
+    void updateTitle();
+    QString text(qint16 id, const QString &germanText);
+
+    Program &m_program;
+    desktop::Work m_work;
+    selection::SelectionController m_controller;
+    statistics::StatisticsController m_statistics;
+    selection::SelectionPanel *m_selection;
+    statistics::StatisticsPanel *m_statisticsPanel;
+    TemplateDesk m_templates;
+    FamilyDesk m_family;
+    ReportDesk m_report;
+    QSplitter *m_splitter;
+    std::unique_ptr<MainActions> m_actions;
+    StatusPanels m_panels;
+    std::unique_ptr<HelpWindow> m_help; ///< from the first call on
+    QString m_progressText;             ///< in the status bar while work runs
+    bool m_closing = false;             ///< as soon as the running work has ended
+    bool m_closed = false;
+    bool m_shown = false;
+};
+
+} // namespace kalvenor::app

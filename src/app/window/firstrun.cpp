@@ -1,0 +1,293 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/firstrun.h"
+
+#include "app/start/databasefault.h"
+#include "app/start/lastfolder.h"
+#include "demo/host/demohost.h"
+#include "demo/texts/texts.h"
+#include "language/forms/widgetform.h"
+#include "language/progress/progresspanel.h"
+#include "platform/desktop/appicon.h"
+#include "platform/desktop/terminal.h"
+#include <new>
+#include <QCommandLinkButton>
+#include <QDir>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::app {
+
+namespace {
+
+constexpr int PictureSide = 48;
+constexpr int TextWidth = 460;
+const QString OwnFolder = u"/Kalvenor"_s;
+
+/// A path may be broken behind each folder, so that it fits the dialog.
+QString breakable(QString text)
+{
+    const QChar zeroWidthSpace(0x200B);
+    return text.replace(u'/', QString(u'/') + zeroWidthSpace).replace(u'\\', QString(u'\\') + zeroWidthSpace);
+}
+
+QLabel *makeLabel(const char *name, QWidget *parent)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setMinimumWidth(TextWidth);
+    return label;
+}
+
+const QString German = u"Deutsch"_s;
+const QString English = u"English"_s;
+
+bool isGerman(const host::Host &host)
+{
+    return language::anzeigesprache(host).language() == QLocale::German;
+}
+
+QVariant englishText(qint16 id)
+{
+    for (const auto texts : {demo::windowTexts(), demo::messageTexts()}) {
+        for (const demo::LanguageText &text : texts) {
+            if (text.id == id)
+                return QString::fromUtf16(text.english);
+        }
+    }
+    return {};
+}
+
+/// Without a language database the design texts would be German for everybody; without a host nobody has said which
+/// language they read, but the system.
+void speakWithoutHost(Program &program)
+{
+    host::Host &host = program.host;
+    if (!hasHost(host.native(host.programFolder())))
+        host.Sprache = QLocale::system().language() == QLocale::German ? German : English;
+    if (!isGerman(host))
+        program.language.setSpareTexts(englishText);
+}
+
+} // namespace
+
+StartProblem startProblem(Program &program, const std::optional<basic::Error> &error)
+{
+    const host::Host &host = program.host;
+    const auto text = [&program](qint16 id, const char *german) {
+        return language::shownText(program.language, id, QString::fromUtf8(german));
+    };
+    if (!hasHost(host.native(host.programFolder())))
+        return {.text = text(21201, "Kalvenor wird aus einem Ordner unterhalb des Hauptprogramms gestartet. Hier wurde "
+                                    "kein Hauptprogramm gefunden."),
+                .details = text(21218, "In %1 liegt kein Hauptprogramm: Dort fehlt programm.ini.")
+                               .arg(host.native(host.Hostverzeichnis)),
+                .noHost = true};
+    const QString &family = host.Familienpfad;
+    const QString settings = host.native(host.hostSettingsFile());
+    if (error) {
+        const bool inFamily = error->place() == host.native(family) && !family.isEmpty();
+        return {.text = databaseFault(program, *error, family),
+                .details = error->message(),
+                .anotherFamilyHelps = inFamily};
+    }
+    if (family.isEmpty())
+        return {.text = host.dir(host.hostSettingsFile()).isEmpty()
+                            ? text(21215, "Die Einstellungen des Hauptprogramms fehlen: %1").arg(settings)
+                            : text(21219, "In %1 ist keine Familiendatenbank genannt.").arg(settings),
+                .anotherFamilyHelps = true};
+    return {.text =
+                databaseFault(program, basic::Error(basic::ErrorKind::FileNotFound, host.native(family), {}), family),
+            .anotherFamilyHelps = true};
+}
+
+FirstRun::FirstRun(Program &program, const StartProblem &problem, QWidget *parent)
+    : QDialog(parent), m_program(program), m_work(program.host.desktop()), m_problem(makeLabel("Problem", this)),
+      m_details(makeLabel("Einzelheiten", this))
+{
+    setObjectName(u"Ersterstart"_s);
+    language::setDesignText(this, problem.noHost ? u"21200Willkommen"_s : u"20000Altersstatistik"_s);
+    setWindowIcon(desktop::applicationIcon());
+    build(problem);
+    language::formuebersetzen(*this, program.language, program.host);
+    unsetCursor();
+    showProblem(problem.text, problem.details);
+}
+
+QString FirstRun::text(qint16 id, const QString &germanText) const
+{
+    return language::shownText(m_program.language, id, germanText);
+}
+
+void FirstRun::build(const StartProblem &problem)
+{
+    auto *picture = new QLabel(this);
+    picture->setPixmap(windowIcon().pixmap(QSize(PictureSide, PictureSide), devicePixelRatioF()));
+    auto *column = new QVBoxLayout;
+    column->addWidget(m_problem);
+    column->addWidget(m_details);
+    column->addSpacing(8);
+    const auto addWay = [&](const char *name, const char *caption, const QString &description, auto slot) {
+        auto *button = new QCommandLinkButton(this);
+        button->setObjectName(QLatin1String(name));
+        button->setDescription(description);
+        language::setDesignText(button, QString::fromUtf8(caption));
+        connect(button, &QPushButton::clicked, this, slot);
+        column->addWidget(button);
+        return button;
+    };
+    auto *family =
+        addWay("Familiewaehlen", "21202Familiendatenbank wählen ...",
+               text(21222, u"Nur für diesmal; das Hauptprogramm behält seine eigene"_s), &FirstRun::chooseFamily);
+    auto *host = addWay("Hostwaehlen", "21217Ordner des Hauptprogramms wählen ...",
+                        text(21221, u"Der Ordner, in dem programm.ini liegt"_s), &FirstRun::chooseHost);
+    addWay("Beispieldaten", "21203Beispieldaten anlegen ...",
+           text(21223, u"Ein Hauptprogramm mit einer erfundenen Familie, zum Ausprobieren"_s),
+           &FirstRun::makeDemonstration);
+    family->setVisible(problem.anotherFamilyHelps);
+    QPushButton *first = problem.anotherFamilyHelps ? family : host;
+    first->setDefault(true);
+    first->setFocus();
+
+    auto *quit = new QPushButton(this);
+    quit->setObjectName(u"Beenden"_s);
+    language::setDesignText(quit, u"21204Beenden"_s);
+    quit->setAutoDefault(false);
+    connect(quit, &QPushButton::clicked, this, &FirstRun::reject);
+    auto *bottom = new QHBoxLayout;
+    bottom->addWidget(new language::ProgressPanel(m_work, this));
+    bottom->addStretch();
+    bottom->addWidget(quit);
+
+    auto *top = new QHBoxLayout;
+    top->setSpacing(18);
+    top->addWidget(picture, 0, Qt::AlignTop);
+    top->addLayout(column, 1);
+    auto *all = new QVBoxLayout(this);
+    all->setContentsMargins(18, 18, 18, 14);
+    all->setSpacing(12);
+    all->addLayout(top, 1);
+    all->addLayout(bottom);
+}
+
+void FirstRun::showProblem(const QString &what, const QString &details)
+{
+    m_problem->setText(breakable(what));
+    m_details->setText(breakable(details));
+    m_details->setVisible(!details.isEmpty() && details != what);
+}
+
+void FirstRun::leadOn(const StartPlace &place)
+{
+    m_place = place;
+    accept();
+}
+
+void FirstRun::reject()
+{
+    if (m_work.isRunning())
+        m_work.cancel();
+    else
+        QDialog::reject();
+}
+
+void FirstRun::chooseFamily()
+{
+    const host::Host &host = m_program.host;
+    const QString former = host.Familienpfad.isEmpty() ? host.Hostverzeichnis : host.Familienpfad;
+    const QString file = host.desktop().openFileName(this, {.title = text(21214, u"Familiendatenbank öffnen"_s),
+                                                            .folder = QFileInfo(host.native(former)).absolutePath(),
+                                                            .filters = text(21213, u"Familiendatenbanken (*.mdb)"_s)});
+    if (!file.isEmpty())
+        leadOn({host.programFolder(), host.windows(file)});
+}
+
+void FirstRun::chooseHost()
+{
+    const QString folder =
+        m_program.host.desktop().chooseFolder(this, {.title = text(21221, u"Der Ordner, in dem programm.ini liegt"_s),
+                                                     .folder = m_program.host.native(m_program.host.Hostverzeichnis)});
+    if (folder.isEmpty())
+        return;
+    // The program's own folder, or the one in which demonstration data were made, are as good an answer.
+    for (const QString &own : {folder + OwnFolder, folder, folder + u"/QV"_s + OwnFolder}) {
+        if (!hasHost(own))
+            continue;
+        QDir().mkpath(own); // without it print settings are not kept; that hinders nothing here
+        leadOn({basic::windowsPath(own)});
+        return;
+    }
+    showProblem(text(21218, u"In %1 liegt kein Hauptprogramm: Dort fehlt programm.ini."_s).arg(folder), {});
+}
+
+void FirstRun::makeDemonstration()
+{
+    const QString title = text(21209, u"Ordner für die Beispieldaten wählen"_s);
+    const QString folder = m_program.host.desktop().chooseFolder(this, {.title = title, .folder = QDir::homePath()});
+    if (folder.isEmpty())
+        return;
+    demo::DemoHost made;
+    QString failure;
+    try {
+        showProblem(text(21211, u"Die Beispieldaten werden angelegt ..."_s), {});
+        if (!m_work.run(
+                {}, [&](const basic::Progress &progress) { made = demo::makeDemoHost({.folder = folder}, progress); }))
+            return;
+    } catch (const basic::Error &error) {
+        failure = error.kind() == basic::ErrorKind::Cancelled ? text(20348, u"Abgebrochen"_s) : error.message();
+    } catch (const std::bad_alloc &) {
+        failure = u"There is not enough memory for this."_s;
+    }
+    if (!failure.isEmpty()) {
+        showProblem(failure, {});
+        return;
+    }
+    const host::Host &host = m_program.host;
+    if (!isGerman(host))
+        host.inischreiben(basic::windowsPath(made.hostFolder) + u"\\programm.ini"_s, u"Ansicht"_s, u"Sprache"_s,
+                          English);
+    host.desktop().messageBox(text(21212, u"Die Beispieldaten liegen in %1."_s).arg(made.hostFolder), 0, {});
+    leadOn({basic::windowsPath(made.programFolder)});
+}
+
+std::unique_ptr<Program> startProgram(desktop::Desktop &desktop, StartPlace place,
+                                      const std::function<QObject *(Program &)> &showMainWindow,
+                                      const std::function<void(const host::Host &)> &beforeQuestion)
+{
+    for (;;) {
+        auto program = std::make_unique<Program>(place.programFolder, desktop);
+        program->chosenFamily = place.family;
+        std::optional<basic::Error> failure;
+        try {
+            if (program->Main([&] { return showMainWindow(*program); }))
+                return program;
+        } catch (const basic::Error &error) {
+            failure = error;
+        } catch (const std::bad_alloc &) {
+            failure = basic::Error(basic::ErrorKind::Overflow, {}, u"There is not enough memory for this."_s);
+        }
+        speakWithoutHost(*program);
+        if (beforeQuestion)
+            beforeQuestion(program->host);
+        const StartProblem problem = startProblem(*program, failure);
+        // Who has no host yet is welcomed, not met with an error number.
+        if (failure && problem.noHost)
+            desktop::writeError(failure->message());
+        else if (failure)
+            desktop.runtimeError(*failure);
+        FirstRun dialog(*program, problem);
+        if (!desktop.runDialog(dialog))
+            return nullptr;
+        place = dialog.place();
+    }
+}
+
+} // namespace kalvenor::app

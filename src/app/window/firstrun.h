@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/start/program.h"
+#include "platform/desktop/work.h"
+#include <functional>
+#include <memory>
+#include <optional>
+#include <QDialog>
+
+class QLabel;
+
+// What a user meets where the program cannot start: what is missing or wrong, and the ways on from there.
+namespace kalvenor::app {
+
+/// Where a start takes things from; paths in Windows notation.
+struct StartPlace {
+    QString programFolder;
+    QString family = {}; ///< for this run; empty: the one that the host names
+};
+
+/// Why a start ended before there was a window.
+struct StartProblem {
+    QString text;
+    QString details = {};            ///< the technical reason, may be empty
+    bool noHost = false;             ///< nothing of a host lies above the program's folder
+    bool anotherFamilyHelps = false; ///< all else is there
+};
+
+/// `error` is what start-up threw; nothing: it found no family database.
+StartProblem startProblem(Program &program, const std::optional<basic::Error> &error);
+
+/// Says what the problem is. Each button asks for what it needs and accepts the dialog when that leads on; what goes
+/// wrong there takes the place of the problem's text.
+class FirstRun : public QDialog {
+    Q_OBJECT
+public:
+    FirstRun(Program &program, const StartProblem &problem, QWidget *parent = nullptr);
+
+    /// Where to start now, once the dialog was accepted.
+    const StartPlace &place() const { return m_place; }
+
+public Q_SLOTS:
+    /// Cancels running work first.
+    void reject() override;
+
+private:
+    void build(const StartProblem &problem);
+    void chooseHost();
+    void chooseFamily();
+    void makeDemonstration();
+    void leadOn(const StartPlace &place);
+    void showProblem(const QString &text, const QString &details);
+    QString text(qint16 id, const QString &germanText) const;
+
+    Program &m_program;
+    desktop::Work m_work;
+    StartPlace m_place;
+    QLabel *m_problem, *m_details;
+};
+
+/// Starts the program; while that fails it is told as start-up does and the user may choose another way. Nothing where
+/// they gave up. `showMainWindow` is called as by Program::Main, `beforeQuestion` before the user is asked.
+std::unique_ptr<Program> startProgram(desktop::Desktop &desktop, StartPlace place,
+                                      const std::function<QObject *(Program &)> &showMainWindow,
+                                      const std::function<void(const host::Host &)> &beforeQuestion = {});
+
+} // namespace kalvenor::app

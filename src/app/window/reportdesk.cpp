@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/reportdesk.h"
+
+#include "language/forms/form.h"
+#include "language/progress/userwork.h"
+#include "platform/chart/chartcontrol.h"
+#include "selection/filter/filterpanel.h"
+#include "selection/panel/selectioncontroller.h"
+#include "selection/panel/selectionpanel.h"
+#include "settings/dialog/initform.h"
+#include "settings/preview/druckvorschau.h"
+#include "statistics/introduction/texteditor.h"
+#include "statistics/panel/chartpanel.h"
+#include "statistics/panel/statisticspanel.h"
+#include <QApplication>
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::app {
+
+namespace {
+
+/// Of a chart that was not laid out yet, because its tab is not shown.
+constexpr QSize DefaultShape(160, 100);
+
+} // namespace
+
+ReportDesk::ReportDesk(const Parts &parts, QObject *parent)
+    : QObject(parent), m_parts(parts),
+      m_bericht({parts.program.host, parts.program.language, parts.program.databases, m_print})
+{
+}
+
+ReportDesk::~ReportDesk() = default;
+
+QString ReportDesk::text(qint16 id, const QString &germanText) const
+{
+    return language::shownText(m_parts.program.language, id, germanText);
+}
+
+report::ReportContent ReportDesk::content() const
+{
+    statistics::StatisticsPanel &panel = m_parts.panel;
+    const chart::ChartControl &chart = panel.chartPanel().chart();
+    const QSize least = chart.minimumSizeHint();
+    const bool laidOut = chart.width() >= least.width() && chart.height() >= least.height();
+    const auto filtered = [this](selection::PersonList list) {
+        return m_parts.lists.isFiltered(list);
+    };
+    return {
+        .titel = panel.title().text(),
+        .rtf = panel.introduction().rtf(),
+        .list = m_parts.statistics.list(),
+        .figures = m_parts.statistics.figures(),
+        .look = chart.look(),
+        .chartShape = laidOut ? chart.size() : DefaultShape,
+        .criteria = {.filter = m_parts.selection.filterPanel().filter(),
+                     .filtered = filtered(selection::PersonList::Unmarked) || filtered(selection::PersonList::Marked),
+                     .relatives = m_parts.selection.relatives(),
+                     .nachGeburtsjahr = panel.options().nachGeburtsjahr}};
+}
+
+bool ReportDesk::auswahldrucken()
+{
+    const bool toPages = m_print.exportFormat == print::ExportFormat::Pages;
+    if (m_parts.work.isRunning() || !m_parts.panel.computeAll())
+        return false;
+    Program &program = m_parts.program;
+    const bool done = language::runAndTell(
+        m_parts.work, program.host, program.language, text(20349, u"Die Seiten werden zusammengestellt ..."_s),
+        [this](const basic::Progress &progress) { m_bericht.auswahldrucken(content(), progress); },
+        {.said = [this](const QString &end) { Q_EMIT said(end); },
+         .inPlainWords =
+             [this](const basic::Error &error) {
+                 return text(21053, u"Der Bericht konnte nicht erstellt werden: %1"_s).arg(error.message());
+             }});
+    if (done && toPages)
+        showPreview();
+    return done;
+}
+
+void ReportDesk::showPreview()
+{
+    if (m_preview == nullptr)
+        m_preview = std::make_unique<settings::Druckvorschau>(m_parts.program.host, m_parts.program.language, m_print,
+                                                              m_parts.work);
+    m_preview->show();
+    m_preview->raise();
+    m_preview->activateWindow();
+}
+
+void ReportDesk::initspeichern()
+{
+    if (!m_bericht.initspeichern())
+        m_parts.program.host.desktop().messageBox(
+            text(20874, u"Die Einstellungen konnten nicht gespeichert werden: %1"_s)
+                .arg(m_parts.program.host.native(m_parts.program.host.ownSettingsFile())),
+            desktop::MessageCritical, text(21020, u"Fehler"_s));
+}
+
+void ReportDesk::init()
+{
+    settings::Initform form(m_parts.program.host, m_parts.program.language, m_bericht.vorgaben, m_print.page,
+                            QApplication::activeWindow());
+    if (!m_parts.program.host.desktop().runDialog(form))
+        return;
+    m_parts.panel.chartPanel().updateLook(); // the font factor may have changed
+    if (m_preview != nullptr && m_preview->isVisible())
+        auswahldrucken();
+}
+
+void ReportDesk::run(const QString &previewCommand)
+{
+    if (auswahldrucken() && m_preview != nullptr)
+        m_preview->toolbarbuttonclick(previewCommand);
+}
+
+bool ReportDesk::closePreview()
+{
+    return m_preview == nullptr || m_preview->isHidden() || m_preview->close();
+}
+
+void ReportDesk::forget()
+{
+    if (m_parts.work.isRunning())
+        connect(&m_parts.work, &desktop::Work::ended, this, &ReportDesk::closePreview, Qt::SingleShotConnection);
+    else
+        closePreview();
+}
+
+} // namespace kalvenor::app

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/start/program.h"
+#include "platform/desktop/work.h"
+#include "platform/print/printcontrol.h"
+#include "report/composition/bericht.h"
+#include <memory>
+#include <QObject>
+
+namespace kalvenor::selection {
+class SelectionController;
+class SelectionPanel;
+} // namespace kalvenor::selection
+namespace kalvenor::settings {
+class Druckvorschau;
+}
+namespace kalvenor::statistics {
+class StatisticsController;
+class StatisticsPanel;
+} // namespace kalvenor::statistics
+
+namespace kalvenor::app {
+
+/// The report in the main window: composed from what the window shows, seen in the preview, set up in its dialog.
+class ReportDesk : public QObject {
+    Q_OBJECT
+public:
+    struct Parts {
+        Program &program;
+        desktop::Work &work;
+        selection::SelectionController &lists;
+        selection::SelectionPanel &selection;
+        statistics::StatisticsController &statistics;
+        statistics::StatisticsPanel &panel;
+    };
+    explicit ReportDesk(const Parts &parts, QObject *parent = nullptr);
+    ~ReportDesk() override;
+
+    /// Computes list and chart again and composes the report: into the preview, which comes to the front, or into the
+    /// file that the print control names. False where that failed or was cancelled, which was told.
+    bool auswahldrucken();
+    void initladen() { m_bericht.initladen(); }
+    void initspeichern();
+    /// The print settings dialog; what changes is in the preview's pages at once.
+    void init();
+    /// Composes, shows the preview and gives it the command ("drucker", "save").
+    void run(const QString &previewCommand);
+    settings::Druckvorschau *preview() const { return m_preview.get(); }
+    /// False where the preview is busy; it closes as soon as it is not.
+    bool closePreview();
+    /// The persons are others: the preview closes once the running work has ended.
+    void forget();
+
+Q_SIGNALS:
+    void said(const QString &text);
+
+private:
+    QString text(qint16 id, const QString &germanText) const;
+    report::ReportContent content() const;
+    void showPreview();
+
+    Parts m_parts;
+    print::PrintControl m_print;
+    report::Bericht m_bericht;
+    std::unique_ptr<settings::Druckvorschau> m_preview; ///< from the first report on
+};
+
+} // namespace kalvenor::app

@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/start/program.h"
+#include "selection/panel/selectioncontroller.h"
+
+class QLabel;
+class QStatusBar;
+
+namespace kalvenor::app {
+
+/// The panels of the status bar: family database, whether it can be written or is damaged, persons, marked ones.
+class StatusPanels {
+public:
+    /// Their texts are design-time texts.
+    StatusPanels(QStatusBar &bar, desktop::Work &work);
+
+    /// Everything anew.
+    void update(Program &program, selection::SelectionController &lists);
+
+private:
+    QLabel *makePanel(const char *name, const char *tooltip);
+    void makeRoom(const QString &message);
+
+    QStatusBar &m_bar;
+    QLabel *m_database, *m_readOnly, *m_damage, *m_persons, *m_marked;
+};
+
+} // namespace kalvenor::app

@@ -1,0 +1,274 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/window/templatedesk.h"
+
+#include "language/forms/form.h"
+#include "language/progress/userwork.h"
+#include "selection/templates/vorlageoeffnen.h"
+#include "selection/templates/vorlagespeichern.h"
+#include "statistics/introduction/texteditor.h"
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::app {
+
+namespace {
+
+constexpr qsizetype RecentTemplates = 8;
+constexpr qsizetype LongestEntry = 255; // what a profile file gives back
+const QString RecentSection = u"Vorlagen"_s;
+const QString DefaultTemplate = u"\\Standart.kvl"_s;
+const QString Suffix = u"kvl"_s;
+
+/// What is wrong with a template in the user's language, the technical reason behind it; any other error as it is.
+QString inPlainWords(language::Sprachmodul &texts, const basic::Error &error)
+{
+    static const QRegularExpression place(u"^(.+\\.kvl), line (\\d+)$"_s, QRegularExpression::CaseInsensitiveOption);
+    const QRegularExpressionMatch match = place.match(error.place());
+    if (error.kind() != basic::ErrorKind::Damaged || !match.hasMatch())
+        return error.message();
+    const QString file = match.captured(1);
+    const QString line = match.captured(2);
+    const QString plain =
+        line == u"1"
+            ? language::shownText(texts, 21413, u"Das ist keine Vorlage: %1"_s).arg(file)
+            : language::shownText(texts, 21403, u"Die Vorlage ist beschädigt (Zeile %1): %2"_s).arg(line, file);
+    return plain + u"\n\n"_s + error.message();
+}
+
+} // namespace
+
+TemplateDesk::TemplateDesk(const Parts &parts, QObject *parent) : QObject(parent), m_parts(parts), m_saved(values())
+{
+}
+
+QString TemplateDesk::text(qint16 id, const QString &germanText) const
+{
+    return language::shownText(m_parts.program.language, id, germanText);
+}
+
+/// False where the task was not begun, failed or was cancelled; it was told.
+bool TemplateDesk::perform(const QString &what, const desktop::Work::Task &task)
+{
+    Program &program = m_parts.program;
+    return language::runAndTell(m_parts.work, program.host, program.language, what, task,
+                                {.said = [this](const QString &end) { Q_EMIT said(end); },
+                                 .inPlainWords =
+                                     [&program](const basic::Error &error) {
+                                         return inPlainWords(program.language, error);
+                                     }});
+}
+
+selection::Statistikwerte TemplateDesk::values() const
+{
+    const statistics::StatisticsOptions options = m_parts.panel.options();
+    const statistics::TextEditor &introduction = m_parts.panel.introduction();
+    return {.titel = m_parts.panel.title().text(),
+            .rtf = introduction.isEmpty() ? QByteArray() : introduction.rtf(),
+            .grafiktyp = options.grafiktyp,
+            .legende = options.legende ? 1 : 0,
+            .geschlechtalter = options.geschlechtalter,
+            .nachGeburtsjahr = options.nachGeburtsjahr};
+}
+
+void TemplateDesk::show(const selection::Statistikwerte &values)
+{
+    m_parts.panel.title().setText(values.titel);
+    m_parts.panel.introduction().setRtf(values.rtf);
+    m_parts.panel.setOptions({.grafiktyp = values.grafiktyp,
+                              .legende = values.legende == 1,
+                              .geschlechtalter = values.geschlechtalter,
+                              .nachGeburtsjahr = values.nachGeburtsjahr});
+    m_saved = this->values();
+}
+
+bool TemplateDesk::isModified() const
+{
+    const selection::Statistikwerte now = values();
+    return now.titel != m_saved.titel || now.rtf != m_saved.rtf;
+}
+
+bool TemplateDesk::mayDiscard()
+{
+    if (!isModified())
+        return true;
+    switch (m_parts.program.host.desktop().messageBox(
+        text(21407, u"Titel oder Einleitung wurden geändert. Soll die Vorlage gespeichert werden?"_s),
+        desktop::ButtonsYesNoCancel + desktop::MessageQuestion, text(21023, u"Frage"_s))) {
+    case desktop::ResultYes:
+        return save();
+    case desktop::ResultNo:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// Opening
+
+QString TemplateDesk::folder() const
+{
+    return m_current.isEmpty() ? m_parts.program.host.native(m_parts.program.host.programFolder())
+                               : QFileInfo(m_current).absolutePath();
+}
+
+selection::DatabaseServices TemplateDesk::databaseServices()
+{
+    Program &program = m_parts.program;
+    return {.host = program.host,
+            .language = program.language,
+            .databases = program.databases,
+            .closing = [this] { m_parts.lists.release(); },
+            .opened =
+                [this, &program] {
+                    program.events.ereignis_art_laden();
+                    Q_EMIT reopened();
+                }};
+}
+
+void TemplateDesk::open()
+{
+    if (!mayDiscard())
+        return;
+    const QString file = m_parts.program.host.desktop().openFileName(
+        qobject_cast<QWidget *>(parent()),
+        {.title = text(21400, u"Vorlage öffnen"_s), .folder = folder(), .filters = text(21402, u"Vorlagen (*.kvl)"_s)});
+    if (!file.isEmpty())
+        openFile(file);
+}
+
+bool TemplateDesk::openFile(const QString &nativeFile)
+{
+    if (m_parts.work.isRunning()) // a file dropped meanwhile
+        return false;
+    Program &program = m_parts.program;
+    selection::OpenedVorlage opened;
+    const selection::VorlageServices services{
+        .database = databaseServices(), .useOpenDatabase = [this, &program](const QString &database) {
+            const QString question =
+                text(21404, u"Die Vorlage gehört zu einer Datenbank, die nicht vorhanden ist: %1"_s).arg(database);
+            return program.host.desktop().messageBox(question + u"\n\n"_s +
+                                                         text(21405, u"Mit der geöffneten Datenbank öffnen"_s) + u'?',
+                                                     desktop::ButtonsOkCancel + desktop::MessageQuestion,
+                                                     text(21400, u"Vorlage öffnen"_s)) == desktop::ResultOk;
+        }};
+    const bool done = perform(text(21409, u"Die Vorlage wird geöffnet ..."_s), [&](const basic::Progress &progress) {
+        opened = selection::vorlageoeffnen(services, basic::windowsPath(nativeFile), progress);
+    });
+    m_parts.lists.afterOpening(done, opened.changes, opened.otherDatabase);
+    m_parts.statistics.forget();
+    if (!done)
+        return false;
+    show(opened.vorlage);
+    setCurrent(nativeFile);
+    remember(nativeFile);
+    m_parts.panel.computeAll();
+    Q_EMIT said(text(20313, u"Geöffnet: %1"_s).arg(nativeFile));
+    if (!opened.missing.empty())
+        program.host.desktop().messageBox(
+            text(21406, u"%1 Personen der Vorlage sind nicht in der Datenbank."_s)
+                .arg(language::anzeigesprache(program.host).toString(static_cast<qlonglong>(opened.missing.size()))),
+            0, text(21400, u"Vorlage öffnen"_s));
+    return true;
+}
+
+void TemplateDesk::openDefault()
+{
+    const host::Host &host = m_parts.program.host;
+    const QString file = host.programFolder() + DefaultTemplate;
+    if (!host.dir(file).isEmpty())
+        openFile(host.native(file));
+}
+
+// Saving
+
+bool TemplateDesk::save()
+{
+    return m_current.isEmpty() ? saveAs() : write(m_current);
+}
+
+bool TemplateDesk::saveAs()
+{
+    const QString file = m_parts.program.host.desktop().saveFileName(
+        qobject_cast<QWidget *>(parent()),
+        {.title = text(21401, u"Vorlage speichern unter"_s),
+         .folder = folder(),
+         .filters = text(21402, u"Vorlagen (*.kvl)"_s),
+         .suffix = Suffix,
+         .name = m_current.isEmpty() ? text(21412, u"Unbenannt"_s) + u'.' + Suffix : QFileInfo(m_current).fileName()});
+    return !file.isEmpty() && write(file);
+}
+
+bool TemplateDesk::write(const QString &nativeFile)
+{
+    const Program &program = m_parts.program;
+    const selection::Statistikwerte now = values();
+    if (!perform(text(20340, u"Bitte warten ..."_s), [&](const basic::Progress &progress) {
+            selection::vorlagespeichern(program.host, program.databases, basic::windowsPath(nativeFile), now, progress);
+        }))
+        return false;
+    m_saved = now;
+    setCurrent(nativeFile);
+    remember(nativeFile);
+    Q_EMIT said(text(20312, u"Gespeichert: %1"_s).arg(nativeFile));
+    return true;
+}
+
+void TemplateDesk::reset()
+{
+    if (mayDiscard())
+        clearTo(selection::vorlageclear(m_parts.program.host));
+}
+
+void TemplateDesk::startAfresh()
+{
+    selection::Statistikwerte now = values();
+    now.titel.clear();
+    now.rtf.clear();
+    clearTo(now);
+}
+
+void TemplateDesk::clearTo(const selection::Statistikwerte &values)
+{
+    show(values);
+    setCurrent({});
+    m_parts.panel.personsChanged();
+}
+
+// Current and recent templates
+
+void TemplateDesk::setCurrent(const QString &nativeFile)
+{
+    m_current = nativeFile;
+    Q_EMIT currentChanged();
+}
+
+QStringList TemplateDesk::recent() const
+{
+    const host::Host &host = m_parts.program.host;
+    QStringList files;
+    for (qsizetype i = 1; i <= RecentTemplates; ++i) {
+        const QString file = host.inilesen(host.ownSettingsFile(), RecentSection, QString::number(i), {});
+        if (!file.isEmpty() && !host.dir(file).isEmpty())
+            files << host.native(file);
+    }
+    return files;
+}
+
+void TemplateDesk::remember(const QString &nativeFile)
+{
+    const host::Host &host = m_parts.program.host;
+    QStringList files = recent();
+    files.removeAll(nativeFile);
+    if (basic::windowsPath(nativeFile).size() <= LongestEntry)
+        files.prepend(nativeFile);
+    std::vector<host::Host::Setting> entries;
+    for (qsizetype i = 0; i < RecentTemplates; ++i)
+        entries.push_back({RecentSection, QString::number(i + 1), basic::windowsPath(files.value(i))});
+    host.inischreiben(host.ownSettingsFile(), entries);
+}
+
+} // namespace kalvenor::app

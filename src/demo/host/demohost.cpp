@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "demo/host/demohost.h"
+
+#include "demo/family/population.h"
+#include "demo/host/familydatabase.h"
+#include "demo/host/sidedatabases.h"
+#include "platform/basic/codepage.h"
+#include "platform/basic/error.h"
+#include "platform/basic/path.h"
+#include "platform/storage/file.h"
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::demo {
+
+namespace {
+
+constexpr int MostPersons = 2'000'000;
+constexpr qsizetype LongestSetting = 255; // what a profile read returns at most
+
+void makeFolder(const QString &folder)
+{
+    if (!QDir().mkpath(folder))
+        throw basic::Error(basic::ErrorKind::WriteFailed, folder,
+                           u"The folder cannot be made. Choose a folder that you may write to."_s);
+}
+
+void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QString reason;
+    if (!storage::replaceFileSafely(path, bytes, &reason))
+        throw basic::Error(basic::ErrorKind::WriteFailed, path, u"Cannot be written: %1"_s.arg(reason));
+}
+
+/// The path as the settings file holds it; refused where a profile read would not give it back.
+QByteArray settingOf(const QString &nativePath)
+{
+    const QString path = basic::windowsPath(nativePath);
+    QByteArray bytes = basic::encodeAnsi(path);
+    if (basic::decodeAnsi(bytes) != path)
+        throw basic::Error(basic::ErrorKind::Refused, nativePath,
+                           u"The host's settings file cannot hold this path: it has characters outside "
+                           "Windows-1252. Choose another folder."_s);
+    if (bytes.size() > LongestSetting)
+        throw basic::Error(basic::ErrorKind::Refused, nativePath,
+                           u"The host's settings file cannot hold this path: it is longer than 255 characters. "
+                           "Choose a folder with a shorter path."_s);
+    return bytes;
+}
+
+QByteArray hostSettings(const QString &familyDatabase, const QString &prints)
+{
+    return "[Ansicht]\r\nSprache=Deutsch\r\nKurzhilfe=1\r\nAddInonTop=0\r\nBildminhoehe=2000\r\n"
+           "[QV-Files]\r\n0=" +
+           settingOf(familyDatabase) + "\r\n[Verzeichnisse]\r\nPrints=" + settingOf(prints) +
+           "\r\n[Grafik]\r\nJPG-Faktor=70\r\n";
+}
+
+QByteArray personPage(const demo::PrintedPerson &person)
+{
+    const QString page = u"<!DOCTYPE html>\r\n<html lang=\"de\">\r\n<head>\r\n<meta charset=\"utf-8\">\r\n"
+                         "<title>%1</title>\r\n</head>\r\n<body>\r\n<h1>%1</h1>\r\n<table>\r\n"
+                         "<tr><th>Nummer</th><td>%2</td></tr>\r\n<tr><th>Geschlecht</th><td>%3</td></tr>\r\n"
+                         "<tr><th>Geboren</th><td>%4 in %6</td></tr>\r\n<tr><th>Gestorben</th><td>%5</td></tr>\r\n"
+                         "</table>\r\n</body>\r\n</html>\r\n"_s;
+    return page
+        .arg(person.name.toHtmlEscaped(), QString::number(person.counter), person.woman ? u"Frau"_s : u"Mann"_s,
+             person.born, person.died, person.place.toHtmlEscaped())
+        .toUtf8();
+}
+
+void fillHostFolder(const DemoHost &host, quint32 seed, const basic::Progress &progress)
+{
+    const QDir folder(host.hostFolder);
+    const QString prints = folder.filePath(u"Ausdrucke"_s);
+    const QByteArray settings = hostSettings(host.familyDatabase, prints);
+    makeFolder(host.programFolder);
+    makeFolder(prints);
+    makeFolder(QFileInfo(host.familyDatabase).path());
+
+    demo::Random random(seed);
+    const demo::Population population = demo::makePopulation(host.persons, random, progress);
+    for (const demo::PrintedPerson &person :
+         demo::writeFamilyDatabase(host.familyDatabase, population, random, progress))
+        writeFile(QDir(prints).filePath(u"%1-D.html"_s.arg(person.counter)), personPage(person));
+
+    demo::writeEventDatabase(folder.filePath(u"Ereignis.mdb"_s));
+    demo::writeHistoryDatabase(folder.filePath(u"Geschichte.mdb"_s));
+    demo::writeNameDatabase(folder.filePath(u"namen.mdb"_s));
+    demo::writePlaceDatabase(folder.filePath(u"orte.mdb"_s));
+    demo::writeLanguageDatabase(folder.filePath(u"ADD-IN-LANGUAGE.MDB"_s));
+    demo::writeLanguageDatabase(folder.filePath(u"language.mdb"_s));
+    // Last, so that an installation with settings is a whole one.
+    writeFile(folder.filePath(u"programm.ini"_s), settings);
+}
+
+} // namespace
+
+DemoHost makeDemoHost(const DemoOptions &options, const basic::Progress &progress)
+{
+    if (options.persons < 1 || options.persons > MostPersons)
+        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, {},
+                           u"A demonstration has 1 to 2,000,000 persons, not %1."_s.arg(options.persons));
+    if (options.folder.isEmpty())
+        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, {},
+                           u"No folder is named in which to make the demonstration."_s);
+
+    DemoHost host;
+    host.hostFolder = QDir::cleanPath(QDir(options.folder).absoluteFilePath(u"QV"_s));
+    host.programFolder = host.hostFolder + u"/Kalvenor"_s;
+    host.familyDatabase = host.hostFolder + u"/Daten/Familie.mdb"_s;
+    host.persons = options.persons;
+
+    const QFileInfo existing(host.hostFolder);
+    if (existing.exists() && !existing.isDir())
+        throw basic::Error(basic::ErrorKind::Refused, host.hostFolder,
+                           u"There is a file of this name already. Choose another folder."_s);
+    if (existing.exists() &&
+        !QDir(host.hostFolder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
+        throw basic::Error(basic::ErrorKind::Refused, host.hostFolder,
+                           u"This folder exists already and is not empty. Nothing was changed; choose another "
+                           "folder or remove this one first."_s);
+    makeFolder(host.hostFolder);
+    try {
+        fillHostFolder(host, options.seed, progress);
+    } catch (...) {
+        QDir(host.hostFolder).removeRecursively(); // it was empty: all that is in it is ours
+        throw;
+    }
+    return host;
+}
+
+} // namespace kalvenor::demo

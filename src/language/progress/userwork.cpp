@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "language/progress/userwork.h"
+
+#include "language/forms/form.h"
+#include <new>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::language {
+
+bool runAndTell(desktop::Work &work, const host::Host &host, Sprachmodul &texts, const QString &what,
+                const desktop::Work::Task &task, const WorkTold &told)
+{
+    const auto tell = [&](const basic::Error &error) {
+        host.desktop().messageBox(told.inPlainWords ? told.inPlainWords(error) : error.message(),
+                                  desktop::MessageCritical, shownText(texts, 21020, u"Fehler"_s));
+    };
+    try {
+        return work.run(what, task, told.input);
+    } catch (const basic::Error &error) {
+        if (error.kind() == basic::ErrorKind::Cancelled)
+            told.said(shownText(texts, 20348, u"Abgebrochen"_s));
+        else
+            tell(error);
+    } catch (const std::bad_alloc &) {
+        tell(basic::Error(basic::ErrorKind::Overflow, {}, u"There is not enough memory for this."_s));
+    }
+    return false;
+}
+
+} // namespace kalvenor::language

@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "language/texts/sprache.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::language {
+
+void Sprachmodul::spracheoeffnen(const QString &file)
+{
+    m_database = m_engine.workspace(0).openDatabase(m_host.native(file));
+    m_languages = m_database->openTable(u"Languages"_s);
+    m_languages->setIndex(u"Counter"_s);
+}
+
+QVariant Sprachmodul::sprachtext(qint16 id)
+{
+    QVariant result = u"????"_s;
+    try {
+        if (m_languages) {
+            m_languages->seekEqual(id);
+            if (!m_languages->noMatch())
+                result = m_languages->value(m_host.Sprache);
+        }
+        if (!m_languages && m_spareTexts) {
+            const QVariant spare = m_spareTexts(id);
+            if (!spare.isNull())
+                result = spare;
+        }
+    } catch (const basic::Error &) {
+        // A text that cannot be looked up never stops anything: it shows as four question marks.
+    }
+    if (result.isNull() || !result.toString().contains(u'#'))
+        return result;
+    return result.toString().remove(u"#PROGNAME#"_s).remove(u"#APPNAME#"_s);
+}
+
+void Sprachmodul::datenbankenschliessen(const QString &name)
+{
+    for (int i = m_engine.workspaceCount() - 1; i >= 0; --i)
+        m_engine.closeWorkspace(i);
+    if (name.isEmpty())
+        spracheoeffnen(m_host.Hostverzeichnis + u"\\language.mdb"_s);
+}
+
+} // namespace kalvenor::language

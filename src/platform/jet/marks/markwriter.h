@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/basic/progress.h"
+#include "platform/jet/reader/database.h"
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace kalvenor::jet {
+
+struct Mark {
+    std::uint32_t row = 0; ///< row of the table
+    bool on = false;
+};
+
+struct MarkTarget;
+
+/// Whether the file, its folder or its medium is write-protected now, so that no mark can be written.
+bool isWriteProtected(const QString &file);
+
+/// Sets values of one Yes/No column, each by the change of one bit in one byte of the file. Nothing else of the file
+/// is ever written, and nothing at all before every guard has passed for the page at hand.
+class MarkWriter {
+public:
+    /// Checks what can be checked without a row: the column is Yes/No, not calculated, under no index, and the key
+    /// column is Long. Throws ColumnNotFound or NotMarkable.
+    MarkWriter(std::shared_ptr<Database> database, std::shared_ptr<const Table> table, int markColumn, int keyColumn);
+
+    /// Throws ReadOnly (or FileNotFound) where write() would, and writes nothing.
+    void requireWritable() const;
+
+    /// Writes the marks page by page in the file's order, one sync at the end, and returns the rows whose bit changed.
+    /// Before the first write all rows are checked against the state in memory (NotMarkable: key not unique, row older
+    /// than the column); each page is read again from the file and compared before its first byte is written. Throws
+    /// FileNotFound, ReadOnly, NotMarkable, ChangedElsewhere, WriteFailed, Cancelled; the text says how many rows were
+    /// changed before. The image takes over every bit written, and the file's new stamp; after an error it keeps its
+    /// old stamp, so that the database is stale where anything was written. Progress counts rows.
+    std::vector<std::uint32_t> write(std::span<const Mark> marks, const basic::Progress &progress = {});
+
+private:
+    /// What is to be written, page by page in the file's order, each row once. Throws NotMarkable.
+    std::vector<MarkTarget> plan(std::span<const Mark> marks);
+    QString place() const;
+    [[noreturn]] void notMarkable(const QString &why) const;
+
+    std::shared_ptr<Database> m_database;
+    std::shared_ptr<const Table> m_table;
+    int m_markColumn;
+    int m_keyColumn;
+    std::optional<std::vector<std::int32_t>> m_repeatedKeys; ///< ascending; found at the first write
+};
+
+} // namespace kalvenor::jet

@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/jet/reader/image.h"
+
+#include "platform/basic/error.h"
+#include "platform/jet/reader/cursor.h"
+#include "platform/jet/reader/datapage.h"
+#include "platform/jet/reader/encoding.h"
+#include "platform/storage/file.h"
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstring>
+#include <new>
+#include <numeric>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::jet {
+
+namespace {
+
+constexpr std::size_t HeaderRoom = 4096; ///< holds the header page of either version
+constexpr std::size_t CountersSize = 512;
+constexpr qint64 LargestFile = qint64{2} << 30;
+constexpr int Attempts = 5;
+
+std::uint32_t pageSizeOf(std::span<const std::uint8_t> head)
+{
+    return head.size() > 0x14 && head[0x14] == 0 ? 2048 : 4096;
+}
+
+storage::File openForReading(const QString &file)
+{
+    QString reason;
+    storage::File opened = storage::File::open(file, storage::File::Mode::Read, &reason);
+    if (opened.isOpen())
+        return opened;
+    if (opened.fault() == storage::FileFault::NotFound)
+        throw basic::Error(basic::ErrorKind::FileNotFound, file, u"The file is not there."_s);
+    throw basic::Error(basic::ErrorKind::FileUnreadable, file, u"The file cannot be read: %1."_s.arg(reason));
+}
+
+[[noreturn]] void notReadable(const QString &name, const storage::File &file)
+{
+    throw basic::Error(basic::ErrorKind::FileUnreadable, name, u"The file cannot be read: %1."_s.arg(file.errorText()));
+}
+
+[[noreturn]] void notADatabase(const QString &name, const QString &why)
+{
+    throw basic::Error(basic::ErrorKind::NotADatabase, name, u"This is not a Jet 3 or Jet 4 database: %1."_s.arg(why));
+}
+
+void checkHeader(const QString &name, std::span<const std::uint8_t> head)
+{
+    if (head.size() < HeaderRoom)
+        notADatabase(name, u"it has only %1 bytes"_s.arg(head.size()));
+    const auto startsWith = [head](std::size_t at, const char *text) {
+        return std::memcmp(&head[at], text, std::strlen(text) + 1) == 0;
+    };
+    const bool newerName = startsWith(4, "Standard ACE DB");
+    if (head[0] != 0 || head[1] != 1 || head[2] != 0 || head[3] != 0 ||
+        (!newerName && !startsWith(4, "Standard Jet DB")))
+        notADatabase(name, u"its first bytes are those of another kind of file"_s);
+    if (newerName || head[0x14] >= 2)
+        notADatabase(name, u"it is of the newer ACE format (.accdb, Access 2007 and later, version byte %1);"
+                           " save it in the format of Access 2000 or 2002-2003"_s.arg(head[0x14]));
+}
+
+} // namespace
+
+Stamp Image::stampOf(const QString &name, const storage::File &file)
+{
+    Stamp stamp;
+    stamp.size = file.size();
+    stamp.modifiedNs = file.modifiedNs();
+    if (stamp.size < 0)
+        notReadable(name, file);
+    std::array<std::uint8_t, HeaderRoom> head{};
+    const auto there = std::span(head).first(static_cast<std::size_t>(std::min<qint64>(stamp.size, HeaderRoom)));
+    if (!file.readAt(0, there))
+        notReadable(name, file);
+    const std::size_t countersAt = pageSizeOf(there) - CountersSize;
+    if (there.size() >= countersAt + CountersSize)
+        stamp.counters = QByteArray(reinterpret_cast<const char *>(&there[countersAt]), CountersSize);
+    return stamp;
+}
+
+Stamp Image::stampOf(const QString &file)
+{
+    return stampOf(file, openForReading(file));
+}
+
+std::shared_ptr<Image> Image::load(const QString &name)
+{
+    for (int attempt = 0; attempt < Attempts; ++attempt) {
+        if (attempt > 0)
+            std::this_thread::sleep_for(std::chrono::milliseconds(40 * attempt));
+        const storage::File file = openForReading(name);
+        const Stamp before = stampOf(name, file);
+        if (before.size > LargestFile)
+            notADatabase(name, u"it is larger than the 2 GiB such a file can have"_s);
+        std::array<std::uint8_t, HeaderRoom> head{};
+        const auto there = std::span(head).first(static_cast<std::size_t>(std::min<qint64>(before.size, HeaderRoom)));
+        if (!file.readAt(0, there))
+            notReadable(name, file);
+        checkHeader(name, there);
+        const auto size = static_cast<std::size_t>(before.size);
+        std::unique_ptr<std::uint8_t[]> bytes(new (std::nothrow) std::uint8_t[size]);
+        if (!bytes)
+            throw basic::Error(basic::ErrorKind::FileUnreadable, name,
+                               u"There is not enough memory for %1 MB."_s.arg(size >> 20));
+        const bool complete = file.readAt(0, {bytes.get(), size});
+        const Stamp after = stampOf(name, file);
+        if (after != before)
+            continue;
+        if (!complete)
+            notReadable(name, file);
+        auto image = std::make_shared<Image>();
+        image->m_file = name;
+        image->m_stamp = before;
+        image->takeBytes(std::move(bytes), size);
+        return image;
+    }
+    throw basic::Error(basic::ErrorKind::ChangedElsewhere, name,
+                       u"Another program keeps writing to the file. Try again when it has finished."_s);
+}
+
+std::shared_ptr<Image> Image::fromBytes(const QString &name, std::span<const std::uint8_t> bytes)
+{
+    checkHeader(name, bytes.first(std::min(bytes.size(), HeaderRoom)));
+    std::unique_ptr<std::uint8_t[]> copy(new std::uint8_t[bytes.size()]);
+    std::ranges::copy(bytes, copy.get());
+    auto image = std::make_shared<Image>();
+    image->m_file = name;
+    image->m_stamp.size = static_cast<qint64>(bytes.size());
+    image->takeBytes(std::move(copy), bytes.size());
+    return image;
+}
+
+void Image::takeBytes(std::unique_ptr<std::uint8_t[]> bytes, std::size_t size)
+{
+    m_bytes = std::move(bytes);
+    m_pageSize = pageSizeOf({m_bytes.get(), size});
+    m_version = m_pageSize == 2048 ? Version::Jet3 : Version::Jet4;
+    m_pageCount = static_cast<std::uint32_t>(size / m_pageSize);
+    if (m_pageCount < 3)
+        notADatabase(m_file, u"it has only %1 bytes"_s.arg(size));
+
+    std::uint8_t *const raw = m_bytes.get();
+    std::array<std::uint8_t, HeaderRoom> header{};
+    std::copy_n(raw, m_pageSize, header.begin());
+    maskHeader(header, m_version == Version::Jet4);
+    m_codePage = load16(&header[0x3c]);
+    m_encodingKey = load32(&header[0x3e]);
+    if (m_version == Version::Jet3)
+        m_characters = charactersOf(m_codePage);
+    else
+        std::iota(m_characters.begin(), m_characters.end(), u'\0');
+    if (m_encodingKey == 0)
+        return;
+    for (std::uint32_t number = 1; number < m_pageCount; ++number)
+        encodePage({raw + std::size_t{number} * m_pageSize, m_pageSize}, m_encodingKey, number);
+    if (page(2)[0] != static_cast<std::uint8_t>(PageType::Definition))
+        throw basic::Error(basic::ErrorKind::Damaged, m_file,
+                           u"The file is encoded and its pages cannot be decoded."_s);
+}
+
+} // namespace kalvenor::jet

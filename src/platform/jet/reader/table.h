@@ -1,0 +1,131 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "platform/jet/reader/format.h"
+#include "platform/jet/reader/image.h"
+#include "platform/jet/reader/record.h"
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <vector>
+
+namespace kalvenor::jet {
+
+/// Where a record lies. The first place is the row's identity, the record is where an overflow pointer leads.
+struct RowPlace {
+    std::uint32_t firstPage = 0;
+    std::uint32_t recordPage = 0;
+    std::uint16_t recordStart = 0; ///< in the record's page
+    std::uint16_t recordLength = 0;
+    std::uint8_t firstSlot = 0;
+    std::uint8_t recordSlot = 0;
+};
+
+/// A read-only column view over the image; no row is copied. Rows count from 0 in page order, columns from 0 in the
+/// order of their numbers. Values that the damage of a file makes unreadable are null and noted in warnings().
+class Table {
+public:
+    /// Reads the definition at `definitionPage` and locates all rows. Throws Error(Damaged).
+    static std::shared_ptr<const Table> read(std::shared_ptr<const Image> image, const QString &name,
+                                             std::uint32_t definitionPage);
+
+    const QString &name() const { return m_name; }
+    const Image &image() const { return *m_image; }
+    std::uint32_t definitionPage() const { return m_definitionPage; }
+    const std::vector<Column> &columns() const { return m_columns; }
+    const std::vector<Index> &indexes() const { return m_indexes; }
+    /// Numbers of the columns that any physical index holds, also where no logical index names it.
+    bool isIndexed(std::uint16_t columnNumber) const;
+    /// Without regard to case; -1 where there is none.
+    int columnOf(QStringView name) const;
+
+    std::uint32_t rowCount() const { return static_cast<std::uint32_t>(m_rows.size()); }
+    const RowPlace &place(std::uint32_t row) const { return m_rows[row]; }
+    std::span<const std::uint8_t> record(std::uint32_t row) const
+    {
+        const RowPlace &place = m_rows[row];
+        return m_image->page(place.recordPage).subspan(place.recordStart, place.recordLength);
+    }
+    /// Lets the processor fetch a record that is needed a little later, from a place that it cannot foresee. For that
+    /// it needs the row's entry in the table of places, which fetchPlace() has it fetch still earlier.
+    Q_ALWAYS_INLINE void fetch(std::uint32_t row) const // inline, else GCC takes the call for one without effect
+    {
+#ifdef __GNUC__
+        constexpr std::size_t cacheLine = 64;
+        const RowPlace &place = m_rows[row];
+        const std::uint8_t *bytes = m_image->page(place.recordPage).data() + place.recordStart;
+        for (std::size_t at = 0; at < place.recordLength; at += cacheLine)
+            __builtin_prefetch(bytes + at);
+#else
+        Q_UNUSED(row)
+#endif
+    }
+    Q_ALWAYS_INLINE void fetchPlace(std::uint32_t row) const
+    {
+#ifdef __GNUC__
+        __builtin_prefetch(&m_rows[row]);
+#else
+        Q_UNUSED(row)
+#endif
+    }
+    /// The record some rows ahead. Pays where all rows are read one behind the other: within a page they
+    /// lie backwards.
+    Q_ALWAYS_INLINE void fetchAhead(std::uint32_t row) const
+    {
+        constexpr std::size_t rowsAhead = 16;
+        if (row + rowsAhead < m_rows.size())
+            fetch(row + rowsAhead);
+    }
+    const RecordLayout &layout() const
+    {
+        return m_layout;
+    }
+
+    // Values. A column of another type than asked for gives nothing.
+    bool isNull(std::uint32_t row, int column) const;
+    bool boolean(std::uint32_t row, int column) const;
+    /// Byte, Integer, Long.
+    std::optional<std::int32_t> integer(std::uint32_t row, int column) const;
+    /// All number types and DateTime (its serial).
+    std::optional<double> number(std::uint32_t row, int column) const;
+    /// Text and Memo. The view is valid until the buffer's next use; a null value has isNull().
+    QStringView text(std::uint32_t row, int column, QString &buffer) const;
+    QString text(std::uint32_t row, int column) const;
+    /// Binary, Ole.
+    QByteArray bytes(std::uint32_t row, int column) const;
+    /// Any type: bool, int, double, QString, QByteArray, QUuid; Money and Numeric as exact decimal text; invalid =
+    /// null.
+    QVariant value(std::uint32_t row, int column) const;
+
+    /// What damage was passed over while rows were located and values read, one line each naming the page (at most
+    /// some dozens are kept).
+    QStringList warnings() const;
+
+private:
+    friend class TableReader;
+    using Field = std::optional<std::span<const std::uint8_t>>;
+
+    /// The value's bytes, nothing for null and for what cannot be read; not for Yes/No.
+    Field field(std::uint32_t row, int column) const;
+    /// Text, Memo, Binary and Ole: their own bytes.
+    Field content(std::uint32_t row, int column, std::vector<std::uint8_t> &scratch) const;
+    void warn(const QString &warning) const;
+    void warnAt(std::uint32_t row, int column, const QString &problem) const;
+
+    std::shared_ptr<const Image> m_image;
+    QString m_name;
+    std::uint32_t m_definitionPage = 0;
+    std::vector<Column> m_columns;
+    std::vector<Index> m_indexes;
+    std::vector<std::uint16_t> m_indexedColumns;
+    RecordLayout m_layout;
+    std::vector<RowPlace> m_rows;
+    mutable std::mutex m_warningsGuard; ///< values may be read from several threads
+    mutable QStringList m_warnings;
+};
+
+} // namespace kalvenor::jet

@@ -1,0 +1,291 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "report/composition/bericht.h"
+
+#include "language/forms/form.h"
+#include "platform/basic/codepage.h"
+#include "platform/basic/text.h"
+#include "platform/print/htmlwriter.h"
+#include "platform/print/richtextblocks.h"
+#include "platform/print/rtfwriter.h"
+#include "platform/richtext/rtfreader.h"
+#include "report/composition/agelisttable.h"
+#include "report/export/htmlexport.h"
+#include "report/export/rtfanpassen.h"
+#include "settings/store/vorgabendatei.h"
+#include <cmath>
+#include <QDir>
+#include <QFile>
+#include <QScopeGuard>
+#include <QTextDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::report {
+
+namespace {
+
+constexpr qint16 TextCriteria = 911;
+constexpr qint16 TextHint = 116;
+constexpr qint16 TextFooter = 120;
+constexpr qint16 TextReportFile = 1205;
+constexpr qint16 TextAgeList = 1217;
+
+constexpr double PictureDpi = 220;
+constexpr double TwipsPerInch = 1440;
+constexpr print::Twips Gap = 200; ///< between two sections
+/// Sizes of the introductory text are printed as the editor shows them.
+constexpr double IntroductionScale = 1;
+
+/// Of the page's height between the margins: a chart as its shape has it, and one made larger.
+constexpr double UsualChartShare = 0.6;
+constexpr double LargestChartShare = 0.9;
+
+constexpr int Section = 1; ///< outline level
+
+int pixels(double twips)
+{
+    return static_cast<int>(std::lround(twips / TwipsPerInch * PictureDpi));
+}
+
+print::Twips printableWidth(const print::PageSetup &page)
+{
+    return (page.landscape ? page.paperHeight : page.paperWidth) - page.left - page.right;
+}
+
+/// The pictures beside a report: those that a failed run has made go with it.
+class NewPictures {
+public:
+    NewPictures(const host::Host &host, const QStringList &files) : m_host(host)
+    {
+        for (const QString &file : files) {
+            if (host.dir(file).isEmpty())
+                m_files << host.native(file);
+        }
+    }
+    ~NewPictures()
+    {
+        for (const QString &file : m_files)
+            QFile::remove(file);
+    }
+    Q_DISABLE_COPY_MOVE(NewPictures)
+    void keep() { m_files.clear(); }
+
+private:
+    const host::Host &m_host;
+    QStringList m_files;
+};
+
+} // namespace
+
+Bericht::Bericht(const ReportServices &services) : m_services(services), m_pictures(services.host, services.language)
+{
+}
+
+void Bericht::initladen()
+{
+    settings::initladen(m_services.host, vorgaben, m_services.print.page);
+}
+
+bool Bericht::initspeichern() const
+{
+    return settings::initspeichern(m_services.host, vorgaben, m_services.print.page);
+}
+
+void Bericht::auswahldrucken(const ReportContent &content, const basic::Progress &progress)
+{
+    const host::Host &host = m_services.host;
+    host.desktop().setPointer(desktop::Pointer::Hourglass);
+    const auto restore = qScopeGuard([&host] { host.desktop().setPointer(desktop::Pointer::Default); });
+    initladen();
+    print::PrintControl &print = m_services.print;
+    if (print.exportFormat == print::ExportFormat::Html)
+        print.exportFile =
+            exportName(print.exportFile, reportName, m_services.language.text(TextReportFile), u".html"_s);
+    NewPictures newPictures(host, picturesBeside());
+    print::PrintDocument document = compose(content, progress);
+    showHint();
+    switch (print.exportFormat) {
+    case print::ExportFormat::Pages:
+        print.setDocument(std::move(document), progress);
+        break;
+    case print::ExportFormat::Html:
+        print::writeHtmlFile(document, host.native(print.exportFile), progress);
+        htmlnachbearbeiten(host, print.exportFile);
+        break;
+    case print::ExportFormat::Rtf:
+    case print::ExportFormat::RtfPlain:
+        print::writeRtfFile(document, host.native(print.exportFile), progress);
+        break;
+    }
+    newPictures.keep();
+}
+
+print::PrintDocument Bericht::compose(const ReportContent &content, const basic::Progress &progress)
+{
+    print::PrintDocument document;
+    document.title = content.titel.isEmpty() ? m_services.language.text(TextReportFile) : content.titel;
+    document.language = language::anzeigesprache(m_services.host).bcp47Name().left(2);
+    document.page = settings::usablePage(m_services.print.page);
+    addRunningTexts(document, content);
+    if (!content.titel.isEmpty())
+        document.add(print::Paragraph{.text = content.titel,
+                                      .style = document.addStyle(style(settings::Titel)),
+                                      .spaceAfter = Gap,
+                                      .keepWithNext = true,
+                                      .outlineLevel = Section});
+    addIntroduction(document, content);
+    if (vorgaben.Bildprint == 1)
+        addChart(document, content);
+    addCriteria(document, content);
+    addAgeList(document, content, progress);
+    document.add(print::Paragraph{.text = footerText() + u"  "_s + now(content),
+                                  .style = document.addStyle(style(settings::Footer)),
+                                  .spaceBefore = Gap});
+    return document;
+}
+
+QString Bericht::footerText() const
+{
+    return m_services.language.text(TextFooter);
+}
+
+QString Bericht::now(const ReportContent &content) const
+{
+    return content.now.toString(u"dd.MM.yyyy HH:mm"_s);
+}
+
+void Bericht::addRunningTexts(print::PrintDocument &document, const ReportContent &content) const
+{
+    if (vorgaben.isPrinted(settings::Footer))
+        document.footer = {footerText() + u"||"_s + now(content), document.addStyle(style(settings::Footer))};
+    if (!content.titel.isEmpty() && vorgaben.isPrinted(settings::Header)) // a bar would end the left part
+        document.header = {QString(content.titel).replace(u'|', u'/') + u"||- %d -"_s,
+                           document.addStyle(style(settings::Header))};
+}
+
+void Bericht::addIntroduction(print::PrintDocument &document, const ReportContent &content) const
+{
+    QTextDocument text;
+    richtext::readRtf(content.rtf, text);
+    if (text.toPlainText().trimmed().isEmpty())
+        return;
+    QString rtf = richtext::looksLikeRtf(content.rtf) ? basic::decodeAnsi(content.rtf) : text.toPlainText();
+    rtfanpassen(0, rtf, IntroductionScale);
+    richtext::readRtf(richtext::rtfBytes(rtf), text);
+    for (print::Block &block : print::richTextBlocks(text, document))
+        document.add(std::move(block));
+    document.add(print::Paragraph{.text = {}, .spaceAfter = Gap / 2});
+}
+
+void Bericht::addChart(print::PrintDocument &document, const ReportContent &content)
+{
+    const print::Twips width = printableWidth(document.page);
+    const double shape = static_cast<double>(content.chartShape.height()) / std::max(content.chartShape.width(), 1);
+    const print::PageSetup &page = document.page;
+    const double room = (page.landscape ? page.paperWidth : page.paperHeight) - page.top - page.bottom;
+    const int percent = settings::ReportMeasures::read(m_services.host).bildprozent;
+    const double wanted = std::min(width * shape, room * UsualChartShare) * percent / 100;
+    auto height = static_cast<qint16>(std::min({wanted, room * LargestChartShare, 32767.0}));
+    // The chart control takes the printable width and the height in its own shape.
+    PictureControl chart{
+        .Image = chart::chartImage(content.figures.tabelle, content.look, {pixels(width), pixels(height)}, PictureDpi),
+        .Width = static_cast<double>(width),
+        .Height = static_cast<double>(height)};
+    PictureControl print;
+    bildgroesse(m_services.host, chart, print, static_cast<qint16>(std::min(width, 32767)), height);
+
+    const print::PrintControl &control = m_services.print;
+    QString file;
+    if (control.exportFormat != print::ExportFormat::Pages)
+        file = writePicture(print.Image, chartFile());
+    if (control.exportFormat != print::ExportFormat::Html)
+        file.clear(); // a copy for the host program
+    if (!file.isEmpty())
+        document.add(print::Paragraph{.text = chartTag(file), .spaceAfter = Gap});
+    document.add(print::Picture{.image = print.Image,
+                                .width = static_cast<print::Twips>(std::lround(print.Width)),
+                                .height = static_cast<print::Twips>(std::lround(print.Height)),
+                                .alternativeText = content.look.title,
+                                .fileName = file,
+                                .spaceAfter = Gap});
+}
+
+void Bericht::addCriteria(print::PrintDocument &document, const ReportContent &content) const
+{
+    if (vorgaben.isPrinted(settings::TitelKriterien))
+        document.add(print::Paragraph{.text = m_services.language.text(TextCriteria),
+                                      .style = document.addStyle(style(settings::TitelKriterien)),
+                                      .spaceBefore = Gap,
+                                      .spaceAfter = Gap / 4,
+                                      .keepWithNext = true,
+                                      .outlineLevel = Section + 1});
+    const print::StyleId lineStyle = document.addStyle(style(settings::Kriterien));
+    const QStringList lines = kriterien(content.criteria, content.figures, content.list.size(), m_services.language);
+    for (const QString &line : lines) // on one page
+        document.add(print::Paragraph{.text = line, .style = lineStyle, .keepWithNext = &line != &lines.back()});
+}
+
+void Bericht::addAgeList(print::PrintDocument &document, const ReportContent &content, const basic::Progress &progress)
+{
+    const bool newPage = vorgaben.isPrinted(settings::NeueSeite);
+    if (newPage)
+        document.add(print::PageBreak{});
+    else if (vorgaben.print(settings::NeueSeite) == 0)
+        document.add(print::Paragraph{.text = {}, .spaceAfter = Gap / 2});
+    const bool headed = vorgaben.isPrinted(settings::TitelAltersliste);
+    if (headed)
+        document.add(print::Paragraph{.text = m_services.language.text(TextAgeList),
+                                      .style = document.addStyle(style(settings::TitelAltersliste)),
+                                      .spaceBefore = newPage ? 2 * Gap : Gap,
+                                      .spaceAfter = Gap / 2,
+                                      .keepWithNext = true,
+                                      .outlineLevel = Section + 1});
+    AgeListTable table({.services = m_services,
+                        .pictures = m_pictures,
+                        .reportName = reportName,
+                        .style = style(settings::Altersliste),
+                        .rowSpacing = vorgaben.rowSpacing(),
+                        .lineWidth = printableWidth(document.page),
+                        .headed = headed});
+    table.write(document, content.list, progress);
+}
+
+/// Beside the page in HTML, else in the host program's folder.
+QString Bericht::chartFile() const
+{
+    const QString &page = m_services.print.exportFile;
+    if (m_services.print.exportFormat == print::ExportFormat::Html) // which has its suffix already
+        return basic::leftPart(page, page.lastIndexOf(u'.')) + u".jpg"_s;
+    return outputFolder(m_services.host) +
+           exportName(fileNameOf(page), reportName, m_services.language.text(TextReportFile), u".jpg"_s);
+}
+
+QStringList Bericht::picturesBeside() const
+{
+    if (m_services.print.exportFormat == print::ExportFormat::Pages)
+        return {};
+    const QString chart = chartFile();
+    const QString base = basic::leftPart(chart, chart.lastIndexOf(u'.'));
+    return {base + u".JPG"_s, base + u".BMP"_s, symbolFile(m_services.print.exportFile)};
+}
+
+/// The file that was written (Windows notation); empty where the picture could not be converted, which was told.
+QString Bericht::writePicture(const QImage &picture, const QString &file)
+{
+    QString written = file;
+    QString type;
+    if (m_services.print.exportFormat != print::ExportFormat::Html)
+        QDir().mkpath(m_services.host.native(folderOf(file))); // where that fails, writing says so
+    m_pictures.bildkonvertieren({.Image = picture}, written, type);
+    return m_services.host.dir(written).isEmpty() ? QString() : written;
+}
+
+void Bericht::showHint()
+{
+    if (m_hint != -1)
+        return;
+    m_hint = static_cast<qint16>(m_services.host.desktop().messageBox(m_services.language.text(TextHint), 0, {}));
+}
+
+} // namespace kalvenor::report

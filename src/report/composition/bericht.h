@@ -1,0 +1,80 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "data/datenbankmodul.h"
+#include "platform/chart/chart.h"
+#include "platform/print/printcontrol.h"
+#include "report/composition/kriterien.h"
+#include "report/pictures/bildkonvertieren.h"
+#include "settings/store/druckvorgaben.h"
+#include "statistics/ages/altersliste.h"
+#include <QDateTime>
+#include <QSize>
+
+namespace kalvenor::report {
+
+/// What the rooms below offer, as the report needs it.
+struct ReportServices {
+    host::Host &host;
+    language::Sprachmodul &language;
+    data::Datenbankmodul &databases;
+    print::PrintControl &print;
+};
+
+/// What one run of the report shows. List and figures must stay as they are until it ends.
+struct ReportContent {
+    QString titel;
+    QByteArray rtf; ///< the introductory text, as readRtf takes it
+    const statistics::Altersliste &list;
+    const statistics::Grafikzahlen &figures;
+    chart::ChartLook look;
+    QSize chartShape{160, 100}; ///< of the chart control on the screen
+    Auswahlkriterien criteria;
+    QDateTime now = QDateTime::currentDateTime();
+};
+
+/// Composes the report and hands it to the print control, or writes it as the control's export format says.
+class Bericht {
+public:
+    explicit Bericht(const ReportServices &services);
+
+    settings::Druckvorgaben vorgaben; ///< loaded with every run
+    QString reportName;               ///< stands in the names of exported files; mostly empty
+
+    /// Reads the settings and the page into `vorgaben` and the print control.
+    void initladen();
+    /// False where the settings file could not be written.
+    bool initspeichern() const;
+
+    /// One run. With an export format the file is written and the control's `exportFile` becomes its final name; the
+    /// pages shown stay. Throws what went wrong, with the pointer restored; then nothing was handed over and no half
+    /// file is left.
+    void auswahldrucken(const ReportContent &content, const basic::Progress &progress = {});
+
+    /// As if the once-only hint had been shown.
+    void hintShown() { m_hint = desktop::ResultOk; }
+
+    /// The document of one run for the control's export format.
+    print::PrintDocument compose(const ReportContent &content, const basic::Progress &progress = {});
+
+private:
+    print::TextStyle style(int element) const { return settings::pageStyle(vorgaben, element); }
+    QString footerText() const;
+    QString now(const ReportContent &content) const;
+    void addRunningTexts(print::PrintDocument &document, const ReportContent &content) const;
+    void addIntroduction(print::PrintDocument &document, const ReportContent &content) const;
+    void addChart(print::PrintDocument &document, const ReportContent &content);
+    void addCriteria(print::PrintDocument &document, const ReportContent &content) const;
+    void addAgeList(print::PrintDocument &document, const ReportContent &content, const basic::Progress &progress);
+    QString chartFile() const;
+    QStringList picturesBeside() const;
+    QString writePicture(const QImage &picture, const QString &file);
+    void showHint();
+
+    ReportServices m_services;
+    Bildumwandlung m_pictures;
+    qint16 m_hint = -1; ///< true until the hint was shown
+};
+
+} // namespace kalvenor::report

@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "report/export/htmlexport.h"
+
+#include "platform/basic/error.h"
+#include "platform/basic/text.h"
+#include "platform/storage/file.h"
+#include <QDir>
+#include <QFile>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::report {
+
+namespace {
+
+constexpr QChar Quote(34);
+
+[[noreturn]] void failed(const QString &file, const QString &why)
+{
+    throw basic::Error(basic::ErrorKind::WriteFailed, file,
+                       u"The page could not be finished: %1. Save it in a folder that can be written."_s.arg(why));
+}
+
+QByteArray withTags(const QByteArray &page)
+{
+    QByteArray result;
+    result.reserve(page.size() + page.size() / 16);
+    for (qsizetype begin = 0; begin < page.size();) {
+        qsizetype end = page.indexOf('\n', begin);
+        if (end < 0)
+            end = page.size();
+        QByteArray line = page.mid(begin, end - begin);
+        if (line.endsWith('\r'))
+            line.chop(1);
+        line.replace("&lt;", "<").replace("&gt;", ">");
+        result += line + "\r\n";
+        begin = end + 1;
+    }
+    return result;
+}
+
+} // namespace
+
+QString exportName(const QString &chosen, const QString &reportName, const QString &text, const QString &extension)
+{
+    if (chosen.contains(u'*') || chosen.contains(u'?'))
+        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, chosen,
+                           u"The file name must not hold * or ?. Choose another one."_s);
+    return basic::leftPart(chosen, chosen.lastIndexOf(u'.')) + u'-' + reportName + text + extension;
+}
+
+QString fileNameOf(const QString &path)
+{
+    return path.mid(path.lastIndexOf(u'\\') + 1);
+}
+
+QString folderOf(const QString &path)
+{
+    return path.left(path.lastIndexOf(u'\\') + 1);
+}
+
+QString outputFolder(const host::Host &host)
+{
+    return host.Hostverzeichnis + u"\\Ausdrucke\\"_s;
+}
+
+QString symbolFile(const QString &exportFile)
+{
+    return basic::leftPart(exportFile, exportFile.lastIndexOf(u'.')) + u"-Person.JPG"_s;
+}
+
+QString chartTag(const QString &pictureFile)
+{
+    return u"<img src="_s + Quote + u"./"_s + fileNameOf(pictureFile) + Quote + u" Border=0 Alt="_s + Quote + Quote +
+           u'>';
+}
+
+QString personPage(qint32 counter, const QString &reportName)
+{
+    return QString::number(counter) + u"-D"_s + reportName + u".html"_s;
+}
+
+QString personLink(const QString &page, const QString &pictureFile, const QString &alternativeText)
+{
+    return u"<a href=./"_s + page + u"><img src="_s + Quote + u"./"_s + pictureFile + Quote + u" Border=0 Alt="_s +
+           Quote + alternativeText + Quote + u'>';
+}
+
+void htmlnachbearbeiten(const host::Host &host, const QString &exportFile)
+{
+    if (host.dir(exportFile).isEmpty())
+        return;
+    const QString page = host.native(exportFile);
+    const QString copy = page + u'x';
+    QFile::remove(copy);
+    const auto removeCopy = qScopeGuard([&copy] { QFile::remove(copy); });
+    if (!QFile::copy(page, copy))
+        failed(exportFile, u"there is no room for a copy beside it"_s);
+    QFile source(copy);
+    if (!source.open(QIODevice::ReadOnly))
+        failed(exportFile, source.errorString());
+    QString why;
+    if (!storage::replaceFileSafely(page, withTags(source.readAll()), &why))
+        failed(exportFile, why);
+    source.close();
+
+    QDir folder(host.native(folderOf(exportFile)));
+    const QStringList copies = folder.entryList({u"*.htmlx"_s}, QDir::Files);
+    for (const QString &name : copies) {
+        if (!folder.remove(name))
+            failed(folderOf(exportFile) + name, u"the file cannot be deleted"_s);
+    }
+}
+
+} // namespace kalvenor::report

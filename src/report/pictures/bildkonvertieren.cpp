@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "report/pictures/bildkonvertieren.h"
+
+#include "language/forms/form.h"
+#include "platform/basic/error.h"
+#include "platform/basic/number.h"
+#include "platform/basic/text.h"
+#include "platform/desktop/sharedlibrary.h"
+#include <algorithm>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageWriter>
+#include <QPainter>
+#include <QSaveFile>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::report {
+
+namespace {
+
+const QString ProgramId = u"Pictarex.Compendium"_s;
+constexpr double DefaultQuality = 70;
+constexpr qint16 DefaultLeastHeight = 2000;
+
+[[noreturn]] void cannotWrite(const QString &file, const QString &reason)
+{
+    throw basic::Error(basic::ErrorKind::WriteFailed, file, reason);
+}
+
+/// A BMP has no transparency: the paper shows through it.
+QImage onPaper(const QImage &image)
+{
+    if (!image.hasAlphaChannel())
+        return image;
+    QImage paper(image.size(), QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    paper.setDotsPerMeterX(image.dotsPerMeterX());
+    paper.setDotsPerMeterY(image.dotsPerMeterY());
+    QPainter painter(&paper);
+    painter.drawImage(QRectF(paper.rect()), image, QRectF(image.rect()));
+    return paper;
+}
+
+void writeBmp(const QImage &image, const QString &nativeFile)
+{
+    QSaveFile file(nativeFile);
+    if (!file.open(QIODevice::WriteOnly))
+        cannotWrite(nativeFile, file.errorString());
+    QImageWriter writer(&file, "bmp");
+    if (!writer.write(onPaper(image)))
+        cannotWrite(nativeFile, writer.errorString());
+    if (!file.commit())
+        cannotWrite(nativeFile, file.errorString());
+}
+
+/// Gives the file exactly this name, where its old name may differ in case alone. False where that fails.
+bool renameTo(const QString &nativeFile, const QString &name)
+{
+    const QString renamed = QFileInfo(nativeFile).dir().filePath(name);
+    if (renamed == nativeFile)
+        return true;
+    if (QFile::exists(renamed) && QFileInfo(renamed) != QFileInfo(nativeFile) && !QFile::remove(renamed))
+        return false;
+    return QFile::rename(nativeFile, renamed);
+}
+
+QString nameOf(const QString &windowsFile)
+{
+    return windowsFile.mid(windowsFile.lastIndexOf(u'\\') + 1);
+}
+
+} // namespace
+
+void Bildumwandlung::bildkonvertieren(const PictureControl &control, QString &file, QString &type)
+{
+    if (file.isEmpty())
+        return;
+    if (nameOf(file).lastIndexOf(u'.') < 0)
+        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, file,
+                           u"The name of the picture has no extension."_s);
+    if (control.Image.isNull())
+        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, file, u"There is no picture to write."_s);
+    type = basic::rightPart(file, 3).toUpper();
+    if (type == u"BMP")
+        type = u"JPG"_s;
+
+    const QString base = basic::leftPart(file, file.lastIndexOf(u'.') + 1);
+    const QString bmp = base + u"bmp"_s;
+    if (!m_host.dir(bmp).isEmpty())
+        QFile::remove(m_host.native(bmp)); // where that fails, writing says so
+    const QString nativeBmp = m_host.native(bmp);
+    writeBmp(control.Image, nativeBmp);
+    file = base + type;
+
+    if (!findComponent()) {
+        m_host.desktop().messageBox(
+            language::shownText(m_texts, 21052,
+                                u"Die Bildumwandlung steht nicht zur Verfügung; das Bild wird als BMP "
+                                "gespeichert."_s),
+            desktop::MessageCritical, language::shownText(m_texts, 21020, u"Fehler"_s));
+        file = base + u"BMP"_s;
+        if (!renameTo(nativeBmp, nameOf(file)))
+            cannotWrite(nativeBmp, u"The file cannot be renamed."_s);
+        return;
+    }
+
+    if (type == u"JPG") {
+        const QString output = m_host.native(file);
+        const QString fault = m_component->convertEx(nativeBmp, output, quality(), 0, 0, 0);
+        if (!fault.isEmpty())
+            m_host.desktop().messageBox(language::shownText(m_texts, 21054, u"Fehler:"_s) + fault, 0,
+                                        language::shownText(m_texts, 21020, u"Fehler"_s));
+        else
+            renameTo(output, nameOf(file)); // an old picture's name could differ in case, and links would miss it
+    }
+    QFile::remove(nativeBmp);
+}
+
+bool Bildumwandlung::findComponent()
+{
+    if (m_component == nullptr)
+        m_component = desktop::createImageComponent(ProgramId);
+    if (m_component == nullptr) {
+        dllregistrieren(m_host, m_host.Hostverzeichnis + u"\\Pictarex.dll"_s, true);
+        m_component = desktop::createImageComponent(ProgramId);
+    }
+    return m_component != nullptr;
+}
+
+int Bildumwandlung::quality() const
+{
+    const QString text = m_host.inilesen(m_host.hostSettingsFile(), u"Grafik"_s, u"JPG-Faktor"_s,
+                                         basic::trimmedNumberText(DefaultQuality));
+    return basic::toLong32(std::clamp(basic::leadingNumber(text), 0.0, 100.0));
+}
+
+qint16 dllregistrieren(const host::Host &host, const QString &library, bool registrieren)
+{
+    desktop::SharedLibrary loaded(host.native(library));
+    if (!loaded.isLoaded())
+        return 0;
+    const auto entryPoint = loaded.entryPoint(registrieren ? "DllRegisterServer" : "DllUnregisterServer");
+    return entryPoint != nullptr && desktop::runOnThread(entryPoint) >= 0 ? -1 : 0;
+}
+
+void bildgroesse(const host::Host &host, PictureControl &chart, PictureControl &print, qint16 width, qint16 &height)
+{
+    if (width <= 0 || chart.Image.isNull())
+        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, {}, u"There is no picture or no room for it."_s);
+    const double least = basic::leadingNumber(
+        host.inilesen(host.hostSettingsFile(), u"Ansicht"_s, u"Bildminhoehe"_s, QString::number(DefaultLeastHeight)));
+    if (height < least || height <= 0) {
+        const bool fits = least >= 1 && least <= INT16_MAX; // else the setting is no height
+        height = fits ? basic::toInteger16(least) : std::max(height, DefaultLeastHeight);
+    }
+
+    // How many times the picture exceeds the space, in the direction where it does so more.
+    const double factor =
+        std::max(chart.Image.width() / static_cast<double>(width), chart.Image.height() / static_cast<double>(height));
+    chart.AutoRedraw = false;
+    print.Image = chart.Image;
+    print.Width = chart.Image.width() / factor;
+    print.Height = chart.Image.height() / factor;
+}
+
+} // namespace kalvenor::report

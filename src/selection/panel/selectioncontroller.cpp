@@ -1,0 +1,311 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "selection/panel/selectioncontroller.h"
+
+#include "language/progress/userwork.h"
+#include "platform/jet/reader/table.h"
+#include "selection/marking/marksnapshot.h"
+#include <QTimer>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::selection {
+
+namespace {
+
+constexpr qint16 TextLimitReached = 926;
+constexpr qint16 TextLimitTitle = 1201;
+constexpr qint16 TextUnmarkAll = 930;
+/// The persons that arrive in a list are shown selected up to here.
+constexpr std::size_t FewPersons = 1000;
+
+} // namespace
+
+SelectionController::SelectionController(const SelectionServices &services, QObject *parent)
+    : QObject(parent), m_services(services), m_lists{List(PersonList::Unmarked), List(PersonList::Marked)},
+      m_watcher(services.databases.Familiendatenbank)
+{
+    connect(&m_watcher, &DatabaseWatcher::changedElsewhere, this, &SelectionController::changedElsewhere);
+    // A filter that was wanted while other work ran.
+    connect(&services.work, &desktop::Work::ended, this, [this] {
+        if (m_wanted && !m_filtering)
+            QTimer::singleShot(0, this, &SelectionController::runFilters);
+    });
+}
+
+QString SelectionController::text(qint16 id, const QString &germanText) const
+{
+    return language::shownText(m_services.language, id, germanText);
+}
+
+QString SelectionController::numberText(qint64 number) const
+{
+    return language::anzeigesprache(m_services.host).toString(number);
+}
+
+qint64 SelectionController::personCount() const
+{
+    const auto table = m_lists[0].model.table();
+    return table ? table->rowCount() : 0;
+}
+
+/// False where the task was not begun or failed; a failure was told.
+bool SelectionController::perform(const QString &what, const desktop::Work::Task &task, desktop::Work::Input input)
+{
+    return language::runAndTell(m_services.work, m_services.host, m_services.language, what, task,
+                                {.said = [this](const QString &end) { Q_EMIT said(end); }, .input = input});
+}
+
+/// Runs the lists' queries, those alone whose result can have changed unless `all`. Both lists change, or none.
+void SelectionController::load(const std::array<QString, 2> &queries, bool all, const basic::Progress &progress,
+                               bool announce)
+{
+    const std::shared_ptr<dao::Database> database = m_services.databases.Familiendatenbank;
+    database->refresh();
+    std::array<std::shared_ptr<dao::Recordset>, 2> results;
+    quint64 generation = 0;
+    // Where another program changes the file between the two queries, both lists must show the newer state.
+    for (int attempt = 0; attempt < 3 && generation != database->generation(); ++attempt) {
+        generation = database->generation();
+        for (std::size_t i = 0; i < results.size(); ++i) {
+            if (!all && queries[i] == m_lists[i].query && m_lists[i].generation == generation)
+                continue;
+            if (announce)
+                m_services.work.announce(i == 0 ? u"Lade 1. Liste neu"_s : u"Lade 2. Liste neu"_s);
+            results[i] = database->openQuery(queries[i], progress);
+        }
+    }
+    const bool newer = all || m_lists[0].generation != generation;
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        m_lists[i].query = queries[i];
+        if (results[i]) {
+            m_lists[i].model.show(results[i]);
+            m_lists[i].generation = generation;
+        }
+    }
+    if (newer)
+        Q_EMIT personsChanged();
+    Q_EMIT changed();
+}
+
+void SelectionController::reloadLists()
+{
+    perform(text(20346, u"Die Datenbank wird gelesen ..."_s),
+            [this](const basic::Progress &progress) { load(queries(), true, progress); });
+}
+
+void SelectionController::reloadPlain(PersonList list)
+{
+    auto wanted = queries();
+    wanted[place(list)] = plainListQuery(list);
+    perform(text(20346, u"Die Datenbank wird gelesen ..."_s),
+            [&](const basic::Progress &progress) { load(wanted, true, progress); });
+}
+
+// Filter
+
+bool SelectionController::filter(const Filter &filter, bool typed)
+{
+    m_wanted = WantedFilter{filter, typed};
+    m_filterShown = false;
+    if (m_services.work.isRunning())
+        giveUpFilter();
+    else
+        runFilters();
+    return m_filterShown;
+}
+
+void SelectionController::giveUpFilter()
+{
+    if (m_filtering)
+        m_services.work.cancel();
+}
+
+void SelectionController::runFilters()
+{
+    while (m_wanted && !m_services.work.isRunning()) {
+        const WantedFilter wanted = *std::exchange(m_wanted, std::nullopt);
+        m_filtering = true;
+        perform(
+            text(20340, u"Bitte warten ..."_s),
+            [&](const basic::Progress &progress) {
+                try {
+                    const FilterQueries built = filtern(wanted.filter, basic::systemDateOrder());
+                    load(built.queries, false, progress);
+                    m_filterShown = true;
+                    Q_EMIT filtered(built.pattern, wanted.typed);
+                } catch (const basic::Error &error) {
+                    if (error.kind() == basic::ErrorKind::InvalidSql ||
+                        error.kind() == basic::ErrorKind::InvalidPattern || error.kind() == basic::ErrorKind::Refused)
+                        Q_EMIT filterRefused(text(20419, u"Filter nicht verständlich: %1"_s).arg(error.text()));
+                    else if (error.kind() == basic::ErrorKind::Cancelled ? !m_wanted : !wanted.typed)
+                        throw;
+                    else if (error.kind() != basic::ErrorKind::Cancelled)
+                        Q_EMIT filterRefused(error.message()); // nobody wants a box while typing
+                }
+            },
+            desktop::Work::Input::Typing);
+        m_filtering = false;
+    }
+}
+
+void SelectionController::clearFilter()
+{
+    m_wanted.reset();
+    perform(text(20340, u"Bitte warten ..."_s), [this](const basic::Progress &progress) {
+        load({plainListQuery(PersonList::Unmarked), plainListQuery(PersonList::Marked)}, false, progress);
+    });
+}
+
+// Marks
+
+/// Carries the change out, and both lists show it also where it ended half-way. What it changed; nothing where it was
+/// not begun or failed before it changed anything.
+std::optional<MarkStep> SelectionController::changeMarks(const QString &what, const Change &change, bool announceLists)
+{
+    std::optional<MarkStep> done;
+    perform(what, [&](const basic::Progress &progress) {
+        const MarkSnapshot before(m_services.databases);
+        // The marks are set; lists that did not show them would be wrong.
+        const basic::Progress toTheEnd = [&progress](qint64 steps, qint64 total) {
+            progress(steps, total);
+            return true;
+        };
+        try {
+            done = change(progress);
+        } catch (const basic::Error &) {
+            const std::exception_ptr failure = std::current_exception();
+            try {
+                m_services.databases.Familiendatenbank->refresh();
+                done = before.changesSince(m_services.databases);
+                load(queries(), true, toTheEnd);
+            } catch (const basic::Error &) {
+                // The first failure is the one to tell.
+            }
+            std::rethrow_exception(failure);
+        }
+        load(queries(), true, toTheEnd, announceLists);
+    });
+    return done;
+}
+
+void SelectionController::tellMoved(const MarkStep &step)
+{
+    if (!step.marked.empty())
+        Q_EMIT said(text(20308, u"Markiert: %1"_s).arg(numberText(static_cast<qint64>(step.marked.size()))));
+    else if (!step.unmarked.empty())
+        Q_EMIT said(
+            text(20309, u"Markierungen aufgehoben: %1"_s).arg(numberText(static_cast<qint64>(step.unmarked.size()))));
+}
+
+void SelectionController::move(PersonList from, const std::vector<qint32> &counters, Relatives relatives)
+{
+    if (counters.empty())
+        return;
+    const bool mark = from == PersonList::Unmarked;
+    bool limitReached = false;
+    const QString what = relatives.children || relatives.parents ? text(20343, u"Verwandte werden gesucht ..."_s)
+                                                                 : text(20342, u"Die Personen werden markiert ..."_s);
+    const auto step = changeMarks(what, [&](const basic::Progress &progress) {
+        MarkingResult result = markPersons(m_services.databases, counters, mark, relatives, progress);
+        limitReached = result.limitReached;
+        return mark ? MarkStep{std::move(result.changed), {}} : MarkStep{{}, std::move(result.changed)};
+    });
+    if (!step)
+        return;
+    m_history.record(*step);
+    const std::vector<qint32> &moved = mark ? step->marked : step->unmarked;
+    const PersonList to = mark ? PersonList::Marked : PersonList::Unmarked;
+    if (moved.size() <= FewPersons && !moved.empty()) {
+        std::vector<quint32> tableRows;
+        dao::Recordset &persons = *m_services.databases.Datentabelle;
+        for (const qint32 counter : moved) {
+            persons.seekEqual(counter);
+            if (!persons.noMatch() && persons.table() == model(to).table())
+                tableRows.push_back(static_cast<quint32>(persons.position()));
+        }
+        Q_EMIT arrived(to, tableRows);
+    }
+    tellMoved(*step);
+    Q_EMIT changed();
+    if (limitReached)
+        m_services.host.desktop().messageBox(m_services.language.text(TextLimitReached), 0,
+                                             m_services.language.text(TextLimitTitle));
+}
+
+void SelectionController::moveAll(PersonList from)
+{
+    const bool mark = from == PersonList::Unmarked;
+    const QString what =
+        mark ? text(20342, u"Die Personen werden markiert ..."_s) : m_services.language.text(TextUnmarkAll);
+    const auto step = changeMarks(
+        what,
+        [&](const basic::Progress &progress) {
+            std::vector<qint32> keys =
+                m_services.databases.Familiendatenbank->execute(markAllStatement(from, query(from)), progress)
+                    .changedKeys;
+            return mark ? MarkStep{std::move(keys), {}} : MarkStep{{}, std::move(keys)};
+        },
+        true);
+    if (!step)
+        return;
+    m_history.record(*step);
+    tellMoved(*step);
+    Q_EMIT changed();
+}
+
+void SelectionController::undo()
+{
+    if (!canUndo())
+        return;
+    bool finished = false;
+    changeMarks(text(20340, u"Bitte warten ..."_s), [&](const basic::Progress &progress) {
+        m_history.undo(m_services.databases, progress);
+        finished = true;
+        return MarkStep{};
+    });
+    if (finished)
+        Q_EMIT said(text(20207, u"Rückgängig"_s));
+    Q_EMIT changed();
+}
+
+void SelectionController::redo()
+{
+    if (!canRedo())
+        return;
+    bool finished = false;
+    changeMarks(text(20340, u"Bitte warten ..."_s), [&](const basic::Progress &progress) {
+        m_history.redo(m_services.databases, progress);
+        finished = true;
+        return MarkStep{};
+    });
+    if (finished)
+        Q_EMIT said(text(20208, u"Wiederherstellen"_s));
+    Q_EMIT changed();
+}
+
+void SelectionController::afterOpening(bool opened, const MarkStep &changes, bool otherDatabase)
+{
+    m_watcher.watch(m_services.databases.Familiendatenbank);
+    if (opened && otherDatabase)
+        m_history.clear();
+    else if (opened)
+        m_history.record(changes);
+    m_wanted.reset();
+    const std::array<QString, 2> plain{plainListQuery(PersonList::Unmarked), plainListQuery(PersonList::Marked)};
+    const std::array<QString, 2> wanted = opened ? plain : queries();
+    perform(text(20346, u"Die Datenbank wird gelesen ..."_s),
+            [&](const basic::Progress &progress) { load(wanted, true, progress); });
+    if (opened)
+        Q_EMIT filterDropped();
+}
+
+void SelectionController::release()
+{
+    m_wanted.reset();
+    for (List &list : m_lists)
+        list.model.show(nullptr);
+}
+
+} // namespace kalvenor::selection

@@ -1,0 +1,123 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "language/forms/form.h"
+#include "platform/desktop/work.h"
+#include "selection/filter/filtern.h"
+#include "selection/lists/personlistmodel.h"
+#include "selection/marking/markhistory.h"
+#include "selection/marking/marking.h"
+#include "selection/panel/databasewatcher.h"
+#include <array>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace kalvenor::selection {
+
+/// What the rooms below offer, as the selection's windows need it.
+struct SelectionServices {
+    host::Host &host;
+    language::Sprachmodul &language;
+    data::Datenbankmodul &databases;
+    desktop::Work &work;
+};
+
+/// Both person lists and what can be done with them, without a window. Each action catches what goes wrong in it and
+/// says so once: an unsound filter by filterRefused(), everything else in a message box. The lists then stay as they
+/// are. Actions asked for while other work is running are not begun, save filters, which wait.
+class SelectionController : public QObject {
+    Q_OBJECT
+public:
+    explicit SelectionController(const SelectionServices &services, QObject *parent = nullptr);
+
+    PersonListModel &model(PersonList list) { return m_lists[place(list)].model; }
+    /// The query of what the list shows: a filter's, or the plain one.
+    const QString &query(PersonList list) const { return m_lists[place(list)].query; }
+    bool isFiltered(PersonList list) const { return query(list) != plainListQuery(list); }
+    /// All persons of the database, whatever the lists show.
+    qint64 personCount() const;
+    bool canUndo() const { return m_history.canUndo(); }
+    bool canRedo() const { return m_history.canRedo(); }
+    const SelectionServices &services() const { return m_services; }
+    /// A number as the interface language writes it.
+    QString numberText(qint64 number) const;
+
+    /// Runs both queries again; another program's changes come in.
+    void reloadLists();
+    /// Gives the list its plain query and runs it.
+    void reloadPlain(PersonList list);
+    /// `typed`: while the user is still typing; the pattern is then not written back. A filter that is still running
+    /// is given up for the newer one.
+    /// True where the lists show this filter when it returns.
+    bool filter(const Filter &filter, bool typed = false);
+    /// What is being typed will make the running filter old.
+    void giveUpFilter();
+    void clearFilter();
+
+    /// Moves these persons to the other list.
+    void move(PersonList from, const std::vector<qint32> &counters, Relatives relatives);
+    /// Moves all persons that the list shows (`RMA_Click` and `RM2A_Click`).
+    void moveAll(PersonList from);
+    void undo();
+    void redo();
+
+    /// The databases are about to be closed.
+    void release();
+    /// A template or another database was opened: both lists become plain ones and what it changed can be undone,
+    /// unless another database is open now. Or (`opened` false) that failed, and the lists show what they showed.
+    void afterOpening(bool opened, const MarkStep &changes, bool otherDatabase);
+    /// Looks whether another program changed the database.
+    void lookForChanges() { m_watcher.look(); }
+
+Q_SIGNALS:
+    /// Lists, filter state, figures or undo have changed.
+    void changed();
+    /// Marks, or what is known of the persons, may have changed.
+    void personsChanged();
+    /// A filter was carried out; its pattern goes back into the text box unless the user is typing there.
+    void filtered(const QString &pattern, bool typed);
+    void filterRefused(const QString &why);
+    /// Both lists became plain ones though nobody cleared the filter.
+    void filterDropped();
+    /// After a move, when both lists are shown: rows of the person table, for few persons only.
+    void arrived(PersonList list, const std::vector<quint32> &tableRows);
+    /// What was done, for the status bar.
+    void said(const QString &text);
+    /// Another program changed the database; nothing is reloaded yet.
+    void changedElsewhere();
+
+private:
+    struct List {
+        PersonListModel model;
+        QString query;
+        quint64 generation = 0; ///< of the database when the query ran
+        explicit List(PersonList list) : model(list), query(plainListQuery(list)) {}
+    };
+    struct WantedFilter {
+        Filter filter;
+        bool typed = false;
+    };
+    using Change = std::function<MarkStep(const basic::Progress &)>;
+
+    static std::size_t place(PersonList list) { return static_cast<std::size_t>(list); }
+    QString text(qint16 id, const QString &germanText) const;
+    bool perform(const QString &what, const desktop::Work::Task &task,
+                 desktop::Work::Input input = desktop::Work::Input::CancelOnly);
+    void load(const std::array<QString, 2> &queries, bool all, const basic::Progress &progress, bool announce = false);
+    std::array<QString, 2> queries() const { return {m_lists[0].query, m_lists[1].query}; }
+    std::optional<MarkStep> changeMarks(const QString &what, const Change &change, bool announceLists = false);
+    void runFilters();
+    void tellMoved(const MarkStep &step);
+
+    SelectionServices m_services;
+    std::array<List, 2> m_lists;
+    MarkHistory m_history;
+    DatabaseWatcher m_watcher;
+    std::optional<WantedFilter> m_wanted;
+    bool m_filtering = false;
+    bool m_filterShown = false; ///< the latest filter was carried out
+};
+
+} // namespace kalvenor::selection

@@ -1,0 +1,256 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/preview/druckvorschau.h"
+
+#include "language/forms/form.h"
+#include "language/forms/widgetform.h"
+#include "language/progress/progresspanel.h"
+#include "platform/desktop/lineicon.h"
+#include "settings/preview/druckanzeige.h"
+#include "settings/preview/pageview.h"
+#include "settings/preview/previewactions.h"
+#include "settings/preview/searchbar.h"
+#include <new>
+#include <QAction>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDesktopServices>
+#include <QDir>
+#include <QMetaMethod>
+#include <QPushButton>
+#include <QScopeGuard>
+#include <QSpinBox>
+#include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::settings {
+
+namespace {
+
+constexpr int OnTop = -1;
+constexpr int NotOnTop = 0;
+constexpr QRgb PaperWhite = 0xffffff;
+
+} // namespace
+
+Druckvorschau::Druckvorschau(const host::Host &host, language::Sprachmodul &texts, print::PrintControl &control,
+                             desktop::Work &work, QWidget *parent)
+    : QMainWindow(parent), m_host(host), m_texts(texts), m_control(control), m_work(work), m_view(new PageView(this)),
+      m_searchBar(new SearchBar(*m_view, texts, this)), m_actions(std::make_unique<PreviewActions>(*this)),
+      m_printing(new Druckanzeige(host, work, this)), m_open(new QPushButton(this))
+{
+    setObjectName(u"Druckvorschau"_s);
+    language::setDesignText(this, u"20900Seitenansicht"_s);
+    m_view->setObjectName(u"VSPrinter"_s);
+    language::setDesignText(m_view, u"20914Seiten"_s);
+    auto *middle = new QWidget(this);
+    auto *column = new QVBoxLayout(middle);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_searchBar);
+    column->addWidget(m_view, 1);
+    setCentralWidget(middle);
+    makeStatusBar();
+    connectActions();
+
+    language::formuebersetzen(*this, texts, host);
+    unsetCursor();
+    m_title = windowTitle();
+    m_pageOf = text(20905, u"Seite %1 von %2"_s);
+    m_controlTexts.load(texts);
+    m_printing->setTexts(m_controlTexts);
+    m_actions->showZoomChoices(m_controlTexts);
+    connect(&control, &print::PrintControl::changed, this, &Druckvorschau::showPages);
+    connect(m_view, &PageView::currentPageChanged, this, &Druckvorschau::showPlace);
+    connect(m_view, &PageView::zoomChanged, this, &Druckvorschau::showPlace);
+    resize(1040, 820);
+    showPages();
+    m_view->setFocus();
+}
+
+Druckvorschau::~Druckvorschau() = default;
+
+void Druckvorschau::makeStatusBar()
+{
+    m_open->setObjectName(u"Oeffnen"_s);
+    language::setDesignText(m_open, u"20938Öffnen"_s);
+    m_open->hide();
+    connect(m_open, &QPushButton::clicked, this, &Druckvorschau::openSaved);
+    statusBar()->addPermanentWidget(new language::ProgressPanel(m_work, this));
+    statusBar()->addPermanentWidget(m_open);
+}
+
+void Druckvorschau::connectActions()
+{
+    const auto on = [this](QAction *action, auto slot) {
+        connect(action, &QAction::triggered, this, slot);
+    };
+    const auto command = [&](QAction *action, const QString &key) {
+        on(action, [this, key] { toolbarbuttonclick(key); });
+    };
+    PreviewActions &actions = *m_actions;
+    for (QAction *action : actions.commands)
+        command(action, action->objectName());
+    command(actions.MDD, u"drucker"_s);
+    command(actions.MDS, u"save"_s);
+    command(actions.MDINI, u"INI"_s);
+    on(actions.MDE, [this] { close(); });
+    on(actions.MHH, [this] {
+        try {
+            callMain("panelaufruf", u"Hilfe"_s);
+        } catch (const basic::Error &error) {
+            m_host.desktop().messageBox(error.message(), desktop::MessageCritical, m_title);
+        }
+    });
+    on(actions.first, [this] { m_view->goToPage(0); });
+    on(actions.previous, [this] { m_view->goToPage(m_view->currentPage() - 1); });
+    on(actions.next, [this] { m_view->goToPage(m_view->currentPage() + 1); });
+    on(actions.last, [this] { m_view->goToPage(m_view->pageCount() - 1); });
+    on(actions.larger, [this] { m_view->zoomStep(true); });
+    on(actions.smaller, [this] { m_view->zoomStep(false); });
+    on(actions.actualSize, [this] { m_view->setZoom(100); });
+    on(actions.find, [this] { m_searchBar->open(); });
+    on(actions.findNext, [this] { m_searchBar->next(); });
+    on(actions.findPrevious, [this] { m_searchBar->previous(); });
+    for (std::size_t i = 0; i < actions.fits.size(); ++i)
+        on(actions.fits[i], [this, i] { m_actions->choose(*m_view, static_cast<int>(i)); });
+    connect(actions.zoom, &QComboBox::activated, this, [this](int choice) { m_actions->choose(*m_view, choice); });
+    connect(actions.page, &QSpinBox::valueChanged, this, [this](int page) { m_view->goToPage(page - 1); });
+    connect(actions.page, &QSpinBox::editingFinished, m_view, qOverload<>(&QWidget::setFocus));
+}
+
+void Druckvorschau::showPages()
+{
+    m_view->setPages(m_control.layout());
+    const QString title = m_control.hasDocument() ? m_control.document().title : QString();
+    setWindowTitle(title.isEmpty() ? m_title : u"%1 – %2"_s.arg(title, m_title));
+    m_searchBar->restart();
+    showPlace();
+}
+
+void Druckvorschau::showPlace()
+{
+    m_actions->follow(*m_view, m_pageOf);
+}
+
+QString Druckvorschau::text(qint16 id, const QString &germanText, const QString &what) const
+{
+    return language::shownText(m_texts, id, germanText).replace(u"%1"_s, what.isNull() ? u"%1"_s : what);
+}
+
+void Druckvorschau::say(const QString &what)
+{
+    m_open->hide();
+    statusBar()->showMessage(what);
+}
+
+void Druckvorschau::saySaved(const QString &file)
+{
+    say(text(20934, u"Gespeichert: %1"_s, QDir::toNativeSeparators(file)));
+    m_saved = file;
+    m_open->show();
+}
+
+void Druckvorschau::openSaved()
+{
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(m_saved)))
+        m_host.desktop().messageBox(
+            text(20942, u"Die Datei kann nicht geöffnet werden: %1"_s, QDir::toNativeSeparators(m_saved)),
+            desktop::MessageCritical, m_title);
+}
+
+void Druckvorschau::callMain(const char *procedure, const QString &topic)
+{
+    QObject *main = m_host.Hauptform;
+    const QByteArray signature = procedure + QByteArray(topic.isNull() ? "()" : "(QString)");
+    const int number = main == nullptr ? -1 : main->metaObject()->indexOfMethod(signature);
+    if (number < 0)
+        throw basic::Error(basic::ErrorKind::Refused, {},
+                           text(20944, u"Das Hauptfenster kennt den Befehl %1 nicht."_s, QLatin1String(procedure)));
+    const QMetaMethod method = main->metaObject()->method(number);
+    if (topic.isNull())
+        method.invoke(main, Qt::DirectConnection);
+    else
+        method.invoke(main, Qt::DirectConnection, Q_ARG(QString, topic));
+}
+
+void Druckvorschau::toolbarbuttonclick(const QString &key)
+{
+    if (m_busy || m_work.isRunning())
+        return;
+    m_busy = true;
+    m_open->hide();
+    statusBar()->clearMessage();
+    placeAll(NotOnTop); // so that dialogs can come to the front
+    const auto end = qScopeGuard([this] {
+        m_busy = false;
+        placeAll(OnTop);
+        if (m_closing)
+            QTimer::singleShot(0, this, &QWidget::close);
+    });
+    try {
+        carryOut(key);
+    } catch (const basic::Error &error) {
+        if (error.kind() == basic::ErrorKind::Cancelled)
+            say(key == u"drucker" ? text(20936, u"Der Druck wurde abgebrochen."_s)
+                                  : text(20948, u"Das Speichern wurde abgebrochen."_s));
+        else
+            m_host.desktop().messageBox(error.message(), desktop::MessageCritical, m_title);
+    } catch (const std::bad_alloc &) {
+        m_host.desktop().messageBox(u"There is not enough memory for this."_s, desktop::MessageCritical, m_title);
+    }
+}
+
+void Druckvorschau::placeAll(int onTop)
+{
+    if (const auto *main = qobject_cast<QWidget *>(m_host.Hauptform.data()))
+        m_host.fensteroben(main->windowHandle(), onTop, false);
+    m_host.fensteroben(windowHandle(), onTop, false);
+}
+
+void Druckvorschau::carryOut(const QString &key)
+{
+    if (key == u"INI")
+        setUpPage();
+    else if (key == u"INITVorgaben")
+        callMain("init");
+    else if (key == u"drucker")
+        print();
+    else if (key == u"save")
+        save();
+}
+
+void Druckvorschau::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::ActivationChange || !isActiveWindow() || m_busy)
+        return;
+    m_view->setPaper(QColor(PaperWhite));
+    m_host.fensteroben(windowHandle(), OnTop, false);
+}
+
+void Druckvorschau::closeEvent(QCloseEvent *event)
+{
+    if (m_busy || m_work.isRunning()) {
+        m_closing = true;
+        m_work.cancel();
+        if (!m_busy) // the work is somebody else's
+            connect(&m_work, &desktop::Work::ended, this, &QWidget::close,
+                    static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+        event->ignore();
+        return;
+    }
+    m_closing = false;
+    m_host.fensteroben(windowHandle(), NotOnTop, false);
+    if (auto *main = qobject_cast<QWidget *>(m_host.Hauptform.data())) {
+        main->show();
+        m_host.fensteroben(main->windowHandle(), OnTop, true);
+    }
+    event->accept();
+}
+
+} // namespace kalvenor::settings

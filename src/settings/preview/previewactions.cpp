@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "settings/preview/previewactions.h"
+
+#include "language/forms/widgetform.h"
+#include "platform/desktop/lineicon.h"
+#include "settings/preview/pageview.h"
+#include <algorithm>
+#include <QAction>
+#include <QActionGroup>
+#include <QComboBox>
+#include <QKeySequence>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QToolBar>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::settings {
+
+namespace {
+
+constexpr std::array<Fit, 4> FitOfChoice = {Fit::WholePage, Fit::PageWidth, Fit::TwoPages, Fit::Thumbnails};
+
+QAction *make(QMainWindow &window, const char *name, const char *caption, const QList<QKeySequence> &keys = {})
+{
+    auto *action = new QAction(&window);
+    action->setObjectName(QLatin1String(name));
+    language::setDesignText(action, QString::fromUtf8(caption));
+    action->setShortcuts(keys);
+    return action;
+}
+
+QAction *make(QMainWindow &window, const char *name, const char *caption, desktop::LineIcon icon,
+              const QList<QKeySequence> &keys = {})
+{
+    QAction *action = make(window, name, caption, keys);
+    action->setIcon(desktop::lineIcon(icon));
+    return action;
+}
+
+QAction *makeCommand(QMainWindow &window, const char *key, const char *caption, const char *tooltip,
+                     desktop::LineIcon icon)
+{
+    QAction *action = make(window, key, caption, icon);
+    language::setDesignText(action, {}, QString::fromUtf8(tooltip));
+    return action;
+}
+
+QToolBar *makeToolBar(QMainWindow &window, const char *name, const char *caption, Qt::ToolButtonStyle style)
+{
+    auto *bar = new QToolBar(&window);
+    bar->setObjectName(QLatin1String(name));
+    bar->setMovable(false);
+    bar->setToolButtonStyle(style);
+    bar->setContextMenuPolicy(Qt::PreventContextMenu);
+    language::setDesignText(bar, QString::fromUtf8(caption));
+    window.addToolBar(bar);
+    return bar;
+}
+
+} // namespace
+
+PreviewActions::PreviewActions(QMainWindow &window)
+    : commands{makeCommand(window, "drucker", "190Drucken", "20930Die Seiten drucken", desktop::LineIcon::Print),
+               makeCommand(window, "save", "191Speichern", "20931Die Seiten als RTF, PDF oder HTML speichern",
+                           desktop::LineIcon::Save),
+               makeCommand(window, "INITVorgaben", "192Druckeinstellungen",
+                           "20932Schriften, Farben und Umfang des Berichts einstellen", desktop::LineIcon::Sliders),
+               makeCommand(window, "INI", "193Seite einrichten", "20933Papier, Ausrichtung und Ränder einstellen",
+                           desktop::LineIcon::Page)},
+      MDD(make(window, "MDD", "180 &Drucken", desktop::LineIcon::Print, {Qt::CTRL | Qt::Key_P})),
+      MDS(make(window, "MDS", "181 &Speichern", desktop::LineIcon::Save, {Qt::CTRL | Qt::Key_S})),
+      MDINI(make(window, "MDINI", "182 &Druckvorlage", desktop::LineIcon::Page)),
+      MDE(make(window, "MDE", "183 &Fenster schließen", {Qt::CTRL | Qt::Key_W})),
+      MHH(make(window, "MHH", "184 &Hilfe", {Qt::Key_F1})),
+      first(make(window, "Erste", "20901Erste Seite", desktop::LineIcon::First, {Qt::CTRL | Qt::Key_Home})),
+      previous(make(window, "Vorige", "20902Vorige Seite", desktop::LineIcon::Left, {Qt::CTRL | Qt::Key_PageUp})),
+      next(make(window, "Naechste", "20903Nächste Seite", desktop::LineIcon::Right, {Qt::CTRL | Qt::Key_PageDown})),
+      last(make(window, "Letzte", "20904Letzte Seite", desktop::LineIcon::Last, {Qt::CTRL | Qt::Key_End})),
+      larger(make(window, "Groesser", "20908Vergrößern", desktop::LineIcon::Plus,
+                  {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal})),
+      smaller(make(window, "Kleiner", "20909Verkleinern", desktop::LineIcon::Minus, {Qt::CTRL | Qt::Key_Minus})),
+      actualSize(make(window, "Originalgroesse", "20916Originalgröße", {Qt::CTRL | Qt::Key_0})),
+      find(make(window, "Finden", "20910Text suchen", desktop::LineIcon::Find, {Qt::CTRL | Qt::Key_F})),
+      findNext(make(window, "Weitersuchen", "20911Weitersuchen", {Qt::Key_F3})),
+      findPrevious(make(window, "Rueckwaertssuchen", "20915Rückwärts suchen", {Qt::SHIFT | Qt::Key_F3})), fits{},
+      page(new QSpinBox), zoom(new QComboBox)
+{
+    auto *group = new QActionGroup(&window);
+    for (QAction *&fit : fits) {
+        fit = new QAction(group);
+        fit->setCheckable(true);
+    }
+    group->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+    page->setObjectName(u"Seite"_s);
+    page->setButtonSymbols(QAbstractSpinBox::NoButtons);
+    page->setAlignment(Qt::AlignCenter);
+    page->setKeyboardTracking(false);
+    language::setDesignText(page, u"20906Gehe zu Seite"_s, u"20906Gehe zu Seite"_s);
+    zoom->setObjectName(u"Zoom"_s);
+    zoom->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    zoom->setMaxVisibleItems(30);
+    language::setDesignText(zoom, u"20907Zoom"_s, u"20907Zoom"_s);
+    makeMenus(window);
+    makeToolBars(window);
+    showZoomChoices({});
+}
+
+void PreviewActions::makeMenus(QMainWindow &window)
+{
+    QMenu *md = window.menuBar()->addMenu(QString());
+    md->setObjectName(u"MD"_s);
+    language::setDesignText(md, u"180 &Drucken"_s);
+    md->addActions({MDD, MDS});
+    md->addSeparator();
+    md->addAction(MDINI);
+    md->addSeparator();
+    md->addAction(MDE);
+
+    QMenu *view = window.menuBar()->addMenu(QString());
+    language::setDesignText(view, u"20140 &Ansicht"_s);
+    view->addActions({fits[0], fits[1], fits[2], fits[3]});
+    view->addSeparator();
+    view->addActions({larger, smaller, actualSize});
+    view->addSeparator();
+    view->addActions({first, previous, next, last});
+    view->addSeparator();
+    view->addActions({find, findNext, findPrevious});
+
+    window.menuBar()->addAction(MHH);
+}
+
+void PreviewActions::makeToolBars(QMainWindow &window)
+{
+    QToolBar *tools = makeToolBar(window, "Toolbar", "20141 &Werkzeugleiste", Qt::ToolButtonTextBesideIcon);
+    tools->addActions(commands);
+    QToolBar *pages = makeToolBar(window, "Seiten", "20914Seiten", Qt::ToolButtonIconOnly);
+    pages->addActions({first, previous});
+    pages->addWidget(page);
+    pages->addActions({next, last});
+    pages->addSeparator();
+    pages->addAction(smaller);
+    pages->addWidget(zoom);
+    pages->addAction(larger);
+    pages->addSeparator();
+    pages->addAction(find);
+}
+
+void PreviewActions::showZoomChoices(const ControlTexts &texts)
+{
+    const QSignalBlocker quiet(zoom);
+    const auto choices = texts.zooms();
+    zoom->clear();
+    for (std::size_t i = 0; i < choices.size(); ++i) {
+        fits[i]->setText(choices[i]);
+        zoom->addItem(QString(choices[i]).remove(u'&'));
+    }
+    zoom->insertSeparator(zoom->count());
+    for (int percent = SmallestZoom;; percent = nextZoom(percent, true)) {
+        zoom->addItem(u"%1 %"_s.arg(percent), percent);
+        if (percent == LargestZoom)
+            break;
+    }
+}
+
+void PreviewActions::follow(const PageView &view, const QString &pageOf)
+{
+    const QSignalBlocker quietPage(page);
+    const QSignalBlocker quietZoom(zoom);
+    const int count = view.pageCount();
+    const int current = view.currentPage();
+    const qsizetype place = pageOf.indexOf(u"%1"_s);
+    page->setRange(count == 0 ? 0 : 1, count);
+    page->setPrefix(pageOf.left(std::max<qsizetype>(place, 0)));
+    page->setSuffix(pageOf.mid(place < 0 ? 0 : place + 2).replace(u"%2"_s, QString::number(count)));
+    page->setValue(count == 0 ? 0 : current + 1);
+    page->setEnabled(count > 0);
+    for (QAction *back : {first, previous})
+        back->setEnabled(current > 0);
+    for (QAction *forth : {next, last})
+        forth->setEnabled(current + 1 < count);
+
+    for (std::size_t i = 0; i < fits.size(); ++i)
+        fits[i]->setChecked(view.fit() == FitOfChoice[i]);
+    const auto *fitted = std::find(FitOfChoice.begin(), FitOfChoice.end(), view.fit());
+    zoom->setCurrentIndex(fitted != FitOfChoice.end() ? static_cast<int>(fitted - FitOfChoice.begin())
+                                                      : zoom->findData(view.zoom()));
+    larger->setEnabled(view.zoom() < LargestZoom);
+    smaller->setEnabled(view.zoom() > SmallestZoom);
+}
+
+void PreviewActions::choose(PageView &view, int choice) const
+{
+    const QVariant percent = zoom->itemData(choice);
+    if (percent.isValid())
+        view.setZoom(percent.toInt());
+    else if (choice >= 0 && choice < static_cast<int>(FitOfChoice.size()))
+        view.setFit(FitOfChoice[static_cast<std::size_t>(choice)]);
+}
+
+} // namespace kalvenor::settings

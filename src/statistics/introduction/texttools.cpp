@@ -1,0 +1,330 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "statistics/introduction/texttools.h"
+
+#include "language/forms/widgetform.h"
+#include "platform/desktop/formaticon.h"
+#include "platform/desktop/lineicon.h"
+#include "statistics/introduction/textfield.h"
+#include <algorithm>
+#include <cmath>
+#include <QAction>
+#include <QActionGroup>
+#include <QFontComboBox>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QTextList>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::statistics {
+
+namespace {
+
+constexpr double SmallestSize = 4;
+constexpr double LargestSize = 200;
+
+constexpr std::array Alignments{Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight, Qt::AlignJustify};
+
+struct NamedColor {
+    const char *caption;
+    QRgb color; ///< 0: automatic
+};
+/// Each reads well on white paper.
+constexpr NamedColor NamedColors[] = {{"20740Automatisch", 0},      {"20741Dunkelrot", 0xFF800000},
+                                      {"20742Rot", 0xFFD00000},     {"20743Orange", 0xFFC05A00},
+                                      {"20744Grün", 0xFF207520},    {"20745Türkis", 0xFF007878},
+                                      {"20746Blau", 0xFF1F5FC8},    {"20747Dunkelblau", 0xFF000080},
+                                      {"20748Violett", 0xFF7A2A90}, {"20749Grau", 0xFF666666}};
+
+QColor foregroundOf(const QTextCharFormat &format)
+{
+    return format.hasProperty(QTextFormat::ForegroundBrush) ? format.foreground().color() : QColor();
+}
+
+QIcon swatch(const QColor &color)
+{
+    QPixmap pixmap(32, 32);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setPen(Qt::gray);
+    painter.setBrush(color.isValid() ? color : QColor(Qt::black));
+    painter.drawRect(4, 4, 23, 23);
+    return QIcon(pixmap);
+}
+
+} // namespace
+
+TextTools::TextTools(TextField &field, QWidget *parent) : QToolBar(parent), m_field(field), m_menu(new QMenu(&field))
+{
+    setObjectName(u"Textwerkzeuge"_s);
+    language::setDesignText(this, u"20739Textformate"_s);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setIconSize(QSize(18, 18));
+    makeFormats();
+    makeAlignments();
+    makeEditing();
+    makeFonts();
+    makeColors();
+    arrange();
+    makeMenu();
+    connect(&field, &QTextEdit::currentCharFormatChanged, this, &TextTools::showFormats);
+    connect(&field, &QTextEdit::cursorPositionChanged, this, &TextTools::showFormats);
+    connect(&field, &QTextEdit::textChanged, this, &TextTools::showFormats);
+    showFormats();
+}
+
+QAction *TextTools::make(const char *name, const char *caption, const QIcon &icon, const QKeySequence &keys)
+{
+    auto *action = new QAction(icon, {}, this);
+    action->setObjectName(QLatin1String(name));
+    language::setDesignText(action, QString::fromUtf8(caption), QString::fromUtf8(caption));
+    // The field itself looks for the keys, so that the window's actions with the same ones do not stand in its way.
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    return action;
+}
+
+QAction *TextTools::makeToggle(const char *name, const char *caption, desktop::FormatIcon icon,
+                               const QKeySequence &keys, void (TextTools::*apply)(bool))
+{
+    QAction *action = make(name, caption, desktop::formatIcon(icon), keys);
+    action->setCheckable(true);
+    connect(action, &QAction::triggered, this, apply);
+    return action;
+}
+
+void TextTools::makeFormats()
+{
+    m_bold = makeToggle("Fett", "20700Fett", desktop::FormatIcon::Bold, Qt::CTRL | Qt::Key_B, &TextTools::applyBold);
+    m_italic =
+        makeToggle("Kursiv", "20701Kursiv", desktop::FormatIcon::Italic, Qt::CTRL | Qt::Key_I, &TextTools::applyItalic);
+    m_underline = makeToggle("Unterstrichen", "20702Unterstrichen", desktop::FormatIcon::Underline,
+                             Qt::CTRL | Qt::Key_U, &TextTools::applyUnderline);
+    m_strikeOut = makeToggle("Durchgestrichen", "20703Durchgestrichen", desktop::FormatIcon::StrikeOut,
+                             Qt::CTRL | Qt::SHIFT | Qt::Key_X, &TextTools::applyStrikeOut);
+    m_bullets = makeToggle("Aufzaehlung", "20707Aufzählung", desktop::FormatIcon::Bullets,
+                           Qt::CTRL | Qt::SHIFT | Qt::Key_L, &TextTools::applyBullets);
+    m_plain = make("Formateentfernen", "20724Formate entfernen", desktop::formatIcon(desktop::FormatIcon::Plain),
+                   Qt::CTRL | Qt::Key_Space);
+    connect(m_plain, &QAction::triggered, &m_field, &TextField::removeFormats);
+}
+
+void TextTools::makeAlignments()
+{
+    m_alignments = {
+        make("Links", "20704Linksbündig", desktop::formatIcon(desktop::FormatIcon::Left), Qt::CTRL | Qt::Key_L),
+        make("Zentriert", "20705Zentriert", desktop::formatIcon(desktop::FormatIcon::Centre), Qt::CTRL | Qt::Key_E),
+        make("Rechts", "20706Rechtsbündig", desktop::formatIcon(desktop::FormatIcon::Right), Qt::CTRL | Qt::Key_R),
+        make("Blocksatz", "20725Blocksatz", desktop::formatIcon(desktop::FormatIcon::Justify), Qt::CTRL | Qt::Key_J)};
+    auto *group = new QActionGroup(this);
+    for (std::size_t i = 0; i < m_alignments.size(); ++i) {
+        m_alignments[i]->setCheckable(true);
+        group->addAction(m_alignments[i]);
+        connect(m_alignments[i], &QAction::triggered, this, [this, i] { m_field.setAlignment(Alignments[i]); });
+    }
+}
+
+void TextTools::makeEditing()
+{
+    m_undo =
+        make("Textrueckgaengig", "20711Rückgängig", desktop::lineIcon(desktop::LineIcon::Undo), Qt::CTRL | Qt::Key_Z);
+    m_redo = make("Textwiederherstellen", "20712Wiederherstellen", desktop::lineIcon(desktop::LineIcon::Redo));
+    m_redo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
+    m_cut = make("Ausschneiden", "20713Ausschneiden", {}, QKeySequence::Cut);
+    m_copy = make("Textkopieren", "20714Kopieren", desktop::lineIcon(desktop::LineIcon::Copy), QKeySequence::Copy);
+    m_paste = make("Einfuegen", "20715Einfügen", {}, QKeySequence::Paste);
+    m_pastePlain = make("Ohneformateeinfuegen", "20716Ohne Formate einfügen", {}, Qt::CTRL | Qt::SHIFT | Qt::Key_V);
+    m_open = make("Textoeffnen", "20717Text öffnen ...", desktop::lineIcon(desktop::LineIcon::Open));
+    m_save = make("Textspeichern", "20718Text speichern ...", desktop::lineIcon(desktop::LineIcon::Save));
+    connect(m_undo, &QAction::triggered, &m_field, &QTextEdit::undo);
+    connect(m_redo, &QAction::triggered, &m_field, &QTextEdit::redo);
+    connect(m_cut, &QAction::triggered, &m_field, &QTextEdit::cut);
+    connect(m_copy, &QAction::triggered, &m_field, &QTextEdit::copy);
+    connect(m_paste, &QAction::triggered, &m_field, &QTextEdit::paste);
+    connect(m_pastePlain, &QAction::triggered, &m_field, &TextField::pastePlain);
+    connect(m_open, &QAction::triggered, this, &TextTools::openWanted);
+    connect(m_save, &QAction::triggered, this, &TextTools::saveWanted);
+    for (QAction *action : {m_undo, m_redo, m_cut, m_copy})
+        action->setEnabled(false);
+    connect(&m_field, &QTextEdit::undoAvailable, m_undo, &QAction::setEnabled);
+    connect(&m_field, &QTextEdit::redoAvailable, m_redo, &QAction::setEnabled);
+    connect(&m_field, &QTextEdit::copyAvailable, m_cut, &QAction::setEnabled);
+    connect(&m_field, &QTextEdit::copyAvailable, m_copy, &QAction::setEnabled);
+}
+
+void TextTools::makeFonts()
+{
+    m_family = new QFontComboBox(this);
+    m_family->setObjectName(u"Schriftart"_s);
+    m_family->setMaximumWidth(m_family->fontMetrics().averageCharWidth() * 20);
+    language::setDesignText(m_family, u"20708Schriftart"_s, u"20708Schriftart"_s);
+    connect(m_family, &QComboBox::textActivated, this, [this](const QString &family) {
+        QTextCharFormat format;
+        format.setFontFamilies({family});
+        merge(format);
+    });
+    m_size = new QComboBox(this);
+    m_size->setObjectName(u"Schriftgroesse"_s);
+    m_size->setEditable(true);
+    m_size->setInsertPolicy(QComboBox::NoInsert);
+    m_size->setMinimumContentsLength(3);
+    m_size->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_size->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    m_size->setMaxVisibleItems(16);
+    language::setDesignText(m_size, u"20709Schriftgröße"_s, u"20709Schriftgröße"_s);
+    for (const int size : {8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 28, 36, 48, 72})
+        m_size->addItem(QString::number(size));
+    connect(m_size, &QComboBox::textActivated, this, &TextTools::applySize);
+    connect(m_size->lineEdit(), &QLineEdit::returnPressed, this, [this] { applySize(m_size->currentText()); });
+}
+
+void TextTools::makeColors()
+{
+    m_color = new QToolButton(this);
+    m_color->setObjectName(u"Schriftfarbe"_s);
+    m_color->setPopupMode(QToolButton::InstantPopup);
+    language::setDesignText(m_color, {}, u"20710Schriftfarbe"_s);
+    m_colors = new QMenu(m_color);
+    for (const NamedColor &named : NamedColors) {
+        const QColor color = named.color == 0 ? QColor() : QColor(named.color);
+        QAction *action = m_colors->addAction(swatch(color), {});
+        language::setDesignText(action, QString::fromUtf8(named.caption));
+        connect(action, &QAction::triggered, this, [this, color] { applyColor(color); });
+    }
+    m_color->setMenu(m_colors);
+}
+
+void TextTools::arrange()
+{
+    addWidget(m_family);
+    addWidget(m_size);
+    addSeparator();
+    addActions({m_bold, m_italic, m_underline, m_strikeOut});
+    addWidget(m_color);
+    addAction(m_plain);
+    addSeparator();
+    for (QAction *alignment : m_alignments)
+        addAction(alignment);
+    addAction(m_bullets);
+    addSeparator();
+    addActions({m_undo, m_redo});
+    addSeparator();
+    addActions({m_open, m_save});
+}
+
+void TextTools::makeMenu()
+{
+    m_menu->setObjectName(u"Textmenue"_s);
+    m_menu->addActions({m_undo, m_redo});
+    m_menu->addSeparator();
+    m_menu->addActions({m_cut, m_copy, m_paste, m_pastePlain});
+    m_menu->addSeparator();
+    m_menu->addActions({m_bold, m_italic, m_underline, m_strikeOut, m_plain});
+    m_menu->addSeparator();
+    for (QAction *alignment : m_alignments)
+        m_menu->addAction(alignment);
+    m_menu->addAction(m_bullets);
+    m_menu->addSeparator();
+    m_menu->addActions({m_open, m_save});
+    connect(m_menu, &QMenu::aboutToShow, this, [this] {
+        m_paste->setEnabled(m_field.canPaste());
+        m_pastePlain->setEnabled(m_field.canPaste());
+    });
+    // Closed again they must not keep the keys from working.
+    connect(m_menu, &QMenu::aboutToHide, this, [this] {
+        m_paste->setEnabled(true);
+        m_pastePlain->setEnabled(true);
+    });
+    m_field.setContextMenu(m_menu);
+}
+
+void TextTools::merge(const QTextCharFormat &format)
+{
+    m_field.mergeCurrentCharFormat(format);
+    m_field.setFocus();
+    showFormats();
+}
+
+void TextTools::applyBold(bool on)
+{
+    QTextCharFormat format;
+    format.setFontWeight(on ? QFont::Bold : QFont::Normal);
+    merge(format);
+}
+
+void TextTools::applyItalic(bool on)
+{
+    QTextCharFormat format;
+    format.setFontItalic(on);
+    merge(format);
+}
+
+void TextTools::applyUnderline(bool on)
+{
+    QTextCharFormat format;
+    format.setUnderlineStyle(on ? QTextCharFormat::SingleUnderline : QTextCharFormat::NoUnderline);
+    merge(format);
+}
+
+void TextTools::applyStrikeOut(bool on)
+{
+    QTextCharFormat format;
+    format.setFontStrikeOut(on);
+    merge(format);
+}
+
+void TextTools::applyBullets(bool on)
+{
+    m_field.setBullets(on);
+    showFormats();
+}
+
+void TextTools::applySize(const QString &text)
+{
+    bool sound = false;
+    const double size = QString(text).replace(u',', u'.').toDouble(&sound);
+    if (sound && size > 0) {
+        QTextCharFormat format;
+        format.setFontPointSize(std::clamp(std::round(size * 2) / 2, SmallestSize, LargestSize));
+        m_field.mergeCurrentCharFormat(format);
+    }
+    m_field.setFocus();
+    showFormats();
+}
+
+void TextTools::applyColor(const QColor &color)
+{
+    QTextCharFormat format;
+    // Merging cannot take a property away; no brush counts as none.
+    format.setForeground(color.isValid() ? QBrush(color) : QBrush(Qt::NoBrush));
+    merge(format);
+}
+
+void TextTools::showFormats()
+{
+    const QTextCharFormat format = m_field.currentCharFormat();
+    m_bold->setChecked(format.fontWeight() >= QFont::DemiBold);
+    m_italic->setChecked(format.fontItalic());
+    m_underline->setChecked(format.fontUnderline());
+    m_strikeOut->setChecked(format.fontStrikeOut());
+    m_bullets->setChecked(m_field.textCursor().currentList() != nullptr);
+    const Qt::Alignment alignment = m_field.alignment();
+    for (std::size_t i = 0; i < Alignments.size(); ++i)
+        m_alignments[i]->setChecked(alignment.testFlag(Alignments[i]));
+
+    const QFont usual = m_field.document()->defaultFont();
+    const QString family = format.fontFamilies().toStringList().value(0, usual.family());
+    const double size = format.fontPointSize() > 0 ? format.fontPointSize() : usual.pointSizeF();
+    const QSignalBlocker quietFamily(m_family);
+    const QSignalBlocker quietSize(m_size);
+    m_family->setEditText(family);
+    if (!m_size->lineEdit()->hasFocus())
+        m_size->setEditText(locale().toString(size, 'g', 4));
+    m_color->setIcon(desktop::colorIcon(foregroundOf(format)));
+}
+
+} // namespace kalvenor::statistics

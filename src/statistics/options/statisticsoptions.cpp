@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "statistics/options/statisticsoptions.h"
+
+#include "data/datevalue.h"
+#include "platform/basic/number.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::statistics {
+
+namespace {
+
+const QString ChartSection = u"Grafik"_s;
+const QString SexSection = u"Geschlecht"_s;
+
+} // namespace
+
+const std::vector<ChartTypeEntry> &chartTypeEntries()
+{
+    static const std::vector<ChartTypeEntry> entries{
+        {chart::ChartType::Bar3D, 20601, "Balken 3D"},
+        {chart::ChartType::Bar, 20602, "Balken"},
+        {chart::ChartType::Line3D, 20603, "Linien 3D"},
+        {chart::ChartType::Line, 20604, "Linien"},
+        {chart::ChartType::Area3D, 20605, "Flächen 3D"},
+        {chart::ChartType::Area, 20606, "Flächen"},
+        {chart::ChartType::Step3D, 20607, "Stufen 3D"},
+        {chart::ChartType::Step, 20608, "Stufen"},
+        {chart::ChartType::Combination3D, 20609, "Kombination 3D"},
+        {chart::ChartType::Combination, 20610, "Kombination"},
+        {chart::ChartType::Pie, 20611, "Kreis"},
+        {chart::ChartType::XY, 20612, "XY-Punkte"},
+    };
+    return entries;
+}
+
+chart::ChartType StatisticsOptions::type() const
+{
+    const auto &entries = chartTypeEntries();
+    const auto place = static_cast<std::size_t>(grafiktyp);
+    return place < entries.size() ? entries[place].type : chart::ChartType::Bar;
+}
+
+StatisticsOptions readOptions(const host::Host &host)
+{
+    StatisticsOptions options;
+    const auto number = [&host](const QString &section, const QString &key, int fallback) {
+        return basic::leadingNumber(host.inilesen(host.ownSettingsFile(), section, key, QString::number(fallback)));
+    };
+    const double type = number(ChartSection, u"Grafiktyp"_s, options.grafiktyp);
+    if (type >= 0 && type < static_cast<double>(chartTypeEntries().size()))
+        options.grafiktyp = static_cast<int>(type);
+    options.legende = number(ChartSection, u"Legende"_s, 1) != 0;
+    const QString byBirth = host.inilesen(host.ownSettingsFile(), ChartSection, u"Gebgest"_s, u"1"_s);
+    options.nachGeburtsjahr = data::textwahr(byBirth) || basic::leadingNumber(byBirth) != 0; // as a reset reads it
+    for (std::size_t i = 0; i < options.geschlechtalter.size(); ++i)
+        options.geschlechtalter[i] = number(SexSection, QString::number(i), 1) == 1 ? 1 : 0;
+    return options;
+}
+
+void writeOptions(const host::Host &host, const StatisticsOptions &options)
+{
+    const auto entry = [](const QString &section, const QString &key, int value) {
+        return host::Host::Setting{section, key, QString::number(value)};
+    };
+    std::vector<host::Host::Setting> entries{entry(ChartSection, u"Grafiktyp"_s, options.grafiktyp),
+                                             entry(ChartSection, u"Legende"_s, options.legende ? 1 : 0),
+                                             entry(ChartSection, u"Gebgest"_s, options.nachGeburtsjahr ? 1 : 0)};
+    for (std::size_t i = 0; i < options.geschlechtalter.size(); ++i)
+        entries.push_back(entry(SexSection, QString::number(i), options.geschlechtalter[i]));
+    host.inischreiben(host.ownSettingsFile(), entries);
+}
+
+} // namespace kalvenor::statistics

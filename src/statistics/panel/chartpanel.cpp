@@ -1,0 +1,230 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "statistics/panel/chartpanel.h"
+
+#include "language/forms/form.h"
+#include "language/forms/widgetform.h"
+#include "platform/chart/chartcontrol.h"
+#include "statistics/figures/grafikbild.h"
+#include "statistics/panel/sexbox.h"
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::statistics {
+
+namespace {
+
+constexpr QSize SavedSize(1600, 1000);
+constexpr double SavedDpi = 160;
+
+QLabel *heading(QWidget *parent, const char *caption)
+{
+    auto *label = new QLabel(parent);
+    language::setDesignText(label, QString::fromUtf8(caption));
+    return label;
+}
+
+QLabel *figure(QWidget *parent, const QString &name)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(name);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    label->setFocusPolicy(Qt::ClickFocus);
+    return label;
+}
+
+QAbstractButton *groupingButton(QWidget *parent, int index, const char *caption, const char *tooltip)
+{
+    auto *button = new QRadioButton(parent);
+    button->setObjectName(u"gt_ribbon_%1"_s.arg(index));
+    language::setDesignText(button, QString::fromUtf8(caption), QString::fromUtf8(tooltip));
+    return button;
+}
+
+} // namespace
+
+ChartPanel::ChartPanel(StatisticsController &controller, QWidget *parent)
+    : QWidget(parent), m_controller(controller), m_type(new QComboBox(this)), m_legend(new QCheckBox(this)),
+      m_grouping{
+          groupingButton(this, 0, "20516Geburtsjahr", "20518Die Grafik ordnet die Personen nach ihrem Geburtsjahr"),
+          groupingButton(this, 1, "20517Sterbejahr", "20519Die Grafik ordnet die Personen nach ihrem Sterbejahr")},
+      m_sexes{makeSexBox(this, 2, "20538Männer"), makeSexBox(this, 3, "20539Frauen")},
+      m_chart(new chart::ChartControl(this))
+{
+    m_chart->setObjectName(u"Grafik"_s);
+    nameActions();
+    auto *column = new QVBoxLayout(this);
+    column->addWidget(makeOptions());
+    column->addWidget(m_chart, 1);
+    column->addWidget(makeFigures());
+
+    connect(m_type, &QComboBox::activated, this, &ChartPanel::chartWanted);
+    for (const QAbstractButton *button : m_grouping)
+        connect(button, &QAbstractButton::clicked, this, &ChartPanel::chartWanted);
+    for (const QCheckBox *box : m_sexes)
+        connect(box, &QCheckBox::clicked, this, &ChartPanel::chartWanted);
+    connect(m_legend, &QCheckBox::clicked, this, &ChartPanel::chartWanted);
+    connect(m_chart, &chart::ChartControl::saveWanted, this, &ChartPanel::savePicture);
+    connect(&controller, &StatisticsController::figuresChanged, this, &ChartPanel::showFigures);
+    showFigures();
+    setFocusProxy(m_type);
+}
+
+QString ChartPanel::text(qint16 id, const QString &germanText) const
+{
+    return language::shownText(m_controller.services().language, id, germanText);
+}
+
+void ChartPanel::nameActions()
+{
+    language::setDesignText(m_chart->copyAction, u"20626Bild kopieren"_s);
+    language::setDesignText(m_chart->saveAction, u"20627Bild speichern ..."_s);
+    language::setDesignText(m_chart->gridAction, u"20629Gitterlinien"_s);
+    language::setDesignText(m_chart->valuesAction, u"20630Werte anzeigen"_s);
+    language::setDesignText(m_chart->tableAction, u"20631Als Tabelle zeigen"_s);
+}
+
+QWidget *ChartPanel::makeOptions()
+{
+    auto *box = new QWidget(this);
+    m_type->setObjectName(u"Grafiktyp"_s);
+    m_type->setAccessibleName(text(20600, u"Art der Grafik"_s));
+    for (const ChartTypeEntry &entry : chartTypeEntries())
+        m_type->addItem(text(entry.textId, QString::fromUtf8(entry.germanText)), static_cast<int>(entry.type));
+    m_legend->setObjectName(u"Legende"_s);
+    language::setDesignText(m_legend, u"20520Legende"_s, u"20521Die Legende der Grafik zeigen"_s);
+    auto *first = new QHBoxLayout;
+    first->addWidget(m_type, 1);
+    first->addWidget(m_legend);
+    auto *second = new QHBoxLayout;
+    second->addWidget(m_grouping[0]);
+    second->addWidget(m_grouping[1]);
+    second->addStretch(1);
+    second->addWidget(m_sexes[0]);
+    second->addWidget(m_sexes[1]);
+    auto *rows = new QVBoxLayout(box);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->addLayout(first);
+    rows->addLayout(second);
+    return box;
+}
+
+QWidget *ChartPanel::makeFigures()
+{
+    auto *box = new QWidget(this);
+    language::setDesignText(
+        box, u"20534Anzahl, Durchschnittsalter, niedrigstes und höchstes Alter der markierten Personen"_s);
+    auto *grid = new QGridLayout(box);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(16);
+    grid->setVerticalSpacing(2);
+    grid->addWidget(heading(box, "20508Anzahl"), 1, 0);
+    grid->addWidget(heading(box, "20509Durchschnittsalter"), 2, 0);
+    const std::array<const char *, 3> groups{"20505Männer", "20506Frauen", "20507Alle"};
+    for (int i = 0; i < 3; ++i) {
+        const auto place = static_cast<std::size_t>(i);
+        grid->addWidget(heading(box, groups[place]), 0, i + 1, Qt::AlignRight);
+        m_counts[place] = figure(box, u"Anzahl_%1"_s.arg(i));
+        m_averages[place] = figure(box, u"Durchschnitt_%1"_s.arg(i));
+        grid->addWidget(m_counts[place], 1, i + 1, Qt::AlignRight);
+        grid->addWidget(m_averages[place], 2, i + 1, Qt::AlignRight);
+    }
+    m_unknownSex = figure(box, u"OhneGeschlecht"_s);
+    grid->addWidget(m_unknownSex, 1, 4);
+    m_range = figure(box, u"Altersspanne"_s);
+    m_withoutDate = figure(box, u"OhneDatum"_s);
+    m_leftOut = figure(box, u"Ausgelassen"_s);
+    grid->addWidget(heading(box, "20510Niedrigstes | höchstes Alter"), 3, 0);
+    grid->addWidget(m_range, 3, 1, 1, 4);
+    grid->addWidget(heading(box, "20511Nicht berücksichtigt"), 4, 0, Qt::AlignTop);
+    grid->addWidget(m_withoutDate, 4, 1, 1, 4);
+    grid->addWidget(m_leftOut, 5, 1, 1, 4);
+    grid->setColumnStretch(4, 1);
+    return box;
+}
+
+StatisticsOptions ChartPanel::options() const
+{
+    StatisticsOptions options;
+    options.grafiktyp = m_type->currentIndex();
+    options.legende = m_legend->isChecked();
+    options.nachGeburtsjahr = m_grouping[0]->isChecked();
+    for (std::size_t i = 0; i < m_sexes.size(); ++i)
+        options.geschlechtalter[i + 2] = m_sexes[i]->isChecked() ? 1 : 0;
+    return options;
+}
+
+void ChartPanel::setOptions(const StatisticsOptions &options)
+{
+    if (options.grafiktyp >= 0 && options.grafiktyp < m_type->count())
+        m_type->setCurrentIndex(options.grafiktyp);
+    m_legend->setChecked(options.legende);
+    m_grouping[options.nachGeburtsjahr ? 0 : 1]->setChecked(true);
+    for (std::size_t i = 0; i < m_sexes.size(); ++i)
+        m_sexes[i]->setChecked(options.geschlechtalter[i + 2] == 1);
+    updateLook();
+}
+
+void ChartPanel::updateLook()
+{
+    const StatisticsServices &services = m_controller.services();
+    const StatisticsOptions shown = options();
+    chart::ChartLook look =
+        grafiklook(services.language, services.host, shown.type(), shown.legende, shown.nachGeburtsjahr);
+    look.grid = m_chart->gridAction->isChecked();
+    look.values = m_chart->valuesAction->isChecked();
+    const Grafikzahlen &figures = m_controller.figures();
+    const bool computed = !figures.ohneDatum.isEmpty();
+    look.emptyText = computed ? leererText(services.language, figures.zahlen) : QString();
+    m_chart->setLook(look);
+}
+
+void ChartPanel::showFigures()
+{
+    const Grafikzahlen &figures = m_controller.figures();
+    for (std::size_t i = 0; i < m_counts.size(); ++i) {
+        m_counts[i]->setText(figures.anzahl[i]);
+        m_averages[i]->setText(figures.durchschnitt[i]);
+    }
+    m_range->setText(figures.spanne.value_or(QString()));
+    m_withoutDate->setText(figures.ohneDatum);
+    const QLocale locale = language::anzeigesprache(m_controller.services().host);
+    QStringList left;
+    if (figures.zahlen.nichtNachGeburt > 0)
+        left << text(20528, u"%1 Personen, die nicht nach ihrer Geburt gestorben sind"_s)
+                    .arg(locale.toString(figures.zahlen.nichtNachGeburt));
+    m_unknownSex->setText(
+        figures.zahlen.ohneGeschlecht == 0
+            ? QString()
+            : text(20540, u"(%1 ohne Angabe des Geschlechts)"_s).arg(locale.toString(figures.zahlen.ohneGeschlecht)));
+    m_leftOut->setText(left.join(u'\n'));
+    m_leftOut->setVisible(!left.isEmpty());
+    m_chart->setTable(figures.tabelle);
+    updateLook();
+}
+
+void ChartPanel::savePicture()
+{
+    desktop::Desktop &desktop = m_controller.services().host.desktop();
+    const QString file = desktop.saveFileName(window(), {.title = text(20628, u"Bild speichern unter"_s),
+                                                         .filters = u"PNG (*.png);;JPEG (*.jpg);;SVG (*.svg)"_s,
+                                                         .suffix = u"png"_s});
+    if (file.isEmpty())
+        return;
+    try {
+        chart::writeChart(m_chart->table(), m_chart->look(), SavedSize, file, 92, SavedDpi);
+        Q_EMIT said(text(20312, u"Gespeichert: %1"_s).arg(file));
+    } catch (const basic::Error &error) {
+        desktop.messageBox(error.message(), desktop::MessageCritical, text(21020, u"Fehler"_s));
+    }
+}
+
+} // namespace kalvenor::statistics

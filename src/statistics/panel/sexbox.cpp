@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "statistics/panel/sexbox.h"
+
+#include "language/forms/widgetform.h"
+#include <QCheckBox>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::statistics {
+
+QCheckBox *makeSexBox(QWidget *parent, int index, const char *caption)
+{
+    auto *box = new QCheckBox(parent);
+    box->setObjectName(u"geschlechtalter_%1"_s.arg(index));
+    box->setChecked(true);
+    language::setDesignText(box, QString::fromUtf8(caption));
+    return box;
+}
+
+} // namespace kalvenor::statistics

@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "statistics/panel/statisticscontroller.h"
+
+#include "language/forms/form.h"
+#include "language/progress/userwork.h"
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::statistics {
+
+namespace {
+
+constexpr qint64 GrowEveryMs = 40;
+/// What takes longer is not computed unasked after each change of the marks: keys pressed meanwhile would be lost.
+constexpr qint64 LongMs = 300;
+
+} // namespace
+
+StatisticsController::StatisticsController(const StatisticsServices &services, QObject *parent)
+    : QObject(parent), m_services(services)
+{
+}
+
+QString StatisticsController::text(qint16 id, const QString &germanText) const
+{
+    return language::shownText(m_services.language, id, germanText);
+}
+
+bool StatisticsController::perform(const QString &what, const desktop::Work::Task &task)
+{
+    QElapsedTimer clock;
+    clock.start();
+    m_mayFollow = false;
+    const bool done = language::runAndTell(m_services.work, m_services.host, m_services.language, what, task,
+                                           {.said = [this](const QString &end) {
+                                               Q_EMIT said(end);
+                                           }});
+    m_mayFollow = done && clock.elapsed() <= LongMs;
+    return done;
+}
+
+bool StatisticsController::alterslistenausgabe(const GeschlechtAlter &geschlechtalter)
+{
+    if (m_services.work.isRunning())
+        return false;
+    m_list.clear();
+    Q_EMIT listCleared();
+    m_listCurrent = geschlechtalter[0] == 0 && geschlechtalter[1] == 0;
+    if (m_listCurrent) // nothing to wait for, the pointer stays as it is
+        return true;
+    QElapsedTimer clock;
+    clock.start();
+    qint64 shown = 0;
+    qint64 marked = 0;
+    const bool done =
+        perform(text(20344, u"Die Altersliste wird berechnet ..."_s), [&](const basic::Progress &progress) {
+            marked = statistics::alterslistenausgabe(m_services.databases, geschlechtalter, m_list,
+                                                     [&](qint64 step, qint64 total) {
+                                                         if (clock.elapsed() - shown >= GrowEveryMs) {
+                                                             Q_EMIT listGrew();
+                                                             shown = clock.elapsed();
+                                                         }
+                                                         return progress(step, total);
+                                                     });
+        });
+    m_listCurrent = done;
+    if (marked > 0)
+        m_services.host.desktop().setPointer(desktop::Pointer::Custom);
+    Q_EMIT listGrew();
+    return done;
+}
+
+bool StatisticsController::grafikermitteln(const Grafikwahl &wahl)
+{
+    const bool done = perform(text(20345, u"Die Grafik wird berechnet ..."_s), [&](const basic::Progress &progress) {
+        m_figures = statistics::grafikermitteln(m_services.databases, wahl, progress);
+    });
+    m_figuresCurrent = done;
+    if (done)
+        Q_EMIT figuresChanged();
+    return done;
+}
+
+} // namespace kalvenor::statistics

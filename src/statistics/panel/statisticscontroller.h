@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "language/texts/sprache.h"
+#include "platform/desktop/work.h"
+#include "statistics/ages/altersliste.h"
+#include "statistics/figures/grafik.h"
+#include <QElapsedTimer>
+#include <QObject>
+
+namespace kalvenor::statistics {
+
+/// What the rooms below offer, as the statistic's windows need it.
+struct StatisticsServices {
+    host::Host &host;
+    language::Sprachmodul &language;
+    data::Datenbankmodul &databases;
+    desktop::Work &work;
+};
+
+/// Age list and figures as they were computed last, and how up to date they are, without a window. A failure is told
+/// once, in a message box.
+class StatisticsController : public QObject {
+    Q_OBJECT
+public:
+    explicit StatisticsController(const StatisticsServices &services, QObject *parent = nullptr);
+
+    const StatisticsServices &services() const { return m_services; }
+    const Altersliste &list() const { return m_list; }
+    const Grafikzahlen &figures() const { return m_figures; }
+
+    /// Rebuilds the age list. False where it was not begun, failed or was cancelled: what was added so far stays.
+    bool alterslistenausgabe(const GeschlechtAlter &geschlechtalter);
+    /// Computes the figures and the chart's table. Where it fails or is cancelled, the old ones stay, as outdated ones.
+    bool grafikermitteln(const Grafikwahl &wahl);
+
+    /// Whether the list, the figures are what marks, persons and the controls last asked for give.
+    bool isListCurrent() const { return m_listCurrent; }
+    bool areFiguresCurrent() const { return m_figuresCurrent; }
+    /// Marks or persons have changed: both are to be computed again.
+    void forget() { m_listCurrent = m_figuresCurrent = false; }
+    /// Whether the next computation may come unasked: the last one was short and neither failed nor was cancelled.
+    bool mayFollow() const { return m_mayFollow; }
+
+Q_SIGNALS:
+    void listCleared();
+    /// While the list is built, some times a second, and at its end.
+    void listGrew();
+    void figuresChanged();
+    void said(const QString &text);
+
+private:
+    bool perform(const QString &what, const desktop::Work::Task &task);
+    QString text(qint16 id, const QString &germanText) const;
+
+    StatisticsServices m_services;
+    Altersliste m_list;
+    Grafikzahlen m_figures;
+    bool m_listCurrent = false;
+    bool m_figuresCurrent = false;
+    bool m_mayFollow = true;
+};
+
+} // namespace kalvenor::statistics

@@ -1,0 +1,179 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "statistics/panel/statisticspanel.h"
+
+#include "language/forms/widgetform.h"
+#include "statistics/introduction/texteditor.h"
+#include "statistics/panel/agelistpanel.h"
+#include "statistics/panel/chartpanel.h"
+#include <QCheckBox>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::statistics {
+
+namespace {
+
+constexpr int PauseMs = 120;
+
+} // namespace
+
+StatisticsPanel::StatisticsPanel(StatisticsController &controller, QWidget *parent)
+    : QWidget(parent), m_controller(controller), m_title(new QLineEdit(this)), m_notice(makeNoticeBar()),
+      m_tabs(new QTabWidget(this)),
+      m_introduction(new TextEditor(controller.services().language, controller.services().host, this)),
+      m_chart(new ChartPanel(controller, this)), m_list(new AgeListPanel(controller, this))
+{
+    m_title->setObjectName(u"Statistiktitel"_s);
+    m_title->setMaxLength(250);
+    auto *titleLabel = new QLabel(this);
+    language::setDesignText(titleLabel, u"20535Tit&el"_s);
+    language::setDesignText(m_title, u"20504Altersstatistik der Familie"_s, u"20503Titel der Statistik"_s);
+    titleLabel->setBuddy(m_title);
+
+    m_tabs->setObjectName(u"statistiktab"_s);
+    m_tabs->addTab(m_introduction, {});
+    m_tabs->addTab(m_chart, {});
+    m_tabs->addTab(m_list, {});
+    language::setDesignTab(m_tabs, Introduction, u"20500Einleitung"_s);
+    language::setDesignTab(m_tabs, Chart, u"20501Grafik"_s);
+    language::setDesignTab(m_tabs, AgeList, u"20502Altersliste"_s);
+
+    auto *head = new QHBoxLayout;
+    head->addWidget(titleLabel);
+    head->addWidget(m_title, 1);
+    auto *column = new QVBoxLayout(this);
+    column->addLayout(head);
+    column->addWidget(m_notice);
+    column->addWidget(m_tabs, 1);
+
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(PauseMs);
+    connect(&m_pause, &QTimer::timeout, this, &StatisticsPanel::computeShown);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &StatisticsPanel::tabChosen);
+    connect(m_list, &AgeListPanel::listWanted, this, [this] {
+        alterslistenausgabe();
+        Q_EMIT edited();
+    });
+    connect(m_list, &AgeListPanel::personWanted, this, &StatisticsPanel::personWanted);
+    connect(m_chart, &ChartPanel::chartWanted, this, [this] {
+        grafikermitteln();
+        Q_EMIT edited();
+    });
+    connect(m_chart, &ChartPanel::said, this, &StatisticsPanel::said);
+    connect(m_introduction, &TextEditor::said, this, &StatisticsPanel::said);
+    connect(m_introduction, &TextEditor::changed, this, &StatisticsPanel::edited);
+    connect(m_title, &QLineEdit::textEdited, this, &StatisticsPanel::edited);
+    connect(&controller, &StatisticsController::said, this, &StatisticsPanel::said);
+    setOptions(readOptions(controller.services().host));
+}
+
+QWidget *StatisticsPanel::makeNoticeBar()
+{
+    auto *bar = new QFrame(this);
+    bar->setObjectName(u"Veraltet"_s);
+    bar->setFrameShape(QFrame::StyledPanel);
+    auto *label = new QLabel(bar);
+    label->setWordWrap(true);
+    language::setDesignText(label, u"20536Was hier steht, ist nicht auf dem neuesten Stand."_s);
+    auto *compute = new QPushButton(bar);
+    compute->setObjectName(u"Neuberechnen"_s);
+    language::setDesignText(compute, u"20537Neu berechnen"_s);
+    connect(compute, &QPushButton::clicked, this, &StatisticsPanel::computeShown);
+    auto *row = new QHBoxLayout(bar);
+    row->setContentsMargins(8, 2, 2, 2);
+    row->addWidget(label, 1);
+    row->addWidget(compute);
+    bar->hide();
+    return bar;
+}
+
+void StatisticsPanel::showTab(Tab tab)
+{
+    m_tabs->setCurrentIndex(tab);
+    m_tabs->currentWidget()->setFocus();
+}
+
+StatisticsOptions StatisticsPanel::options() const
+{
+    StatisticsOptions options = m_chart->options();
+    for (std::size_t i = 0; i < 2; ++i)
+        options.geschlechtalter[i] = m_list->sexBoxes()[i]->isChecked() ? 1 : 0;
+    return options;
+}
+
+void StatisticsPanel::setOptions(const StatisticsOptions &options)
+{
+    for (std::size_t i = 0; i < 2; ++i)
+        m_list->sexBoxes()[i]->setChecked(options.geschlechtalter[i] == 1);
+    m_chart->setOptions(options);
+}
+
+bool StatisticsPanel::alterslistenausgabe()
+{
+    const bool done = m_controller.alterslistenausgabe(options().geschlechtalter);
+    m_notice->setVisible(!isShownCurrent());
+    return done;
+}
+
+bool StatisticsPanel::grafikermitteln()
+{
+    const bool done = m_controller.grafikermitteln(options().wahl());
+    m_notice->setVisible(!isShownCurrent());
+    return done;
+}
+
+void StatisticsPanel::personsChanged()
+{
+    m_controller.forget();
+    if (isShownCurrent())
+        return;
+    if (m_controller.mayFollow())
+        m_pause.start();
+    else
+        m_notice->show();
+}
+
+void StatisticsPanel::tabChosen()
+{
+    if (m_tabs->currentIndex() == AgeList)
+        alterslistenausgabe();
+    else if (!isShownCurrent())
+        computeShown();
+    m_notice->setVisible(!isShownCurrent());
+}
+
+bool StatisticsPanel::isShownCurrent() const
+{
+    switch (m_tabs->currentIndex()) {
+    case Chart:
+        return m_controller.areFiguresCurrent();
+    case AgeList:
+        return m_controller.isListCurrent();
+    default:
+        return true;
+    }
+}
+
+void StatisticsPanel::computeShown()
+{
+    if (isShownCurrent() || !isVisible())
+        return;
+    if (m_controller.services().work.isRunning()) {
+        m_pause.start();
+        return;
+    }
+    if (m_tabs->currentIndex() == Chart)
+        grafikermitteln();
+    else
+        alterslistenausgabe();
+}
+
+} // namespace kalvenor::statistics
