@@ -63,29 +63,40 @@ TEST(Arch, EveryRoomOfTheTreeStandsInTheTable)
 
 TEST(Arch, CheckerSeesViolations)
 {
+    const QString print = u"namespace kalvenor::print {\n"_s;
     const struct {
         const char *path;
         QString text;
         const char *fault; ///< "" where the file is well
     } cases[] = {
-        {"src/platform/jet/a.cpp", Head + u"#include \"platform/basic/error.h\"\n#include <QString>\n"_s, ""},
-        {"src/platform/jet/a.cpp", Head + u"#include \"platform/dao/dao.h\"\n"_s, ":3: room platform/jet may not"},
-        {"src/platform/jet/a.cpp", Head + u"#include <platform/dao/dao.h>\n"_s, ":3: room platform/jet may not"},
-        {"src/platform/print/a.h", Head + u"\n  #  include \"app/main.h\"\n"_s, ":4: room platform/print may not"},
+        {"src/platform/jet/reader/a.cpp", Head + u"#include \"platform/basic/error.h\"\n#include <QString>\n"_s, ""},
+        {"src/platform/jet/reader/a.cpp", Head + u"#include \"platform/dao/dao.h\"\n"_s,
+         ":3: room platform/jet/reader may not"},
+        {"src/platform/jet/reader/a.cpp", Head + u"#include <platform/dao/dao.h>\n"_s,
+         ":3: room platform/jet/reader may not"},
+        {"src/platform/print/a.h", Head + print + u"  #  include \"app/window/main.h\"\n"_s,
+         ":4: room platform/print may not"},
         {"src/host/a.cpp", Head + u"#include \"platform/dao/dao.h\"\n"_s, ""},
-        {"src/statistics/a.cpp", Head + u"#include \"selection/a.h\"\n"_s, "may not include selection/a.h"},
-        {"src/settings/a.cpp", Head + u"#include \"app/auswahl.h\"\n"_s, "may not include app/auswahl.h"},
-        {"src/demo/a.cpp", Head + u"#include \"host/a.h\"\n"_s, "may not include host/a.h"},
-        {"src/app/a.cpp", Head + u"#include \"demo/a.h\"\n#include \"a.moc\"\n"_s, ""},
+        {"src/statistics/ages/a.cpp", Head + u"#include \"selection/lists/a.h\"\n"_s,
+         "may not include selection/lists/a.h"},
+        {"src/settings/preview/a.cpp", Head + u"#include \"app/window/auswahl.h\"\n"_s,
+         "may not include app/window/auswahl.h"},
+        {"src/demo/host/a.cpp", Head + u"#include \"host/a.h\"\n"_s, "may not include host/a.h"},
+        {"src/app/window/a.cpp", Head + u"#include \"demo/host/a.h\"\n#include \"a.moc\"\n"_s, ""},
         {"src/host/a.cpp", Head + u"#include \"b.h\"\n"_s, "names no room"},
         {"src/attic/a.cpp", Head, "lies in no room"},
         {"src/platformer/a.cpp", Head, "lies in no room"},
-        {"src/platform/jet/a.cpp", Head + u"#include <unistd.h>\n"_s, ""},
-        {"src/report/a.cpp", Head + u"#include <unistd.h>\n"_s, "belongs to src/platform"},
-        {"src/report/a.cpp", Head + u"#include <Windows.h>\n"_s, "belongs to src/platform"},
+        {"src/platform/jet/reader/a.cpp", Head + u"#include <unistd.h>\n"_s, ""},
+        {"src/report/export/a.cpp", Head + u"#include <unistd.h>\n"_s, "belongs to src/platform"},
+        {"src/report/export/a.cpp", Head + u"#include <Windows.h>\n"_s, "belongs to src/platform"},
         {"tests/report/a.cpp", Head + u"#include <sys/stat.h>\n"_s, "belongs to src/platform"},
-        {"src/report/a.cpp", u"#include <QString>\n"_s, ":1: the two-line SPDX header"},
-        {"src/report/a.cpp", QString(), "SPDX header"},
+        {"src/platform/print/a.h", Head + print, ""},
+        {"src/platform/chart/a.h", Head + print, "does not open namespace kalvenor::chart"},
+        {"src/settings/preview/a.h", Head + u"namespace kalvenor::settings {\n"_s, ""},
+        {"src/settings/preview/a.h", Head + u"namespace kalvenor::settingsroom {\n"_s, "does not open namespace"},
+        {"src/settings/preview/a.cpp", Head + u"namespace kalvenor {\n"_s, ":3: names of all rooms would meet"},
+        {"src/report/export/a.cpp", u"#include <QString>\n"_s, ":1: the two-line SPDX header"},
+        {"src/report/export/a.cpp", QString(), "SPDX header"},
         {"tests/report/a.cpp", Head + u"//\n"_s.repeated(598), ""},
         {"tests/report/a.cpp", Head + u"//\n"_s.repeated(599), ":601: the file is longer"},
     };
@@ -101,8 +112,8 @@ TEST(Arch, CheckerSeesViolations)
 TEST(Arch, CheckerSeesThatAHeaderIsNotTheFirst)
 {
     const RoomTable table = rooms();
-    const QString path = u"src/platform/jet/like.cpp"_s;
-    const QString own = u"#include \"platform/jet/like.h\"\n"_s;
+    const QString path = u"src/platform/jet/order/like.cpp"_s;
+    const QString own = u"#include \"platform/jet/order/like.h\"\n"_s;
     const QString other = u"#include <vector>\n"_s;
     EXPECT_TRUE(violations(table, path, Head + own + other, true).isEmpty());
     EXPECT_TRUE(violations(table, path, Head + other, false).isEmpty());

@@ -52,7 +52,8 @@ RoomTable readRoomTable(QStringView text)
         for (const QStringView name : line.mid(colon + 1).split(u' ', Qt::SkipEmptyParts)) {
             const qsizetype before = allowed.size();
             for (const auto &[known, unused] : rooms) {
-                if (name == u"*" || known == name || (known.startsWith(name) && known.mid(name.size()).startsWith(u'/')))
+                if (name == u"*" || known == name ||
+                    (known.startsWith(name) && known.mid(name.size()).startsWith(u'/')))
                     allowed << known;
             }
             if (allowed.size() == before)
@@ -92,11 +93,21 @@ QStringList violations(const RoomTable &rooms, const QString &path, QStringView 
         !lines[head + 1].contains("SPDX-License-Identifier: GPL-3.0-or-later"_L1))
         report(head + 1, u"the two-line SPDX header is missing"_s);
 
+    // Two rooms may have a class of the same name; in one namespace the linker would take one for the other.
+    const QString subject = room.startsWith(u"platform/") ? room.section(u'/', 1, 1) : room.section(u'/', 0, 0);
+    static const QRegularExpression opening(uR"(^namespace kalvenor(::\w+)*)"_s);
+    bool opensOwn = !inSources || !path.endsWith(u".h");
+
     const QString ownHeader = path.mid(path.indexOf(u'/') + 1).chopped(4) + u".h"_s;
     bool ownHeaderDue = hasHeader && path.endsWith(u".cpp");
     for (qsizetype i = 0; i < lines.size(); ++i) {
         if (!isCpp)
             continue;
+        if (const auto space = opening.match(lines[i]); inSources && space.hasMatch()) {
+            if (space.capturedLength() == u"namespace kalvenor"_s.size())
+                report(i + 1, u"names of all rooms would meet here: open namespace kalvenor::%1"_s.arg(subject));
+            opensOwn |= space.captured().section(u"::"_s, 1, 1) == subject;
+        }
         const auto match = include.match(lines[i]);
         if (!match.hasMatch())
             continue;
@@ -110,6 +121,8 @@ QStringList violations(const RoomTable &rooms, const QString &path, QStringView 
                 report(i + 1, fault);
         }
     }
+    if (!opensOwn)
+        report(1, u"does not open namespace kalvenor::%1"_s.arg(subject));
     if (ownHeaderDue)
         report(1, u"does not include \"%1\""_s.arg(ownHeader));
     return found;
