@@ -140,7 +140,7 @@ protected:
     void SetUp() override
     {
         if (QStandardPaths::findExecutable("mdb-export").isEmpty())
-            GTEST_SKIP() << "mdb-export is not installed";
+            GTEST_SKIP() << "mdb-export is missing (apt-get install mdbtools)";
     }
 };
 
@@ -163,7 +163,7 @@ TEST_F(Mdbtools, ReadsFilesOfOtherMakersAsWeDo)
 {
     const QDir samples(KALVENOR_SOURCE_DIR "/../shared/jet-samples");
     if (!samples.exists())
-        GTEST_SKIP() << "no sample files";
+        GTEST_SKIP() << "no sample databases beside the project";
     for (const QString &file : samples.entryList({"*.mdb"}, QDir::Files)) {
         // mdb-export lists a moved record at its new place, we at its first one; the reader's own tests compare these.
         if (!file.startsWith("overflow"))

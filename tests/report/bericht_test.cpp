@@ -258,7 +258,7 @@ TEST_F(BerichtTest, HoldsTheSameTextsInEachFormat)
     QString html = QString::fromUtf8(read(run(print::ExportFormat::Html, folder.filePath("b.html"))));
     EXPECT_EQ(missing(html.remove(QRegularExpression("<[^>]*>")).simplified()), QString());
     if (QStandardPaths::findExecutable("pdftotext").isEmpty())
-        GTEST_SKIP() << "pdftotext is not installed";
+        GTEST_SKIP() << "pdftotext is missing (apt-get install poppler-utils)";
     run(print::ExportFormat::Pages, {});
     print::writePdf(*print.layout(), {}, folder.filePath("b.pdf"));
     QProcess reader;

@@ -273,7 +273,7 @@ TEST_F(Preview, PrintsOnAPrinter)
 {
     const QDir spool(qEnvironmentVariable("KALVENOR_SPOOL"));
     if (!qEnvironmentVariableIsSet("KALVENOR_SPOOL"))
-        GTEST_SKIP() << "wants the print server of with-printer";
+        GTEST_SKIP() << "wants a print server: part of Printer.Preview (apt-get install cups-daemon cups-client)";
     onPrintDialog([](QPrinter &printer) { printer.setPrinterName("Ablage"); });
     window->toolbarbuttonclick("drucker");
     EXPECT_EQ(said(), "Gedruckt: 12 Seiten");

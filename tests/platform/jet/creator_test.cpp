@@ -473,7 +473,7 @@ std::string outputOf(const QString &program, const QStringList &arguments)
 TEST_F(CreatorTest, isReadByMdbtools)
 {
     if (QStandardPaths::findExecutable("mdb-export").isEmpty())
-        GTEST_SKIP() << "mdbtools are not installed";
+        GTEST_SKIP() << "mdb-export is missing (apt-get install mdbtools)";
     Creator creator;
     auto &table = creator.addTable("Größen",
                                    {{"Counter", ColumnType::Long, 0, true, true},

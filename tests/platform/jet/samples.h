@@ -49,4 +49,4 @@ inline void writeAll(const QString &file, std::span<const std::uint8_t> bytes)
 
 #define SKIP_WITHOUT_SAMPLES()                                                                                         \
     if (!QDir(kalvenor::testing::SampleFolder).exists())                                                               \
-    GTEST_SKIP() << "no sample databases here"
+    GTEST_SKIP() << "no sample databases beside the project"

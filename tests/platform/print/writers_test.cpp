@@ -103,7 +103,7 @@ TEST_F(Writers, PdfIsReadByOthers)
         const auto pictures = output(u"pdfimages"_s, {u"-list"_s, path(u"pdf"_s)});
         const auto outline = output(u"pdftohtml"_s, {u"-xml"_s, u"-i"_s, u"-stdout"_s, path(u"pdf"_s)});
         if (!info || !text || !fonts || !pictures || !outline)
-            GTEST_SKIP() << "poppler-utils is not installed";
+            GTEST_SKIP() << "pdftotext is missing (apt-get install poppler-utils)";
         EXPECT_TRUE(info->contains(m_document.title)) << qPrintable(*info);
         EXPECT_TRUE(info->contains(isArchive ? u"842 x 595 pts (A4)" : u"595 x 842 pts (A4)")) << qPrintable(*info);
         EXPECT_FALSE(info->contains(u"Author:"));
@@ -145,7 +145,7 @@ TEST_F(Writers, RtfIsReadByOthers)
         EXPECT_TRUE(file.contains(part)) << part;
     EXPECT_EQ(file.count("\\trhdr"), 2) << "again behind the page break";
     if (QStandardPaths::findExecutable(u"soffice"_s).isEmpty())
-        GTEST_SKIP() << "LibreOffice is not installed: its reading of the file is not looked at";
+        GTEST_SKIP() << "soffice is missing (apt-get install libreoffice-writer-nogui)";
     output(u"soffice"_s,
            {u"-env:UserInstallation=file://"_s + m_folder.filePath(u"office"_s), u"--headless"_s, u"--convert-to"_s,
             u"pdf:writer_pdf_Export"_s, u"--outdir"_s, m_folder.path(), path(u"rtf"_s)});

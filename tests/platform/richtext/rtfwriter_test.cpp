@@ -54,7 +54,7 @@ TEST(RtfWriter, IsReadByAnOfficeProgram)
 {
     const QString soffice = QStandardPaths::findExecutable(u"soffice"_s);
     if (soffice.isEmpty())
-        GTEST_SKIP() << "soffice is not installed";
+        GTEST_SKIP() << "soffice is missing (apt-get install libreoffice-writer-nogui)";
     QTextDocument document;
     document.setHtml(QString::fromUtf8(HtmlSource));
     const QTemporaryDir folder;
