@@ -3,7 +3,7 @@
 #include "platform/basic/error.h"
 #include "platform/print/htmlwriter.h"
 #include "platform/print/pdfwriter.h"
-#include "platform/print/rtfwriter.h"
+#include "platform/print/rtffile.h"
 
 #include <cstdio>
 #include <QGuiApplication>

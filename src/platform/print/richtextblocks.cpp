@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/print/richtextblocks.h"
 
+#include "platform/richtext/rtfreader.h"
+
 #include <algorithm>
 #include <cmath>
 #include <QTextBlock>
@@ -13,12 +15,11 @@ using namespace Qt::StringLiterals;
 namespace kalvenor::print {
 namespace {
 
-constexpr double Pixel = 15; // twips
 constexpr Twips BulletRoom = 300;
 
 Twips twips(double pixels)
 {
-    return static_cast<Twips>(std::lround(pixels * Pixel));
+    return static_cast<Twips>(std::lround(pixels * richtext::TwipsPerPixel));
 }
 
 TextStyle styleOf(const QTextCharFormat &format, const QFont &defaultFont)

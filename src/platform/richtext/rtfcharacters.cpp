@@ -52,17 +52,6 @@ constexpr CharacterSet CharacterSets[] = {{0, 1252},   {77, RtfCodePage::Mac},
                                           {204, 1251}, {238, 1250},
                                           {254, 437},  {255, 850}};
 
-struct SpecialWord {
-    std::string_view name;
-    char16_t character;
-};
-constexpr SpecialWord SpecialWords[] = {{"tab", u'\t'},           {"emdash", u'\u2014'},  {"endash", u'\u2013'},
-                                        {"lquote", u'\u2018'},    {"rquote", u'\u2019'},  {"ldblquote", u'\u201C'},
-                                        {"rdblquote", u'\u201D'}, {"bullet", u'\u2022'},  {"emspace", u'\u2003'},
-                                        {"enspace", u'\u2002'},   {"qmspace", u'\u2005'}, {"zwj", u'\u200D'},
-                                        {"zwnj", u'\u200C'},      {"zwbo", u'\u200B'},    {"zwnbo", u'\u2060'},
-                                        {"ltrmark", u'\u200E'},   {"rtlmark", u'\u200F'}};
-
 bool canBeShown(char16_t c)
 {
     if (c < 0x20 || (c >= 0x7F && c < 0xA0))
@@ -136,13 +125,6 @@ QString shownCharacters(QStringView text)
         }
     }
     return shown;
-}
-
-char16_t specialCharacter(QByteArrayView word)
-{
-    const std::string_view name(word.data(), static_cast<std::size_t>(word.size()));
-    const auto found = std::ranges::find(SpecialWords, name, &SpecialWord::name);
-    return found == std::end(SpecialWords) ? u'\0' : found->character;
 }
 
 } // namespace kalvenor::richtext

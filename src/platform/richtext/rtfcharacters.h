@@ -5,7 +5,7 @@
 #include <QByteArrayView>
 #include <QString>
 
-// How the bytes and words of RTF become characters.
+// How the bytes of RTF become characters.
 namespace kalvenor::richtext {
 
 /// Code pages beside those of Windows (codepage.h) and of the PC, 437 and 850, by the numbers RTF gives them.
@@ -23,8 +23,6 @@ int codePageOfCharacterSet(int characterSet, int documentCodePage);
 QString decodeRtf(QByteArrayView bytes, int codePage);
 /// What a text in the font Symbol shows for a character, given as 0x20 to 0xFF or as U+F020 to U+F0FF.
 char16_t symbolCharacter(char16_t character);
-/// The character a control word stands for ("emdash", "tab"), 0 where it stands for none.
-char16_t specialCharacter(QByteArrayView word);
 /// Without characters that a text document reserves or cannot show; a half of a pair that lost the other is U+FFFD.
 QString shownCharacters(QStringView text);
 

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/richtext/rtfparser.h"
 
+#include "platform/richtext/rtfcharacters.h"
 #include <algorithm>
-#include <QTextDocument>
-
-using namespace Qt::StringLiterals;
+#include <span>
 
 namespace kalvenor::richtext {
 
@@ -13,35 +12,65 @@ namespace {
 
 /// Groups within groups that are kept apart; office programs need some 20.
 constexpr std::size_t DeepestGroup = 500;
+constexpr int LongestTwips = 31680; ///< 22 inches, the longest that office programs take
+constexpr int UsualHalfPoints = RtfLook().halfPoints;
 
-bool is(QByteArrayView name, std::initializer_list<const char *> names)
+constexpr std::string_view Pictures[] = {"pict", "shppict", "objdata"};
+constexpr std::string_view OtherTexts[] = {"header",  "headerl", "headerr", "headerf",  "footer",
+                                           "footerl", "footerr", "footerf", "footnote", "annotation",
+                                           "shptxt",  "shpinst", "do"};
+/// Tables and properties that show nothing by themselves.
+constexpr std::string_view Properties[] = {"stylesheet",
+                                           "info",
+                                           "fldinst",
+                                           "nonshppict",
+                                           "nonesttables",
+                                           "listtable",
+                                           "listoverridetable",
+                                           "revtbl",
+                                           "generator",
+                                           "xe",
+                                           "tc",
+                                           "rxe",
+                                           "txe",
+                                           "falt",
+                                           "panose",
+                                           "fontemb",
+                                           "nesttableprops",
+                                           "themedata",
+                                           "template",
+                                           "filetbl",
+                                           "bkmkstart",
+                                           "bkmkend"};
+
+bool isAmong(std::string_view word, std::span<const std::string_view> words)
 {
-    return std::ranges::any_of(names, [name](const char *one) { return name == QByteArrayView(one); });
+    return std::ranges::find(words, word) != words.end();
+}
+
+bool isOneOf(std::string_view word, std::initializer_list<std::string_view> words)
+{
+    return isAmong(word, {words.begin(), words.size()});
 }
 
 } // namespace
 
-RtfParser::RtfParser(QByteArrayView rtf, QTextDocument &document) : m_tokens(rtf), m_builder(document)
+RtfParser::RtfParser(QByteArrayView rtf, QTextDocument &document) : m_tokens(rtf), m_flow(document)
 {
 }
 
 RtfResult RtfParser::parse()
 {
-    while (!m_ended && !m_builder.isFull()) {
+    while (!m_ended && !m_flow.isFull()) {
         const RtfToken token = m_tokens.next();
         if (token.kind == RtfToken::Kind::End)
             break;
         take(token);
     }
     flushBytes();
-    m_result.tooLarge = m_builder.isFull();
+    m_result.tooLarge = m_flow.isFull();
     m_result.damaged = m_result.damaged || (!m_ended && !m_result.tooLarge);
-    if (m_touched || !m_builder.hasParagraphs()) {
-        m_state.paragraph = m_lastParagraph;
-        m_format = m_lastFormat;
-        m_formatKnown = m_touched;
-        endParagraph();
-    }
+    m_flow.finish(formats().character);
     return m_result;
 }
 
@@ -65,20 +94,18 @@ void RtfParser::take(const RtfToken &token)
         takeWord(token);
         break;
     case Kind::Symbol:
-        takeSymbol(token.bytes.front());
+        takeSymbol(token.bytes);
         break;
     case Kind::Hex:
-        if (token.hasValue) {
-            const char byte = static_cast<char>(token.value);
-            takeBytes(QByteArrayView(&byte, 1));
-        } else {
+        if (token.hasValue)
+            m_bytes += static_cast<char>(token.value);
+        else
             m_result.damaged = true;
-        }
         break;
     case Kind::Text: {
         const qsizetype passed = std::min<qsizetype>(m_toPassOver, token.bytes.size());
         m_toPassOver -= static_cast<int>(passed);
-        takeBytes(token.bytes.sliced(passed));
+        m_bytes += token.bytes.sliced(passed);
         break;
     }
     default:
@@ -90,7 +117,7 @@ bool RtfParser::passOverFallback(const RtfToken &token)
 {
     if (m_toPassOver == 0)
         return false;
-    if (token.kind == RtfToken::Kind::Word && specialCharacter(token.bytes) == 0) {
+    if (token.kind == RtfToken::Kind::Word && specialCharacter(token.word()) == 0) {
         m_toPassOver = 0; // a format is never lost to a fallback that is missing
         return false;
     }
@@ -117,14 +144,14 @@ void RtfParser::endGroup()
     const Destination ended = m_state.destination;
     const Destination around = m_outer.empty() ? Destination::Text : m_outer.back().destination;
     if (ended == Destination::Fonts)
-        endFont();
+        m_head.endFont();
     if (!m_outer.empty()) {
         m_state = m_outer.back();
         m_outer.pop_back();
     }
     m_formatKnown = false;
     if (ended == Destination::Bullet && around != Destination::Bullet)
-        endBullet();
+        m_flow.takeBullet(m_bulletText, formats());
     if (ended == Destination::Numbering && around != Destination::Numbering)
         m_state.paragraph.bullets = m_numberingBullets;
     m_ended = m_outer.empty();
@@ -132,71 +159,44 @@ void RtfParser::endGroup()
 
 void RtfParser::takeWord(const RtfToken &token)
 {
-    const QByteArrayView name = token.bytes;
+    const std::string_view word = token.word();
     const bool ignorable = m_ignorable;
     m_ignorable = false;
-    if (destinationWord(name))
+    if (destinationWord(word))
         return;
-    if (ignorable) {
+    if (ignorable)
         m_state.destination = Destination::Skip;
-        return;
-    }
-    if (name == QByteArrayView("u")) {
+    else if (word == "u")
         takeUnicode(token.value);
-    } else if (name == QByteArrayView("uc")) {
+    else if (word == "uc")
         m_state.fallback = std::clamp(token.value, 0, 1000);
-    } else if (const char16_t character = specialCharacter(name); character != 0) {
+    else if (const char16_t character = specialCharacter(word); character != 0)
         takeText(QString(QChar(character)));
-    } else if (!headWord(token) && m_state.destination != Destination::Fonts &&
-               m_state.destination != Destination::Colors) {
-        if (characterWord(token))
-            m_formatKnown = false;
-        else if (!paragraphWord(token))
-            structureWord(name);
-    }
+    else if (!headWord(token) && m_state.destination != Destination::Fonts &&
+             m_state.destination != Destination::Colors && !characterWord(token) && !paragraphWord(token) &&
+             m_state.destination == Destination::Text)
+        structureWord(word);
 }
 
-bool RtfParser::destinationWord(QByteArrayView name)
+bool RtfParser::destinationWord(std::string_view word)
 {
     Destination destination = Destination::Skip;
-    if (is(name, {"fonttbl"})) {
+    if (word == "fonttbl") {
         destination = Destination::Fonts;
-    } else if (is(name, {"colortbl"})) {
+    } else if (word == "colortbl") {
         destination = Destination::Colors;
-        m_openColor = QColor();
-    } else if (is(name, {"pntext", "listtext"})) {
+        m_head.beginColors();
+    } else if (isOneOf(word, {"pntext", "listtext"})) {
         destination = Destination::Bullet;
         m_bulletText.clear();
-    } else if (is(name, {"pn"})) {
+    } else if (word == "pn") {
         destination = Destination::Numbering;
         m_numberingBullets = false;
-    } else if (is(name, {"pict", "shppict", "objdata"})) {
+    } else if (isAmong(word, Pictures)) {
         m_result.pictures = true;
-    } else if (is(name, {"header", "headerl", "headerr", "headerf", "footer", "footerl", "footerr", "footerf",
-                         "footnote", "annotation", "shptxt", "shpinst", "do"})) {
+    } else if (isAmong(word, OtherTexts)) {
         m_result.others = true;
-    } else if (!is(name, {"stylesheet",
-                          "info",
-                          "fldinst",
-                          "nonshppict",
-                          "nonesttables",
-                          "listtable",
-                          "listoverridetable",
-                          "revtbl",
-                          "generator",
-                          "xe",
-                          "tc",
-                          "rxe",
-                          "txe",
-                          "falt",
-                          "panose",
-                          "fontemb",
-                          "nesttableprops",
-                          "themedata",
-                          "template",
-                          "filetbl",
-                          "bkmkstart",
-                          "bkmkend"})) {
+    } else if (!isAmong(word, Properties)) {
         return false;
     }
     m_state.destination = destination;
@@ -206,172 +206,162 @@ bool RtfParser::destinationWord(QByteArrayView name)
 /// What is said once, in the head or in the tables of fonts and colours.
 bool RtfParser::headWord(const RtfToken &token)
 {
-    const QByteArrayView name = token.bytes;
-    if (name == QByteArrayView("ansicpg")) {
-        m_codePage = token.value;
-    } else if (name == QByteArrayView("mac")) {
-        m_codePage = RtfCodePage::Mac;
-    } else if (name == QByteArrayView("pc")) {
-        m_codePage = 437;
-    } else if (name == QByteArrayView("pca")) {
-        m_codePage = 850;
-    } else if (name == QByteArrayView("deff")) {
-        m_defaultFont = token.value;
-        m_state.character.font = token.value;
-        m_formatKnown = false;
-    } else if (m_state.destination == Destination::Fonts && name == QByteArrayView("f")) {
-        endFont();
-        m_openFont = token.value;
-        m_fonts.insert(m_openFont, {});
-    } else if (m_state.destination == Destination::Fonts && name == QByteArrayView("fcharset")) {
-        m_fonts[m_openFont].codePage = token.value == 2 ? RtfCodePage::Symbol : codePageOfCharacterSet(token.value, 0);
-    } else if (m_state.destination == Destination::Fonts && name == QByteArrayView("cpg")) {
-        m_fonts[m_openFont].codePage = token.value;
-    } else if (m_state.destination == Destination::Colors && is(name, {"red", "green", "blue"})) {
-        if (!m_openColor.isValid())
-            m_openColor = QColor(0, 0, 0);
-        const int part = std::clamp(token.value, 0, 255);
-        name == QByteArrayView("red")     ? m_openColor.setRed(part)
-        : name == QByteArrayView("green") ? m_openColor.setGreen(part)
-                                          : m_openColor.setBlue(part);
-    } else {
-        return false;
+    if (m_head.takeWord(token.word(), token.value)) {
+        if (token.word() == "deff") {
+            m_state.look.font = token.value;
+            m_formatKnown = false;
+        }
+        return true;
     }
-    return true;
+    return (m_state.destination == Destination::Fonts && m_head.takeFontWord(token.word(), token.value)) ||
+           (m_state.destination == Destination::Colors && m_head.takeColorWord(token.word(), token.value));
 }
 
 bool RtfParser::characterWord(const RtfToken &token)
 {
-    const QByteArrayView name = token.bytes;
-    CharacterState &state = m_state.character;
+    const std::string_view word = token.word();
+    RtfLook &look = m_state.look;
     const bool on = !token.hasValue || token.value != 0;
-    if (name == QByteArrayView("b"))
-        state.bold = on;
-    else if (name == QByteArrayView("i"))
-        state.italic = on;
-    else if (name == QByteArrayView("f"))
-        state.font = token.value;
-    else if (name == QByteArrayView("fs"))
-        state.halfPoints = token.value > 0 ? std::clamp(token.value, 2, LargestHalfPoints) : 24;
-    else if (name == QByteArrayView("cf"))
-        state.foreground = token.value;
-    else if (is(name, {"cb", "highlight", "chcbpat"}))
-        state.background = token.value;
-    else if (name == QByteArrayView("ulnone"))
-        state.underline = false;
-    else if (name.startsWith("ul") && name != QByteArrayView("ulc"))
-        state.underline = on;
-    else if (is(name, {"strike", "striked"}))
-        state.strikeOut = on;
-    else if (is(name, {"v", "deleted"}))
-        state.hidden = on;
-    else if (name == QByteArrayView("plain"))
-        state = CharacterState{.font = m_defaultFont};
-    else
+    if (const auto flag = std::ranges::find(RtfFlags, word, &RtfFlag::on); flag != RtfFlags.end())
+        look.*flag->flag = on;
+    else if (word == RtfUnderline.off)
+        look.underline = false;
+    else if (word.starts_with("ul") && word != "ulc")
+        look.underline = on;
+    else if (word == "striked")
+        look.strikeOut = on;
+    else if (word == "f")
+        look.font = token.value;
+    else if (word == "fs")
+        look.halfPoints = token.value > 0 ? std::clamp(token.value, 2, LargestHalfPoints) : UsualHalfPoints;
+    else if (word == "cf")
+        look.foreground = token.value;
+    else if (isOneOf(word, {"cb", "highlight", "chcbpat"}))
+        look.background = token.value;
+    else if (isOneOf(word, {"v", "deleted"}))
+        m_state.hidden = on;
+    else if (word == "plain") {
+        look = {.font = m_head.defaultFont()};
+        m_state.hidden = false;
+    } else
         return false;
+    m_formatKnown = false;
     return true;
 }
 
 bool RtfParser::paragraphWord(const RtfToken &token)
 {
-    // 22 inches, the longest that office programs take
-    constexpr int Longest = 31680;
-    const QByteArrayView name = token.bytes;
-    ParagraphState &state = m_state.paragraph;
-    const int length = std::clamp(token.value, -Longest, Longest);
-    if (name == QByteArrayView("pard"))
-        state = {};
-    else if (name == QByteArrayView("ql"))
-        state.alignment = Qt::AlignLeft;
-    else if (name == QByteArrayView("qc"))
-        state.alignment = Qt::AlignHCenter;
-    else if (name == QByteArrayView("qr"))
-        state.alignment = Qt::AlignRight;
-    else if (is(name, {"qj", "qd"}))
-        state.alignment = Qt::AlignJustify;
-    else if (name == QByteArrayView("li"))
-        state.left = std::max(length, 0);
-    else if (name == QByteArrayView("fi"))
-        state.first = length;
-    else if (name == QByteArrayView("ri"))
-        state.right = std::max(length, 0);
-    else if (name == QByteArrayView("sb"))
-        state.before = std::max(length, 0);
-    else if (name == QByteArrayView("sa"))
-        state.after = std::max(length, 0);
-    else if (name == QByteArrayView("ls"))
-        state.list = token.value;
-    else if (name == QByteArrayView("ilvl"))
-        state.level = std::clamp(token.value, 0, 8);
-    else if (name == QByteArrayView("pnlvlblt"))
+    const std::string_view word = token.word();
+    RtfOpenParagraph &open = m_state.paragraph;
+    if (const auto length = std::ranges::find(RtfLengths, word, &RtfLength::word); length != RtfLengths.end())
+        open.*length->length = std::clamp(token.value, length->isSigned ? -LongestTwips : 0, LongestTwips);
+    else if (const auto known = std::ranges::find(RtfAlignments, word, &RtfAlignment::word);
+             known != RtfAlignments.end())
+        open.alignment = known->alignment;
+    else if (word == "qd")
+        open.alignment = Qt::AlignJustify;
+    else if (word == "pard")
+        open = {};
+    else if (word == "ls")
+        open.list = token.value;
+    else if (word == "ilvl")
+        open.level = std::clamp(token.value, 0, 8);
+    else if (word == "pnlvlblt")
         m_numberingBullets = m_state.destination == Destination::Numbering;
     else
         return false;
     return true;
 }
 
-bool RtfParser::structureWord(QByteArrayView name)
+void RtfParser::structureWord(std::string_view word)
 {
-    if (m_state.destination != Destination::Text)
-        return false;
-    if (name == QByteArrayView("par") || name == QByteArrayView("sect"))
-        endParagraph();
-    else if (is(name, {"line", "lbr"}))
-        breakLine();
-    else if (is(name, {"page", "column"})) {
-        if (m_touched)
-            endParagraph();
-    } else if (is(name, {"cell", "nestcell"})) {
+    if (isOneOf(word, {"par", "sect"})) {
+        m_flow.endParagraph(formats());
+    } else if (isOneOf(word, {"line", "lbr"})) {
+        m_flow.breakLine(formats());
+    } else if (isOneOf(word, {"page", "column"})) {
+        m_flow.endPage(formats());
+    } else if (isOneOf(word, {"cell", "nestcell"})) {
         m_result.tables = true;
-        m_touched = true;
-        ++m_cells;
-    } else if (is(name, {"row", "nestrow"}))
-        endRow();
-    else if (name == QByteArrayView("trowd"))
+        m_flow.endCell();
+    } else if (isOneOf(word, {"row", "nestrow"})) {
         m_result.tables = true;
-    else
-        return false;
-    return true;
+        m_flow.endRow(formats());
+    } else if (word == "trowd") {
+        m_result.tables = true;
+    }
 }
 
-void RtfParser::takeSymbol(char symbol)
+void RtfParser::takeSymbol(QByteArrayView sign)
 {
-    switch (symbol) {
-    case '*':
+    const char symbol = sign.front();
+    if (symbol == '*')
         m_ignorable = true;
-        break;
-    case '~':
-        takeText(QString(QChar(QChar::Nbsp)));
-        break;
-    case '_':
-        takeText(QString(QChar(0x2011)));
-        break;
-    case '-':
-        takeText(QString(QChar(QChar::SoftHyphen)));
-        break;
-    case '\t':
-        takeText(u"\t"_s);
-        break;
-    case '\\':
-    case '{':
-    case '}':
-        takeBytes(QByteArrayView(&symbol, 1));
-        break;
-    default:
-        break;
-    }
+    else if (symbol == '\\' || symbol == '{' || symbol == '}')
+        m_bytes += symbol;
+    else if (const char16_t character = specialCharacter(symbol); character != 0)
+        takeText(QString(QChar(character)));
 }
 
 void RtfParser::takeUnicode(int value)
 {
     const char32_t code = value < 0 ? static_cast<char16_t>(value) : static_cast<char32_t>(value);
-    if (code <= QChar::LastValidCodePoint) {
-        const bool symbols = codePage() == RtfCodePage::Symbol && m_state.destination != Destination::Fonts;
-        takeText(code > 0xFFFF ? QString::fromUcs4(&code, 1)
-                               : QString(QChar(symbols ? symbolCharacter(static_cast<char16_t>(code))
-                                                       : static_cast<char16_t>(code))));
-    }
     m_toPassOver = m_state.fallback;
+    if (code > QChar::LastValidCodePoint)
+        return;
+    const auto unit = static_cast<char16_t>(code);
+    if (code > 0xFFFF)
+        takeText(QString::fromUcs4(&code, 1));
+    else if (codePage() == RtfCodePage::Symbol)
+        takeText(QString(QChar(symbolCharacter(unit))));
+    else
+        takeText(QString(QChar(unit)));
+}
+
+void RtfParser::flushBytes()
+{
+    if (m_bytes.isEmpty())
+        return;
+    const QString text = decodeRtf(m_bytes, codePage());
+    m_bytes.clear();
+    takeText(text);
+}
+
+void RtfParser::takeText(const QString &text)
+{
+    switch (m_state.destination) {
+    case Destination::Text:
+        if (m_state.hidden)
+            m_result.others = true;
+        else
+            m_flow.insert(text, formats());
+        break;
+    case Destination::Bullet:
+        m_bulletText += text;
+        break;
+    case Destination::Fonts:
+        m_head.takeFontText(text);
+        break;
+    case Destination::Colors:
+        m_head.takeColorText(text);
+        break;
+    case Destination::Skip:
+    case Destination::Numbering:
+        break;
+    }
+}
+
+int RtfParser::codePage() const
+{
+    return m_state.destination == Destination::Fonts ? m_head.nameCodePage() : m_head.codePage(m_state.look.font);
+}
+
+RtfFlow::Formats RtfParser::formats()
+{
+    if (!m_formatKnown)
+        m_format = m_head.format(m_state.look);
+    m_formatKnown = true;
+    return {m_state.paragraph, m_format};
 }
 
 } // namespace kalvenor::richtext

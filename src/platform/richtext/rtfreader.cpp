@@ -5,6 +5,7 @@
 #include "platform/basic/codepage.h"
 #include "platform/richtext/rtfcharacters.h"
 #include "platform/richtext/rtfparser.h"
+#include "platform/richtext/rtfwords.h"
 #include <algorithm>
 #include <QScopeGuard>
 #include <QStringDecoder>
@@ -89,7 +90,7 @@ QByteArray rtfBytes(const QString &rtf)
     bytes.reserve(ansi.size());
     for (qsizetype i = 0; i < ansi.size(); ++i) {
         if (ansi[i] == '?' && rtf[i] != u'?')
-            bytes += "\\u" + QByteArray::number(static_cast<qint16>(rtf[i].unicode())) + '?';
+            appendRtfCode(bytes, rtf[i].unicode());
         else
             bytes += ansi[i];
     }

@@ -71,10 +71,8 @@ RtfToken RtfTokenizer::text()
 
 RtfToken RtfTokenizer::control()
 {
-    if (atEnd()) {
-        m_cut = true;
+    if (atEnd())
         return {};
-    }
     const char first = m_rtf[m_at];
     if (isLetter(first))
         return word();
@@ -89,10 +87,8 @@ RtfToken RtfTokenizer::control()
 RtfToken RtfTokenizer::hex()
 {
     RtfToken token{.kind = RtfToken::Kind::Hex};
-    if (m_rtf.size() - m_at < 2) {
-        m_cut = true;
+    if (m_rtf.size() - m_at < 2)
         return token;
-    }
     const int high = hexDigit(m_rtf[m_at]);
     const int low = hexDigit(m_rtf[m_at + 1]);
     if (high < 0 || low < 0)
@@ -121,9 +117,7 @@ RtfToken RtfTokenizer::word()
         token.hasValue = true;
     }
     token.value = static_cast<int>(negative ? -number : number);
-    if (atEnd())
-        m_cut = true;
-    else if (m_rtf[m_at] == ' ')
+    if (!atEnd() && m_rtf[m_at] == ' ')
         ++m_at; // the delimiter belongs to the word
     if (token.bytes == QByteArrayView("bin"))
         passOver(token.value);
@@ -132,9 +126,7 @@ RtfToken RtfTokenizer::word()
 
 void RtfTokenizer::passOver(int bytes)
 {
-    const qsizetype left = m_rtf.size() - m_at;
-    m_cut = m_cut || bytes > left;
-    m_at += std::clamp<qsizetype>(bytes, 0, left);
+    m_at += std::clamp<qsizetype>(bytes, 0, m_rtf.size() - m_at);
 }
 
 } // namespace kalvenor::richtext

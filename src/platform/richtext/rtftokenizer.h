@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArrayView>
+#include <string_view>
 
 namespace kalvenor::richtext {
 
@@ -20,6 +21,8 @@ struct RtfToken {
     QByteArrayView bytes = {}; ///< a word's name, a symbol's character, the text
     int value = 0;             ///< clamped to 32 bits
     bool hasValue = false;
+
+    std::string_view word() const { return {bytes.data(), static_cast<std::size_t>(bytes.size())}; }
 };
 
 /// Takes RTF apart (RTF 1.9.1, "RTF Syntax"). The bytes must outlive it.
@@ -29,8 +32,6 @@ public:
 
     /// The next token, End for ever once there is none.
     RtfToken next();
-    /// The bytes ended inside a control word or inside the data of \bin.
-    bool isCut() const { return m_cut; }
 
 private:
     bool atEnd() const { return m_at >= m_rtf.size(); }
@@ -42,7 +43,6 @@ private:
 
     QByteArrayView m_rtf;
     qsizetype m_at = 0;
-    bool m_cut = false;
 };
 
 } // namespace kalvenor::richtext

@@ -2,19 +2,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/richtext/rtfwriter.h"
 
-#include "platform/basic/codepage.h"
 #include "platform/richtext/rtfcharacters.h"
 #include "platform/richtext/rtfreader.h"
+#include "platform/richtext/rtftables.h"
+#include "platform/richtext/rtfwords.h"
 #include <algorithm>
 #include <cmath>
-#include <QColor>
+#include <QBrush>
+#include <QFont>
 #include <QStringList>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextList>
-#include <vector>
-
-using namespace Qt::StringLiterals;
+#include <utility>
 
 namespace kalvenor::richtext {
 
@@ -25,20 +25,10 @@ constexpr double FallbackPointSize = 10;
 constexpr double PointsPerPixel = 0.75;
 constexpr int BoldFrom = QFont::DemiBold;
 
-struct Look {
-    int font = -1;
-    int halfPoints = 0;
-    int foreground = 0;
-    int background = 0;
-    bool bold = false, italic = false, underline = false, strikeOut = false;
-};
-
-struct ParagraphLook {
-    Qt::Alignment alignment;
-    int left = 0, first = 0, right = 0, before = 0, after = 0; ///< twips
+struct WrittenParagraph : RtfParagraph {
     bool bullet = false;
 
-    bool operator==(const ParagraphLook &) const = default;
+    bool operator==(const WrittenParagraph &) const = default;
 };
 
 int twips(qreal pixels)
@@ -46,47 +36,25 @@ int twips(qreal pixels)
     return static_cast<int>(std::lround(std::clamp<qreal>(pixels * TwipsPerPixel, -LongestIndent, LongestIndent)));
 }
 
-QByteArray number(const char *word, int value)
-{
-    return word + QByteArray::number(value);
-}
-
-QByteArray escaped(QChar c)
-{
-    const QByteArray ansi = basic::encodeAnsi(QStringView(&c, 1));
-    if (ansi != "?" || c == u'?')
-        return "\\'" + QByteArrayView(ansi).toByteArray().toHex();
-    return number("\\u", static_cast<qint16>(c.unicode())) + '?';
-}
-
-QByteArray characterOf(QChar c)
+void appendCharacter(QByteArray &out, QChar c)
 {
     switch (c.unicode()) {
-    case u'{':
-        return "\\{";
-    case u'}':
-        return "\\}";
-    case u'\\': // "\\\\" would make words of what follows for a search that knows no escapes
+    case u'\\': // an escaped one would make words of what follows for a search that knows no escapes
     case u'"':  // would end the text in a record of a template
-        return escaped(c);
-    case u'\t':
-        return "\\tab ";
+        appendRtfCode(out, c.unicode());
+        break;
     case QChar::LineSeparator:
-        return "\\line ";
+        out += "\\line ";
+        break;
     case QChar::Nbsp:
-        return "\\~";
+        out += "\\~";
+        break;
     case QChar::SoftHyphen:
-        return "\\-";
+        out += "\\-";
+        break;
     default:
-        return c.unicode() < 0x7F ? QByteArray(1, static_cast<char>(c.unicode())) : escaped(c);
+        appendRtf(out, c.unicode());
     }
-}
-
-QString soundFontName(const QString &family)
-{
-    QString name = shownCharacters(family).simplified().left(LongestRtfFontName);
-    name.removeIf([](QChar c) { return u"\\{};"_s.contains(c) || !c.isPrint(); });
-    return name.simplified();
 }
 
 class Writer {
@@ -102,43 +70,42 @@ public:
 
 private:
     void writeBlock(const QTextBlock &block);
-    void writeParagraphLook(const ParagraphLook &look);
+    void writeParagraph(const WrittenParagraph &paragraph);
     void writeLook(const QTextCharFormat &format);
     void writeText(const QString &text);
     void word(const QByteArray &word);
-    Look lookOf(const QTextCharFormat &format);
-    int fontIndex(const QString &named);
-    int colorIndex(const QBrush &brush);
+    RtfLook lookOf(const QTextCharFormat &format);
+    int colorOf(const QBrush &brush);
     QByteArray head() const;
 
     const QTextDocument &m_document;
     QFont m_default;
     QByteArray m_body;
-    QStringList m_fonts;
-    int m_bulletFont = -1; ///< its place among the fonts
-    std::vector<QRgb> m_colors;
-    Look m_look;
-    ParagraphLook m_paragraph;
+    RtfFonts m_fonts;
+    RtfColors m_colors;
+    RtfLook m_look{.font = -1, .halfPoints = 0};
+    WrittenParagraph m_paragraph;
     bool m_first = true;
     bool m_afterWord = false; ///< the body ends in a control word that has no delimiter yet
 };
 
-ParagraphLook paragraphLookOf(const QTextBlock &block)
+WrittenParagraph paragraphOf(const QTextBlock &block)
 {
     const QTextBlockFormat format = block.blockFormat();
-    ParagraphLook look{.alignment = format.alignment() & Qt::AlignHorizontal_Mask};
-    look.right = std::max(twips(format.rightMargin()), 0);
-    look.before = std::max(twips(format.topMargin()), 0);
-    look.after = std::max(twips(format.bottomMargin()), 0);
+    WrittenParagraph paragraph;
+    paragraph.alignment = format.alignment() & Qt::AlignHorizontal_Mask;
+    paragraph.right = std::max(twips(format.rightMargin()), 0);
+    paragraph.before = std::max(twips(format.topMargin()), 0);
+    paragraph.after = std::max(twips(format.bottomMargin()), 0);
     if (const QTextList *list = block.textList(); list != nullptr) {
-        look.bullet = true;
-        look.left = std::clamp(list->format().indent(), 1, 9) * TwipsPerListLevel;
-        look.first = -TwipsPerListLevel / 2;
+        paragraph.bullet = true;
+        paragraph.left = std::clamp(list->format().indent(), 1, 9) * TwipsPerListLevel;
+        paragraph.first = -TwipsPerListLevel / 2;
     } else {
-        look.left = std::clamp(twips(format.leftMargin()) + format.indent() * TwipsPerListLevel, 0, LongestIndent);
-        look.first = twips(format.textIndent());
+        paragraph.left = std::clamp(twips(format.leftMargin()) + format.indent() * TwipsPerListLevel, 0, LongestIndent);
+        paragraph.first = twips(format.textIndent());
     }
-    return look;
+    return paragraph;
 }
 
 void Writer::word(const QByteArray &word)
@@ -149,12 +116,11 @@ void Writer::word(const QByteArray &word)
 
 void Writer::writeBlock(const QTextBlock &block)
 {
-    const ParagraphLook look = paragraphLookOf(block);
     // An empty paragraph is as high as the text that may come into it.
     const bool empty = block.begin().atEnd();
     const QTextCharFormat first = empty ? block.charFormat() : block.begin().fragment().charFormat();
     lookOf(first); // the first font of all gets number 0
-    writeParagraphLook(look);
+    writeParagraph(paragraphOf(block));
     if (empty)
         writeLook(first);
     m_first = false;
@@ -167,138 +133,88 @@ void Writer::writeBlock(const QTextBlock &block)
 }
 
 /// Bullets stand before the formats of characters, so that a size is never followed by a brace.
-void Writer::writeParagraphLook(const ParagraphLook &look)
+void Writer::writeParagraph(const WrittenParagraph &paragraph)
 {
-    if (look.bullet && m_bulletFont < 0) {
-        m_bulletFont = static_cast<int>(m_fonts.size());
-        m_fonts.append(u"Symbol"_s);
-    }
-    const QByteArray font = QByteArray::number(m_bulletFont);
+    const QByteArray font = paragraph.bullet ? QByteArray::number(m_fonts.symbols()) : QByteArray();
     const QByteArray bulletText = "{\\pntext\\f" + font + "\\'b7\\tab}";
-    if (!m_first && look == m_paragraph) {
-        if (look.bullet)
+    if (!m_first && paragraph == m_paragraph) {
+        if (paragraph.bullet)
             m_body += bulletText;
         return;
     }
-    m_paragraph = look;
-    m_body += "\\pard";
-    if (look.bullet)
+    m_paragraph = paragraph;
+    word("\\pard");
+    if (paragraph.bullet)
         m_body += bulletText + "{\\*\\pn\\pnlvlblt\\pnf" + font + "\\pnindent0{\\pntxtb\\'b7}}";
-    if (look.first != 0)
-        word(number("\\fi", look.first));
-    if (look.left != 0)
-        word(number("\\li", look.left));
-    if (look.right != 0)
-        word(number("\\ri", look.right));
-    if (look.before != 0)
-        word(number("\\sb", look.before));
-    if (look.after != 0)
-        word(number("\\sa", look.after));
-    if (look.alignment & Qt::AlignHCenter)
-        word("\\qc");
-    else if (look.alignment & Qt::AlignRight)
-        word("\\qr");
-    else if (look.alignment & Qt::AlignJustify)
-        word("\\qj");
-    m_afterWord = true;
+    for (const RtfLength &length : RtfLengths) {
+        if (const int twips = paragraph.*length.length; twips != 0)
+            word(rtfWord(length.word, twips));
+    }
+    for (const RtfAlignment &known : RtfAlignments) {
+        if (known.alignment != Qt::AlignLeft && paragraph.alignment.testFlag(known.alignment))
+            word(rtfWord(known.word));
+    }
 }
 
-Look Writer::lookOf(const QTextCharFormat &format)
+RtfLook Writer::lookOf(const QTextCharFormat &format)
 {
-    Look look;
     double points = format.fontPointSize();
     if (points <= 0 && format.hasProperty(QTextFormat::FontPixelSize))
         points = format.intProperty(QTextFormat::FontPixelSize) * PointsPerPixel;
     if (points <= 0)
         points = m_default.pointSizeF() > 0 ? m_default.pointSizeF() : FallbackPointSize;
-    look.halfPoints = std::clamp(static_cast<int>(std::lround(points * 2)), 2, LargestHalfPoints);
     const QStringList families = format.fontFamilies().toStringList();
-    look.font = fontIndex(families.isEmpty() ? m_default.family() : families.constFirst());
-    look.foreground = colorIndex(format.foreground());
-    look.background = colorIndex(format.background());
-    look.bold = format.fontWeight() >= BoldFrom;
-    look.italic = format.fontItalic();
-    look.underline = format.fontUnderline();
-    look.strikeOut = format.fontStrikeOut();
-    return look;
+    int font = families.isEmpty() ? -1 : m_fonts.place(families.constFirst());
+    if (font < 0)
+        font = std::max(m_fonts.place(m_default.family()), 0);
+    return {.font = font,
+            .halfPoints = std::clamp(static_cast<int>(std::lround(points * 2)), 2, LargestHalfPoints),
+            .foreground = colorOf(format.foreground()),
+            .background = colorOf(format.background()),
+            .bold = format.fontWeight() >= BoldFrom,
+            .italic = format.fontItalic(),
+            .underline = format.fontUnderline(),
+            .strikeOut = format.fontStrikeOut()};
 }
 
-int Writer::fontIndex(const QString &named)
+int Writer::colorOf(const QBrush &brush)
 {
-    QString family = soundFontName(named);
-    if (family.isEmpty())
-        family = soundFontName(m_default.family());
-    for (qsizetype i = 0; i < m_fonts.size(); ++i) {
-        if (m_fonts[i] == family && i != m_bulletFont)
-            return static_cast<int>(i);
-    }
-    m_fonts.append(family);
-    return static_cast<int>(m_fonts.size() - 1);
-}
-
-int Writer::colorIndex(const QBrush &brush)
-{
-    if (brush.style() == Qt::NoBrush || brush.color().alpha() == 0)
-        return 0;
-    const QRgb rgb = brush.color().rgb();
-    const auto found = std::ranges::find(m_colors, rgb);
-    const auto index = static_cast<int>(found - m_colors.begin()) + 1;
-    if (found == m_colors.end())
-        m_colors.push_back(rgb);
-    return index;
+    return brush.style() == Qt::NoBrush || brush.color().alpha() == 0 ? 0 : m_colors.place(brush.color().rgb());
 }
 
 void Writer::writeLook(const QTextCharFormat &format)
 {
-    const Look look = lookOf(format);
-    const Look before = m_look;
-    m_look = look;
-    const auto flag = [this](bool was, bool is, const char *on, const char *off) {
-        if (was != is)
-            word(is ? on : off);
-    };
-    if (look.foreground != before.foreground)
-        word(number("\\cf", look.foreground));
-    if (look.background != before.background)
-        word(number("\\highlight", look.background));
-    flag(before.underline, look.underline, "\\ul", "\\ulnone");
-    flag(before.bold, look.bold, "\\b", "\\b0");
-    flag(before.italic, look.italic, "\\i", "\\i0");
-    flag(before.strikeOut, look.strikeOut, "\\strike", "\\strike0");
-    if (look.font != before.font)
-        word(number("\\f", look.font));
-    if (look.halfPoints != before.halfPoints)
-        word(number("\\fs", look.halfPoints));
+    const RtfLook before = std::exchange(m_look, lookOf(format));
+    if (m_look.foreground != before.foreground)
+        word(rtfWord("cf", m_look.foreground));
+    if (m_look.background != before.background)
+        word(rtfWord("highlight", m_look.background));
+    for (const RtfFlag &flag : {RtfUnderline, RtfBold, RtfItalic, RtfStrikeOut}) {
+        if (m_look.*flag.flag != before.*flag.flag)
+            word(rtfWord(m_look.*flag.flag ? flag.on : flag.off));
+    }
+    if (m_look.font != before.font)
+        word(rtfWord("f", m_look.font));
+    if (m_look.halfPoints != before.halfPoints)
+        word(rtfWord("fs", m_look.halfPoints));
 }
 
 void Writer::writeText(const QString &text)
 {
     for (const QChar c : shownCharacters(text)) {
-        const QByteArray bytes = characterOf(c);
-        if (m_afterWord && bytes.front() != '\\')
-            m_body += ' ';
+        const qsizetype at = m_body.size();
+        appendCharacter(m_body, c);
+        if (m_afterWord && m_body[at] != '\\')
+            m_body.insert(at, ' ');
         m_afterWord = false;
-        m_body += bytes;
     }
 }
 
 QByteArray Writer::head() const
 {
-    QByteArray fonts;
-    for (qsizetype i = 0; i < m_fonts.size(); ++i) {
-        fonts += "{\\f" + QByteArray::number(i) + "\\fnil" + (i == m_bulletFont ? "\\fcharset2 " : "\\fcharset0 ");
-        for (const QChar c : m_fonts[i])
-            fonts += c == u'_' ? escaped(c) : characterOf(c);
-        fonts += ";}";
-    }
-    QByteArray head = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1031{\\fonttbl" + fonts + "}\r\n";
-    if (!m_colors.empty()) {
-        head += "{\\colortbl ;";
-        for (const QRgb color : m_colors)
-            head +=
-                number("\\red", qRed(color)) + number("\\green", qGreen(color)) + number("\\blue", qBlue(color)) + ';';
-        head += "}\r\n";
-    }
+    QByteArray head = "{\\rtf1\\ansi\\ansicpg1252\\deff0\\deflang1031" + m_fonts.table(u"_\"") + "\r\n";
+    if (!m_colors.isEmpty())
+        head += "{\\colortbl ;" + m_colors.entries() + "}\r\n";
     return head + "\\viewkind4\\uc1";
 }
 

@@ -3,11 +3,10 @@
 #include "report/composition/bericht.h"
 
 #include "language/forms/form.h"
-#include "platform/basic/codepage.h"
 #include "platform/basic/text.h"
 #include "platform/print/htmlwriter.h"
 #include "platform/print/richtextblocks.h"
-#include "platform/print/rtfwriter.h"
+#include "platform/print/rtffile.h"
 #include "platform/richtext/rtfreader.h"
 #include "report/composition/agelisttable.h"
 #include "report/export/htmlexport.h"
@@ -170,8 +169,7 @@ void Bericht::addIntroduction(print::PrintDocument &document, const ReportConten
     richtext::readRtf(content.rtf, text);
     if (text.toPlainText().trimmed().isEmpty())
         return;
-    QString rtf = richtext::looksLikeRtf(content.rtf) ? basic::decodeAnsi(content.rtf) : text.toPlainText();
-    rtfanpassen(0, rtf, IntroductionScale);
+    const QString rtf = rtfanpassen(text, IntroductionScale);
     richtext::readRtf(richtext::rtfBytes(rtf), text);
     for (print::Block &block : print::richTextBlocks(text, document))
         document.add(std::move(block));

@@ -49,15 +49,19 @@ void rtfanpassen(int, QString &rtf, double scale)
 {
     QTextDocument control;
     richtext::readRtf(richtext::rtfBytes(rtf), control);
-    if (holdsOnlyBlanks(control))
-        return;
-    QString adapted = QString::fromLatin1(richtext::writeRtf(control));
-    scaleSizes(adapted, basic::toCurrency(scale));
-    adapted.replace(u'_', u' ');
-    adapted.replace(u"\\par"_s, u"\\line"_s);
-    if (!adapted.contains(u"\\colortbl"_s))
-        adapted.replace(0, 1, ColorTable);
-    rtf = adapted;
+    if (!holdsOnlyBlanks(control))
+        rtf = rtfanpassen(control, scale);
+}
+
+QString rtfanpassen(const QTextDocument &control, double scale)
+{
+    QString rtf = QString::fromLatin1(richtext::writeRtf(control));
+    scaleSizes(rtf, basic::toCurrency(scale));
+    rtf.replace(u'_', u' ');
+    rtf.replace(u"\\par"_s, u"\\line"_s);
+    if (!rtf.contains(u"\\colortbl"_s))
+        rtf.replace(0, 1, ColorTable);
+    return rtf;
 }
 
 } // namespace kalvenor::report

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+class QTextDocument;
+
 namespace kalvenor::report {
 
 /// Prepares a rich text for the report: it is brought into the form that writeRtf gives it, its font sizes are
@@ -14,5 +16,7 @@ namespace kalvenor::report {
 /// A scale that does not give whole half points leaves fractions behind `\fs`, which RTF shows as text. Throws
 /// Error(Overflow) for a scale beyond the range of a currency value.
 void rtfanpassen(int, QString &rtf, double scale = 1);
+/// The same for a text that was read already and holds more than blanks.
+QString rtfanpassen(const QTextDocument &control, double scale = 1);
 
 } // namespace kalvenor::report

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/print/htmlwriter.h"
 #include "platform/print/pdfwriter.h"
-#include "platform/print/rtfwriter.h"
+#include "platform/print/rtffile.h"
 
 #include <gtest/gtest.h>
 #include <QFile>

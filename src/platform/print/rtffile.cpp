@@ -1,12 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/print/rtfwriter.h"
+#include "platform/print/rtffile.h"
 
 #include "platform/print/outputfile.h"
 #include "platform/print/pagegeometry.h"
-#include "platform/print/rtftext.h"
+#include "platform/print/rtfstyles.h"
 #include "platform/print/textface.h"
 #include "platform/print/writerparts.h"
+#include "platform/richtext/rtfwords.h"
 
 #include <algorithm>
 #include <cmath>
@@ -18,15 +19,14 @@ using namespace Qt::StringLiterals;
 namespace kalvenor::print {
 namespace {
 
-QByteArray number(const char *word, double value)
+QByteArray number(std::string_view word, double value)
 {
-    return word + QByteArray::number(std::lround(value));
+    return richtext::rtfWord(word, static_cast<int>(std::lround(value)));
 }
 
-const char *alignmentWord(Alignment alignment)
+QByteArray alignmentWord(Alignment alignment)
 {
-    constexpr const char *words[]{"\\ql", "\\qc", "\\qr", "\\qj"};
-    return words[static_cast<int>(alignment)];
+    return richtext::rtfWord(richtext::RtfAlignments[static_cast<std::size_t>(alignment)].word);
 }
 
 /// Turns blocks into RTF; they are visited in their order.
@@ -52,10 +52,10 @@ public:
                    "\\sbasedon0\\snext0 heading " + QByteArray::number(level) + ";}";
         out += "}\n{\\*\\generator Kalvenor " KALVENOR_VERSION ";}{\\info{\\title ";
         appendRtfText(out, outlineTitle(m_document.title));
-        out += "}}\n" + number("\\paperw", paper.width()) + number("\\paperh", paper.height()) +
-               number("\\margl", page.left) + number("\\margr", page.right) + number("\\margt", page.top) +
-               number("\\margb", page.bottom) + number("\\headery", page.headerDistance) +
-               number("\\footery", page.footerDistance) + (page.landscape ? "\\landscape" : "") + "\\widowctrl\n";
+        out += "}}\n" + number("paperw", paper.width()) + number("paperh", paper.height()) +
+               number("margl", page.left) + number("margr", page.right) + number("margt", page.top) +
+               number("margb", page.bottom) + number("headery", page.headerDistance) +
+               number("footery", page.footerDistance) + (page.landscape ? "\\landscape" : "") + "\\widowctrl\n";
         running("header", m_document.header);
         running("footer", m_document.footer);
     }
@@ -71,7 +71,7 @@ public:
         }
         begin(paragraph, paragraph.alignment);
         if (const int color = m_styles.background(paragraph.style))
-            out += number("\\cbpat", color);
+            out += number("cbpat", color);
         out += m_styles.words(paragraph.style);
         appendRtfText(out, printable(paragraph.text));
         out += "\\par\n";
@@ -87,9 +87,9 @@ public:
         }
         begin(paragraph, paragraph.alignment);
         const int hanging = std::min(paragraph.hanging, paragraph.leftIndent); // no line begins left of the margin
-        out += number("\\li", paragraph.leftIndent) + number("\\fi", -hanging);
+        out += number("li", paragraph.leftIndent) + number("fi", -hanging);
         if (!paragraph.bullet.text.isEmpty()) {
-            out += number("\\tx", paragraph.leftIndent);
+            out += number("tx", paragraph.leftIndent);
             run(paragraph.bullet.text + u'\t', paragraph.bullet.style);
         }
         for (const TextRun &r : paragraph.runs)
@@ -110,8 +110,8 @@ public:
             appendRtfText(out, outlineTitle(picture.alternativeText));
             out += "}}}";
         }
-        out += "\\pngblip" + number("\\picw", picture.image.width()) + number("\\pich", picture.image.height()) +
-               number("\\picwgoal", size.width()) + number("\\pichgoal", size.height()) + '\n';
+        out += "\\pngblip" + number("picw", picture.image.width()) + number("pich", picture.image.height()) +
+               number("picwgoal", size.width()) + number("pichgoal", size.height()) + '\n';
         const QByteArray hex = pngBytes(picture.image).toHex();
         for (qsizetype i = 0; i < hex.size(); i += 128)
             out += hex.mid(i, 128) + '\n';
@@ -127,7 +127,7 @@ public:
         m_left = edges.front() - m_area.left();
         m_cells.clear();
         for (std::size_t i = 1; i < edges.size(); ++i)
-            m_cells.push_back(number("\\cellx", edges[i] - m_area.left()));
+            m_cells.push_back(number("cellx", edges[i] - m_area.left()));
         m_hasRows = false;
         heading();
     }
@@ -198,9 +198,9 @@ private:
             level(block.outlineLevel);
         out += alignmentWord(alignment);
         if (block.spaceBefore > 0 && !onTop)
-            out += number("\\sb", block.spaceBefore);
+            out += number("sb", block.spaceBefore);
         if (block.spaceAfter > 0)
-            out += number("\\sa", block.spaceAfter);
+            out += number("sa", block.spaceAfter);
         if (block.keepWithNext)
             out += "\\keepn";
     }
@@ -223,14 +223,14 @@ private:
     void level(int outlineLevel)
     {
         if (outlineLevel > 0)
-            out += number("\\s", outlineLevel) + number("\\outlinelevel", outlineLevel - 1);
+            out += number("s", outlineLevel) + number("outlinelevel", outlineLevel - 1);
     }
 
     void run(const QString &text, StyleId style)
     {
         out += '{';
         if (const int color = m_styles.background(style))
-            out += number("\\chshdng0\\chcbpat", color) + number("\\cb", color);
+            out += "\\chshdng0" + number("chcbpat", color) + number("cb", color);
         out += m_styles.words(style);
         appendRtfText(out, text);
         out += '}';
@@ -244,11 +244,11 @@ private:
 
     void row(const std::vector<Cell> &cells, bool isHeading, bool keepWithNext, Twips spacing)
     {
-        out += "\\trowd\\trgaph70" + number("\\trleft", m_left);
+        out += "\\trowd\\trgaph70" + number("trleft", m_left);
         out += isHeading ? "\\trkeep\\trhdr" : "\\trkeep";
         for (std::size_t i = 0; i < m_cells.size(); ++i) {
             if (const int color = i < cells.size() ? m_styles.background(cells[i].style) : 0)
-                out += number("\\clcbpat", color);
+                out += number("clcbpat", color);
             out += m_cells[i];
         }
         out += '\n';
@@ -260,7 +260,7 @@ private:
                     level(cell.outlineLevel);
                 out += alignmentWord(cell.alignment.value_or(m_table->columns[i].alignment));
                 if (spacing > 0)
-                    out += number("\\sb", spacing);
+                    out += number("sb", spacing);
                 if (keepWithNext)
                     out += "\\keepn";
                 out += m_styles.words(cell.style);
@@ -277,8 +277,8 @@ private:
     {
         if (text.text.isEmpty())
             return;
-        out += "{\\" + QByteArray(word) + "\\pard\\plain" + number("\\tqc\\tx", m_area.width() / 2) +
-               number("\\tqr\\tx", m_area.width()) + m_styles.words(text.style);
+        out += "{\\" + QByteArray(word) + "\\pard\\plain\\tqc" + number("tx", m_area.width() / 2) + "\\tqr" +
+               number("tx", m_area.width()) + m_styles.words(text.style);
         const auto parts = runningTextParts(QString(text.text).replace("%d"_L1, PageMark), 0);
         for (std::size_t i = 0; i < parts.size(); ++i) {
             if (i > 0)

@@ -10,8 +10,7 @@
 
 namespace kalvenor::print {
 
-/// Adds a text in seven bits: Windows-1252 as \'xx, all else as \uN? with N as a signed number. Line ends become
-/// \line, tabs \tab.
+/// Adds a text in seven bits; line ends become \line, other control characters blanks.
 void appendRtfText(QByteArray &out, QStringView text);
 
 /// The tables at the head of an RTF file that styles refer to, and each style's words.
