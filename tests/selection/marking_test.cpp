@@ -142,6 +142,9 @@ TEST(MarkHistory, RestoresExactlyTheRowsThatChanged)
     EXPECT_EQ(marked(), (std::vector<qint32>{8, 9}));
     history.record({.marked = markPersons(databases, std::vector<qint32>{1}, true).changed, .unmarked = {}});
     EXPECT_FALSE(history.canRedo());
+    history.undo(databases);
+    history.undo(databases);
+    EXPECT_EQ(marked(), std::vector<qint32>{9}) << "the step that was taken back before is forgotten";
 }
 
 TEST(MarkPersons, StopsWhenAsked)

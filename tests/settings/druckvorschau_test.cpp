@@ -325,6 +325,35 @@ TEST_F(Preview, FindsTextWhileTheUserTypes)
     EXPECT_FALSE(entry.isVisible());
 }
 
+namespace {
+
+/// A printer that may print copies by itself.
+class CopyingPrinter : public QPrinter, QPrintEngine {
+public:
+    explicit CopyingPrinter(bool copies) : m_copies(copies) { setEngines(this, paintEngine()); }
+
+    void setProperty(PrintEnginePropertyKey, const QVariant &) override {}
+    QVariant property(PrintEnginePropertyKey key) const override
+    {
+        return key == PPK_SupportsMultipleCopies ? QVariant(m_copies) : key == PPK_CopyCount ? QVariant(3) : QVariant();
+    }
+    bool newPage() override { return true; }
+    bool abort() override { return true; }
+    int metric(QPaintDevice::PaintDeviceMetric) const override { return 1; }
+    QPrinter::PrinterState printerState() const override { return QPrinter::Idle; }
+
+private:
+    bool m_copies;
+};
+
+} // namespace
+
+TEST(Printing, LeavesCopiesToAPrinterThatMakesThem)
+{
+    EXPECT_EQ(printChoice(CopyingPrinter(true), 0).copies, 1);
+    EXPECT_EQ(printChoice(CopyingPrinter(false), 0).copies, 3);
+}
+
 TEST(Printing, PutsPagesInOrder)
 {
     const struct {

@@ -336,9 +336,7 @@ void Auswahl::closeEvent(QCloseEvent *event)
     if (!m_closed) {
         m_closed = true;
         m_help.reset();
-        saveWindow(*this, m_program.host);
-        saveSplitter(m_selection->listSplitter(), ListsKey, m_program.host);
-        saveSplitter(*m_splitter, PanelsKey, m_program.host);
+        saveWindow(*this, {{m_selection->listSplitter(), ListsKey}, {*m_splitter, PanelsKey}}, m_program.host);
         statistics::writeOptions(m_program.host, m_statisticsPanel->options());
         m_controller.release();
         try {

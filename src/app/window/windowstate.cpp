@@ -24,9 +24,13 @@ QString read(const host::Host &host, const QString &key)
     return host.inilesen(host.ownSettingsFile(), Section, key, {});
 }
 
-void write(const host::Host &host, const QString &key, const QString &value)
+QString sizesText(const QSplitter &splitter)
 {
-    host.inischreiben(host.ownSettingsFile(), Section, key, value);
+    QStringList texts;
+    const QList<int> sizes = splitter.sizes();
+    for (const int size : sizes)
+        texts << QString::number(size);
+    return texts.join(u',');
 }
 
 } // namespace
@@ -52,17 +56,6 @@ void restoreWindow(QMainWindow &window, const host::Host &host)
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
 }
 
-void saveWindow(const QMainWindow &window, const host::Host &host)
-{
-    const bool maximized = window.isMaximized() || window.isFullScreen();
-    const QSize size = maximized ? window.normalGeometry().size() : window.size();
-    const QPoint corner = maximized ? window.normalGeometry().topLeft() : window.pos();
-    const std::array<int, 4> numbers{corner.x(), corner.y(), size.width(), size.height()};
-    for (std::size_t i = 0; i < Place.size(); ++i)
-        write(host, Place[i], QString::number(numbers[i]));
-    write(host, Maximized, maximized ? u"1"_s : u"0"_s);
-}
-
 void restoreSplitter(QSplitter &splitter, const QString &key, const host::Host &host)
 {
     QList<int> sizes;
@@ -77,13 +70,19 @@ void restoreSplitter(QSplitter &splitter, const QString &key, const host::Host &
         splitter.setSizes(sizes);
 }
 
-void saveSplitter(const QSplitter &splitter, const QString &key, const host::Host &host)
+void saveWindow(const QMainWindow &window, const std::vector<KeptSplitter> &splitters, const host::Host &host)
 {
-    QStringList texts;
-    const QList<int> sizes = splitter.sizes();
-    for (const int size : sizes)
-        texts << QString::number(size);
-    write(host, key, texts.join(u','));
+    const bool maximized = window.isMaximized() || window.isFullScreen();
+    const QSize size = maximized ? window.normalGeometry().size() : window.size();
+    const QPoint corner = maximized ? window.normalGeometry().topLeft() : window.pos();
+    const std::array<int, 4> numbers{corner.x(), corner.y(), size.width(), size.height()};
+    std::vector<host::Host::Setting> settings;
+    for (std::size_t i = 0; i < Place.size(); ++i)
+        settings.push_back({Section, Place[i], QString::number(numbers[i])});
+    settings.push_back({Section, Maximized, maximized ? u"1"_s : u"0"_s});
+    for (const KeptSplitter &kept : splitters)
+        settings.push_back({Section, kept.key, sizesText(kept.splitter)});
+    host.inischreiben(host.ownSettingsFile(), settings);
 }
 
 } // namespace kalvenor::app

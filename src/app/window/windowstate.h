@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/host.h"
+#include <vector>
 
 class QMainWindow;
 class QSplitter;
@@ -12,10 +13,14 @@ namespace kalvenor::app {
 
 /// Puts the window where it was, as far as a screen still shows that place.
 void restoreWindow(QMainWindow &window, const host::Host &host);
-void saveWindow(const QMainWindow &window, const host::Host &host);
-
 /// Sizes of a splitter's parts under a key of their own; passed over where the number of parts is another one.
 void restoreSplitter(QSplitter &splitter, const QString &key, const host::Host &host);
-void saveSplitter(const QSplitter &splitter, const QString &key, const host::Host &host);
+
+struct KeptSplitter {
+    const QSplitter &splitter;
+    QString key;
+};
+/// Everything in one write.
+void saveWindow(const QMainWindow &window, const std::vector<KeptSplitter> &splitters, const host::Host &host);
 
 } // namespace kalvenor::app
