@@ -23,7 +23,7 @@ int main(int argc, char **argv)
         statistics::alterslistenausgabe(databases, {1, 1, 1, 1}, ages);
         app::ListOutput output(app::Format::Text, "line");
         for (const statistics::Alterszeile &line : ages)
-            output.add(line.Counter, line.text);
+            output.add(line.Counter, line.text());
         output.finish();
         desktop::writeOutput(app::chartOutput(statistics::grafikermitteln(databases, {}), app::Format::Text));
         desktop::flushOutput();

@@ -87,7 +87,7 @@ TEST(Statistic, EachControlComputesWhatHangsOnIt)
     EXPECT_EQ(look.type, chart::ChartType::Line3D);
 
     // The controls are as they were left when the window opens again.
-    const statistics::StatisticsOptions left = open.window->statisticsPanel().options();
+    const statistics::Statistik left = open.window->statisticsPanel().options();
     EXPECT_EQ(left.geschlechtalter, (statistics::GeschlechtAlter{0, 0, 0, 1}));
     ASSERT_TRUE(open.window->close());
     open.program.Main(

@@ -46,7 +46,7 @@ struct Templates : OpenWindow, testing::Test {
         for (const qint16 box : options.geschlechtalter)
             all += QString::number(box);
         for (const auto &line : window->statisticsController().list())
-            all += u'|' + line.text;
+            all += u'|' + line.text();
         return all + u'|' + window->statisticsController().figures().anzahl[2];
     }
     void changeEverything()
@@ -93,7 +93,7 @@ TEST_F(Templates, SavedChangedAndOpenedTheStatisticIsTheSame)
     trigger("loeschen");
     EXPECT_FALSE(isEnabled("loeschen"));
     EXPECT_EQ(panel().title().text() + panel().introduction().rtf() + window->templates().current(), "");
-    EXPECT_EQ(panel().options(), statistics::StatisticsOptions());
+    EXPECT_EQ(panel().options(), statistics::Statistik());
 }
 
 TEST_F(Templates, FailureLeavesMarksAndControls)
@@ -144,7 +144,7 @@ TEST_F(Templates, NothingUnsavedIsLostWithoutAQuestion)
     desktop.fileAnswers = {file("neu.kvl")};
     window->close();
     EXPECT_FALSE(window->isVisible());
-    EXPECT_EQ(selection::readVorlage(file("neu.kvl")).titel, "Neu");
+    EXPECT_EQ(selection::readVorlage(file("neu.kvl")).statistik.titel, "Neu");
 }
 
 TEST_F(Templates, AnotherFamilyDatabaseOrTheFormerOne)
@@ -187,8 +187,9 @@ TEST_F(Templates, WhatClosingStoresIsWhatResettingGives)
 {
     panel().setOptions({.grafiktyp = 9, .legende = false, .geschlechtalter = {0, 0, 0, 1}, .nachGeburtsjahr = false});
     window->close();
-    const selection::Statistikwerte werte = selection::vorlageclear(program.host);
-    EXPECT_EQ(werte, (selection::Statistikwerte{{}, {}, 9, 0, {1, 1, 1, 1}, false})) << "the boxes have another key";
+    const statistics::Statistik statistik = selection::vorlageclear(program.host);
+    EXPECT_EQ(statistik, (statistics::Statistik{.grafiktyp = 9, .legende = false, .nachGeburtsjahr = false}))
+        << "the boxes have another key";
     EXPECT_EQ(program.host.inilesen(program.host.ownSettingsFile(), "Geschlecht", "2", {}), "0");
 }
 

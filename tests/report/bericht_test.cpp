@@ -79,7 +79,7 @@ struct BerichtTest : testing::Test {
     QString shape(const print::PrintDocument &document)
     {
         const QHash<QString, QChar> known{
-            {content.titel, u'T'}, {{}, u'-'}, {text(911), u'K'}, {text(1217), u'L'}, {closing(), u'F'}};
+            {content.statistik.titel, u'T'}, {{}, u'-'}, {text(911), u'K'}, {text(1217), u'L'}, {closing(), u'F'}};
         QString letters;
         for (const print::Block &block : document.blocks()) {
             constexpr char kinds[] = "ktrNIP"; // in the order of Block
@@ -100,8 +100,7 @@ struct BerichtTest : testing::Test {
     Bericht bericht{{program.host, program.language, program.databases, print}};
     statistics::Altersliste list;
     statistics::Grafikzahlen figures;
-    ReportContent content{.titel = "Titel | 1",
-                          .rtf = "Einleitung",
+    ReportContent content{.statistik = {.titel = "Titel | 1", .rtf = "Einleitung"},
                           .list = list,
                           .figures = figures,
                           .look = {},
@@ -135,18 +134,50 @@ TEST_F(BerichtTest, SwitchesDecideWhatStandsThere)
         EXPECT_EQ(document.footer.text, row.footer ? footer : QString()) << row.settings;
     }
     settings({});
-    content.titel.clear();
-    content.rtf = "{\\rtf1\\fs20   \\par}";
+    content.statistik.titel.clear();
+    content.statistik.rtf = "{\\rtf1\\fs20   \\par}";
     const print::PrintDocument bare = compose();
     EXPECT_EQ(shape(bare).toStdString(), "PKkkkkkNLHrrF");
     EXPECT_EQ(bare.header.text, "");
+}
+
+TEST_F(BerichtTest, AChartTakesItsShareOfThePageAtMost)
+{
+    const auto height = [&](QSize shape) {
+        content.chartShape = shape;
+        const print::PrintDocument document = compose();
+        for (const print::Block &block : document.blocks()) {
+            if (const auto *picture = std::get_if<print::Picture>(&block))
+                return picture->height;
+        }
+        return 0;
+    };
+    settings({});
+    const print::PageSetup page = compose().page;
+    EXPECT_NEAR(height({400, 100}), (page.paperWidth - page.left - page.right) / 4, 2);
+    EXPECT_NEAR(height({100, 400}), (page.paperHeight - page.top - page.bottom) * 3 / 5, 2);
+}
+
+TEST_F(BerichtTest, TheClosingLineDoesNotStandAlone)
+{
+    settings("[Grafik]\r\nBildprint=0");
+    std::size_t pagesBefore = 0;
+    for (int turns = 0; turns < 2; list.push_back(list.front())) {
+        const print::PageLayout layout(compose());
+        const auto &texts = layout.pages().back().texts;
+        EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [&](const auto &placed) {
+            return placed.text == list.front().listname;
+        })) << list.size();
+        turns += layout.pages().size() > pagesBefore ? 1 : 0;
+        pagesBefore = layout.pages().size();
+    }
 }
 
 TEST_F(BerichtTest, IntroductionsKeepTheirCharacters)
 {
     for (const QByteArray &rtf : {QByteArray("{\\rtf1\\ansi\\ansicpg1252 5 \x80 \x84\xe4\x93}"),
                                   QByteArray("5 \xe2\x82\xac \xe2\x80\x9e\xc3\xa4\xe2\x80\x9c")}) {
-        content.rtf = rtf;
+        content.statistik.rtf = rtf;
         QString text;
         const print::PrintDocument document = compose();
         for (const print::Block &block : document.blocks()) {
@@ -178,8 +209,10 @@ TEST_F(BerichtTest, FontsComeFromTheSettingsButUnderlineNever)
 
 TEST_F(BerichtTest, CriteriaSayWhatIsActive)
 {
-    const auto lines = [&](const Auswahlkriterien &criteria, std::size_t listed) {
-        return kriterien(criteria, figures, listed, program.language).join(u'\n').toStdString();
+    const auto lines = [&](const Auswahlkriterien &criteria, std::size_t listed, bool byBirth = true) {
+        return kriterien(criteria, {.nachGeburtsjahr = byBirth}, figures, listed, program.language)
+            .join(u'\n')
+            .toStdString();
     };
     const std::string excluded = "1 ohne Geburts- oder Sterbedatum, 1 nicht nach der Geburt gestorben";
     const std::string numbers = "Anzahl der Personen (Männer | Frauen | alle): 1 | 1 | 3\n"
@@ -187,7 +220,7 @@ TEST_F(BerichtTest, CriteriaSayWhatIsActive)
                                 "Niedrigstes | höchstes Alter: 71.2 |  109.5\nNicht berücksichtigt: " +
                                 excluded;
     EXPECT_EQ(lines({}, 3), "Grafik: nach Geburtsjahr\n" + numbers);
-    EXPECT_EQ(lines({.nachGeburtsjahr = false}, 2),
+    EXPECT_EQ(lines({}, 2, false),
               "Grafik: nach Sterbejahr\n" + numbers + ", 1 nach Geschlecht nicht in der Altersliste");
     Auswahlkriterien all{.filter = {.Presse = "*Müll*", .Geschlechtfilter = {0, 1}, .Datumfilter = {1, 0, 1}},
                          .filtered = true,

@@ -22,12 +22,12 @@ Vorlage wholeVorlage()
 {
     Vorlage vorlage;
     vorlage.familienpfad = u"C:\\QV\\Bär.mdb"_s;
-    vorlage.titel = u"Der \"alte\" Stamm"_s;
-    vorlage.rtf = "{\\rtf1\r\nA, \"B\"\r\n}";
-    vorlage.grafiktyp = 5;
-    vorlage.legende = 0;
-    vorlage.geschlechtalter = {1, 0, 1, 0};
-    vorlage.nachGeburtsjahr = false;
+    vorlage.statistik.titel = u"Der \"alte\" Stamm"_s;
+    vorlage.statistik.rtf = "{\\rtf1\r\nA, \"B\"\r\n}";
+    vorlage.statistik.grafiktyp = 5;
+    vorlage.statistik.legende = false;
+    vorlage.statistik.geschlechtalter = {1, 0, 1, 0};
+    vorlage.statistik.nachGeburtsjahr = false;
     vorlage.counters = {7, -3, 2147483647};
     return vorlage;
 }
@@ -77,7 +77,7 @@ TEST_F(VorlageFile, IsWrittenAndReadByteForByte)
 TEST_F(VorlageFile, IsReadAsOtherProgramsLeaveIt)
 {
     Vorlage unixLines = wholeVorlage();
-    unixLines.rtf.replace("\r\n", "\n");
+    unixLines.statistik.rtf.replace("\r\n", "\n");
     const std::pair<QByteArray, Vorlage> rows[] = {
         {QByteArray(WholeFile).replace("\r\n", "\n"), unixLines},
         {QByteArray(WholeFile).replace("\r\n5\r\n0", " \t\r\n \t5\t\r\n  0 "), wholeVorlage()},
@@ -148,7 +148,7 @@ TEST_F(VorlageFile, NothingIsLostWhereItCannotBeWritten)
         return QString();
     };
     Vorlage vorlage = wholeVorlage();
-    vorlage.titel = u"Łódź ☺ 😀 Žďár"_s;
+    vorlage.statistik.titel = u"Łódź ☺ 😀 Žďár"_s;
     EXPECT_TRUE(refused(vorlage).contains("title holds characters that a template cannot keep (Ł ź ☺ 😀 ď)"))
         << refused(vorlage).toStdString();
     vorlage = wholeVorlage();

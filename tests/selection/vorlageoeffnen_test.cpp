@@ -36,7 +36,7 @@ struct Opening : testing::Test, test::StartedProgram {
     {
         Vorlage vorlage;
         vorlage.familienpfad = familienpfad;
-        vorlage.titel = u"Titel"_s;
+        vorlage.statistik.titel = u"Titel"_s;
         vorlage.counters = std::move(counters);
         writeVorlage(native(file), vorlage);
         return file;
@@ -90,7 +90,7 @@ TEST_F(Opening, MarksExactlyThePersonsOfTheTemplate)
     EXPECT_EQ(marked(), (std::vector<qint32>{1, 3, 9}));
     EXPECT_EQ(opened.found, 3);
     EXPECT_EQ(opened.missing, (std::vector<qint32>{77, -1}));
-    EXPECT_EQ(opened.vorlage.titel, u"Titel"_s);
+    EXPECT_EQ(opened.vorlage.statistik.titel, u"Titel"_s);
     EXPECT_FALSE(opened.otherDatabase);
     EXPECT_EQ(closings, 0);
 
@@ -106,15 +106,15 @@ TEST_F(Opening, MarksExactlyThePersonsOfTheTemplate)
 
 TEST_F(Opening, WhatWasSavedComesBack)
 {
-    Statistikwerte werte;
-    werte.titel = u"Ä \"B\""_s;
-    werte.rtf = "{\\rtf1 x\r\n}";
-    werte.grafiktyp = 11;
-    EXPECT_EQ(vorlagespeichern(program.host, program.databases, {}, werte), 0);
-    EXPECT_EQ(vorlagespeichern(program.host, program.databases, file, werte), 2);
+    statistics::Statistik statistik;
+    statistik.titel = u"Ä \"B\""_s;
+    statistik.rtf = "{\\rtf1 x\r\n}";
+    statistik.grafiktyp = 11;
+    EXPECT_EQ(vorlagespeichern(program.host, program.databases, {}, statistik), 0);
+    EXPECT_EQ(vorlagespeichern(program.host, program.databases, file, statistik), 2);
     program.databases.Familiendatenbank->setMarks("Daten", std::vector<qint32>{2, 5}, false);
     const OpenedVorlage opened = open(file);
-    EXPECT_EQ(static_cast<const Statistikwerte &>(opened.vorlage), werte);
+    EXPECT_EQ(opened.vorlage.statistik, statistik);
     EXPECT_EQ(opened.vorlage.familienpfad, family);
     EXPECT_EQ(marked(), (std::vector<qint32>{2, 3}));
 }
@@ -203,14 +203,16 @@ TEST_F(Opening, ResetTakesTheOptionsFromThePrintSettings)
 {
     const struct {
         const char *ini;
-        int type, legend, box;
+        int type;
+        bool legend;
+        int box;
         bool byBirth;
     } rows[] = {
-        {"", 1, 1, 1, true},
-        {"[Grafik]\nGrafiktyp=4\nLegende=0\nGebgest=0\n[Geschlecht]\n0=0\n1=0\n2=0\n3=0\n", 4, 0, 1, false},
-        {"[Geschlecht]\na%=0\n[Grafik]\nGebgest=Wahr\nGrafiktyp=0\n", 0, 1, 0, true},
-        {"[Grafik]\nGebgest=Falsch\nGrafiktyp=12\nLegende=-1\n", 1, 1, 1, false},
-        {"[Grafik]\nGebgest=-1\nGrafiktyp=1e99\nLegende=\n[Geschlecht]\na%=x\n", 1, 0, 0, true},
+        {"", 1, true, 1, true},
+        {"[Grafik]\nGrafiktyp=4\nLegende=0\nGebgest=0\n[Geschlecht]\n0=0\n1=0\n2=0\n3=0\n", 4, false, 1, false},
+        {"[Geschlecht]\na%=0\n[Grafik]\nGebgest=Wahr\nGrafiktyp=0\n", 0, true, 0, true},
+        {"[Grafik]\nGebgest=Falsch\nGrafiktyp=12\nLegende=-1\n", 1, true, 1, false},
+        {"[Grafik]\nGebgest=-1\nGrafiktyp=1e99\nLegende=\n[Geschlecht]\na%=x\n", 1, false, 0, true},
     };
     for (const auto &row : rows) {
         QFile ini(native(program.host.ownSettingsFile()));
@@ -218,7 +220,7 @@ TEST_F(Opening, ResetTakesTheOptionsFromThePrintSettings)
         ini.write(row.ini);
         ini.close();
         const auto box = static_cast<qint16>(row.box);
-        const Statistikwerte expected{{}, {}, row.type, row.legend, {box, box, box, box}, row.byBirth};
+        const statistics::Statistik expected{{}, {}, row.type, row.legend, {box, box, box, box}, row.byBirth};
         EXPECT_EQ(vorlageclear(program.host), expected) << row.ini;
     }
 }

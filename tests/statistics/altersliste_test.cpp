@@ -36,19 +36,22 @@ TEST(Alterstext, IsTheNumberTextSetInColumns)
 TEST(Alterszeile, LeavesOutEightCharactersOfLongNames)
 {
     const QString name = "123456789-123456789-123456789-123456789-12ABCDEFGHrest";
-    EXPECT_EQ(alterszeile(365, name), "  1.0  123456789-123456789-123456789-123456789-12 rest");
-    EXPECT_EQ(alterszeile(365, u"Abel, Anna"), "  1.0  Abel, Anna ");
+    const auto text = [](const QString &listname) {
+        return Alterszeile{.tage = 365, .listname = listname}.text();
+    };
+    EXPECT_EQ(text(name), "  1.0  123456789-123456789-123456789-123456789-12 rest");
+    EXPECT_EQ(text("Abel, Anna"), "  1.0  Abel, Anna ");
 }
 
 namespace {
 
 QStringList lines(test::StartedProgram &started, const GeschlechtAlter &boxes)
 {
-    Altersliste list{{"old line", 0}};
+    Altersliste list{{.listname = "old line"}};
     alterslistenausgabe(started.program.databases, boxes, list);
     QStringList texts;
     for (const auto &line : list)
-        texts << QString::number(line.Counter) + "|" + line.text;
+        texts << QString::number(line.Counter) + "|" + line.text();
     return texts;
 }
 

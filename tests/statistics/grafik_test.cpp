@@ -29,9 +29,9 @@ std::string text(const Grafikzahlen &figures)
 }
 
 /// The same from the rules as they are told, step by step.
-std::string expected(const std::vector<TestPerson> &persons, const Grafikwahl &wahl)
+std::string expected(const std::vector<TestPerson> &persons, const Statistik &statistik)
 {
-    const auto &boxes = wahl.geschlechtalter;
+    const auto &boxes = statistik.geschlechtalter;
     std::map<QString, double> sum;
     std::map<QString, int> count;
     std::map<std::pair<int, char>, std::pair<int, double>> cells; // century, group → persons, years
@@ -55,7 +55,7 @@ std::string expected(const std::vector<TestPerson> &persons, const Grafikwahl &w
         if ((person.sex == "M" && boxes[2] == 1) || (person.sex == "W" && boxes[3] == 1)) {
             lowest = std::min(lowest, days);
             highest = std::max(highest, days);
-            century = basic::formatDate(wahl.nachGeburtsjahr ? birth : death, u"dd-mm-yyyy").mid(6, 2).toInt();
+            century = basic::formatDate(statistik.nachGeburtsjahr ? birth : death, u"dd-mm-yyyy").mid(6, 2).toInt();
         }
         last = std::max(last, century);
         for (const char group : {person.sex == "M" ? 'M' : 'W', 'A'}) {
@@ -95,9 +95,9 @@ std::string expected(const std::vector<TestPerson> &persons, const Grafikwahl &w
     return lines.join('\n').toStdString();
 }
 
-std::string computed(const std::vector<TestPerson> &persons, const Grafikwahl &wahl)
+std::string computed(const std::vector<TestPerson> &persons, const Statistik &statistik)
 {
-    Grafikermittlung figures(wahl);
+    Grafikermittlung figures(statistik);
     for (const TestPerson &person : persons)
         figures.add(person.birth, person.death, geschlechtAus(person.sex));
     return text(figures.zahlen());
@@ -129,12 +129,13 @@ std::vector<TestPerson> randomPersons(std::mt19937 &random)
     return persons;
 }
 
-std::vector<Grafikwahl> allChoices()
+std::vector<Statistik> allChoices()
 {
-    std::vector<Grafikwahl> all;
+    std::vector<Statistik> all;
     for (int i = 0; i < 32; ++i)
-        all.push_back({{qint16(i & 1), qint16(i >> 1 & 1), qint16(i >> 2 & 1), qint16(i >> 3 & 1)}, i >= 16});
-    all.push_back({{1, 1, 2, 1}, true}); // a box is on only with exactly 1
+        all.push_back({.geschlechtalter = {qint16(i & 1), qint16(i >> 1 & 1), qint16(i >> 2 & 1), qint16(i >> 3 & 1)},
+                       .nachGeburtsjahr = i >= 16});
+    all.push_back({.geschlechtalter = {1, 1, 2, 1}}); // a box is on only with exactly 1
     return all;
 }
 
@@ -165,8 +166,8 @@ TEST(Grafikermittlung, FollowsTheRulesForRandomPersons)
     std::mt19937 random(20260);
     for (int round = 0; round < 300; ++round) {
         const auto persons = randomPersons(random);
-        for (const Grafikwahl &wahl : allChoices())
-            ASSERT_EQ(computed(persons, wahl), expected(persons, wahl)) << "round " << round;
+        for (const Statistik &statistik : allChoices())
+            ASSERT_EQ(computed(persons, statistik), expected(persons, statistik)) << "round " << round;
     }
 }
 
@@ -214,7 +215,7 @@ TEST(Grafikermittlung, KeepsItsEdges)
          "1 0 1\n300 - 300\n 273.9 |  300\n 0 ohne * / + Datum\nM W Alle\n 1800-99:300 0 300"},
     };
     for (const auto &row : rows)
-        EXPECT_EQ(computed(row.persons, {row.boxes, true}), row.text) << row.what;
+        EXPECT_EQ(computed(row.persons, {.geschlechtalter = row.boxes}), row.text) << row.what;
 }
 
 TEST(Grafikermittlung, CountsMoreThan16BitsHold)
@@ -235,9 +236,9 @@ TEST(Grafikermitteln, ReadsMarkedPersonsOfADatabase)
         stored.push_back({.counter = 900, .listname = "000 unmarked", .birth = 0, .death = 365});
         std::shuffle(stored.begin(), stored.end(), random);
         test::StartedProgram started(stored);
-        for (const Grafikwahl &wahl : allChoices()) {
-            const Grafikzahlen figures = grafikermitteln(started.program.databases, wahl);
-            ASSERT_EQ(text(figures), expected(persons, wahl));
+        for (const Statistik &statistik : allChoices()) {
+            const Grafikzahlen figures = grafikermitteln(started.program.databases, statistik);
+            ASSERT_EQ(text(figures), expected(persons, statistik));
             const Personenzahlen &zahlen = figures.zahlen;
             EXPECT_EQ(zahlen.markiert, qint64(persons.size()));
             EXPECT_EQ(zahlen.gezaehlt + zahlen.ohneDatum + zahlen.nichtNachGeburt, zahlen.markiert);
@@ -251,7 +252,7 @@ TEST(Grafikermitteln, NamesThePersonWhoseDateIsNoneAndCanBeStopped)
         {{.counter = 4711, .listname = "Abel, Max", .marked = true, .birth = -9'000'000, .death = 5}});
     const auto kindOf = [&](bool byBirth, const basic::Progress &progress) {
         try {
-            grafikermitteln(started.program.databases, {{1, 1, 1, 1}, byBirth}, progress);
+            grafikermitteln(started.program.databases, {.nachGeburtsjahr = byBirth}, progress);
         } catch (const basic::Error &error) {
             return QString("%1 %2").arg(int(error.kind())).arg(error.message());
         }

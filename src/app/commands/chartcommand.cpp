@@ -129,8 +129,8 @@ std::string typeComplaint(const std::string &word)
 {
     bool isNumber = false;
     const int number = QString::fromStdString(word).toInt(&isNumber);
-    return isNumber && statistics::grafiktyp(number) ? std::string()
-                                                     : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
+    return isNumber && statistics::grafiktypOf(number) ? std::string()
+                                                       : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
 }
 
 std::string fileComplaint(const std::string &word)
@@ -179,15 +179,17 @@ int ChartCommand::run(const QString &programFolder, const statistics::Geschlecht
     if (!started.ready)
         return Failed;
     Program &program = started.program;
-    const bool byBirth = m_by == "birth";
+    const statistics::Statistik statistik{.grafiktyp = *statistics::grafiktypOf(m_type),
+                                          .legende = !m_noLegend,
+                                          .geschlechtalter = sex,
+                                          .nachGeburtsjahr = m_by == "birth"};
     Grafikzahlen figures;
     {
         desktop::TerminalProgress terminal(u"computing the chart"_s);
-        figures = statistics::grafikermitteln(program.databases, {sex, byBirth}, terminal.progress());
+        figures = statistics::grafikermitteln(program.databases, statistik, terminal.progress());
     }
     if (draws()) {
-        chart::ChartLook look = statistics::grafiklook(program.language, program.host, *statistics::grafiktyp(m_type),
-                                                       !m_noLegend, byBirth);
+        chart::ChartLook look = statistics::grafiklook(program.language, program.host, statistik);
         look.emptyText = statistics::leererText(program.language, figures.zahlen);
         const QString file = QString::fromLocal8Bit(m_output.data(), static_cast<qsizetype>(m_output.size()));
         chart::writeChart(figures.tabelle, look, sizeOf(m_size),

@@ -98,7 +98,7 @@ int runAges(const QString &programFolder, const AgesCommand &command)
     statistics::alterslistenausgabe(started.program.databases, command.sex, list, terminal.progress());
     ListOutput output(command.format, "line");
     for (const statistics::Alterszeile &line : list)
-        output.add(line.Counter, line.text);
+        output.add(line.Counter, line.text());
     output.finish();
     return started.done();
 }

@@ -7,7 +7,7 @@
 #include "report/composition/bericht.h"
 #include "selection/templates/vorlageoeffnen.h"
 #include "statistics/figures/grafikbild.h"
-#include "statistics/options/statisticsoptions.h"
+#include "statistics/options/statistik.h"
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -43,8 +43,8 @@ std::string typeComplaint(const std::string &word)
 {
     bool isNumber = false;
     const int number = toText(word).toInt(&isNumber);
-    return isNumber && statistics::grafiktyp(number) ? std::string()
-                                                     : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
+    return isNumber && statistics::grafiktypOf(number) ? std::string()
+                                                       : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
 }
 
 QByteArray readFile(const QString &nativeFile)
@@ -57,15 +57,6 @@ QByteArray readFile(const QString &nativeFile)
 }
 
 } // namespace
-
-/// What the report shows, from the settings, the template and the options, in this order.
-struct ReportCommand::Shown {
-    QString title;
-    QByteArray rtf;
-    chart::ChartType type;
-    bool legend;
-    statistics::Grafikwahl wahl;
-};
 
 void ReportCommand::addTo(CLI::App &app, const std::function<void(CLI::App *)> &addCommon)
 {
@@ -87,20 +78,20 @@ void ReportCommand::addTo(CLI::App &app, const std::function<void(CLI::App *)> &
         ->type_name("F.pdf|F.rtf|F.html");
 }
 
-void ReportCommand::apply(Shown &shown, const statistics::GeschlechtAlter &sex) const
+void ReportCommand::apply(statistics::Statistik &statistik, const statistics::GeschlechtAlter &sex) const
 {
     if (given("--title"))
-        shown.title = toText(m_title);
+        statistik.titel = toText(m_title);
     if (given("--intro"))
-        shown.rtf = readFile(absoluteNative(m_intro));
+        statistik.rtf = readFile(absoluteNative(m_intro));
     if (given("--type"))
-        shown.type = static_cast<chart::ChartType>(m_type);
+        statistik.grafiktyp = *statistics::grafiktypOf(m_type);
     if (given("--by"))
-        shown.wahl.nachGeburtsjahr = m_by == "birth";
+        statistik.nachGeburtsjahr = m_by == "birth";
     if (given("--sex"))
-        shown.wahl.geschlechtalter = sex;
+        statistik.geschlechtalter = sex;
     if (m_noLegend)
-        shown.legend = false;
+        statistik.legende = false;
 }
 
 int ReportCommand::run(const QString &programFolder, const statistics::GeschlechtAlter &sex) const
@@ -111,27 +102,19 @@ int ReportCommand::run(const QString &programFolder, const statistics::Geschlech
     Program &program = started.program;
     desktop::TerminalProgress terminal(u"composing the report"_s);
 
-    statistics::StatisticsOptions options;
-    Shown shown{{}, {}, options.type(), true, {sex, true}};
+    statistics::Statistik statistik{.geschlechtalter = sex};
     if (!m_template.empty()) {
-        const selection::OpenedVorlage opened =
-            selection::vorlageoeffnen({program.host, program.language, program.databases},
-                                      basic::windowsPath(absoluteNative(m_template)), terminal.progress());
-        options.grafiktyp = opened.vorlage.grafiktyp;
-        shown = {opened.vorlage.titel,
-                 opened.vorlage.rtf,
-                 options.type(),
-                 opened.vorlage.legende == 1,
-                 {opened.vorlage.geschlechtalter, opened.vorlage.nachGeburtsjahr}};
+        statistik = selection::vorlageoeffnen({program.host, program.language, program.databases},
+                                              basic::windowsPath(absoluteNative(m_template)), terminal.progress())
+                        .vorlage.statistik;
     }
-    apply(shown, sex);
+    apply(statistik, sex);
 
     statistics::Altersliste list;
-    statistics::alterslistenausgabe(program.databases, shown.wahl.geschlechtalter, list, terminal.progress());
+    statistics::alterslistenausgabe(program.databases, statistik.geschlechtalter, list, terminal.progress());
     const statistics::Grafikzahlen figures =
-        statistics::grafikermitteln(program.databases, shown.wahl, terminal.progress());
-    chart::ChartLook look =
-        statistics::grafiklook(program.language, program.host, shown.type, shown.legend, shown.wahl.nachGeburtsjahr);
+        statistics::grafikermitteln(program.databases, statistik, terminal.progress());
+    chart::ChartLook look = statistics::grafiklook(program.language, program.host, statistik);
     look.emptyText = statistics::leererText(program.language, figures.zahlen);
 
     print::PrintControl print;
@@ -143,12 +126,7 @@ int ReportCommand::run(const QString &programFolder, const statistics::Geschlech
         print.exportFormat = ending == u"rtf" ? print::ExportFormat::Rtf : print::ExportFormat::Html;
         print.exportFile = basic::windowsPath(output);
     }
-    bericht.auswahldrucken({.titel = shown.title,
-                            .rtf = shown.rtf,
-                            .list = list,
-                            .figures = figures,
-                            .look = look,
-                            .criteria = {.nachGeburtsjahr = shown.wahl.nachGeburtsjahr}},
+    bericht.auswahldrucken({.statistik = statistik, .list = list, .figures = figures, .look = look, .criteria = {}},
                            terminal.progress());
     const QString persons = QString::number(list.size());
     if (ending == u"pdf") {

@@ -20,8 +20,8 @@ public:
     int run(const QString &programFolder, const statistics::GeschlechtAlter &sex) const;
 
 private:
-    struct Shown;
-    void apply(Shown &shown, const statistics::GeschlechtAlter &sex) const;
+    /// What was said on the command line goes before what a template says.
+    void apply(statistics::Statistik &statistik, const statistics::GeschlechtAlter &sex) const;
     bool given(const char *option) const { return m_report->count(option) > 0; }
 
     CLI::App *m_report = nullptr;

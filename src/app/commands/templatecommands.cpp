@@ -5,7 +5,7 @@
 #include "app/start/startedprogram.h"
 #include "selection/templates/vorlageoeffnen.h"
 #include "selection/templates/vorlagespeichern.h"
-#include "statistics/options/statisticsoptions.h"
+#include "statistics/options/statistik.h"
 #include <algorithm>
 #include <QDir>
 #include <QFile>
@@ -19,15 +19,6 @@ namespace {
 
 /// Numbers of persons that are named, of those that were not found.
 constexpr std::size_t NamedPersons = 20;
-
-/// In the list `Grafiktyp`, where it is known to be.
-int placeOf(chart::ChartType type)
-{
-    const auto &entries = statistics::chartTypeEntries();
-    return static_cast<int>(
-        std::find_if(entries.begin(), entries.end(), [type](const auto &entry) { return entry.type == type; }) -
-        entries.begin());
-}
 
 QString toText(const std::string &word)
 {
@@ -57,15 +48,14 @@ QString sexText(qint16 men, qint16 women)
     return u"%1%2"_s.arg(men == 1 ? "m" : "", women == 1 ? "w" : "");
 }
 
-QString lines(const selection::Statistikwerte &werte)
+QString lines(const statistics::Statistik &statistik)
 {
-    const auto &boxes = werte.geschlechtalter;
+    const auto &boxes = statistik.geschlechtalter;
     return u"title:         %1\nintroduction:  %2 bytes\nchart type:    %3\nlegend:        %4\nsex, list:     %5\n"
            "sex, chart:    %6\nby:            %7"_s.arg(
-               werte.titel, QString::number(werte.rtf.size()),
-               QString::number(static_cast<int>(statistics::StatisticsOptions{.grafiktyp = werte.grafiktyp}.type())),
-               werte.legende == 1 ? "yes" : "no", sexText(boxes[0], boxes[1]), sexText(boxes[2], boxes[3]),
-               werte.nachGeburtsjahr ? "birth" : "death");
+               statistik.titel, QString::number(statistik.rtf.size()),
+               QString::number(static_cast<int>(statistik.type())), statistik.legende ? "yes" : "no",
+               sexText(boxes[0], boxes[1]), sexText(boxes[2], boxes[3]), statistik.nachGeburtsjahr ? "birth" : "death");
 }
 
 } // namespace
@@ -119,26 +109,26 @@ int TemplateCommands::save(const QString &programFolder) const
     if (!started.ready)
         return Failed;
     const host::Host &host = started.program.host;
-    selection::Statistikwerte werte = selection::vorlageclear(host);
-    werte.titel = toText(m_title);
+    statistics::Statistik statistik = selection::vorlageclear(host);
+    statistik.titel = toText(m_title);
     if (!m_intro.empty())
-        werte.rtf = readRtf(absoluteNative(m_intro));
+        statistik.rtf = readRtf(absoluteNative(m_intro));
     if (m_save->count("--type") > 0)
-        werte.grafiktyp = placeOf(chart::ChartType(m_type));
+        statistik.grafiktyp = *statistics::grafiktypOf(m_type);
     if (!m_sex.empty()) {
         const qint16 men = m_sex.find('m') != std::string::npos ? 1 : 0;
         const qint16 women = m_sex.find('w') != std::string::npos ? 1 : 0;
-        werte.geschlechtalter = {men, women, men, women};
+        statistik.geschlechtalter = {men, women, men, women};
     }
     if (!m_by.empty())
-        werte.nachGeburtsjahr = m_by == "birth";
+        statistik.nachGeburtsjahr = m_by == "birth";
     if (m_legend || m_noLegend)
-        werte.legende = m_legend ? 1 : 0;
+        statistik.legende = m_legend;
 
     const QString file = absoluteNative(m_file);
     desktop::TerminalProgress terminal(u"saving the template"_s);
     const qsizetype persons = selection::vorlagespeichern(host, started.program.databases, basic::windowsPath(file),
-                                                          werte, terminal.progress());
+                                                          statistik, terminal.progress());
     printLine(u"%1: %2 persons"_s.arg(file).arg(persons));
     return started.done();
 }
@@ -163,7 +153,7 @@ int TemplateCommands::open(const QString &programFolder) const
     if (opened.missing.size() > NamedPersons)
         missing << u"…"_s;
     printLine(u"%1\ndatabase:      %2\nfound:         %3\nnot found:     %4%5"_s
-                  .arg(lines(opened.vorlage), program.databases.Familiendatenbank->file())
+                  .arg(lines(opened.vorlage.statistik), program.databases.Familiendatenbank->file())
                   .arg(opened.found)
                   .arg(opened.missing.size())
                   .arg(missing.isEmpty() ? QString() : u" (%1)"_s.arg(missing.join(u", "_s))));
@@ -174,14 +164,14 @@ int TemplateCommands::reset(const QString &programFolder) const
 {
     desktop::TerminalDesktop desktop;
     const host::Host host(programFolder, desktop);
-    const selection::Statistikwerte werte = selection::vorlageclear(host);
+    const statistics::Statistik statistik = selection::vorlageclear(host);
     if (!m_file.empty()) {
         const QString file = absoluteNative(m_file);
         selection::Vorlage vorlage = selection::readVorlage(file);
-        static_cast<selection::Statistikwerte &>(vorlage) = werte;
+        vorlage.statistik = statistik;
         selection::writeVorlage(file, vorlage);
     }
-    printLine(lines(werte));
+    printLine(lines(statistik));
     return Done;
 }
 

@@ -10,11 +10,9 @@
 #include "selection/panel/selectionpanel.h"
 #include "settings/dialog/initform.h"
 #include "settings/preview/druckvorschau.h"
-#include "statistics/introduction/texteditor.h"
 #include "statistics/panel/chartpanel.h"
 #include "statistics/panel/statisticspanel.h"
 #include <QApplication>
-#include <QLineEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -50,16 +48,14 @@ report::ReportContent ReportDesk::content() const
         return m_parts.lists.isFiltered(list);
     };
     return {
-        .titel = panel.title().text(),
-        .rtf = panel.introduction().rtf(),
+        .statistik = panel.statistik(),
         .list = m_parts.statistics.list(),
         .figures = m_parts.statistics.figures(),
         .look = chart.look(),
         .chartShape = laidOut ? chart.size() : DefaultShape,
         .criteria = {.filter = m_parts.selection.filterPanel().filter(),
                      .filtered = filtered(selection::PersonList::Unmarked) || filtered(selection::PersonList::Marked),
-                     .relatives = m_parts.selection.relatives(),
-                     .nachGeburtsjahr = panel.options().nachGeburtsjahr}};
+                     .relatives = m_parts.selection.relatives()}};
 }
 
 bool ReportDesk::auswahldrucken()

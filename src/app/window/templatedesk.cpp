@@ -6,9 +6,7 @@
 #include "language/progress/userwork.h"
 #include "selection/templates/vorlageoeffnen.h"
 #include "selection/templates/vorlagespeichern.h"
-#include "statistics/introduction/texteditor.h"
 #include <QFileInfo>
-#include <QLineEdit>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -41,7 +39,8 @@ QString inPlainWords(language::Sprachmodul &texts, const basic::Error &error)
 
 } // namespace
 
-TemplateDesk::TemplateDesk(const Parts &parts, QObject *parent) : QObject(parent), m_parts(parts), m_saved(values())
+TemplateDesk::TemplateDesk(const Parts &parts, QObject *parent)
+    : QObject(parent), m_parts(parts), m_saved(parts.panel.statistik())
 {
 }
 
@@ -62,32 +61,15 @@ bool TemplateDesk::perform(const QString &what, const desktop::Work::Task &task)
                                      }});
 }
 
-selection::Statistikwerte TemplateDesk::values() const
+void TemplateDesk::show(const statistics::Statistik &statistik)
 {
-    const statistics::StatisticsOptions options = m_parts.panel.options();
-    const statistics::TextEditor &introduction = m_parts.panel.introduction();
-    return {.titel = m_parts.panel.title().text(),
-            .rtf = introduction.isEmpty() ? QByteArray() : introduction.rtf(),
-            .grafiktyp = options.grafiktyp,
-            .legende = options.legende ? 1 : 0,
-            .geschlechtalter = options.geschlechtalter,
-            .nachGeburtsjahr = options.nachGeburtsjahr};
-}
-
-void TemplateDesk::show(const selection::Statistikwerte &values)
-{
-    m_parts.panel.title().setText(values.titel);
-    m_parts.panel.introduction().setRtf(values.rtf);
-    m_parts.panel.setOptions({.grafiktyp = values.grafiktyp,
-                              .legende = values.legende == 1,
-                              .geschlechtalter = values.geschlechtalter,
-                              .nachGeburtsjahr = values.nachGeburtsjahr});
-    m_saved = this->values();
+    m_parts.panel.setStatistik(statistik);
+    m_saved = m_parts.panel.statistik();
 }
 
 bool TemplateDesk::isModified() const
 {
-    const selection::Statistikwerte now = values();
+    const statistics::Statistik now = m_parts.panel.statistik();
     return now.titel != m_saved.titel || now.rtf != m_saved.rtf;
 }
 
@@ -162,7 +144,7 @@ bool TemplateDesk::openFile(const QString &nativeFile)
     m_parts.statistics.forget();
     if (!done)
         return false;
-    show(opened.vorlage);
+    show(opened.vorlage.statistik);
     setCurrent(nativeFile);
     remember(nativeFile);
     m_parts.panel.computeAll();
@@ -205,7 +187,7 @@ bool TemplateDesk::saveAs()
 bool TemplateDesk::write(const QString &nativeFile)
 {
     const Program &program = m_parts.program;
-    const selection::Statistikwerte now = values();
+    const statistics::Statistik now = m_parts.panel.statistik();
     if (!perform(text(20340, u"Bitte warten ..."_s), [&](const basic::Progress &progress) {
             selection::vorlagespeichern(program.host, program.databases, basic::windowsPath(nativeFile), now, progress);
         }))
@@ -225,15 +207,15 @@ void TemplateDesk::reset()
 
 void TemplateDesk::startAfresh()
 {
-    selection::Statistikwerte now = values();
+    statistics::Statistik now = m_parts.panel.statistik();
     now.titel.clear();
     now.rtf.clear();
     clearTo(now);
 }
 
-void TemplateDesk::clearTo(const selection::Statistikwerte &values)
+void TemplateDesk::clearTo(const statistics::Statistik &statistik)
 {
-    show(values);
+    show(statistik);
     setCurrent({});
     m_parts.panel.personsChanged();
 }

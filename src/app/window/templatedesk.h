@@ -6,7 +6,6 @@
 #include "platform/desktop/work.h"
 #include "selection/panel/selectioncontroller.h"
 #include "selection/templates/databaseswitch.h"
-#include "selection/templates/vorlage.h"
 #include "statistics/panel/statisticspanel.h"
 #include <QObject>
 
@@ -33,7 +32,7 @@ public:
     /// Title or introduction are not as they were saved, opened or cleared.
     bool isModified() const;
     /// There is a template, or something else than was saved, opened or cleared.
-    bool canReset() const { return !m_current.isEmpty() || !(values() == m_saved); }
+    bool canReset() const { return !m_current.isEmpty() || m_parts.panel.statistik() != m_saved; }
     /// Lets the user save what is not saved. False where they want to go back.
     bool mayDiscard();
 
@@ -61,9 +60,8 @@ Q_SIGNALS:
 private:
     QString text(qint16 id, const QString &germanText) const;
     bool perform(const QString &what, const desktop::Work::Task &task);
-    selection::Statistikwerte values() const;
-    void show(const selection::Statistikwerte &values);
-    void clearTo(const selection::Statistikwerte &values);
+    void show(const statistics::Statistik &statistik);
+    void clearTo(const statistics::Statistik &statistik);
     bool write(const QString &nativeFile);
     void setCurrent(const QString &nativeFile);
     void remember(const QString &nativeFile);
@@ -71,7 +69,7 @@ private:
 
     Parts m_parts;
     QString m_current;
-    selection::Statistikwerte m_saved;
+    statistics::Statistik m_saved;
 };
 
 } // namespace kalvenor::app

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "report/composition/agelisttable.h"
 
-#include "data/person.h"
 #include "language/forms/form.h"
 #include "platform/basic/text.h"
 #include "platform/print/textface.h"
@@ -21,14 +20,13 @@ namespace kalvenor::report {
 namespace {
 
 constexpr qint16 TextToPage = 36;
-constexpr qsizetype AgeTextWidth = 7; // a line of the age list is the age text and the name behind it
 constexpr qint64 RowsBetweenReports = 256;
 constexpr print::Twips CellPadding = 2 * 70; // both sides, as the print control has it
 constexpr std::size_t Age = 0, Sex = 1, Name = 2;
 
 QString nameIn(const statistics::Alterszeile &line)
 {
-    return basic::trimBlanks(basic::midPart(line.text, AgeTextWidth + 1));
+    return basic::trimBlanks(statistics::gekuerzterListname(line.listname));
 }
 
 } // namespace
@@ -83,7 +81,6 @@ std::vector<print::Column> AgeListTable::columns(const statistics::Altersliste &
 void AgeListTable::write(print::PrintDocument &document, const statistics::Altersliste &list,
                          const basic::Progress &progress)
 {
-    const ReportServices &services = m_setup.services;
     const print::StyleId style = document.addStyle(m_setup.style);
     print::TableStart table{.columns = columns(list), .rowSpacing = m_setup.rowSpacing};
     if (m_setup.headed) {
@@ -98,27 +95,35 @@ void AgeListTable::write(print::PrintDocument &document, const statistics::Alter
 
     const QString man = text(20950, u"Mann"_s);
     const QString woman = text(20951, u"Frau"_s);
-    dao::Recordset &persons = *services.databases.Datentabelle;
-    const data::PersonColumns columns(persons);
     qint64 row = 0;
     for (const statistics::Alterszeile &line : list) {
         if (progress && row % RowsBetweenReports == 0 && !progress(row, static_cast<qint64>(list.size())))
             throw basic::Error(basic::ErrorKind::Cancelled, {}, u"The report was stopped."_s);
         ++row;
-        persons.seekEqual(line.Counter);
-        const bool found = !persons.noMatch();
-        const bool isWoman = found && persons.text(columns.Geschlecht) == u"W";
-        print::TableRow cells{{{.text = basic::trimBlanks(basic::leftPart(line.text, AgeTextWidth)), .style = style},
+        const bool isWoman = line.geschlecht == statistics::Geschlecht::Frau;
+        print::TableRow cells{{{.text = basic::trimBlanks(statistics::alterstext(line.tage)), .style = style},
                                {.text = isWoman ? woman : man, .style = style},
                                {.text = nameIn(line), .style = style}},
                               row == static_cast<qint64>(list.size())}; // what closes the report does not stand alone
-        if (m_html && found) {
-            const QString name = basic::trimBlanks(persons.text(columns.vnamen)) + u' ' +
-                                 basic::trimBlanks(persons.text(columns.nnamen));
-            cells.cells.push_back({.text = link(line.Counter) + name, .style = style});
+        if (m_html) {
+            const QString name = fullName(line.Counter);
+            if (!name.isNull())
+                cells.cells.push_back({.text = link(line.Counter) + name, .style = style});
         }
         document.add(std::move(cells));
     }
+}
+
+/// First names and surname; null where the person is gone.
+QString AgeListTable::fullName(qint32 counter)
+{
+    dao::Recordset &persons = *m_setup.services.databases.Datentabelle;
+    if (!m_columns)
+        m_columns.emplace(persons);
+    persons.seekEqual(counter);
+    return persons.noMatch() ? QString()
+                             : basic::trimBlanks(persons.text(m_columns->vnamen)) + u' ' +
+                                   basic::trimBlanks(persons.text(m_columns->nnamen));
 }
 
 /// The file's own name where it lies in the host program's output folder, else "".

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "data/person.h"
 #include "platform/print/printdocument.h"
 #include "report/pictures/bildkonvertieren.h"
 #include "statistics/ages/altersliste.h"
@@ -36,6 +37,7 @@ private:
     QString text(qint16 id, const QString &germanText) const;
     print::TextStyle headingStyle() const;
     std::vector<print::Column> columns(const statistics::Altersliste &list) const;
+    QString fullName(qint32 counter);
     QString inOutputFolder(const QString &name);
     QString link(qint32 counter);
     QString pictureOf(const QString &page);
@@ -43,6 +45,7 @@ private:
 
     Setup m_setup;
     bool m_html;
+    std::optional<data::PersonColumns> m_columns;
     std::optional<QHash<QString, QString>> m_outputFiles; ///< by name in capitals
     QString m_symbol;                                     ///< picture file for persons without one of their own
     bool m_converts = true;                               ///< no picture has failed yet, which is told each time

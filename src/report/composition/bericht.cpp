@@ -123,12 +123,13 @@ void Bericht::auswahldrucken(const ReportContent &content, const basic::Progress
 print::PrintDocument Bericht::compose(const ReportContent &content, const basic::Progress &progress)
 {
     print::PrintDocument document;
-    document.title = content.titel.isEmpty() ? m_services.language.text(TextReportFile) : content.titel;
+    document.title =
+        content.statistik.titel.isEmpty() ? m_services.language.text(TextReportFile) : content.statistik.titel;
     document.language = language::anzeigesprache(m_services.host).bcp47Name().left(2);
     document.page = settings::usablePage(m_services.print.page);
     addRunningTexts(document, content);
-    if (!content.titel.isEmpty())
-        document.add(print::Paragraph{.text = content.titel,
+    if (!content.statistik.titel.isEmpty())
+        document.add(print::Paragraph{.text = content.statistik.titel,
                                       .style = document.addStyle(style(settings::Titel)),
                                       .spaceAfter = Gap,
                                       .keepWithNext = true,
@@ -158,15 +159,15 @@ void Bericht::addRunningTexts(print::PrintDocument &document, const ReportConten
 {
     if (vorgaben.isPrinted(settings::Footer))
         document.footer = {footerText() + u"||"_s + now(content), document.addStyle(style(settings::Footer))};
-    if (!content.titel.isEmpty() && vorgaben.isPrinted(settings::Header)) // a bar would end the left part
-        document.header = {QString(content.titel).replace(u'|', u'/') + u"||- %d -"_s,
+    if (!content.statistik.titel.isEmpty() && vorgaben.isPrinted(settings::Header)) // a bar would end the left part
+        document.header = {QString(content.statistik.titel).replace(u'|', u'/') + u"||- %d -"_s,
                            document.addStyle(style(settings::Header))};
 }
 
 void Bericht::addIntroduction(print::PrintDocument &document, const ReportContent &content) const
 {
     QTextDocument text;
-    richtext::readRtf(content.rtf, text);
+    richtext::readRtf(content.statistik.rtf, text);
     if (text.toPlainText().trimmed().isEmpty())
         return;
     const QString rtf = rtfanpassen(text, IntroductionScale);
@@ -219,7 +220,8 @@ void Bericht::addCriteria(print::PrintDocument &document, const ReportContent &c
                                       .keepWithNext = true,
                                       .outlineLevel = Section + 1});
     const print::StyleId lineStyle = document.addStyle(style(settings::Kriterien));
-    const QStringList lines = kriterien(content.criteria, content.figures, content.list.size(), m_services.language);
+    const QStringList lines =
+        kriterien(content.criteria, content.statistik, content.figures, content.list.size(), m_services.language);
     for (const QString &line : lines) // on one page
         document.add(print::Paragraph{.text = line, .style = lineStyle, .keepWithNext = &line != &lines.back()});
 }

@@ -24,8 +24,7 @@ struct ReportServices {
 
 /// What one run of the report shows. List and figures must stay as they are until it ends.
 struct ReportContent {
-    QString titel;
-    QByteArray rtf; ///< the introductory text, as readRtf takes it
+    statistics::Statistik statistik;
     const statistics::Altersliste &list;
     const statistics::Grafikzahlen &figures;
     chart::ChartLook look;

@@ -77,8 +77,9 @@ QString joined(const std::array<QString, 3> &texts)
 
 } // namespace
 
-QStringList kriterien(const Auswahlkriterien &criteria, const statistics::Grafikzahlen &figures,
-                      std::size_t listedPersons, language::Sprachmodul &language)
+QStringList kriterien(const Auswahlkriterien &criteria, const statistics::Statistik &statistik,
+                      const statistics::Grafikzahlen &figures, std::size_t listedPersons,
+                      language::Sprachmodul &language)
 {
     Lines lines(language);
     if (criteria.filtered)
@@ -90,8 +91,8 @@ QStringList kriterien(const Auswahlkriterien &criteria, const statistics::Grafik
         relatives << lines.text(20955, u"Eltern und Vorfahren"_s);
     if (!relatives.isEmpty())
         lines.add(LabelRelatives, relatives.join(u", "_s));
-    lines.add(LabelGrouping, criteria.nachGeburtsjahr ? lines.text(20952, u"nach Geburtsjahr"_s)
-                                                      : lines.text(20953, u"nach Sterbejahr"_s));
+    lines.add(LabelGrouping, statistik.nachGeburtsjahr ? lines.text(20952, u"nach Geburtsjahr"_s)
+                                                       : lines.text(20953, u"nach Sterbejahr"_s));
     lines.add(LabelPersons, joined(figures.anzahl));
     lines.add(LabelAverages, joined(figures.durchschnitt));
     if (figures.spanne)

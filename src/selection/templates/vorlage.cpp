@@ -148,13 +148,15 @@ Vorlage readVorlage(const QString &nativeFile)
     VorlageReader reader(nativeFile);
     Vorlage vorlage;
     vorlage.familienpfad = reader.databasePath();
-    vorlage.titel = basic::decodeAnsi(reader.text("title"));
-    vorlage.rtf = reader.text("introduction");
-    vorlage.grafiktyp = reader.number("type of the chart", 0, Grafiktypen - 1);
-    vorlage.legende = reader.number("switch of the legend", 0, 1);
-    for (qint16 &box : vorlage.geschlechtalter)
+    statistics::Statistik &statistik = vorlage.statistik;
+    statistik.titel = basic::decodeAnsi(reader.text("title"));
+    statistik.rtf = reader.text("introduction");
+    statistik.grafiktyp =
+        reader.number("type of the chart", 0, static_cast<qint32>(statistics::chartTypeEntries().size()) - 1);
+    statistik.legende = reader.number("switch of the legend", 0, 1) == 1;
+    for (qint16 &box : statistik.geschlechtalter)
         box = static_cast<qint16>(reader.number("choice of men or women", 0, 1));
-    vorlage.nachGeburtsjahr = reader.truth("choice of the year of birth");
+    statistik.nachGeburtsjahr = reader.truth("choice of the year of birth");
     while (!reader.atEnd())
         vorlage.counters.push_back(reader.number("number of a person", std::numeric_limits<qint32>::min(),
                                                  std::numeric_limits<qint32>::max()));
@@ -166,13 +168,14 @@ void writeVorlage(const QString &nativeFile, const Vorlage &vorlage)
     basic::SequentialWriter writer;
     writer.writeText(
         ansi(nativeFile, vorlage.familienpfad, "path of the family database", "Rename the database or its folder."));
-    writer.writeText(ansi(nativeFile, vorlage.titel, "title", "Change the title."));
-    writer.writeText(vorlage.rtf);
-    writer.writeNumber(vorlage.grafiktyp);
-    writer.writeNumber(vorlage.legende);
-    for (const qint16 box : vorlage.geschlechtalter)
+    const statistics::Statistik &statistik = vorlage.statistik;
+    writer.writeText(ansi(nativeFile, statistik.titel, "title", "Change the title."));
+    writer.writeText(statistik.rtf);
+    writer.writeNumber(statistik.grafiktyp);
+    writer.writeNumber(statistik.legende ? 1 : 0);
+    for (const qint16 box : statistik.geschlechtalter)
         writer.writeNumber(box);
-    writer.writeTruth(vorlage.nachGeburtsjahr);
+    writer.writeTruth(statistik.nachGeburtsjahr);
     for (const qint32 counter : vorlage.counters)
         writer.writeNumber(counter);
     QString reason;

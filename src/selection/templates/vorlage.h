@@ -2,32 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
-#include <QByteArray>
+#include "statistics/options/statistik.h"
 #include <QString>
 #include <vector>
 
 namespace kalvenor::selection {
 
-/// Entries of the list `Grafiktyp`; a template holds the index of one, from 0.
-inline constexpr int Grafiktypen = 12;
-
-/// What a statistic shows, apart from its persons: lines 2 to 10 of a template.
-struct Statistikwerte {
-    QString titel;
-    QByteArray rtf; ///< the introduction as RTF, empty for none
-    int grafiktyp = 1;
-    int legende = 1;                                   ///< 0 or 1
-    std::array<qint16, 4> geschlechtalter{1, 1, 1, 1}; ///< 0 or 1 each: men and women of the age list, of the chart
-    bool nachGeburtsjahr = true;                       ///< the chart goes by year of birth, else by year of death
-
-    bool operator==(const Statistikwerte &) const = default;
-};
-
 /// A selection template (.kvl): a statistic with the database it was made on and its persons.
-struct Vorlage : Statistikwerte {
-    QString familienpfad;         ///< of the family database, in Windows notation
-    std::vector<qint32> counters; ///< the marked persons
+struct Vorlage {
+    QString familienpfad;            ///< line 1: of the family database, in Windows notation
+    statistics::Statistik statistik; ///< lines 2 to 10
+    std::vector<qint32> counters;    ///< the marked persons, a line each
     bool operator==(const Vorlage &) const = default;
 };
 

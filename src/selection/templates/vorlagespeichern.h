@@ -11,10 +11,10 @@ namespace kalvenor::selection {
 /// empty one writes nothing. Gives back how many persons it holds. Throws as the engine and writeVorlage; the former
 /// file is then still there.
 qsizetype vorlagespeichern(const host::Host &host, const data::Datenbankmodul &databases, const QString &File,
-                           const Statistikwerte &werte, const basic::Progress &progress = {});
+                           const statistics::Statistik &statistik, const basic::Progress &progress = {});
 
 /// The clean state of a statistic: no title, no introduction, the chart options from the print settings
 /// (Kalvenor.ini). Options that the file lacks or that cannot be give the bar chart by year of birth, with legend.
-Statistikwerte vorlageclear(const host::Host &host);
+statistics::Statistik vorlageclear(const host::Host &host);
 
 } // namespace kalvenor::selection

@@ -64,13 +64,13 @@ QString alterstext(double days)
     return basic::rightPart(text + u"  "_s, AgeTextWidth);
 }
 
-QString alterszeile(double days, QStringView listname)
+QString gekuerzterListname(QStringView listname)
 {
-    QString line = alterstext(days);
-    line.reserve(AgeTextWidth + listname.size());
-    line += listname.left(NameColumns);
-    line += u' ';
-    return line += listname.mid(NameContinuesAt - 1);
+    QString name;
+    name.reserve(listname.size() + 1);
+    name += listname.left(NameColumns);
+    name += u' ';
+    return name += listname.mid(NameContinuesAt - 1);
 }
 
 } // namespace kalvenor::statistics

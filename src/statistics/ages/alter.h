@@ -25,8 +25,8 @@ double altersjahre(double days);
 /// Always 7 characters: the age right-aligned in 5, without a zero before the point, then two blanks ("   .5  ").
 QString alterstext(double days);
 
-/// The line of the age list: age text, the first 42 characters of the list name, a blank, and the list name from its
-/// 51st character on (43 to 50 are left out).
-QString alterszeile(double days, QStringView listname);
+/// The list name as the age list shows it: the first 42 characters, a blank, and from the 51st character on (43 to 50
+/// are left out).
+QString gekuerzterListname(QStringView listname);
 
 } // namespace kalvenor::statistics

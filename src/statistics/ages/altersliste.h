@@ -4,21 +4,24 @@
 
 #include "data/datenbankmodul.h"
 #include "platform/basic/progress.h"
-#include <array>
+#include "statistics/ages/alter.h"
+#include "statistics/options/statistik.h"
 #include <QString>
 #include <vector>
 
 namespace kalvenor::statistics {
 
-/// One item of the age list: its text and the person's `Counter` as the item's data.
+/// One item of the age list; the person's `Counter` is the item's data.
 struct Alterszeile {
-    QString text;
     qint32 Counter = 0;
+    Geschlecht geschlecht = Geschlecht::Unbekannt;
+    double tage = 0; ///< of life
+    QString listname;
+
+    /// As the list shows it: the age text in 7 characters and the shortened list name.
+    QString text() const { return alterstext(tage) + gekuerzterListname(listname); }
 };
 using Altersliste = std::vector<Alterszeile>;
-
-/// The sex boxes: 0 men and 1 women of the age list, 2 men and 3 women of the chart. Checked is exactly 1.
-using GeschlechtAlter = std::array<qint16, 4>;
 
 /// Fills the age list with a line for each marked person whose age at death can be computed and whose sex is selected,
 /// in `Listname` order. Rebuilds it from nothing; where an error (or Error(Cancelled)) ends it, the lines added so far

@@ -92,14 +92,14 @@ void Grafikermittlung::add(std::optional<double> geburtsdatum, std::optional<dou
     if (passes(geschlecht)) {
         m_niedrigstes = std::min(m_niedrigstes, *days);
         m_hoechstes = std::max(m_hoechstes, *days);
-        m_jahrhundert = jahrhundert(m_wahl.nachGeburtsjahr ? *geburtsdatum : *sterbedatum);
+        m_jahrhundert = jahrhundert(m_statistik.nachGeburtsjahr ? *geburtsdatum : *sterbedatum);
     }
     addToCentury(geschlecht, *days);
 }
 
 bool Grafikermittlung::passes(Geschlecht geschlecht) const
 {
-    const GeschlechtAlter &boxes = m_wahl.geschlechtalter;
+    const GeschlechtAlter &boxes = m_statistik.geschlechtalter;
     return (geschlecht == Geschlecht::Mann && boxes[2] == 1) || (geschlecht == Geschlecht::Frau && boxes[3] == 1);
 }
 
@@ -139,8 +139,8 @@ Grafikzahlen Grafikermittlung::zahlen() const
 void Grafikermittlung::fillTable(Grafikzahlen &figures) const
 {
     static const std::array<QString, 3> Labels{u"M"_s, u"W"_s, u"Alle"_s};
-    const bool men = m_wahl.geschlechtalter[2] == 1;
-    const bool women = m_wahl.geschlechtalter[3] == 1;
+    const bool men = m_statistik.geschlechtalter[2] == 1;
+    const bool women = m_statistik.geschlechtalter[3] == 1;
     std::vector<Gruppe> columns{men ? Maenner : women ? Frauen : Alle};
     if (men && women)
         columns = {Maenner, Frauen, Alle};
@@ -173,9 +173,10 @@ void Grafikermittlung::fillTable(Grafikzahlen &figures) const
     }
 }
 
-Grafikzahlen grafikermitteln(data::Datenbankmodul &databases, const Grafikwahl &wahl, const basic::Progress &progress)
+Grafikzahlen grafikermitteln(data::Datenbankmodul &databases, const Statistik &statistik,
+                             const basic::Progress &progress)
 {
-    Grafikermittlung figures(wahl);
+    Grafikermittlung figures(statistik);
     const auto add = [&](const Markierter &person) {
         try {
             figures.add(person.Geburtsdatum, person.Sterbedatum, person.geschlecht);

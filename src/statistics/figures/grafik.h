@@ -4,7 +4,7 @@
 
 #include "platform/chart/chart.h"
 #include "statistics/ages/alter.h"
-#include "statistics/ages/altersliste.h"
+#include "statistics/options/statistik.h"
 #include <array>
 #include <optional>
 #include <QString>
@@ -12,11 +12,6 @@
 
 // The average age at death per century, and the figures beside the chart.
 namespace kalvenor::statistics {
-
-struct Grafikwahl {
-    GeschlechtAlter geschlechtalter{1, 1, 1, 1}; ///< the chart's boxes are 2 men and 3 women
-    bool nachGeburtsjahr = true;                 ///< grouped by year of birth, else of death
-};
 
 /// The places of men, women and all in what is kept for each.
 enum Gruppe : std::size_t { Maenner, Frauen, Alle };
@@ -49,7 +44,7 @@ int jahrhundert(double tag);
 /// Gathers the figures, person by person in `Listname` order.
 class Grafikermittlung {
 public:
-    explicit Grafikermittlung(const Grafikwahl &wahl) : m_wahl(wahl) {}
+    explicit Grafikermittlung(const Statistik &statistik) : m_statistik(statistik) {}
     /// Throws Error(Overflow) where the chosen date lies outside the calendar; the totals then have the person already.
     void add(std::optional<double> geburtsdatum, std::optional<double> sterbedatum, Geschlecht geschlecht);
     /// The figures of all added so far; zahlen.markiert is how often add was called.
@@ -64,7 +59,7 @@ private:
     void addToCentury(Geschlecht geschlecht, double days);
     void fillTable(Grafikzahlen &zahlen) const;
 
-    Grafikwahl m_wahl;
+    Statistik m_statistik; ///< its grouping and its boxes 2 and 3
     // The counters were 16 bits wide once; a million persons need more.
     std::array<qint64, 3> m_anzahl{};
     std::array<double, 3> m_tage{};
@@ -77,7 +72,7 @@ private:
 
 /// The figures of the marked persons. Progress counts them. Throws Error(Cancelled), Error(Overflow) naming a person
 /// whose date lies outside the calendar, and the engine's errors.
-Grafikzahlen grafikermitteln(data::Datenbankmodul &databases, const Grafikwahl &wahl,
+Grafikzahlen grafikermitteln(data::Datenbankmodul &databases, const Statistik &statistik,
                              const basic::Progress &progress = {});
 
 } // namespace kalvenor::statistics

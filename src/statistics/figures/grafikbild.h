@@ -10,12 +10,8 @@
 // How the chart looks in the window, in the report and as a picture.
 namespace kalvenor::statistics {
 
-/// The chart control's number as a type, nothing where there is no such type.
-std::optional<chart::ChartType> grafiktyp(int number);
-
 /// Texts in the person's language, fonts by the setting `Fontfaktor` (default 3). `emptyText` asks to mark persons.
-chart::ChartLook grafiklook(language::Sprachmodul &texts, const host::Host &host, chart::ChartType type, bool legend,
-                            bool byBirth);
+chart::ChartLook grafiklook(language::Sprachmodul &texts, const host::Host &host, const Statistik &statistik);
 
 /// Why there is no chart, for a table that is empty.
 QString leererText(language::Sprachmodul &texts, const Personenzahlen &persons);

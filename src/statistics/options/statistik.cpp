@@ -1,9 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "statistics/options/statisticsoptions.h"
+#include "statistics/options/statistik.h"
 
 #include "data/datevalue.h"
 #include "platform/basic/number.h"
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -35,16 +36,25 @@ const std::vector<ChartTypeEntry> &chartTypeEntries()
     return entries;
 }
 
-chart::ChartType StatisticsOptions::type() const
+std::optional<int> grafiktypOf(int chartType)
+{
+    const auto &entries = chartTypeEntries();
+    const auto found = std::find_if(entries.begin(), entries.end(), [chartType](const ChartTypeEntry &entry) {
+        return static_cast<int>(entry.type) == chartType;
+    });
+    return found == entries.end() ? std::nullopt : std::optional(static_cast<int>(found - entries.begin()));
+}
+
+chart::ChartType Statistik::type() const
 {
     const auto &entries = chartTypeEntries();
     const auto place = static_cast<std::size_t>(grafiktyp);
     return place < entries.size() ? entries[place].type : chart::ChartType::Bar;
 }
 
-StatisticsOptions readOptions(const host::Host &host)
+Statistik readOptions(const host::Host &host)
 {
-    StatisticsOptions options;
+    Statistik options;
     const auto number = [&host](const QString &section, const QString &key, int fallback) {
         return basic::leadingNumber(host.inilesen(host.ownSettingsFile(), section, key, QString::number(fallback)));
     };
@@ -59,16 +69,16 @@ StatisticsOptions readOptions(const host::Host &host)
     return options;
 }
 
-void writeOptions(const host::Host &host, const StatisticsOptions &options)
+void writeOptions(const host::Host &host, const Statistik &statistik)
 {
     const auto entry = [](const QString &section, const QString &key, int value) {
         return host::Host::Setting{section, key, QString::number(value)};
     };
-    std::vector<host::Host::Setting> entries{entry(ChartSection, u"Grafiktyp"_s, options.grafiktyp),
-                                             entry(ChartSection, u"Legende"_s, options.legende ? 1 : 0),
-                                             entry(ChartSection, u"Gebgest"_s, options.nachGeburtsjahr ? 1 : 0)};
-    for (std::size_t i = 0; i < options.geschlechtalter.size(); ++i)
-        entries.push_back(entry(SexSection, QString::number(i), options.geschlechtalter[i]));
+    std::vector<host::Host::Setting> entries{entry(ChartSection, u"Grafiktyp"_s, statistik.grafiktyp),
+                                             entry(ChartSection, u"Legende"_s, statistik.legende ? 1 : 0),
+                                             entry(ChartSection, u"Gebgest"_s, statistik.nachGeburtsjahr ? 1 : 0)};
+    for (std::size_t i = 0; i < statistik.geschlechtalter.size(); ++i)
+        entries.push_back(entry(SexSection, QString::number(i), statistik.geschlechtalter[i]));
     host.inischreiben(host.ownSettingsFile(), entries);
 }
 

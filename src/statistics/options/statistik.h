@@ -4,7 +4,10 @@
 
 #include "host/host.h"
 #include "platform/chart/chart.h"
-#include "statistics/figures/grafik.h"
+#include <array>
+#include <optional>
+#include <QByteArray>
+#include <QString>
 #include <vector>
 
 namespace kalvenor::statistics {
@@ -17,22 +20,29 @@ struct ChartTypeEntry {
 };
 const std::vector<ChartTypeEntry> &chartTypeEntries();
 
-/// The statistic's controls as they stand.
-struct StatisticsOptions {
-    int grafiktyp = 1; ///< place in chartTypeEntries()
+/// The place of a chart control's type in the list; nothing where there is no such type.
+std::optional<int> grafiktypOf(int chartType);
+
+/// The sex boxes: 0 men and 1 women of the age list, 2 men and 3 women of the chart. Checked is exactly 1.
+using GeschlechtAlter = std::array<qint16, 4>;
+
+/// A statistic apart from its persons: what its controls hold, a template keeps and the report shows.
+struct Statistik {
+    QString titel = {};
+    QByteArray rtf = {}; ///< the introduction as RTF, empty for none
+    int grafiktyp = 1;   ///< place in chartTypeEntries()
     bool legende = true;
     GeschlechtAlter geschlechtalter{1, 1, 1, 1};
-    bool nachGeburtsjahr = true;
+    bool nachGeburtsjahr = true; ///< the chart goes by year of birth, else by year of death
 
-    Grafikwahl wahl() const { return {.geschlechtalter = geschlechtalter, .nachGeburtsjahr = nachGeburtsjahr}; }
     chart::ChartType type() const;
-    bool operator==(const StatisticsOptions &) const = default;
+    bool operator==(const Statistik &) const = default;
 };
 
-/// As they were when the window was closed last: `Kalvenor.ini`, section "Grafik" keys "Grafiktyp", "Legende",
-/// "Gebgest" (1 by year of birth, 0 by year of death), section "Geschlecht" keys "0" to "3". What is missing or makes
-/// no sense stays as at the first start.
-StatisticsOptions readOptions(const host::Host &host);
-void writeOptions(const host::Host &host, const StatisticsOptions &options);
+/// The options as they were when the window was closed last: `Kalvenor.ini`, section "Grafik" keys "Grafiktyp",
+/// "Legende", "Gebgest" (1 by year of birth, 0 by year of death), section "Geschlecht" keys "0" to "3". What is missing
+/// or makes no sense stays as at the first start. No title, no introduction.
+Statistik readOptions(const host::Host &host);
+void writeOptions(const host::Host &host, const Statistik &statistik);
 
 } // namespace kalvenor::statistics

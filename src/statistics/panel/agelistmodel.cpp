@@ -32,7 +32,7 @@ QVariant AgeListModel::data(const QModelIndex &index, int role) const
         return {};
     const Alterszeile &line = m_list[static_cast<std::size_t>(index.row())];
     if (role == Qt::DisplayRole || role == Qt::AccessibleTextRole)
-        return line.text;
+        return line.text();
     return role == Qt::UserRole ? QVariant(line.Counter) : QVariant();
 }
 

@@ -105,7 +105,7 @@ void AgeListPanel::copy() const
               [](const QItemSelectionRange &a, const QItemSelectionRange &b) { return a.top() < b.top(); });
     for (const QItemSelectionRange &range : std::as_const(ranges)) {
         for (int row = range.top(); row <= range.bottom(); ++row)
-            lines << m_controller.list()[static_cast<std::size_t>(row)].text;
+            lines << m_controller.list()[static_cast<std::size_t>(row)].text();
     }
     if (!lines.isEmpty())
         QGuiApplication::clipboard()->setText(lines.join(u'\n'));

@@ -151,9 +151,9 @@ QWidget *ChartPanel::makeFigures()
     return box;
 }
 
-StatisticsOptions ChartPanel::options() const
+Statistik ChartPanel::options() const
 {
-    StatisticsOptions options;
+    Statistik options;
     options.grafiktyp = m_type->currentIndex();
     options.legende = m_legend->isChecked();
     options.nachGeburtsjahr = m_grouping[0]->isChecked();
@@ -162,7 +162,7 @@ StatisticsOptions ChartPanel::options() const
     return options;
 }
 
-void ChartPanel::setOptions(const StatisticsOptions &options)
+void ChartPanel::setOptions(const Statistik &options)
 {
     if (options.grafiktyp >= 0 && options.grafiktyp < m_type->count())
         m_type->setCurrentIndex(options.grafiktyp);
@@ -176,9 +176,7 @@ void ChartPanel::setOptions(const StatisticsOptions &options)
 void ChartPanel::updateLook()
 {
     const StatisticsServices &services = m_controller.services();
-    const StatisticsOptions shown = options();
-    chart::ChartLook look =
-        grafiklook(services.language, services.host, shown.type(), shown.legende, shown.nachGeburtsjahr);
+    chart::ChartLook look = grafiklook(services.language, services.host, options());
     look.grid = m_chart->gridAction->isChecked();
     look.values = m_chart->valuesAction->isChecked();
     const Grafikzahlen &figures = m_controller.figures();

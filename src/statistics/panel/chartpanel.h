@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "statistics/options/statisticsoptions.h"
+#include "statistics/options/statistik.h"
 #include "statistics/panel/statisticscontroller.h"
 #include <array>
 #include <QWidget>
@@ -27,8 +27,8 @@ public:
 
     chart::ChartControl &chart() { return *m_chart; }
     /// The chart's own options; the sex boxes of the list are left at 1.
-    StatisticsOptions options() const;
-    void setOptions(const StatisticsOptions &options);
+    Statistik options() const;
+    void setOptions(const Statistik &options);
     /// Type, legend and texts as the controls and the settings file say.
     void updateLook();
 

@@ -72,10 +72,10 @@ bool StatisticsController::alterslistenausgabe(const GeschlechtAlter &geschlecht
     return done;
 }
 
-bool StatisticsController::grafikermitteln(const Grafikwahl &wahl)
+bool StatisticsController::grafikermitteln(const Statistik &statistik)
 {
     const bool done = perform(text(20345, u"Die Grafik wird berechnet ..."_s), [&](const basic::Progress &progress) {
-        m_figures = statistics::grafikermitteln(m_services.databases, wahl, progress);
+        m_figures = statistics::grafikermitteln(m_services.databases, statistik, progress);
     });
     m_figuresCurrent = done;
     if (done)

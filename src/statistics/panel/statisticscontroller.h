@@ -33,7 +33,7 @@ public:
     /// Rebuilds the age list. False where it was not begun, failed or was cancelled: what was added so far stays.
     bool alterslistenausgabe(const GeschlechtAlter &geschlechtalter);
     /// Computes the figures and the chart's table. Where it fails or is cancelled, the old ones stay, as outdated ones.
-    bool grafikermitteln(const Grafikwahl &wahl);
+    bool grafikermitteln(const Statistik &statistik);
 
     /// Whether the list, the figures are what marks, persons and the controls last asked for give.
     bool isListCurrent() const { return m_listCurrent; }

@@ -101,19 +101,35 @@ void StatisticsPanel::showTab(Tab tab)
     m_tabs->currentWidget()->setFocus();
 }
 
-StatisticsOptions StatisticsPanel::options() const
+Statistik StatisticsPanel::options() const
 {
-    StatisticsOptions options = m_chart->options();
+    Statistik options = m_chart->options();
     for (std::size_t i = 0; i < 2; ++i)
         options.geschlechtalter[i] = m_list->sexBoxes()[i]->isChecked() ? 1 : 0;
     return options;
 }
 
-void StatisticsPanel::setOptions(const StatisticsOptions &options)
+void StatisticsPanel::setOptions(const Statistik &options)
 {
     for (std::size_t i = 0; i < 2; ++i)
         m_list->sexBoxes()[i]->setChecked(options.geschlechtalter[i] == 1);
     m_chart->setOptions(options);
+}
+
+Statistik StatisticsPanel::statistik() const
+{
+    Statistik statistik = options();
+    statistik.titel = m_title->text();
+    if (!m_introduction->isEmpty())
+        statistik.rtf = m_introduction->rtf();
+    return statistik;
+}
+
+void StatisticsPanel::setStatistik(const Statistik &statistik)
+{
+    m_title->setText(statistik.titel);
+    m_introduction->setRtf(statistik.rtf);
+    setOptions(statistik);
 }
 
 bool StatisticsPanel::alterslistenausgabe()
@@ -125,7 +141,7 @@ bool StatisticsPanel::alterslistenausgabe()
 
 bool StatisticsPanel::grafikermitteln()
 {
-    const bool done = m_controller.grafikermitteln(options().wahl());
+    const bool done = m_controller.grafikermitteln(options());
     m_notice->setVisible(!isShownCurrent());
     return done;
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "statistics/options/statisticsoptions.h"
+#include "statistics/options/statistik.h"
 #include "statistics/panel/statisticscontroller.h"
 #include <QTimer>
 #include <QWidget>
@@ -32,9 +32,12 @@ public:
     QTabWidget &tabs() { return *m_tabs; }
     void showTab(Tab tab);
 
-    StatisticsOptions options() const;
+    /// What the controls hold, the options alone: reading the introduction takes longer.
+    Statistik options() const;
+    Statistik statistik() const;
     /// Sets the controls; nothing is computed.
-    void setOptions(const StatisticsOptions &options);
+    void setOptions(const Statistik &options);
+    void setStatistik(const Statistik &statistik);
 
     /// Both anew, with the controls as they stand. False where one of them was not finished.
     bool alterslistenausgabe();
