@@ -4,13 +4,14 @@
 
 #include "platform/basic/path.h"
 #include "platform/desktop/desktop.h"
-#include <QPointer>
 #include <QString>
 #include <vector>
 
 namespace kalvenor::host {
 
 using namespace Qt::StringLiterals;
+
+class Hauptform;
 
 /// The folder above: the characters before the last backslash ("C:\" gives "C:"). A path without a backslash throws
 /// Error(InvalidProcedureCall); callers hold full paths.
@@ -24,12 +25,12 @@ public:
     /// "Laufwerke" (C=/media/windows).
     Host(QString programFolder, desktop::Desktop &desktop);
 
-    QString Hostverzeichnis;     ///< the host program's folder, without a trailing backslash
-    QString Sprache;             ///< name of the interface language: a column of the texts, a table of the event kinds
-    qint16 Kurzhilfe = 1;        ///< 1: short help is shown
-    QString AddInonTop;          ///< as read; "1": windows stay on top
-    QString Familienpfad;        ///< the host's current family database; empty where none is named
-    QPointer<QObject> Hauptform; ///< the main window once it was made
+    QString Hostverzeichnis; ///< the host program's folder, without a trailing backslash
+    QString Sprache;         ///< name of the interface language: a column of the texts, a table of the event kinds
+    qint16 Kurzhilfe = 1;    ///< 1: short help is shown
+    QString AddInonTop;      ///< as read; "1": windows stay on top
+    QString Familienpfad;    ///< the host's current family database; empty where none is named
+    kalvenor::host::Hauptform *Hauptform = nullptr; ///< the main window while there is one
 
     const QString &programFolder() const { return m_programFolder; }
     QString hostSettingsFile() const { return Hostverzeichnis + u"\\programm.ini"_s; }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/start/program.h"
 
+#include "support/fakehauptform.h"
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
 #include <QFile>
@@ -18,7 +19,7 @@ TEST(Main, ReadsTheHostsSettingsAndShowsTheMainWindow)
     host.inischreiben(installation.settings(), "Ansicht", "Kurzhilfe", " 0 nein");
     host.inischreiben(installation.settings(), "Ansicht", "AddInonTop", "1");
 
-    QObject window;
+    test::FakeHauptform window;
     EXPECT_TRUE(program.Main([&] {
         EXPECT_TRUE(program.databases.Datentabelle->isOpen());
         EXPECT_TRUE(host.staysOnTop());
@@ -40,12 +41,12 @@ TEST(Main, DefaultsHoldWhereSettingsAreMissing)
     ASSERT_TRUE(QFile::remove(installation.hostFolder() + "/programm.ini"));
     program.host.inischreiben(installation.settings(), "QV-Files", "0", path);
 
-    EXPECT_TRUE(
-        program.Main([]() -> QObject * { throw basic::Error(basic::ErrorKind::Damaged, "window", "cannot be made"); }));
+    EXPECT_TRUE(program.Main(
+        []() -> host::Hauptform * { throw basic::Error(basic::ErrorKind::Damaged, "window", "cannot be made"); }));
     EXPECT_EQ(program.host.Sprache, "Deutsch");
     EXPECT_EQ(program.host.Kurzhilfe, 1);
     EXPECT_EQ(program.host.AddInonTop, "1");
-    EXPECT_TRUE(program.host.Hauptform.isNull());
+    EXPECT_EQ(program.host.Hauptform, nullptr);
 }
 
 TEST(Main, EndsWithMessageWhereTheFamilyDatabaseIsMissing)

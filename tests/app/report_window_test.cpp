@@ -48,6 +48,10 @@ TEST_F(Report, IsSavedFromThePreviewInEveryFormat)
     EXPECT_TRUE(preview().isVisible());
     EXPECT_GE(pages()->pages().size(), 1u);
     const auto before = pages();
+    int computed = 0;
+    const statistics::StatisticsController &statistics = window->statisticsController();
+    QObject::connect(&statistics, &statistics::StatisticsController::listCleared, &preview(), [&] { ++computed; });
+    QObject::connect(&statistics, &statistics::StatisticsController::figuresChanged, &preview(), [&] { ++computed; });
     const struct {
         const char *name, *written, *beginning;
     } rows[] = {
@@ -63,9 +67,11 @@ TEST_F(Report, IsSavedFromThePreviewInEveryFormat)
         EXPECT_TRUE(file.readAll().startsWith(row.beginning));
     }
     EXPECT_EQ(pages(), before) << "saving shows no other pages";
+    EXPECT_EQ(computed, 0) << "nor computes what is known";
     EXPECT_EQ(desktop.fileQuestions.back().folder, hostFolder() + "/Ausgabe");
     control<QAction>("Seitenansicht").trigger();
     EXPECT_NE(pages(), before);
+    EXPECT_EQ(computed, 2);
     EXPECT_EQ(desktop.messages.size(), 1u) << "the hint comes once";
     command("MHH");
     EXPECT_TRUE(QTest::qWaitFor([] {

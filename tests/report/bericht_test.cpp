@@ -67,10 +67,7 @@ struct BerichtTest : testing::Test {
     /// Runs into that file; the written one.
     QString run(print::ExportFormat format, const QString &nativeFile)
     {
-        print.exportFormat = format;
-        print.exportFile = basic::windowsPath(nativeFile);
-        bericht.auswahldrucken(content);
-        return basic::nativePath(print.exportFile);
+        return basic::nativePath(bericht.auswahldrucken(content, {format, basic::windowsPath(nativeFile)}));
     }
     QString text(qint16 id) { return program.language.text(id); }
     QString closing() { return text(120) + u"  05.03.2024 07:08"_s; }
@@ -239,7 +236,7 @@ TEST_F(BerichtTest, CriteriaSayWhatIsActive)
 TEST_F(BerichtTest, HintComesOnceAndFailuresRestoreThePointer)
 {
     EXPECT_THROW(run(print::ExportFormat::Html, folder.filePath("ohne")), basic::Error);
-    EXPECT_THROW(bericht.auswahldrucken(content, [](qint64, qint64) { return false; }), basic::Error);
+    EXPECT_THROW(bericht.auswahldrucken(content, {}, [](qint64, qint64) { return false; }), basic::Error);
     EXPECT_TRUE(desktop.messages.empty());
     for (int i = 0; i < 2; ++i)
         run(print::ExportFormat::Pages, {});
@@ -306,9 +303,8 @@ TEST_F(BerichtTest, FailedRunsLeaveNothingAndKeepTheOld)
     write(old, "old");
     const QStringList before = QDir(folder.path()).entryList(QDir::Files);
     const auto fail = [&](print::ExportFormat format, const QString &file, const basic::Progress &progress = {}) {
-        print.exportFormat = format;
-        print.exportFile = basic::windowsPath(folder.filePath(file));
-        EXPECT_THROW(bericht.auswahldrucken(content, progress), basic::Error);
+        const print::ExportTarget target{format, basic::windowsPath(folder.filePath(file))};
+        EXPECT_THROW(bericht.auswahldrucken(content, target, progress), basic::Error);
         EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), before) << file.toStdString();
         EXPECT_EQ(pages.entryList(QDir::Files), QStringList()) << file.toStdString();
     };

@@ -122,12 +122,12 @@ int ReportCommand::run(const QString &programFolder, const statistics::Geschlech
     bericht.hintShown(); // it is about the window
     const QString output = absoluteNative(m_output);
     const QString ending = endingOf(m_output);
-    if (ending != u"pdf") {
-        print.exportFormat = ending == u"rtf" ? print::ExportFormat::Rtf : print::ExportFormat::Html;
-        print.exportFile = basic::windowsPath(output);
-    }
-    bericht.auswahldrucken({.statistik = statistik, .list = list, .figures = figures, .look = look, .criteria = {}},
-                           terminal.progress());
+    print::ExportTarget target;
+    if (ending != u"pdf")
+        target = {ending == u"rtf" ? print::ExportFormat::Rtf : print::ExportFormat::Html, basic::windowsPath(output)};
+    const QString written =
+        bericht.auswahldrucken({.statistik = statistik, .list = list, .figures = figures, .look = look, .criteria = {}},
+                               target, terminal.progress());
     const QString persons = QString::number(list.size());
     if (ending == u"pdf") {
         print::writePdf(*print.layout(), print.document().title, output, terminal.progress(),
@@ -135,7 +135,7 @@ int ReportCommand::run(const QString &programFolder, const statistics::Geschlech
         printLine(
             u"%1: %2 persons on %3 pages"_s.arg(output, persons, QString::number(print.layout()->pages().size())));
     } else {
-        printLine(u"%1: %2 persons"_s.arg(program.host.native(print.exportFile), persons));
+        printLine(u"%1: %2 persons"_s.arg(program.host.native(written), persons));
     }
     return started.done();
 }

@@ -28,7 +28,7 @@ public:
     QString chosenFamily;
 
     /// Makes and shows the main window and gives it back; a command has none.
-    using ShowMainWindow = std::function<QObject *()>;
+    using ShowMainWindow = std::function<host::Hauptform *()>;
 
     /// The start sequence. False where the family database is missing: message text 100 was shown and the program
     /// is to end. Errors of the language database and of the host's databases are not caught here.

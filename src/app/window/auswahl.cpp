@@ -75,7 +75,11 @@ Auswahl::Auswahl(Program &program, QWidget *parent)
     restoreSplitter(*m_splitter, PanelsKey, program.host);
 }
 
-Auswahl::~Auswahl() = default;
+Auswahl::~Auswahl()
+{
+    if (m_program.host.Hauptform == this)
+        m_program.host.Hauptform = nullptr;
+}
 
 QString Auswahl::text(qint16 id, const QString &germanText)
 {
@@ -147,9 +151,9 @@ void Auswahl::connectStatistic()
     on(actions.saveTemplateAs, [this] { m_templates.saveAs(); });
     on(actions.reset, [this] { m_templates.reset(); });
     on(actions.database, [this] { m_family.choose(); });
-    on(actions.preview, [this] { m_report.auswahldrucken(); });
-    on(actions.print, [this] { m_report.run(u"drucker"_s); });
-    on(actions.exportFile, [this] { m_report.run(u"save"_s); });
+    on(actions.preview, [this] { m_report.show(); });
+    on(actions.print, [this] { m_report.show(u"drucker"_s); });
+    on(actions.exportFile, [this] { m_report.show(u"save"_s); });
     on(actions.settings, [this] { m_report.init(); });
     on(actions.manual, [this] { panelaufruf(u"Hilfe"_s); });
     on(actions.about, [this] {

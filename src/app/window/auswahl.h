@@ -7,6 +7,7 @@
 #include "app/window/reportdesk.h"
 #include "app/window/statuspanels.h"
 #include "app/window/templatedesk.h"
+#include "host/hauptform.h"
 #include "platform/desktop/work.h"
 #include "selection/panel/selectioncontroller.h"
 #include "statistics/panel/statisticscontroller.h"
@@ -27,9 +28,8 @@ class HelpWindow;
 struct MainActions;
 
 /// The main window: a frame around the panels, with menus, tool bar and status bar. Closing it closes all databases;
-/// while work is running, the work is cancelled first, and what is not saved is asked for. The preview calls its slots
-/// by their names.
-class Auswahl : public QMainWindow {
+/// while work is running, the work is cancelled first, and what is not saved is asked for.
+class Auswahl : public QMainWindow, public host::Hauptform {
     Q_OBJECT
 public:
     /// Loads the lists. Errors are shown, the window is there in any case.
@@ -44,14 +44,15 @@ public:
     FamilyDesk &family() { return m_family; }
     ReportDesk &report() { return m_report; }
 
-public Q_SLOTS:
-    void auswahldrucken() { m_report.auswahldrucken(); }
-    void initladen() { m_report.initladen(); }
-    void initspeichern() { m_report.initspeichern(); }
-    void init() { m_report.init(); }
-    /// The manual, at the chapter with this name.
-    void panelaufruf(const QString &thema);
-    void vorlageoeffnen(const QString &nativeFile) { m_templates.openFile(nativeFile); }
+    std::optional<QString> auswahldrucken(const print::ExportTarget &target) override
+    {
+        return m_report.auswahldrucken(target);
+    }
+    void initladen() override { m_report.initladen(); }
+    bool initspeichern() override { return m_report.initspeichern(); }
+    bool init() override { return m_report.init(); }
+    void panelaufruf(const QString &thema) override;
+    QWidget &fenster() override { return *this; }
 
 protected:
     void closeEvent(QCloseEvent *event) override;

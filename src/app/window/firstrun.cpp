@@ -259,7 +259,7 @@ void FirstRun::makeDemonstration()
 }
 
 std::unique_ptr<Program> startProgram(desktop::Desktop &desktop, StartPlace place,
-                                      const std::function<QObject *(Program &)> &showMainWindow,
+                                      const std::function<host::Hauptform *(Program &)> &showMainWindow,
                                       const std::function<void(const host::Host &)> &beforeQuestion)
 {
     for (;;) {

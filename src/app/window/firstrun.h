@@ -63,7 +63,7 @@ private:
 /// Starts the program; while that fails it is told as start-up does and the user may choose another way. Nothing where
 /// they gave up. `showMainWindow` is called as by Program::Main, `beforeQuestion` before the user is asked.
 std::unique_ptr<Program> startProgram(desktop::Desktop &desktop, StartPlace place,
-                                      const std::function<QObject *(Program &)> &showMainWindow,
+                                      const std::function<host::Hauptform *(Program &)> &showMainWindow,
                                       const std::function<void(const host::Host &)> &beforeQuestion = {});
 
 } // namespace kalvenor::app

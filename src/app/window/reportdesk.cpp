@@ -58,23 +58,25 @@ report::ReportContent ReportDesk::content() const
                      .relatives = m_parts.selection.relatives()}};
 }
 
-bool ReportDesk::auswahldrucken()
+std::optional<QString> ReportDesk::auswahldrucken(const print::ExportTarget &target)
 {
-    const bool toPages = m_print.exportFormat == print::ExportFormat::Pages;
-    if (m_parts.work.isRunning() || !m_parts.panel.computeAll())
-        return false;
+    if (m_parts.work.isRunning() || !m_parts.panel.computeOutdated())
+        return std::nullopt;
     Program &program = m_parts.program;
+    QString written;
     const bool done = language::runAndTell(
         m_parts.work, program.host, program.language, text(20349, u"Die Seiten werden zusammengestellt ..."_s),
-        [this](const basic::Progress &progress) { m_bericht.auswahldrucken(content(), progress); },
+        [&](const basic::Progress &progress) { written = m_bericht.auswahldrucken(content(), target, progress); },
         {.said = [this](const QString &end) { Q_EMIT said(end); },
          .inPlainWords =
              [this](const basic::Error &error) {
                  return text(21053, u"Der Bericht konnte nicht erstellt werden: %1"_s).arg(error.message());
              }});
-    if (done && toPages)
+    if (!done)
+        return std::nullopt;
+    if (target.format == print::ExportFormat::Pages)
         showPreview();
-    return done;
+    return written;
 }
 
 void ReportDesk::showPreview()
@@ -87,29 +89,32 @@ void ReportDesk::showPreview()
     m_preview->activateWindow();
 }
 
-void ReportDesk::initspeichern()
+bool ReportDesk::initspeichern()
 {
-    if (!m_bericht.initspeichern())
+    const bool done = m_bericht.initspeichern();
+    if (!done)
         m_parts.program.host.desktop().messageBox(
             text(20874, u"Die Einstellungen konnten nicht gespeichert werden: %1"_s)
                 .arg(m_parts.program.host.native(m_parts.program.host.ownSettingsFile())),
             desktop::MessageCritical, text(21020, u"Fehler"_s));
+    return done;
 }
 
-void ReportDesk::init()
+bool ReportDesk::init()
 {
     settings::Initform form(m_parts.program.host, m_parts.program.language, m_bericht.vorgaben, m_print.page,
                             QApplication::activeWindow());
     if (!m_parts.program.host.desktop().runDialog(form))
-        return;
+        return false;
     m_parts.panel.chartPanel().updateLook(); // the font factor may have changed
     if (m_preview != nullptr && m_preview->isVisible())
-        auswahldrucken();
+        auswahldrucken({});
+    return true;
 }
 
-void ReportDesk::run(const QString &previewCommand)
+void ReportDesk::show(const QString &previewCommand)
 {
-    if (auswahldrucken() && m_preview != nullptr)
+    if (!m_parts.work.isRunning() && m_parts.panel.computeAll() && auswahldrucken({}))
         m_preview->toolbarbuttonclick(previewCommand);
 }
 

@@ -7,6 +7,7 @@
 #include "platform/print/printcontrol.h"
 #include "report/composition/bericht.h"
 #include <memory>
+#include <optional>
 #include <QObject>
 
 namespace kalvenor::selection {
@@ -38,15 +39,15 @@ public:
     explicit ReportDesk(const Parts &parts, QObject *parent = nullptr);
     ~ReportDesk() override;
 
-    /// Computes list and chart again and composes the report: into the preview, which comes to the front, or into the
-    /// file that the print control names. False where that failed or was cancelled, which was told.
-    bool auswahldrucken();
+    /// Computes list and chart again, composes the report and shows its pages in the preview, which comes to the front
+    /// and is given the command ("drucker", "save") where there is one.
+    void show(const QString &previewCommand = {});
+    /// As Hauptform says.
+    std::optional<QString> auswahldrucken(const print::ExportTarget &target);
     void initladen() { m_bericht.initladen(); }
-    void initspeichern();
+    bool initspeichern();
     /// The print settings dialog; what changes is in the preview's pages at once.
-    void init();
-    /// Composes, shows the preview and gives it the command ("drucker", "save").
-    void run(const QString &previewCommand);
+    bool init();
     settings::Druckvorschau *preview() const { return m_preview.get(); }
     /// False where the preview is busy; it closes as soon as it is not.
     bool closePreview();

@@ -96,7 +96,7 @@ int runWindow(int &argc, char **argv, const QString &programFolder, const QStrin
     std::unique_ptr<Auswahl> window;
     const std::unique_ptr<Program> program = startProgram(
         *desktop, {basic::windowsPath(folder)},
-        [&](Program &starting) -> QObject * {
+        [&](Program &starting) -> host::Hauptform * {
             try {
                 speakLanguage(starting.host, translator);
                 window = std::make_unique<Auswahl>(starting);

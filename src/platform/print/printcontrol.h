@@ -14,6 +14,10 @@ namespace kalvenor::print {
 
 /// Where a run of the report goes, by the numbers of the control.
 enum class ExportFormat { Pages = 0, Html = 1, Rtf = 4, RtfPlain = 5 };
+struct ExportTarget {
+    ExportFormat format = ExportFormat::Pages;
+    QString file = {}; ///< path text in Windows notation; empty for pages
+};
 
 /// The print control: one for the life of the program. Report composition fills it, the preview shows its pages, the
 /// page setup and the settings file change its paper and margins.
@@ -23,8 +27,6 @@ public:
     using QObject::QObject;
 
     PageSetup page; ///< taken by the next document
-    ExportFormat exportFormat = ExportFormat::Pages;
-    QString exportFile; ///< path text in Windows notation; empty for pages
 
     /// Takes the composed document, which has its own page setup, and lays it out. The old one stays where this
     /// throws PageLayout's Error.

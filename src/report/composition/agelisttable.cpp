@@ -32,7 +32,7 @@ QString nameIn(const statistics::Alterszeile &line)
 } // namespace
 
 AgeListTable::AgeListTable(Setup setup)
-    : m_setup(std::move(setup)), m_html(m_setup.services.print.exportFormat == print::ExportFormat::Html)
+    : m_setup(std::move(setup)), m_html(m_setup.target.format == print::ExportFormat::Html)
 {
 }
 
@@ -192,7 +192,7 @@ QString AgeListTable::symbol()
     for (const int y : {4, 7, 10})
         painter.drawLine(5, y, 10, y);
     painter.end();
-    QString file = symbolFile(m_setup.services.print.exportFile);
+    QString file = symbolFile(m_setup.target.file);
     QString type;
     m_setup.pictures.bildkonvertieren({.Image = drawing}, file, type);
     m_symbol = fileNameOf(file);

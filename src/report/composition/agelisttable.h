@@ -3,7 +3,7 @@
 #pragma once
 
 #include "data/person.h"
-#include "platform/print/printdocument.h"
+#include "platform/print/printcontrol.h"
 #include "report/pictures/bildkonvertieren.h"
 #include "statistics/ages/altersliste.h"
 #include <optional>
@@ -21,6 +21,7 @@ class AgeListTable {
 public:
     struct Setup {
         const ReportServices &services;
+        const print::ExportTarget &target;
         Bildumwandlung &pictures;
         QString reportName;
         print::TextStyle style;

@@ -91,36 +91,37 @@ bool Bericht::initspeichern() const
     return settings::initspeichern(m_services.host, vorgaben, m_services.print.page);
 }
 
-void Bericht::auswahldrucken(const ReportContent &content, const basic::Progress &progress)
+QString Bericht::auswahldrucken(const ReportContent &content, print::ExportTarget target,
+                                const basic::Progress &progress)
 {
     const host::Host &host = m_services.host;
     host.desktop().setPointer(desktop::Pointer::Hourglass);
     const auto restore = qScopeGuard([&host] { host.desktop().setPointer(desktop::Pointer::Default); });
     initladen();
-    print::PrintControl &print = m_services.print;
-    if (print.exportFormat == print::ExportFormat::Html)
-        print.exportFile =
-            exportName(print.exportFile, reportName, m_services.language.text(TextReportFile), u".html"_s);
-    NewPictures newPictures(host, picturesBeside());
-    print::PrintDocument document = compose(content, progress);
+    if (target.format == print::ExportFormat::Html)
+        target.file = exportName(target.file, reportName, m_services.language.text(TextReportFile), u".html"_s);
+    NewPictures newPictures(host, picturesBeside(target));
+    print::PrintDocument document = compose(content, target, progress);
     showHint();
-    switch (print.exportFormat) {
+    switch (target.format) {
     case print::ExportFormat::Pages:
-        print.setDocument(std::move(document), progress);
+        m_services.print.setDocument(std::move(document), progress);
         break;
     case print::ExportFormat::Html:
-        print::writeHtmlFile(document, host.native(print.exportFile), progress);
-        htmlnachbearbeiten(host, print.exportFile);
+        print::writeHtmlFile(document, host.native(target.file), progress);
+        htmlnachbearbeiten(host, target.file);
         break;
     case print::ExportFormat::Rtf:
     case print::ExportFormat::RtfPlain:
-        print::writeRtfFile(document, host.native(print.exportFile), progress);
+        print::writeRtfFile(document, host.native(target.file), progress);
         break;
     }
     newPictures.keep();
+    return target.file;
 }
 
-print::PrintDocument Bericht::compose(const ReportContent &content, const basic::Progress &progress)
+print::PrintDocument Bericht::compose(const ReportContent &content, const print::ExportTarget &target,
+                                      const basic::Progress &progress)
 {
     print::PrintDocument document;
     document.title =
@@ -136,9 +137,9 @@ print::PrintDocument Bericht::compose(const ReportContent &content, const basic:
                                       .outlineLevel = Section});
     addIntroduction(document, content);
     if (vorgaben.Bildprint == 1)
-        addChart(document, content);
+        addChart(document, content, target);
     addCriteria(document, content);
-    addAgeList(document, content, progress);
+    addAgeList(document, content, target, progress);
     document.add(print::Paragraph{.text = footerText() + u"  "_s + now(content),
                                   .style = document.addStyle(style(settings::Footer)),
                                   .spaceBefore = Gap});
@@ -177,7 +178,7 @@ void Bericht::addIntroduction(print::PrintDocument &document, const ReportConten
     document.add(print::Paragraph{.text = {}, .spaceAfter = Gap / 2});
 }
 
-void Bericht::addChart(print::PrintDocument &document, const ReportContent &content)
+void Bericht::addChart(print::PrintDocument &document, const ReportContent &content, const print::ExportTarget &target)
 {
     const print::Twips width = printableWidth(document.page);
     const double shape = static_cast<double>(content.chartShape.height()) / std::max(content.chartShape.width(), 1);
@@ -194,11 +195,10 @@ void Bericht::addChart(print::PrintDocument &document, const ReportContent &cont
     PictureControl print;
     bildgroesse(m_services.host, chart, print, static_cast<qint16>(std::min(width, 32767)), height);
 
-    const print::PrintControl &control = m_services.print;
     QString file;
-    if (control.exportFormat != print::ExportFormat::Pages)
-        file = writePicture(print.Image, chartFile());
-    if (control.exportFormat != print::ExportFormat::Html)
+    if (target.format != print::ExportFormat::Pages)
+        file = writePicture(print.Image, target);
+    if (target.format != print::ExportFormat::Html)
         file.clear(); // a copy for the host program
     if (!file.isEmpty())
         document.add(print::Paragraph{.text = chartTag(file), .spaceAfter = Gap});
@@ -226,7 +226,8 @@ void Bericht::addCriteria(print::PrintDocument &document, const ReportContent &c
         document.add(print::Paragraph{.text = line, .style = lineStyle, .keepWithNext = &line != &lines.back()});
 }
 
-void Bericht::addAgeList(print::PrintDocument &document, const ReportContent &content, const basic::Progress &progress)
+void Bericht::addAgeList(print::PrintDocument &document, const ReportContent &content,
+                         const print::ExportTarget &target, const basic::Progress &progress)
 {
     const bool newPage = vorgaben.isPrinted(settings::NeueSeite);
     if (newPage)
@@ -242,6 +243,7 @@ void Bericht::addAgeList(print::PrintDocument &document, const ReportContent &co
                                       .keepWithNext = true,
                                       .outlineLevel = Section + 1});
     AgeListTable table({.services = m_services,
+                        .target = target,
                         .pictures = m_pictures,
                         .reportName = reportName,
                         .style = style(settings::Altersliste),
@@ -252,31 +254,30 @@ void Bericht::addAgeList(print::PrintDocument &document, const ReportContent &co
 }
 
 /// Beside the page in HTML, else in the host program's folder.
-QString Bericht::chartFile() const
+QString Bericht::chartFile(const print::ExportTarget &target) const
 {
-    const QString &page = m_services.print.exportFile;
-    if (m_services.print.exportFormat == print::ExportFormat::Html) // which has its suffix already
-        return basic::leftPart(page, page.lastIndexOf(u'.')) + u".jpg"_s;
+    if (target.format == print::ExportFormat::Html) // which has its suffix already
+        return basic::leftPart(target.file, target.file.lastIndexOf(u'.')) + u".jpg"_s;
     return outputFolder(m_services.host) +
-           exportName(fileNameOf(page), reportName, m_services.language.text(TextReportFile), u".jpg"_s);
+           exportName(fileNameOf(target.file), reportName, m_services.language.text(TextReportFile), u".jpg"_s);
 }
 
-QStringList Bericht::picturesBeside() const
+QStringList Bericht::picturesBeside(const print::ExportTarget &target) const
 {
-    if (m_services.print.exportFormat == print::ExportFormat::Pages)
+    if (target.format == print::ExportFormat::Pages)
         return {};
-    const QString chart = chartFile();
+    const QString chart = chartFile(target);
     const QString base = basic::leftPart(chart, chart.lastIndexOf(u'.'));
-    return {base + u".JPG"_s, base + u".BMP"_s, symbolFile(m_services.print.exportFile)};
+    return {base + u".JPG"_s, base + u".BMP"_s, symbolFile(target.file)};
 }
 
 /// The file that was written (Windows notation); empty where the picture could not be converted, which was told.
-QString Bericht::writePicture(const QImage &picture, const QString &file)
+QString Bericht::writePicture(const QImage &picture, const print::ExportTarget &target)
 {
-    QString written = file;
+    QString written = chartFile(target);
     QString type;
-    if (m_services.print.exportFormat != print::ExportFormat::Html)
-        QDir().mkpath(m_services.host.native(folderOf(file))); // where that fails, writing says so
+    if (target.format != print::ExportFormat::Html)
+        QDir().mkpath(m_services.host.native(folderOf(written))); // where that fails, writing says so
     m_pictures.bildkonvertieren({.Image = picture}, written, type);
     return m_services.host.dir(written).isEmpty() ? QString() : written;
 }

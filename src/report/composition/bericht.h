@@ -33,7 +33,7 @@ struct ReportContent {
     QDateTime now = QDateTime::currentDateTime();
 };
 
-/// Composes the report and hands it to the print control, or writes it as the control's export format says.
+/// Composes the report and hands it to the print control, or writes it into a file.
 class Bericht {
 public:
     explicit Bericht(const ReportServices &services);
@@ -46,16 +46,17 @@ public:
     /// False where the settings file could not be written.
     bool initspeichern() const;
 
-    /// One run. With an export format the file is written and the control's `exportFile` becomes its final name; the
-    /// pages shown stay. Throws what went wrong, with the pointer restored; then nothing was handed over and no half
-    /// file is left.
-    void auswahldrucken(const ReportContent &content, const basic::Progress &progress = {});
+    /// One run. With an export format the file is written and its final name is given back; the pages shown stay.
+    /// Throws what went wrong, with the pointer restored; then nothing was handed over and no half file is left.
+    QString auswahldrucken(const ReportContent &content, print::ExportTarget target = {},
+                           const basic::Progress &progress = {});
 
     /// As if the once-only hint had been shown.
     void hintShown() { m_hint = desktop::ResultOk; }
 
-    /// The document of one run for the control's export format.
-    print::PrintDocument compose(const ReportContent &content, const basic::Progress &progress = {});
+    /// The document of one run.
+    print::PrintDocument compose(const ReportContent &content, const print::ExportTarget &target = {},
+                                 const basic::Progress &progress = {});
 
 private:
     print::TextStyle style(int element) const { return settings::pageStyle(vorgaben, element); }
@@ -63,12 +64,13 @@ private:
     QString now(const ReportContent &content) const;
     void addRunningTexts(print::PrintDocument &document, const ReportContent &content) const;
     void addIntroduction(print::PrintDocument &document, const ReportContent &content) const;
-    void addChart(print::PrintDocument &document, const ReportContent &content);
+    void addChart(print::PrintDocument &document, const ReportContent &content, const print::ExportTarget &target);
     void addCriteria(print::PrintDocument &document, const ReportContent &content) const;
-    void addAgeList(print::PrintDocument &document, const ReportContent &content, const basic::Progress &progress);
-    QString chartFile() const;
-    QStringList picturesBeside() const;
-    QString writePicture(const QImage &picture, const QString &file);
+    void addAgeList(print::PrintDocument &document, const ReportContent &content, const print::ExportTarget &target,
+                    const basic::Progress &progress);
+    QString chartFile(const print::ExportTarget &target) const;
+    QStringList picturesBeside(const print::ExportTarget &target) const;
+    QString writePicture(const QImage &picture, const print::ExportTarget &target);
     void showHint();
 
     ReportServices m_services;

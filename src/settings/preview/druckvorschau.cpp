@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/preview/druckvorschau.h"
 
+#include "host/hauptform.h"
 #include "language/forms/form.h"
 #include "language/forms/widgetform.h"
 #include "language/progress/progresspanel.h"
 #include "platform/desktop/lineicon.h"
-#include "settings/preview/druckanzeige.h"
 #include "settings/preview/pageview.h"
 #include "settings/preview/previewactions.h"
+#include "settings/preview/previewcommands.h"
 #include "settings/preview/searchbar.h"
 #include <new>
 #include <QAction>
@@ -16,7 +17,6 @@
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QDir>
-#include <QMetaMethod>
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QSpinBox>
@@ -41,7 +41,7 @@ Druckvorschau::Druckvorschau(const host::Host &host, language::Sprachmodul &text
                              desktop::Work &work, QWidget *parent)
     : QMainWindow(parent), m_host(host), m_texts(texts), m_control(control), m_work(work), m_view(new PageView(this)),
       m_searchBar(new SearchBar(*m_view, texts, this)), m_actions(std::make_unique<PreviewActions>(*this)),
-      m_printing(new Druckanzeige(host, work, this)), m_open(new QPushButton(this))
+      m_commands(new PreviewCommands(host, texts, control, work, *m_view, *this)), m_open(new QPushButton(this))
 {
     setObjectName(u"Druckvorschau"_s);
     language::setDesignText(this, u"20900Seitenansicht"_s);
@@ -62,7 +62,7 @@ Druckvorschau::Druckvorschau(const host::Host &host, language::Sprachmodul &text
     m_title = windowTitle();
     m_pageOf = text(20905, u"Seite %1 von %2"_s);
     m_controlTexts.load(texts);
-    m_printing->setTexts(m_controlTexts);
+    m_commands->setTexts(m_controlTexts);
     m_actions->showZoomChoices(m_controlTexts);
     connect(&control, &print::PrintControl::changed, this, &Druckvorschau::showPages);
     connect(m_view, &PageView::currentPageChanged, this, &Druckvorschau::showPlace);
@@ -99,13 +99,9 @@ void Druckvorschau::connectActions()
     command(actions.MDS, u"save"_s);
     command(actions.MDINI, u"INI"_s);
     on(actions.MDE, [this] { close(); });
-    on(actions.MHH, [this] {
-        try {
-            callMain("panelaufruf", u"Hilfe"_s);
-        } catch (const basic::Error &error) {
-            m_host.desktop().messageBox(error.message(), desktop::MessageCritical, m_title);
-        }
-    });
+    on(actions.MHH, [this] { m_host.Hauptform->panelaufruf(u"Hilfe"_s); });
+    connect(m_commands, &PreviewCommands::said, this, &Druckvorschau::say);
+    connect(m_commands, &PreviewCommands::saved, this, &Druckvorschau::saySaved);
     on(actions.first, [this] { m_view->goToPage(0); });
     on(actions.previous, [this] { m_view->goToPage(m_view->currentPage() - 1); });
     on(actions.next, [this] { m_view->goToPage(m_view->currentPage() + 1); });
@@ -163,21 +159,6 @@ void Druckvorschau::openSaved()
             desktop::MessageCritical, m_title);
 }
 
-void Druckvorschau::callMain(const char *procedure, const QString &topic)
-{
-    QObject *main = m_host.Hauptform;
-    const QByteArray signature = procedure + QByteArray(topic.isNull() ? "()" : "(QString)");
-    const int number = main == nullptr ? -1 : main->metaObject()->indexOfMethod(signature);
-    if (number < 0)
-        throw basic::Error(basic::ErrorKind::Refused, {},
-                           text(20944, u"Das Hauptfenster kennt den Befehl %1 nicht."_s, QLatin1String(procedure)));
-    const QMetaMethod method = main->metaObject()->method(number);
-    if (topic.isNull())
-        method.invoke(main, Qt::DirectConnection);
-    else
-        method.invoke(main, Qt::DirectConnection, Q_ARG(QString, topic));
-}
-
 void Druckvorschau::toolbarbuttonclick(const QString &key)
 {
     if (m_busy || m_work.isRunning())
@@ -193,7 +174,7 @@ void Druckvorschau::toolbarbuttonclick(const QString &key)
             QTimer::singleShot(0, this, &QWidget::close);
     });
     try {
-        carryOut(key);
+        m_commands->carryOut(key);
     } catch (const basic::Error &error) {
         if (error.kind() == basic::ErrorKind::Cancelled)
             say(key == u"drucker" ? text(20936, u"Der Druck wurde abgebrochen."_s)
@@ -207,21 +188,9 @@ void Druckvorschau::toolbarbuttonclick(const QString &key)
 
 void Druckvorschau::placeAll(int onTop)
 {
-    if (const auto *main = qobject_cast<QWidget *>(m_host.Hauptform.data()))
-        m_host.fensteroben(main->windowHandle(), onTop, false);
+    if (m_host.Hauptform != nullptr)
+        m_host.fensteroben(m_host.Hauptform->fenster().windowHandle(), onTop, false);
     m_host.fensteroben(windowHandle(), onTop, false);
-}
-
-void Druckvorschau::carryOut(const QString &key)
-{
-    if (key == u"INI")
-        setUpPage();
-    else if (key == u"INITVorgaben")
-        callMain("init");
-    else if (key == u"drucker")
-        print();
-    else if (key == u"save")
-        save();
 }
 
 void Druckvorschau::changeEvent(QEvent *event)
@@ -246,9 +215,10 @@ void Druckvorschau::closeEvent(QCloseEvent *event)
     }
     m_closing = false;
     m_host.fensteroben(windowHandle(), NotOnTop, false);
-    if (auto *main = qobject_cast<QWidget *>(m_host.Hauptform.data())) {
-        main->show();
-        m_host.fensteroben(main->windowHandle(), OnTop, true);
+    if (m_host.Hauptform != nullptr) {
+        QWidget &main = m_host.Hauptform->fenster();
+        main.show();
+        m_host.fensteroben(main.windowHandle(), OnTop, true);
     }
     event->accept();
 }

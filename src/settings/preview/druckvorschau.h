@@ -14,14 +14,13 @@ class QPushButton;
 
 namespace kalvenor::settings {
 
-class Druckanzeige;
 class PageView;
 class SearchBar;
+class PreviewCommands;
 struct PreviewActions;
 
 /// The print preview: the pages of the print control, and the commands to print and save them and to change how they
-/// look. The main window's procedures (auswahldrucken, initladen, initspeichern, init, panelaufruf) are called by name
-/// on host.Hauptform; one that is missing is told to the user. Closing it while work is running cancels the work first.
+/// look, for which it calls the main window (host.Hauptform). Closing it while work is running cancels the work first.
 class Druckvorschau : public QMainWindow {
     Q_OBJECT
 public:
@@ -45,20 +44,8 @@ protected:
 private:
     void connectActions();
     void makeStatusBar();
-    void carryOut(const QString &key);
-    void print();
-    void save();
-    void savePdf(const QString &file);
-    void saveByComposing(print::ExportFormat format, const QString &file);
-    void setUpPage();
-
     /// Puts the preview in its place in the stack, and the main window, which would else cover it.
     void placeAll(int onTop);
-    /// Calls a procedure of the main window; `topic` is its argument where it takes one. Throws Error(Refused) where
-    /// there is none of this name.
-    void callMain(const char *procedure, const QString &topic = {});
-    /// Throws Error(Refused) where nothing has been composed yet.
-    std::shared_ptr<const print::PageLayout> pagesAtHand() const;
     void showPages();
     void showPlace();
     void say(const QString &what);
@@ -74,7 +61,7 @@ private:
     PageView *m_view;
     SearchBar *m_searchBar;
     std::unique_ptr<PreviewActions> m_actions;
-    Druckanzeige *m_printing;
+    PreviewCommands *m_commands;
     QPushButton *m_open;
     QString m_saved;  ///< native path of the file that the button opens
     QString m_pageOf; ///< "Seite %1 von %2"

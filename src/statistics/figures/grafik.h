@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "data/datenbankmodul.h"
+#include "platform/basic/progress.h"
 #include "platform/chart/chart.h"
 #include "statistics/ages/alter.h"
 #include "statistics/options/statistik.h"

@@ -146,6 +146,12 @@ bool StatisticsPanel::grafikermitteln()
     return done;
 }
 
+bool StatisticsPanel::computeOutdated()
+{
+    return (m_controller.isListCurrent() || alterslistenausgabe()) &&
+           (m_controller.areFiguresCurrent() || grafikermitteln());
+}
+
 void StatisticsPanel::personsChanged()
 {
     m_controller.forget();

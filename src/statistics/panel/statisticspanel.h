@@ -43,6 +43,8 @@ public:
     bool alterslistenausgabe();
     bool grafikermitteln();
     bool computeAll() { return alterslistenausgabe() && grafikermitteln(); }
+    /// Those that marks, persons or controls have made outdated.
+    bool computeOutdated();
     /// Marks or persons have changed: what is shown is computed soon.
     void personsChanged();
 

@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "settings/preview/druckvorschau.h"
+#include "settings/preview/previewcommands.h"
 
+#include "host/hauptform.h"
 #include "language/forms/form.h"
 #include "platform/print/pdfwriter.h"
 #include "settings/dialog/seiteneinrichtung.h"
@@ -9,55 +10,17 @@
 #include "settings/preview/pageview.h"
 #include "settings/preview/printing.h"
 #include "settings/preview/savequestion.h"
-#include <algorithm>
-#include <QDateTime>
 #include <QDir>
-#include <QDirIterator>
-#include <QMap>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 #include <QRegularExpression>
 #include <QScopeGuard>
-#include <QStatusBar>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
-// The preview's commands: print, save, page setup.
 namespace kalvenor::settings {
 
 namespace {
-
-/// The files whose names begin as the chosen one's does, at one moment: the composition of HTML lengthens the name.
-class FilesBefore {
-public:
-    explicit FilesBefore(const QString &chosen)
-    {
-        const QFileInfo file(chosen);
-        QDirIterator files(file.absolutePath(), QDir::Files);
-        while (files.hasNext()) {
-            const QString path = files.next();
-            if (files.fileName().startsWith(file.completeBaseName(), Qt::CaseInsensitive))
-                m_states.insert(path, stateOf(path));
-        }
-    }
-    /// The file is there now and is not as it was.
-    bool wasWritten(const QString &path) const
-    {
-        const QString absolute = QFileInfo(path).absoluteFilePath();
-        return QFileInfo(absolute).isFile() && m_states.value(absolute) != stateOf(absolute);
-    }
-
-private:
-    using State = std::pair<qint64, QDateTime>;
-    static State stateOf(const QString &path)
-    {
-        const QFileInfo file(path);
-        return {file.size(), file.lastModified()};
-    }
-
-    QMap<QString, State> m_states;
-};
 
 /// Native path of a PDF file named by the report's title, where reports are saved.
 QString proposedFile(const host::Host &host, QString title)
@@ -70,14 +33,49 @@ QString proposedFile(const host::Host &host, QString title)
 
 } // namespace
 
-std::shared_ptr<const print::PageLayout> Druckvorschau::pagesAtHand() const
+PreviewCommands::PreviewCommands(const host::Host &host, language::Sprachmodul &texts, print::PrintControl &control,
+                                 desktop::Work &work, PageView &view, QWidget &window)
+    : QObject(&window), m_host(host), m_texts(texts), m_control(control), m_work(work), m_view(view), m_window(window),
+      m_printing(new Druckanzeige(host, work, &window))
+{
+}
+
+void PreviewCommands::setTexts(const ControlTexts &texts)
+{
+    m_printing->setTexts(texts);
+}
+
+void PreviewCommands::carryOut(const QString &key)
+{
+    if (key == u"INI")
+        setUpPage();
+    else if (key == u"INITVorgaben")
+        mainForm().init();
+    else if (key == u"drucker")
+        print();
+    else if (key == u"save")
+        save();
+}
+
+host::Hauptform &PreviewCommands::mainForm() const
+{
+    Q_ASSERT(m_host.Hauptform != nullptr); // which owns the preview
+    return *m_host.Hauptform;
+}
+
+QString PreviewCommands::text(qint16 id, const QString &germanText, const QString &what) const
+{
+    return language::shownText(m_texts, id, germanText).replace(u"%1"_s, what.isNull() ? u"%1"_s : what);
+}
+
+std::shared_ptr<const print::PageLayout> PreviewCommands::pagesAtHand() const
 {
     if (!m_control.hasDocument())
         throw basic::Error(basic::ErrorKind::Refused, {}, text(20940, u"Es ist noch kein Bericht zusammengestellt."_s));
     return m_control.layout();
 }
 
-void Druckvorschau::print()
+void PreviewCommands::print()
 {
     const std::shared_ptr<const print::PageLayout> layout = pagesAtHand();
     const auto pageCount = static_cast<int>(layout->pages().size());
@@ -85,7 +83,7 @@ void Druckvorschau::print()
     preparePrinter(printer, *layout, m_control.document().title);
     if (QPrinterInfo::availablePrinterNames().isEmpty()) // then the dialog begins with a file
         printer.setOutputFileName(proposedFile(m_host, m_control.document().title));
-    QPrintDialog dialog(&printer, this);
+    QPrintDialog dialog(&printer, &m_window);
     dialog.setWindowTitle(text(190, {}));
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                       QAbstractPrintDialog::PrintCurrentPage | QAbstractPrintDialog::PrintCollateCopies |
@@ -97,7 +95,7 @@ void Druckvorschau::print()
     const bool toFile = !printer.outputFileName().isEmpty();
     if (!toFile && printer.printerName().isEmpty())
         throw basic::Error(basic::ErrorKind::Refused, {}, text(20937, u"Es ist kein Drucker eingerichtet."_s));
-    const std::vector<int> pages = pagesToPrint(pageCount, printChoice(printer, m_view->currentPage()));
+    const std::vector<int> pages = pagesToPrint(pageCount, printChoice(printer, m_view.currentPage()));
     if (pages.empty())
         throw basic::Error(basic::ErrorKind::Refused, {}, text(20941, u"In diesem Bereich liegen keine Seiten."_s));
     const QPrinterInfo device(printer);
@@ -108,28 +106,22 @@ void Druckvorschau::print()
     m_work.run(text(20945, u"Die Seiten werden gedruckt ..."_s),
                [&](const basic::Progress &progress) { printPages(*layout, printer, pages, progress); });
     if (toFile)
-        saySaved(printer.outputFileName());
+        Q_EMIT saved(printer.outputFileName());
     else
-        say(text(20935, u"Gedruckt: %1 Seiten"_s, QString::number(pages.size())));
+        Q_EMIT said(text(20935, u"Gedruckt: %1 Seiten"_s, QString::number(pages.size())));
 }
 
-void Druckvorschau::save()
+void PreviewCommands::save()
 {
-    const auto normalPointer = qScopeGuard([this] { unsetCursor(); });
+    const auto normalPointer = qScopeGuard([this] { m_window.unsetCursor(); });
     QString file;
     try {
-        file = askForSaveFile(*this, m_host, text(194, {}));
+        file = askForSaveFile(m_window, m_host, text(194, {}));
     } catch (const basic::Error &) {
         return; // a dialog that fails counts as cancelled
     }
     if (file.isEmpty())
         return;
-    // Compositions to come make pages again.
-    const auto pagesAgain = qScopeGuard([this] {
-        m_control.exportFormat = print::ExportFormat::Pages;
-        m_control.exportFile.clear();
-    });
-    m_control.exportFile = m_host.windows(file);
     switch (savedAs(file)) {
     case SavedAs::Rtf:
         saveByComposing(print::ExportFormat::Rtf, file);
@@ -141,43 +133,40 @@ void Druckvorschau::save()
         saveByComposing(print::ExportFormat::Html, file);
         break;
     case SavedAs::Nothing:
-        say(text(20943, u"Nichts gespeichert, der Name muss auf .rtf, .pdf oder .html enden: %1"_s,
-                 QDir::toNativeSeparators(file)));
+        Q_EMIT said(text(20943, u"Nichts gespeichert, der Name muss auf .rtf, .pdf oder .html enden: %1"_s,
+                         QDir::toNativeSeparators(file)));
         break;
     }
 }
 
-void Druckvorschau::savePdf(const QString &file)
+void PreviewCommands::savePdf(const QString &file)
 {
     const std::shared_ptr<const print::PageLayout> layout = pagesAtHand();
     m_work.run(text(20946, u"Die PDF-Datei wird geschrieben ..."_s), [&](const basic::Progress &progress) {
         print::writePdf(*layout, m_control.document().title, file, progress);
     });
-    saySaved(file);
+    Q_EMIT saved(file);
 }
 
-void Druckvorschau::saveByComposing(print::ExportFormat format, const QString &file)
+void PreviewCommands::saveByComposing(print::ExportFormat format, const QString &file)
 {
-    const FilesBefore before(file);
-    m_control.exportFormat = format;
-    callMain("auswahldrucken");
-    const QString written = m_host.native(m_control.exportFile);
-    if (before.wasWritten(written))
-        saySaved(written);
+    const auto written = mainForm().auswahldrucken({format, m_host.windows(file)});
+    if (written)
+        Q_EMIT saved(m_host.native(*written));
     else
-        say(text(20947, u"Nicht gespeichert: %1"_s, QDir::toNativeSeparators(written)));
+        Q_EMIT said(text(20947, u"Nicht gespeichert: %1"_s, QDir::toNativeSeparators(file)));
 }
 
-void Druckvorschau::setUpPage()
+void PreviewCommands::setUpPage()
 {
-    Seiteneinrichtung dialog(m_host, m_texts, m_control.page, this);
+    Seiteneinrichtung dialog(m_host, m_texts, m_control.page, &m_window);
     if (!m_host.desktop().runDialog(dialog))
         return; // nothing changed, nothing to be composed again
     m_control.page = dialog.page();
-    callMain("initspeichern");
-    callMain("initladen");
-    m_view->refit();
-    callMain("auswahldrucken");
+    mainForm().initspeichern();
+    mainForm().initladen();
+    m_view.refit();
+    mainForm().auswahldrucken({});
 }
 
 } // namespace kalvenor::settings
