@@ -9,60 +9,61 @@
 
 using namespace kalvenor;
 
-TEST(Main, ReadsTheHostsSettingsAndShowsTheMainWindow)
-{
-    const test::Installation installation;
-    test::FakeDesktop desktop;
-    app::Program program(installation.programFolder(), desktop);
-    const host::Host &host = program.host;
-    host.inischreiben(installation.settings(), "Ansicht", "Sprache", "English");
-    host.inischreiben(installation.settings(), "Ansicht", "Kurzhilfe", " 0 nein");
-    host.inischreiben(installation.settings(), "Ansicht", "AddInonTop", "1");
+namespace {
 
+struct Start : testing::Test, test::Installation {
+    void set(const char *section, const char *key, const QString &value) const
+    {
+        program.host.inischreiben(settings(), section, key, value);
+    }
+    test::FakeDesktop desktop;
+    app::Program program{programFolder(), desktop};
+    const host::Host &host = program.host;
+};
+
+} // namespace
+
+TEST_F(Start, ReadsTheHostsSettingsAndShowsTheMainWindow)
+{
+    set("Ansicht", "Sprache", "English");
+    set("Ansicht", "Kurzhilfe", " 0 nein");
+    set("Ansicht", "AddInonTop", "1");
     test::FakeHauptform window;
     EXPECT_TRUE(program.Main([&] {
         EXPECT_TRUE(program.databases.Datentabelle->isOpen());
         EXPECT_TRUE(host.staysOnTop());
         return &window;
     }));
-    EXPECT_EQ(host.Hostverzeichnis, basic::windowsPath(installation.hostFolder()));
+    EXPECT_EQ(host.Hostverzeichnis, basic::windowsPath(hostFolder()));
     EXPECT_EQ(host.Sprache, "English");
     EXPECT_EQ(host.Kurzhilfe, 0);
     EXPECT_EQ(host.Hauptform, &window);
     EXPECT_TRUE(desktop.messages.empty());
 }
 
-TEST(Main, DefaultsHoldWhereSettingsAreMissing)
+TEST_F(Start, DefaultsHoldWhereSettingsAreMissing)
 {
-    const test::Installation installation;
-    test::FakeDesktop desktop;
-    app::Program program(installation.programFolder(), desktop);
-    const QString path = program.host.inilesen(installation.settings(), "QV-Files", "0", "");
-    ASSERT_TRUE(QFile::remove(installation.hostFolder() + "/programm.ini"));
-    program.host.inischreiben(installation.settings(), "QV-Files", "0", path);
-
+    const QString path = host.inilesen(settings(), "QV-Files", "0", "");
+    ASSERT_TRUE(QFile::remove(hostFolder() + "/programm.ini"));
+    set("QV-Files", "0", path);
     EXPECT_TRUE(program.Main(
         []() -> host::Hauptform * { throw basic::Error(basic::ErrorKind::Damaged, "window", "cannot be made"); }));
-    EXPECT_EQ(program.host.Sprache, "Deutsch");
-    EXPECT_EQ(program.host.Kurzhilfe, 1);
-    EXPECT_EQ(program.host.AddInonTop, "1");
-    EXPECT_EQ(program.host.Hauptform, nullptr);
+    EXPECT_EQ(host.Sprache, "Deutsch");
+    EXPECT_EQ(host.Kurzhilfe, 1);
+    EXPECT_EQ(host.AddInonTop, "1");
+    EXPECT_EQ(host.Hauptform, nullptr);
 }
 
-TEST(Main, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
+TEST_F(Start, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
 {
+    set("Ansicht", "AddInonTop", "1");
     for (const QString path : {"", "\\nowhere\\Familie.mdb", "Q:\\Familie.mdb"}) {
-        const test::Installation installation;
-        test::FakeDesktop desktop;
-        app::Program program(installation.programFolder(), desktop);
-        program.host.inischreiben(installation.settings(), "QV-Files", "0", path);
-        program.host.inischreiben(installation.settings(), "Ansicht", "AddInonTop", "1");
-        bool shown = false;
-        EXPECT_FALSE(program.Main([&] {
-            shown = true;
+        set("QV-Files", "0", path);
+        desktop.messages.clear();
+        EXPECT_FALSE(program.Main([&]() -> host::Hauptform * {
+            ADD_FAILURE() << path.toStdString();
             return nullptr;
-        })) << path.toStdString();
-        EXPECT_FALSE(shown);
+        }));
         ASSERT_EQ(desktop.messages.size(), 1U);
         EXPECT_EQ(desktop.messages[0].text, program.language.text(100));
         EXPECT_NE(desktop.messages[0].text, "????");
@@ -72,12 +73,9 @@ TEST(Main, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
     }
 }
 
-TEST(Main, NamesTheSettingThatDoesNotFit)
+TEST_F(Start, NamesTheSettingThatDoesNotFit)
 {
-    const test::Installation installation;
-    test::FakeDesktop desktop;
-    app::Program program(installation.programFolder(), desktop);
-    program.host.inischreiben(installation.settings(), "Ansicht", "Kurzhilfe", "40000");
+    set("Ansicht", "Kurzhilfe", "40000");
     try {
         program.Main();
         FAIL();
@@ -88,12 +86,9 @@ TEST(Main, NamesTheSettingThatDoesNotFit)
     }
 }
 
-TEST(Main, LeavesErrorsOfTheLanguageDatabaseToTheCaller)
+TEST_F(Start, LeavesErrorsOfTheLanguageDatabaseToTheCaller)
 {
-    const test::Installation installation;
-    ASSERT_TRUE(QFile::remove(installation.hostFolder() + "/ADD-IN-LANGUAGE.MDB"));
-    test::FakeDesktop desktop;
-    app::Program program(installation.programFolder(), desktop);
+    ASSERT_TRUE(QFile::remove(hostFolder() + "/ADD-IN-LANGUAGE.MDB"));
     EXPECT_THROW(program.Main(), basic::Error);
     EXPECT_TRUE(desktop.messages.empty());
 }
