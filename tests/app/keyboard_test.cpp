@@ -32,26 +32,14 @@ void tabTo(const std::string &name, const QString &typed = {})
 }
 
 /// The window with the program's own texts in one of their languages.
-struct Translated : Installation {
-    explicit Translated(const QByteArray &language) : Installation(smallFamily())
+struct Translated : OpenWindow {
+    explicit Translated(const char *language)
+        : OpenWindow(smallFamily(), [language](OpenWindow &open) {
+              demo::writeLanguageDatabase(open.hostFolder() + "/ADD-IN-LANGUAGE.MDB");
+              open.program.host.inischreiben(open.settings(), "Ansicht", "Sprache", language);
+          })
     {
-        demo::writeLanguageDatabase(hostFolder() + "/ADD-IN-LANGUAGE.MDB");
-        QFile ini(hostFolder() + "/programm.ini");
-        EXPECT_TRUE(ini.open(QIODevice::ReadWrite));
-        const QByteArray text = ini.readAll().replace("Deutsch", language); // of the same length
-        EXPECT_TRUE(ini.seek(0) && ini.write(text) == ini.size());
-        ini.close();
-        program.Main([this] {
-            window = std::make_unique<app::Auswahl>(program);
-            window->show();
-            return window.get();
-        });
-        window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     }
-    FakeDesktop desktop;
-    app::Program program{programFolder(), desktop};
-    std::unique_ptr<app::Auswahl> window;
 };
 
 } // namespace

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/start/program.h"
 
-#include "support/fakehauptform.h"
+#include "support/fakemainform.h"
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
 #include <QFile>
@@ -28,7 +28,7 @@ TEST_F(Start, ReadsTheHostsSettingsAndShowsTheMainWindow)
     set("Ansicht", "Sprache", "English");
     set("Ansicht", "Kurzhilfe", " 0 nein");
     set("Ansicht", "AddInonTop", "1");
-    test::FakeHauptform window;
+    test::FakeMainForm window;
     EXPECT_TRUE(program.Main([&] {
         EXPECT_TRUE(program.databases.Datentabelle->isOpen());
         EXPECT_TRUE(host.staysOnTop());

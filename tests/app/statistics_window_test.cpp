@@ -140,7 +140,7 @@ TEST(Statistic, SaysThatItIsOutdatedWhereItWasCancelledOrFailed)
     EXPECT_FALSE(open.isStale());
     EXPECT_EQ(open.label("Anzahl_2"), "4");
 
-    desktop::Work &work = open.controller().services().work;
+    desktop::Work &work = open.controller().work();
     const auto cancelling = QObject::connect(&work, &desktop::Work::began, &work, &desktop::Work::cancel);
     open.click<QAbstractButton>("gt_ribbon_1");
     EXPECT_TRUE(open.isStale());

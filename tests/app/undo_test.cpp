@@ -43,7 +43,7 @@ TEST(Undo, ACancelledActionLeavesListsAsTheFileIs)
         persons.push_back({.counter = i, .listname = QString("Person %1").arg(i), .marked = i % 3 == 0});
     OpenWindow open(persons);
     const Counters before = open.marked();
-    desktop::Work &work = open.controller().services().work;
+    desktop::Work &work = open.controller().work();
     QObject::connect(&work, &desktop::Work::began, &work,
                      &desktop::Work::cancel); // pressed as soon as there is something to cancel
     open.click<QToolButton>("RMA");

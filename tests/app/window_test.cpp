@@ -104,7 +104,7 @@ TEST(Window, EndsTheDatabasesAndKeepsItsPlace)
 TEST(Window, ClosingCancelsRunningWorkFirst)
 {
     OpenWindow open(smallFamily());
-    desktop::Work &work = open.controller().services().work;
+    desktop::Work &work = open.controller().work();
     bool cancelled = false;
     work.run("x", [&](const basic::Progress &progress) {
         EXPECT_FALSE(open.window->close());
@@ -120,7 +120,7 @@ TEST(Window, ClosingCancelsRunningWorkFirst)
 TEST(Window, InputWaitsWhileWorkRunsButCancelDoesNot)
 {
     OpenWindow open(smallFamily());
-    desktop::Work &work = open.controller().services().work;
+    desktop::Work &work = open.controller().work();
     open.select(PersonList::Unmarked, {1});
     auto &name = open.control<QLineEdit>("Presse");
     const auto runUntilShown = [&](desktop::Work::Input input, const std::function<void()> &meanwhile) {
@@ -158,7 +158,7 @@ TEST(Window, InputWaitsWhileWorkRunsButCancelDoesNot)
 TEST(Window, ANewerFilterTakesTheRunningOnesPlace)
 {
     OpenWindow open(smallFamily());
-    desktop::Work &work = open.controller().services().work;
+    desktop::Work &work = open.controller().work();
     bool once = true;
     QObject::connect(&work, &desktop::Work::began, &work, [&] {
         if (std::exchange(once, false))

@@ -94,7 +94,7 @@ struct BerichtTest : testing::Test {
     test::FakeDesktop desktop;
     app::Program program{basic::windowsPath(demo.programFolder), desktop};
     print::PrintControl print;
-    Bericht bericht{{program.host, program.language, program.databases, print}};
+    Bericht bericht{program, print};
     statistics::Altersliste list;
     statistics::Grafikzahlen figures;
     ReportContent content{.statistik = {.titel = "Titel | 1", .rtf = "Einleitung"},

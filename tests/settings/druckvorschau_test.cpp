@@ -7,7 +7,7 @@
 #include "settings/preview/printing.h"
 #include "settings/preview/savequestion.h"
 #include "settings/previewfixture.h"
-#include "support/fakehauptform.h"
+#include "support/fakemainform.h"
 #include <functional>
 #include <gtest/gtest.h>
 #include <QAction>
@@ -75,7 +75,7 @@ struct Preview : testing::Test, test::Texts {
     }
 
     QWidget mainWindow;
-    test::FakeHauptform main;
+    test::FakeMainForm main;
     print::PrintControl control;
     desktop::Work work{desktop};
     std::unique_ptr<Druckvorschau> window;

@@ -23,8 +23,11 @@ using selection::PersonList;
 
 /// The main window over a host installation of its own.
 struct OpenWindow : Installation {
-    explicit OpenWindow(const std::vector<TestPerson> &persons) : Installation(persons)
+    explicit OpenWindow(const std::vector<TestPerson> &persons, const std::function<void(OpenWindow &)> &prepare = {})
+        : Installation(persons)
     {
+        if (prepare)
+            prepare(*this);
         program.Main([this] {
             window = std::make_unique<app::Auswahl>(program);
             window->show();

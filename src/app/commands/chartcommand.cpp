@@ -129,7 +129,7 @@ std::string typeComplaint(const std::string &word)
 {
     bool isNumber = false;
     const int number = QString::fromStdString(word).toInt(&isNumber);
-    return isNumber && statistics::grafiktypOf(number) ? std::string()
+    return isNumber && statistics::grafiktypAus(number) ? std::string()
                                                        : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
 }
 
@@ -179,7 +179,7 @@ int ChartCommand::run(const QString &programFolder, const statistics::Geschlecht
     if (!started.ready)
         return Failed;
     Program &program = started.program;
-    const statistics::Statistik statistik{.grafiktyp = *statistics::grafiktypOf(m_type),
+    const statistics::Statistik statistik{.grafiktyp = *statistics::grafiktypAus(m_type),
                                           .legende = !m_noLegend,
                                           .geschlechtalter = sex,
                                           .nachGeburtsjahr = m_by == "birth"};

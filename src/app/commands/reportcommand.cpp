@@ -43,7 +43,7 @@ std::string typeComplaint(const std::string &word)
 {
     bool isNumber = false;
     const int number = toText(word).toInt(&isNumber);
-    return isNumber && statistics::grafiktypOf(number) ? std::string()
+    return isNumber && statistics::grafiktypAus(number) ? std::string()
                                                        : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
 }
 
@@ -85,7 +85,7 @@ void ReportCommand::apply(statistics::Statistik &statistik, const statistics::Ge
     if (given("--intro"))
         statistik.rtf = readFile(absoluteNative(m_intro));
     if (given("--type"))
-        statistik.grafiktyp = *statistics::grafiktypOf(m_type);
+        statistik.grafiktyp = *statistics::grafiktypAus(m_type);
     if (given("--by"))
         statistik.nachGeburtsjahr = m_by == "birth";
     if (given("--sex"))
@@ -104,9 +104,9 @@ int ReportCommand::run(const QString &programFolder, const statistics::Geschlech
 
     statistics::Statistik statistik{.geschlechtalter = sex};
     if (!m_template.empty()) {
-        statistik = selection::vorlageoeffnen({program.host, program.language, program.databases},
-                                              basic::windowsPath(absoluteNative(m_template)), terminal.progress())
-                        .vorlage.statistik;
+        statistik =
+            selection::vorlageoeffnen(program, basic::windowsPath(absoluteNative(m_template)), terminal.progress())
+                .vorlage.statistik;
     }
     apply(statistik, sex);
 
@@ -118,7 +118,7 @@ int ReportCommand::run(const QString &programFolder, const statistics::Geschlech
     look.emptyText = statistics::leererText(program.language, figures.zahlen);
 
     print::PrintControl print;
-    report::Bericht bericht({program.host, program.language, program.databases, print});
+    report::Bericht bericht(program, print);
     bericht.hintShown(); // it is about the window
     const QString output = absoluteNative(m_output);
     const QString ending = endingOf(m_output);

@@ -114,7 +114,7 @@ int TemplateCommands::save(const QString &programFolder) const
     if (!m_intro.empty())
         statistik.rtf = readRtf(absoluteNative(m_intro));
     if (m_save->count("--type") > 0)
-        statistik.grafiktyp = *statistics::grafiktypOf(m_type);
+        statistik.grafiktyp = *statistics::grafiktypAus(m_type);
     if (!m_sex.empty()) {
         const qint16 men = m_sex.find('m') != std::string::npos ? 1 : 0;
         const qint16 women = m_sex.find('w') != std::string::npos ? 1 : 0;
@@ -139,14 +139,14 @@ int TemplateCommands::open(const QString &programFolder) const
     if (!started.ready)
         return Failed;
     Program &program = started.program;
-    selection::VorlageServices services{program.host, program.language, program.databases};
+    selection::UseOpenDatabase useOpenDatabase;
     if (m_here)
-        services.useOpenDatabase = [](const QString &) {
+        useOpenDatabase = [](const QString &) {
             return true;
         };
     desktop::TerminalProgress terminal(u"opening the template"_s);
-    const selection::OpenedVorlage opened =
-        selection::vorlageoeffnen(services, basic::windowsPath(absoluteNative(m_file)), terminal.progress());
+    const selection::OpenedVorlage opened = selection::vorlageoeffnen(
+        program, basic::windowsPath(absoluteNative(m_file)), terminal.progress(), useOpenDatabase);
     QStringList missing;
     for (std::size_t i = 0; i < std::min(opened.missing.size(), NamedPersons); ++i)
         missing << QString::number(opened.missing[i]);

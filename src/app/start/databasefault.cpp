@@ -28,13 +28,13 @@ bool isHeldElsewhere(const QString &nativeFile)
 
 } // namespace
 
-QString databaseFault(Program &program, const basic::Error &error, const QString &familienpfad)
+QString databaseFault(data::Session &session, const basic::Error &error, const QString &familienpfad)
 {
-    const host::Host &host = program.host;
+    const host::Host &host = session.host;
     const QString &file = error.place();
     const bool isFamily = file == host.native(familienpfad);
-    const auto text = [&program](qint16 id, const char *german) {
-        return language::shownText(program.language, id, QString::fromUtf8(german));
+    const auto text = [&session](qint16 id, const char *german) {
+        return language::shownText(session.language, id, QString::fromUtf8(german));
     };
     switch (error.kind()) {
     case basic::ErrorKind::FileNotFound:

@@ -2,27 +2,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "data/datenbankmodul.h"
-#include "host/host.h"
-#include "language/events/ereignisart.h"
-#include "language/texts/sprache.h"
-#include "platform/dao/dao.h"
+#include "data/session/session.h"
 #include <functional>
 #include <QString>
 
 namespace kalvenor::app {
 
-/// Everything that lives from start to end.
-class Program {
+/// The session with its start sequence.
+class Program : public data::Session {
 public:
-    /// `programFolder`: the program's own folder, in Windows notation.
-    Program(const QString &programFolder, desktop::Desktop &desktop) : host(programFolder, desktop) {}
-
-    dao::Engine engine;
-    host::Host host;
-    language::Sprachmodul language{host, engine};
-    data::Datenbankmodul databases{host, engine};
-    language::Ereignisarten events{host, engine}; ///< empty until they are needed
+    using Session::Session;
 
     /// A family database for this run, in Windows notation, that takes the place of the one that the host names.
     QString chosenFamily;

@@ -40,15 +40,13 @@ const QString PanelsKey = u"Teiler"_s;
 
 } // namespace
 
-Auswahl::Auswahl(Program &program, QWidget *parent)
-    : QMainWindow(parent), m_program(program), m_work(program.host.desktop()),
-      m_controller({program.host, program.language, program.databases, m_work}),
-      m_statistics({program.host, program.language, program.databases, m_work}),
-      m_selection(new selection::SelectionPanel(m_controller, this)),
+Auswahl::Auswahl(data::Session &session, QWidget *parent)
+    : QMainWindow(parent), m_session(session), m_work(session.host.desktop()), m_controller(session, m_work),
+      m_statistics(session, m_work), m_selection(new selection::SelectionPanel(m_controller, this)),
       m_statisticsPanel(new statistics::StatisticsPanel(m_statistics, this)),
-      m_templates({program, m_work, m_controller, m_statistics, *m_statisticsPanel}, this),
-      m_family({program, m_work, m_controller, m_statistics, m_templates}, this),
-      m_report({program, m_work, m_controller, *m_selection, m_statistics, *m_statisticsPanel}),
+      m_templates(session, m_work, m_controller, *m_statisticsPanel, this),
+      m_family(session, m_work, m_templates, this),
+      m_report(session, m_work, m_controller, *m_selection, m_statistics, *m_statisticsPanel),
       m_splitter(new QSplitter(this)), m_actions(std::make_unique<MainActions>(*this)), m_panels(*statusBar(), m_work)
 {
     setObjectName(u"Auswahl"_s);
@@ -62,28 +60,28 @@ Auswahl::Auswahl(Program &program, QWidget *parent)
     m_splitter->setStretchFactor(1, 1);
     setCentralWidget(m_splitter);
     connectActions();
-    language::formuebersetzen(*this, program.language, program.host);
+    language::formuebersetzen(*this, session.language, session.host);
     unsetCursor();
     updateTitle();
-    m_panels.update(program, m_controller);
+    m_panels.update(session, m_controller);
 
     m_controller.reloadLists();
     m_selection->listPanel(PersonList::Unmarked).view().setFocus();
     resize(1240, 720);
-    restoreWindow(*this, program.host);
-    restoreSplitter(m_selection->listSplitter(), ListsKey, program.host);
-    restoreSplitter(*m_splitter, PanelsKey, program.host);
+    restoreWindow(*this, session.host);
+    restoreSplitter(m_selection->listSplitter(), ListsKey, session.host);
+    restoreSplitter(*m_splitter, PanelsKey, session.host);
 }
 
 Auswahl::~Auswahl()
 {
-    if (m_program.host.Hauptform == this)
-        m_program.host.Hauptform = nullptr;
+    if (m_session.host.Hauptform == this)
+        m_session.host.Hauptform = nullptr;
 }
 
 QString Auswahl::text(qint16 id, const QString &germanText)
 {
-    return language::shownText(m_program.language, id, germanText);
+    return language::shownText(m_session.language, id, germanText);
 }
 
 void Auswahl::connectActions()
@@ -157,8 +155,8 @@ void Auswahl::connectStatistic()
     on(actions.settings, [this] { m_report.init(); });
     on(actions.manual, [this] { panelaufruf(u"Hilfe"_s); });
     on(actions.about, [this] {
-        language::Infoform form(m_program.host, m_program.language, m_program.events, this);
-        m_program.host.desktop().runDialog(form);
+        language::Infoform form(m_session.host, m_session.language, m_session.events, this);
+        m_session.host.desktop().runDialog(form);
     });
     connect(actions.recent, &QMenu::aboutToShow, this, &Auswahl::fillRecent);
 
@@ -172,7 +170,6 @@ void Auswahl::connectStatistic()
     connect(&m_report, &ReportDesk::said, this, saySome);
     connect(&m_templates, &TemplateDesk::said, this, saySome);
     connect(&m_templates, &TemplateDesk::currentChanged, this, &Auswahl::updateTitle);
-    connect(&m_templates, &TemplateDesk::reopened, &m_report, &ReportDesk::forget);
     connect(&m_family, &FamilyDesk::said, this, saySome);
 }
 
@@ -208,7 +205,7 @@ void Auswahl::fillRecent()
 void Auswahl::panelaufruf(const QString &thema)
 {
     if (!m_help)
-        m_help = std::make_unique<HelpWindow>(m_program.language, m_program.host);
+        m_help = std::make_unique<HelpWindow>(m_session.language, m_session.host);
     m_help->showTopic(thema);
 }
 
@@ -247,7 +244,7 @@ void Auswahl::dropEvent(QDropEvent *event)
 
 void Auswahl::showMarkedPerson(qint32 counter)
 {
-    dao::Recordset &persons = *m_program.databases.Datentabelle;
+    dao::Recordset &persons = *m_session.databases.Datentabelle;
     try {
         persons.seekEqual(counter);
         // The statistic may have seen what another program changed before the lists did.
@@ -262,7 +259,7 @@ void Auswahl::showMarkedPerson(qint32 counter)
         view.selectTableRows({static_cast<quint32>(persons.position())});
         view.setFocus();
     } catch (const basic::Error &error) {
-        m_program.host.desktop().messageBox(error.message(), desktop::MessageCritical, text(21020, u"Fehler"_s));
+        m_session.host.desktop().messageBox(error.message(), desktop::MessageCritical, text(21020, u"Fehler"_s));
     }
 }
 
@@ -283,7 +280,7 @@ void Auswahl::updateState()
     actions.unmark->setEnabled(m_selection->hasSelection(PersonList::Marked));
     actions.markAll->setEnabled(count(PersonList::Unmarked) > 0);
     actions.unmarkAll->setEnabled(count(PersonList::Marked) > 0);
-    m_panels.update(m_program, m_controller);
+    m_panels.update(m_session, m_controller);
 }
 
 void Auswahl::showShortcuts()
@@ -303,15 +300,15 @@ void Auswahl::showShortcuts()
                                                       .toHtmlEscaped()),
         QMessageBox::Ok, this);
     box.setTextFormat(Qt::RichText);
-    m_program.host.desktop().runDialog(box);
+    m_session.host.desktop().runDialog(box);
 }
 
 void Auswahl::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
-    if (!m_shown && m_program.host.staysOnTop()) {
+    if (!m_shown && m_session.host.staysOnTop()) {
         m_shown = true;
-        m_program.host.fensteroben(windowHandle(), -1, true);
+        m_session.host.fensteroben(windowHandle(), -1, true);
     }
 }
 
@@ -340,13 +337,12 @@ void Auswahl::closeEvent(QCloseEvent *event)
     if (!m_closed) {
         m_closed = true;
         m_help.reset();
-        saveWindow(*this, {{m_selection->listSplitter(), ListsKey}, {*m_splitter, PanelsKey}}, m_program.host);
-        statistics::writeOptions(m_program.host, m_statisticsPanel->options());
-        m_controller.release();
+        saveWindow(*this, {{m_selection->listSplitter(), ListsKey}, {*m_splitter, PanelsKey}}, m_session.host);
+        statistics::writeOptions(m_session.host, m_statisticsPanel->options());
         try {
-            m_program.language.datenbankenschliessen({});
+            m_session.close();
         } catch (const basic::Error &error) {
-            m_program.host.desktop().runtimeError(error);
+            m_session.host.desktop().runtimeError(error);
         }
     }
     event->accept();

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/start/program.h"
 #include "app/window/familydesk.h"
 #include "app/window/reportdesk.h"
 #include "app/window/statuspanels.h"
@@ -33,7 +32,7 @@ class Auswahl : public QMainWindow, public host::Hauptform {
     Q_OBJECT
 public:
     /// Loads the lists. Errors are shown, the window is there in any case.
-    explicit Auswahl(Program &program, QWidget *parent = nullptr);
+    explicit Auswahl(data::Session &session, QWidget *parent = nullptr);
     ~Auswahl() override;
 
     selection::SelectionController &controller() { return m_controller; }
@@ -72,7 +71,7 @@ private:
     void updateTitle();
     QString text(qint16 id, const QString &germanText);
 
-    Program &m_program;
+    data::Session &m_session;
     desktop::Work m_work;
     selection::SelectionController m_controller;
     statistics::StatisticsController m_statistics;

@@ -5,8 +5,7 @@
 #include "app/start/databasefault.h"
 #include "app/window/templatedesk.h"
 #include "language/forms/form.h"
-#include "selection/templates/databaseswitch.h"
-#include <new>
+#include "language/progress/userwork.h"
 #include <QFileInfo>
 #include <QWidget>
 
@@ -14,20 +13,21 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
 
-FamilyDesk::FamilyDesk(const Parts &parts, QObject *parent) : QObject(parent), m_parts(parts)
+FamilyDesk::FamilyDesk(data::Session &session, desktop::Work &work, TemplateDesk &templates, QObject *parent)
+    : QObject(parent), m_session(session), m_work(work), m_templates(templates)
 {
 }
 
 QString FamilyDesk::text(qint16 id, const QString &germanText) const
 {
-    return language::shownText(m_parts.program.language, id, germanText);
+    return language::shownText(m_session.language, id, germanText);
 }
 
 void FamilyDesk::choose()
 {
-    if (!m_parts.templates.mayDiscard())
+    if (!m_templates.mayDiscard())
         return;
-    const host::Host &host = m_parts.program.host;
+    const host::Host &host = m_session.host;
     const QString file = host.desktop().openFileName(
         qobject_cast<QWidget *>(parent()), {.title = text(21214, u"Familiendatenbank öffnen"_s),
                                             .folder = QFileInfo(host.native(host.Familienpfad)).absolutePath(),
@@ -36,44 +36,23 @@ void FamilyDesk::choose()
         openFile(file);
 }
 
-void FamilyDesk::goOver(const QString &familienpfad)
-{
-    selection::DatabaseSwitch databaseSwitch(m_parts.templates.databaseServices());
-    try {
-        databaseSwitch.goOver(familienpfad);
-    } catch (const basic::Error &error) {
-        databaseSwitch.goBack(error);
-    } catch (const std::bad_alloc &) {
-        databaseSwitch.goBack(basic::Error(basic::ErrorKind::Overflow, {}, u"There is not enough memory for this."_s));
-    }
-}
-
 bool FamilyDesk::openFile(const QString &nativeFile)
 {
-    Program &program = m_parts.program;
-    const QString familienpfad = program.host.windows(nativeFile);
-    QString failure;
-    bool done = false;
-    try {
-        if (!m_parts.work.run(text(20346, u"Die Datenbank wird gelesen ..."_s), [&](const basic::Progress &) {
-                goOver(familienpfad);
-                done = true;
-            }))
-            return false;
-    } catch (const basic::Error &error) {
-        const QString plain = databaseFault(program, error, familienpfad);
-        failure = plain == error.message() ? plain : plain + u"\n\n"_s + error.message();
-    }
-    m_parts.lists.afterOpening(done, {}, true);
-    m_parts.statistics.forget();
-    if (done) {
-        m_parts.templates.startAfresh();
-        Q_EMIT said(text(20313, u"Geöffnet: %1"_s).arg(nativeFile));
-    } else {
-        program.host.desktop().messageBox(failure, desktop::MessageCritical,
-                                          text(21214, u"Familiendatenbank öffnen"_s));
-    }
-    return done;
+    const QString familienpfad = m_session.host.windows(nativeFile);
+    const auto inPlainWords = [&](const basic::Error &error) {
+        const QString plain = databaseFault(m_session, error, familienpfad);
+        return plain == error.message() ? plain : plain + u"\n\n"_s + error.message();
+    };
+    if (!language::runAndTell(m_work, m_session.host, m_session.language,
+                              text(20346, u"Die Datenbank wird gelesen ..."_s),
+                              [&](const basic::Progress &) { m_session.exchangeDatabase(familienpfad); },
+                              {.said = [this](const QString &end) { Q_EMIT said(end); },
+                               .inPlainWords = inPlainWords,
+                               .title = text(21214, u"Familiendatenbank öffnen"_s)}))
+        return false;
+    m_templates.startAfresh();
+    Q_EMIT said(text(20313, u"Geöffnet: %1"_s).arg(nativeFile));
+    return true;
 }
 
 } // namespace kalvenor::app

@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/start/program.h"
+#include "data/session/session.h"
 #include "platform/desktop/work.h"
-#include "selection/panel/selectioncontroller.h"
-#include "statistics/panel/statisticscontroller.h"
 #include <QObject>
 
 namespace kalvenor::app {
@@ -17,14 +15,7 @@ class TemplateDesk;
 class FamilyDesk : public QObject {
     Q_OBJECT
 public:
-    struct Parts {
-        Program &program;
-        desktop::Work &work;
-        selection::SelectionController &lists;
-        statistics::StatisticsController &statistics;
-        TemplateDesk &templates;
-    };
-    explicit FamilyDesk(const Parts &parts, QObject *parent = nullptr);
+    FamilyDesk(data::Session &session, desktop::Work &work, TemplateDesk &templates, QObject *parent);
 
     /// Asks for what is not saved and for the file.
     void choose();
@@ -35,9 +26,10 @@ Q_SIGNALS:
 
 private:
     QString text(qint16 id, const QString &germanText) const;
-    void goOver(const QString &familienpfad);
 
-    Parts m_parts;
+    data::Session &m_session;
+    desktop::Work &m_work;
+    TemplateDesk &m_templates;
 };
 
 } // namespace kalvenor::app

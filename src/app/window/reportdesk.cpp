@@ -25,47 +25,48 @@ constexpr QSize DefaultShape(160, 100);
 
 } // namespace
 
-ReportDesk::ReportDesk(const Parts &parts, QObject *parent)
-    : QObject(parent), m_parts(parts),
-      m_bericht({parts.program.host, parts.program.language, parts.program.databases, m_print})
+ReportDesk::ReportDesk(data::Session &session, desktop::Work &work, selection::SelectionController &lists,
+                       selection::SelectionPanel &selection, statistics::StatisticsController &statistics,
+                       statistics::StatisticsPanel &panel)
+    : m_session(session), m_work(work), m_lists(lists), m_selection(selection), m_statistics(statistics),
+      m_panel(panel), m_bericht(session, m_print)
 {
+    connect(&session, &data::Session::databaseExchanged, this, &ReportDesk::forget);
 }
 
 ReportDesk::~ReportDesk() = default;
 
 QString ReportDesk::text(qint16 id, const QString &germanText) const
 {
-    return language::shownText(m_parts.program.language, id, germanText);
+    return language::shownText(m_session.language, id, germanText);
 }
 
 report::ReportContent ReportDesk::content() const
 {
-    statistics::StatisticsPanel &panel = m_parts.panel;
-    const chart::ChartControl &chart = panel.chartPanel().chart();
+    const chart::ChartControl &chart = m_panel.chartPanel().chart();
     const QSize least = chart.minimumSizeHint();
     const bool laidOut = chart.width() >= least.width() && chart.height() >= least.height();
     const auto filtered = [this](selection::PersonList list) {
-        return m_parts.lists.isFiltered(list);
+        return m_lists.isFiltered(list);
     };
     return {
-        .statistik = panel.statistik(),
-        .list = m_parts.statistics.list(),
-        .figures = m_parts.statistics.figures(),
+        .statistik = m_panel.statistik(),
+        .list = m_statistics.list(),
+        .figures = m_statistics.figures(),
         .look = chart.look(),
         .chartShape = laidOut ? chart.size() : DefaultShape,
-        .criteria = {.filter = m_parts.selection.filterPanel().filter(),
+        .criteria = {.filter = m_selection.filterPanel().filter(),
                      .filtered = filtered(selection::PersonList::Unmarked) || filtered(selection::PersonList::Marked),
-                     .relatives = m_parts.selection.relatives()}};
+                     .relatives = m_selection.relatives()}};
 }
 
 std::optional<QString> ReportDesk::auswahldrucken(const print::ExportTarget &target)
 {
-    if (m_parts.work.isRunning() || !m_parts.panel.computeOutdated())
+    if (m_work.isRunning() || !m_panel.computeOutdated())
         return std::nullopt;
-    Program &program = m_parts.program;
     QString written;
     const bool done = language::runAndTell(
-        m_parts.work, program.host, program.language, text(20349, u"Die Seiten werden zusammengestellt ..."_s),
+        m_work, m_session.host, m_session.language, text(20349, u"Die Seiten werden zusammengestellt ..."_s),
         [&](const basic::Progress &progress) { written = m_bericht.auswahldrucken(content(), target, progress); },
         {.said = [this](const QString &end) { Q_EMIT said(end); },
          .inPlainWords =
@@ -82,8 +83,7 @@ std::optional<QString> ReportDesk::auswahldrucken(const print::ExportTarget &tar
 void ReportDesk::showPreview()
 {
     if (m_preview == nullptr)
-        m_preview = std::make_unique<settings::Druckvorschau>(m_parts.program.host, m_parts.program.language, m_print,
-                                                              m_parts.work);
+        m_preview = std::make_unique<settings::Druckvorschau>(m_session.host, m_session.language, m_print, m_work);
     m_preview->show();
     m_preview->raise();
     m_preview->activateWindow();
@@ -93,20 +93,19 @@ bool ReportDesk::initspeichern()
 {
     const bool done = m_bericht.initspeichern();
     if (!done)
-        m_parts.program.host.desktop().messageBox(
-            text(20874, u"Die Einstellungen konnten nicht gespeichert werden: %1"_s)
-                .arg(m_parts.program.host.native(m_parts.program.host.ownSettingsFile())),
-            desktop::MessageCritical, text(21020, u"Fehler"_s));
+        m_session.host.desktop().messageBox(text(20874, u"Die Einstellungen konnten nicht gespeichert werden: %1"_s)
+                                                .arg(m_session.host.native(m_session.host.ownSettingsFile())),
+                                            desktop::MessageCritical, text(21020, u"Fehler"_s));
     return done;
 }
 
 bool ReportDesk::init()
 {
-    settings::Initform form(m_parts.program.host, m_parts.program.language, m_bericht.vorgaben, m_print.page,
+    settings::Initform form(m_session.host, m_session.language, m_bericht.vorgaben, m_print.page,
                             QApplication::activeWindow());
-    if (!m_parts.program.host.desktop().runDialog(form))
+    if (!m_session.host.desktop().runDialog(form))
         return false;
-    m_parts.panel.chartPanel().updateLook(); // the font factor may have changed
+    m_panel.chartPanel().updateLook(); // the font factor may have changed
     if (m_preview != nullptr && m_preview->isVisible())
         auswahldrucken({});
     return true;
@@ -114,7 +113,7 @@ bool ReportDesk::init()
 
 void ReportDesk::show(const QString &previewCommand)
 {
-    if (!m_parts.work.isRunning() && m_parts.panel.computeAll() && auswahldrucken({}))
+    if (!m_work.isRunning() && m_panel.computeAll() && auswahldrucken({}))
         m_preview->toolbarbuttonclick(previewCommand);
 }
 
@@ -123,10 +122,11 @@ bool ReportDesk::closePreview()
     return m_preview == nullptr || m_preview->isHidden() || m_preview->close();
 }
 
+/// The persons are others: the preview closes once the running work has ended.
 void ReportDesk::forget()
 {
-    if (m_parts.work.isRunning())
-        connect(&m_parts.work, &desktop::Work::ended, this, &ReportDesk::closePreview, Qt::SingleShotConnection);
+    if (m_work.isRunning())
+        connect(&m_work, &desktop::Work::ended, this, &ReportDesk::closePreview, Qt::SingleShotConnection);
     else
         closePreview();
 }

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/start/program.h"
 #include "platform/desktop/work.h"
 #include "platform/print/printcontrol.h"
 #include "report/composition/bericht.h"
@@ -28,15 +27,9 @@ namespace kalvenor::app {
 class ReportDesk : public QObject {
     Q_OBJECT
 public:
-    struct Parts {
-        Program &program;
-        desktop::Work &work;
-        selection::SelectionController &lists;
-        selection::SelectionPanel &selection;
-        statistics::StatisticsController &statistics;
-        statistics::StatisticsPanel &panel;
-    };
-    explicit ReportDesk(const Parts &parts, QObject *parent = nullptr);
+    ReportDesk(data::Session &session, desktop::Work &work, selection::SelectionController &lists,
+               selection::SelectionPanel &selection, statistics::StatisticsController &statistics,
+               statistics::StatisticsPanel &panel);
     ~ReportDesk() override;
 
     /// Computes list and chart again, composes the report and shows its pages in the preview, which comes to the front
@@ -51,8 +44,6 @@ public:
     settings::Druckvorschau *preview() const { return m_preview.get(); }
     /// False where the preview is busy; it closes as soon as it is not.
     bool closePreview();
-    /// The persons are others: the preview closes once the running work has ended.
-    void forget();
 
 Q_SIGNALS:
     void said(const QString &text);
@@ -61,8 +52,14 @@ private:
     QString text(qint16 id, const QString &germanText) const;
     report::ReportContent content() const;
     void showPreview();
+    void forget();
 
-    Parts m_parts;
+    data::Session &m_session;
+    desktop::Work &m_work;
+    selection::SelectionController &m_lists;
+    selection::SelectionPanel &m_selection;
+    statistics::StatisticsController &m_statistics;
+    statistics::StatisticsPanel &m_panel;
     print::PrintControl m_print;
     report::Bericht m_bericht;
     std::unique_ptr<settings::Druckvorschau> m_preview; ///< from the first report on

@@ -58,13 +58,13 @@ void StatusPanels::makeRoom(const QString &message)
     m_bar.setToolTip(message);
 }
 
-void StatusPanels::update(Program &program, selection::SelectionController &lists)
+void StatusPanels::update(data::Session &session, selection::SelectionController &lists)
 {
     using selection::PersonList;
-    const auto text = [&program](qint16 id, const char *german) {
-        return language::shownText(program.language, id, QString::fromUtf8(german));
+    const auto text = [&session](qint16 id, const char *german) {
+        return language::shownText(session.language, id, QString::fromUtf8(german));
     };
-    const dao::Database &family = *program.databases.Familiendatenbank;
+    const dao::Database &family = *session.databases.Familiendatenbank;
     if (!family.isOpen())
         return; // while another one is being opened
     m_database->setText(QFileInfo(family.file()).fileName());

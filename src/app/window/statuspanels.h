@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/start/program.h"
+#include "data/session/session.h"
 #include "selection/panel/selectioncontroller.h"
 
 class QLabel;
@@ -17,7 +17,7 @@ public:
     StatusPanels(QStatusBar &bar, desktop::Work &work);
 
     /// Everything anew.
-    void update(Program &program, selection::SelectionController &lists);
+    void update(data::Session &session, selection::SelectionController &lists);
 
 private:
     QLabel *makePanel(const char *name, const char *tooltip);

@@ -39,37 +39,37 @@ QString inPlainWords(language::Sprachmodul &texts, const basic::Error &error)
 
 } // namespace
 
-TemplateDesk::TemplateDesk(const Parts &parts, QObject *parent)
-    : QObject(parent), m_parts(parts), m_saved(parts.panel.statistik())
+TemplateDesk::TemplateDesk(data::Session &session, desktop::Work &work, selection::SelectionController &lists,
+                           statistics::StatisticsPanel &panel, QObject *parent)
+    : QObject(parent), m_session(session), m_work(work), m_lists(lists), m_panel(panel), m_saved(panel.statistik())
 {
 }
 
 QString TemplateDesk::text(qint16 id, const QString &germanText) const
 {
-    return language::shownText(m_parts.program.language, id, germanText);
+    return language::shownText(m_session.language, id, germanText);
 }
 
 /// False where the task was not begun, failed or was cancelled; it was told.
 bool TemplateDesk::perform(const QString &what, const desktop::Work::Task &task)
 {
-    Program &program = m_parts.program;
-    return language::runAndTell(m_parts.work, program.host, program.language, what, task,
+    return language::runAndTell(m_work, m_session.host, m_session.language, what, task,
                                 {.said = [this](const QString &end) { Q_EMIT said(end); },
                                  .inPlainWords =
-                                     [&program](const basic::Error &error) {
-                                         return inPlainWords(program.language, error);
+                                     [this](const basic::Error &error) {
+                                         return inPlainWords(m_session.language, error);
                                      }});
 }
 
 void TemplateDesk::show(const statistics::Statistik &statistik)
 {
-    m_parts.panel.setStatistik(statistik);
-    m_saved = m_parts.panel.statistik();
+    m_panel.setStatistik(statistik);
+    m_saved = m_panel.statistik();
 }
 
 bool TemplateDesk::isModified() const
 {
-    const statistics::Statistik now = m_parts.panel.statistik();
+    const statistics::Statistik now = m_panel.statistik();
     return now.titel != m_saved.titel || now.rtf != m_saved.rtf;
 }
 
@@ -77,7 +77,7 @@ bool TemplateDesk::mayDiscard()
 {
     if (!isModified())
         return true;
-    switch (m_parts.program.host.desktop().messageBox(
+    switch (m_session.host.desktop().messageBox(
         text(21407, u"Titel oder Einleitung wurden geändert. Soll die Vorlage gespeichert werden?"_s),
         desktop::ButtonsYesNoCancel + desktop::MessageQuestion, text(21023, u"Frage"_s))) {
     case desktop::ResultYes:
@@ -93,29 +93,15 @@ bool TemplateDesk::mayDiscard()
 
 QString TemplateDesk::folder() const
 {
-    return m_current.isEmpty() ? m_parts.program.host.native(m_parts.program.host.programFolder())
+    return m_current.isEmpty() ? m_session.host.native(m_session.host.programFolder())
                                : QFileInfo(m_current).absolutePath();
-}
-
-selection::DatabaseServices TemplateDesk::databaseServices()
-{
-    Program &program = m_parts.program;
-    return {.host = program.host,
-            .language = program.language,
-            .databases = program.databases,
-            .closing = [this] { m_parts.lists.release(); },
-            .opened =
-                [this, &program] {
-                    program.events.ereignis_art_laden();
-                    Q_EMIT reopened();
-                }};
 }
 
 void TemplateDesk::open()
 {
     if (!mayDiscard())
         return;
-    const QString file = m_parts.program.host.desktop().openFileName(
+    const QString file = m_session.host.desktop().openFileName(
         qobject_cast<QWidget *>(parent()),
         {.title = text(21400, u"Vorlage öffnen"_s), .folder = folder(), .filters = text(21402, u"Vorlagen (*.kvl)"_s)});
     if (!file.isEmpty())
@@ -124,42 +110,42 @@ void TemplateDesk::open()
 
 bool TemplateDesk::openFile(const QString &nativeFile)
 {
-    if (m_parts.work.isRunning()) // a file dropped meanwhile
+    if (m_work.isRunning()) // a file dropped meanwhile
         return false;
-    Program &program = m_parts.program;
     selection::OpenedVorlage opened;
-    const selection::VorlageServices services{
-        .database = databaseServices(), .useOpenDatabase = [this, &program](const QString &database) {
-            const QString question =
-                text(21404, u"Die Vorlage gehört zu einer Datenbank, die nicht vorhanden ist: %1"_s).arg(database);
-            return program.host.desktop().messageBox(question + u"\n\n"_s +
-                                                         text(21405, u"Mit der geöffneten Datenbank öffnen"_s) + u'?',
-                                                     desktop::ButtonsOkCancel + desktop::MessageQuestion,
-                                                     text(21400, u"Vorlage öffnen"_s)) == desktop::ResultOk;
-        }};
+    const selection::UseOpenDatabase useOpenDatabase = [this](const QString &database) {
+        const QString question =
+            text(21404, u"Die Vorlage gehört zu einer Datenbank, die nicht vorhanden ist: %1"_s).arg(database);
+        return m_session.host.desktop().messageBox(question + u"\n\n"_s +
+                                                       text(21405, u"Mit der geöffneten Datenbank öffnen"_s) + u'?',
+                                                   desktop::ButtonsOkCancel + desktop::MessageQuestion,
+                                                   text(21400, u"Vorlage öffnen"_s)) == desktop::ResultOk;
+    };
     const bool done = perform(text(21409, u"Die Vorlage wird geöffnet ..."_s), [&](const basic::Progress &progress) {
-        opened = selection::vorlageoeffnen(services, basic::windowsPath(nativeFile), progress);
+        opened = selection::vorlageoeffnen(m_session, basic::windowsPath(nativeFile), progress, useOpenDatabase);
     });
-    m_parts.lists.afterOpening(done, opened.changes, opened.otherDatabase);
-    m_parts.statistics.forget();
-    if (!done)
+    if (!done) {
+        m_lists.reloadLists(); // marks that could not be put back
         return false;
+    }
+    if (!opened.otherDatabase)
+        m_lists.showTemplate(opened.changes);
     show(opened.vorlage.statistik);
     setCurrent(nativeFile);
     remember(nativeFile);
-    m_parts.panel.computeAll();
+    m_panel.computeAll();
     Q_EMIT said(text(20313, u"Geöffnet: %1"_s).arg(nativeFile));
     if (!opened.missing.empty())
-        program.host.desktop().messageBox(
+        m_session.host.desktop().messageBox(
             text(21406, u"%1 Personen der Vorlage sind nicht in der Datenbank."_s)
-                .arg(language::anzeigesprache(program.host).toString(static_cast<qlonglong>(opened.missing.size()))),
+                .arg(language::anzeigesprache(m_session.host).toString(static_cast<qlonglong>(opened.missing.size()))),
             0, text(21400, u"Vorlage öffnen"_s));
     return true;
 }
 
 void TemplateDesk::openDefault()
 {
-    const host::Host &host = m_parts.program.host;
+    const host::Host &host = m_session.host;
     const QString file = host.programFolder() + DefaultTemplate;
     if (!host.dir(file).isEmpty())
         openFile(host.native(file));
@@ -174,7 +160,7 @@ bool TemplateDesk::save()
 
 bool TemplateDesk::saveAs()
 {
-    const QString file = m_parts.program.host.desktop().saveFileName(
+    const QString file = m_session.host.desktop().saveFileName(
         qobject_cast<QWidget *>(parent()),
         {.title = text(21401, u"Vorlage speichern unter"_s),
          .folder = folder(),
@@ -186,10 +172,10 @@ bool TemplateDesk::saveAs()
 
 bool TemplateDesk::write(const QString &nativeFile)
 {
-    const Program &program = m_parts.program;
-    const statistics::Statistik now = m_parts.panel.statistik();
+    const statistics::Statistik now = m_panel.statistik();
     if (!perform(text(20340, u"Bitte warten ..."_s), [&](const basic::Progress &progress) {
-            selection::vorlagespeichern(program.host, program.databases, basic::windowsPath(nativeFile), now, progress);
+            selection::vorlagespeichern(m_session.host, m_session.databases, basic::windowsPath(nativeFile), now,
+                                        progress);
         }))
         return false;
     m_saved = now;
@@ -202,12 +188,12 @@ bool TemplateDesk::write(const QString &nativeFile)
 void TemplateDesk::reset()
 {
     if (mayDiscard())
-        clearTo(selection::vorlageclear(m_parts.program.host));
+        clearTo(selection::vorlageclear(m_session.host));
 }
 
 void TemplateDesk::startAfresh()
 {
-    statistics::Statistik now = m_parts.panel.statistik();
+    statistics::Statistik now = m_panel.statistik();
     now.titel.clear();
     now.rtf.clear();
     clearTo(now);
@@ -217,7 +203,7 @@ void TemplateDesk::clearTo(const statistics::Statistik &statistik)
 {
     show(statistik);
     setCurrent({});
-    m_parts.panel.personsChanged();
+    m_panel.personsChanged();
 }
 
 // Current and recent templates
@@ -230,7 +216,7 @@ void TemplateDesk::setCurrent(const QString &nativeFile)
 
 QStringList TemplateDesk::recent() const
 {
-    const host::Host &host = m_parts.program.host;
+    const host::Host &host = m_session.host;
     QStringList files;
     for (qsizetype i = 1; i <= RecentTemplates; ++i) {
         const QString file = host.inilesen(host.ownSettingsFile(), RecentSection, QString::number(i), {});
@@ -242,7 +228,7 @@ QStringList TemplateDesk::recent() const
 
 void TemplateDesk::remember(const QString &nativeFile)
 {
-    const host::Host &host = m_parts.program.host;
+    const host::Host &host = m_session.host;
     QStringList files = recent();
     files.removeAll(nativeFile);
     if (basic::windowsPath(nativeFile).size() <= LongestEntry)

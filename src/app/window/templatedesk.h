@@ -2,10 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "app/start/program.h"
 #include "platform/desktop/work.h"
 #include "selection/panel/selectioncontroller.h"
-#include "selection/templates/databaseswitch.h"
 #include "statistics/panel/statisticspanel.h"
 #include <QObject>
 
@@ -16,14 +14,8 @@ namespace kalvenor::app {
 class TemplateDesk : public QObject {
     Q_OBJECT
 public:
-    struct Parts {
-        Program &program;
-        desktop::Work &work;
-        selection::SelectionController &lists;
-        statistics::StatisticsController &statistics;
-        statistics::StatisticsPanel &panel;
-    };
-    explicit TemplateDesk(const Parts &parts, QObject *parent = nullptr);
+    TemplateDesk(data::Session &session, desktop::Work &work, selection::SelectionController &lists,
+                 statistics::StatisticsPanel &panel, QObject *parent);
 
     /// Native path; empty where the statistic belongs to no template.
     const QString &current() const { return m_current; }
@@ -32,12 +24,9 @@ public:
     /// Title or introduction are not as they were saved, opened or cleared.
     bool isModified() const;
     /// There is a template, or something else than was saved, opened or cleared.
-    bool canReset() const { return !m_current.isEmpty() || m_parts.panel.statistik() != m_saved; }
+    bool canReset() const { return !m_current.isEmpty() || m_panel.statistik() != m_saved; }
     /// Lets the user save what is not saved. False where they want to go back.
     bool mayDiscard();
-
-    /// What changing the family database works with: lists let go of it, the event kinds are loaded again.
-    selection::DatabaseServices databaseServices();
 
     void open();
     bool openFile(const QString &nativeFile);
@@ -53,8 +42,6 @@ public:
 Q_SIGNALS:
     /// Another template is current, or none.
     void currentChanged();
-    /// Databases were closed and opened again, for a template or through databaseServices().
-    void reopened();
     void said(const QString &text);
 
 private:
@@ -67,7 +54,10 @@ private:
     void remember(const QString &nativeFile);
     QString folder() const;
 
-    Parts m_parts;
+    data::Session &m_session;
+    desktop::Work &m_work;
+    selection::SelectionController &m_lists;
+    statistics::StatisticsPanel &m_panel;
     QString m_current;
     statistics::Statistik m_saved;
 };

@@ -14,7 +14,8 @@ bool runAndTell(desktop::Work &work, const host::Host &host, Sprachmodul &texts,
 {
     const auto tell = [&](const basic::Error &error) {
         host.desktop().messageBox(told.inPlainWords ? told.inPlainWords(error) : error.message(),
-                                  desktop::MessageCritical, shownText(texts, 21020, u"Fehler"_s));
+                                  desktop::MessageCritical,
+                                  told.title.isEmpty() ? shownText(texts, 21020, u"Fehler"_s) : told.title);
     };
     try {
         return work.run(what, task, told.input);

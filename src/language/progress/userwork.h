@@ -13,6 +13,7 @@ namespace kalvenor::language {
 struct WorkTold {
     std::function<void(const QString &)> said;                      ///< that it was cancelled, for the status bar
     std::function<QString(const basic::Error &)> inPlainWords = {}; ///< the failure's text; none: the error's own
+    QString title = {};                                             ///< of the message box; none: "error"
     desktop::Work::Input input = desktop::Work::Input::CancelOnly;
 };
 

@@ -38,7 +38,7 @@ AgeListTable::AgeListTable(Setup setup)
 
 QString AgeListTable::text(qint16 id, const QString &germanText) const
 {
-    return language::shownText(m_setup.services.language, id, germanText);
+    return language::shownText(m_setup.session.language, id, germanText);
 }
 
 print::TextStyle AgeListTable::headingStyle() const
@@ -50,7 +50,7 @@ print::TextStyle AgeListTable::headingStyle() const
 
 std::vector<print::Column> AgeListTable::columns(const statistics::Altersliste &list) const
 {
-    const auto widths = settings::ReportMeasures::read(m_setup.services.host).spaltenbreiten;
+    const auto widths = settings::ReportMeasures::read(m_setup.session.host).spaltenbreiten;
     const print::TextFace face(m_setup.style);
     const print::TextFace headingFace(headingStyle());
     const auto fit = [](print::Twips width, const QString &widest, const print::TextFace &in) {
@@ -117,7 +117,7 @@ void AgeListTable::write(print::PrintDocument &document, const statistics::Alter
 /// First names and surname; null where the person is gone.
 QString AgeListTable::fullName(qint32 counter)
 {
-    dao::Recordset &persons = *m_setup.services.databases.Datentabelle;
+    dao::Recordset &persons = *m_setup.session.databases.Datentabelle;
     if (!m_columns)
         m_columns.emplace(persons);
     persons.seekEqual(counter);
@@ -131,7 +131,7 @@ QString AgeListTable::inOutputFolder(const QString &name)
 {
     if (!m_outputFiles) { // one look for all persons
         m_outputFiles.emplace();
-        const host::Host &host = m_setup.services.host;
+        const host::Host &host = m_setup.session.host;
         const QDir folder(host.native(outputFolder(host)));
         const QStringList files = folder.entryList(QDir::Files);
         for (const QString &file : files)
@@ -146,13 +146,13 @@ QString AgeListTable::link(qint32 counter)
     const QString page = personPage(counter, m_setup.reportName);
     if (inOutputFolder(page).isEmpty())
         return {};
-    return personLink(page, pictureOf(page), m_setup.services.language.text(TextToPage));
+    return personLink(page, pictureOf(page), m_setup.session.language.text(TextToPage));
 }
 
 /// The person's picture beside the page, under the page's name; a BMP is converted to JPEG first.
 QString AgeListTable::pictureOf(const QString &page)
 {
-    const host::Host &host = m_setup.services.host;
+    const host::Host &host = m_setup.session.host;
     const QString folder = outputFolder(host);
     const QString name = basic::leftPart(page, page.lastIndexOf(u'.') + 1);
     for (const char *extension : {"JPG", "JPEG", "PNG", "GIF"}) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "data/person.h"
+#include "data/session/session.h"
 #include "platform/print/printcontrol.h"
 #include "report/pictures/bildkonvertieren.h"
 #include "statistics/ages/altersliste.h"
@@ -11,8 +12,6 @@
 
 namespace kalvenor::report {
 
-struct ReportServices;
-
 /// The age list of the report: age, sex and list name of each person, as they stand in the list, as a row of three
 /// columns. In HTML a fourth one holds the person's full name, linked to the page that the host program has written of
 /// the person, where it has. A column is as wide as the settings say, and wider where one of its texts needs
@@ -20,7 +19,7 @@ struct ReportServices;
 class AgeListTable {
 public:
     struct Setup {
-        const ReportServices &services;
+        data::Session &session;
         const print::ExportTarget &target;
         Bildumwandlung &pictures;
         QString reportName;

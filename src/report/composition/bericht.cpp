@@ -77,35 +77,36 @@ private:
 
 } // namespace
 
-Bericht::Bericht(const ReportServices &services) : m_services(services), m_pictures(services.host, services.language)
+Bericht::Bericht(data::Session &session, print::PrintControl &print)
+    : m_session(session), m_print(print), m_pictures(session.host, session.language)
 {
 }
 
 void Bericht::initladen()
 {
-    settings::initladen(m_services.host, vorgaben, m_services.print.page);
+    settings::initladen(m_session.host, vorgaben, m_print.page);
 }
 
 bool Bericht::initspeichern() const
 {
-    return settings::initspeichern(m_services.host, vorgaben, m_services.print.page);
+    return settings::initspeichern(m_session.host, vorgaben, m_print.page);
 }
 
 QString Bericht::auswahldrucken(const ReportContent &content, print::ExportTarget target,
                                 const basic::Progress &progress)
 {
-    const host::Host &host = m_services.host;
+    const host::Host &host = m_session.host;
     host.desktop().setPointer(desktop::Pointer::Hourglass);
     const auto restore = qScopeGuard([&host] { host.desktop().setPointer(desktop::Pointer::Default); });
     initladen();
     if (target.format == print::ExportFormat::Html)
-        target.file = exportName(target.file, reportName, m_services.language.text(TextReportFile), u".html"_s);
+        target.file = exportName(target.file, reportName, m_session.language.text(TextReportFile), u".html"_s);
     NewPictures newPictures(host, picturesBeside(target));
     print::PrintDocument document = compose(content, target, progress);
     showHint();
     switch (target.format) {
     case print::ExportFormat::Pages:
-        m_services.print.setDocument(std::move(document), progress);
+        m_print.setDocument(std::move(document), progress);
         break;
     case print::ExportFormat::Html:
         print::writeHtmlFile(document, host.native(target.file), progress);
@@ -125,9 +126,9 @@ print::PrintDocument Bericht::compose(const ReportContent &content, const print:
 {
     print::PrintDocument document;
     document.title =
-        content.statistik.titel.isEmpty() ? m_services.language.text(TextReportFile) : content.statistik.titel;
-    document.language = language::anzeigesprache(m_services.host).bcp47Name().left(2);
-    document.page = settings::usablePage(m_services.print.page);
+        content.statistik.titel.isEmpty() ? m_session.language.text(TextReportFile) : content.statistik.titel;
+    document.language = language::anzeigesprache(m_session.host).bcp47Name().left(2);
+    document.page = settings::usablePage(m_print.page);
     addRunningTexts(document, content);
     if (!content.statistik.titel.isEmpty())
         document.add(print::Paragraph{.text = content.statistik.titel,
@@ -148,7 +149,7 @@ print::PrintDocument Bericht::compose(const ReportContent &content, const print:
 
 QString Bericht::footerText() const
 {
-    return m_services.language.text(TextFooter);
+    return m_session.language.text(TextFooter);
 }
 
 QString Bericht::now(const ReportContent &content) const
@@ -184,7 +185,7 @@ void Bericht::addChart(print::PrintDocument &document, const ReportContent &cont
     const double shape = static_cast<double>(content.chartShape.height()) / std::max(content.chartShape.width(), 1);
     const print::PageSetup &page = document.page;
     const double room = (page.landscape ? page.paperWidth : page.paperHeight) - page.top - page.bottom;
-    const int percent = settings::ReportMeasures::read(m_services.host).bildprozent;
+    const int percent = settings::ReportMeasures::read(m_session.host).bildprozent;
     const double wanted = std::min(width * shape, room * UsualChartShare) * percent / 100;
     auto height = static_cast<qint16>(std::min({wanted, room * LargestChartShare, 32767.0}));
     // The chart control takes the printable width and the height in its own shape.
@@ -193,7 +194,7 @@ void Bericht::addChart(print::PrintDocument &document, const ReportContent &cont
         .Width = static_cast<double>(width),
         .Height = static_cast<double>(height)};
     PictureControl print;
-    bildgroesse(m_services.host, chart, print, static_cast<qint16>(std::min(width, 32767)), height);
+    bildgroesse(m_session.host, chart, print, static_cast<qint16>(std::min(width, 32767)), height);
 
     QString file;
     if (target.format != print::ExportFormat::Pages)
@@ -213,7 +214,7 @@ void Bericht::addChart(print::PrintDocument &document, const ReportContent &cont
 void Bericht::addCriteria(print::PrintDocument &document, const ReportContent &content) const
 {
     if (vorgaben.isPrinted(settings::TitelKriterien))
-        document.add(print::Paragraph{.text = m_services.language.text(TextCriteria),
+        document.add(print::Paragraph{.text = m_session.language.text(TextCriteria),
                                       .style = document.addStyle(style(settings::TitelKriterien)),
                                       .spaceBefore = Gap,
                                       .spaceAfter = Gap / 4,
@@ -221,7 +222,7 @@ void Bericht::addCriteria(print::PrintDocument &document, const ReportContent &c
                                       .outlineLevel = Section + 1});
     const print::StyleId lineStyle = document.addStyle(style(settings::Kriterien));
     const QStringList lines =
-        kriterien(content.criteria, content.statistik, content.figures, content.list.size(), m_services.language);
+        kriterien(content.criteria, content.statistik, content.figures, content.list.size(), m_session.language);
     for (const QString &line : lines) // on one page
         document.add(print::Paragraph{.text = line, .style = lineStyle, .keepWithNext = &line != &lines.back()});
 }
@@ -236,13 +237,13 @@ void Bericht::addAgeList(print::PrintDocument &document, const ReportContent &co
         document.add(print::Paragraph{.text = {}, .spaceAfter = Gap / 2});
     const bool headed = vorgaben.isPrinted(settings::TitelAltersliste);
     if (headed)
-        document.add(print::Paragraph{.text = m_services.language.text(TextAgeList),
+        document.add(print::Paragraph{.text = m_session.language.text(TextAgeList),
                                       .style = document.addStyle(style(settings::TitelAltersliste)),
                                       .spaceBefore = newPage ? 2 * Gap : Gap,
                                       .spaceAfter = Gap / 2,
                                       .keepWithNext = true,
                                       .outlineLevel = Section + 1});
-    AgeListTable table({.services = m_services,
+    AgeListTable table({.session = m_session,
                         .target = target,
                         .pictures = m_pictures,
                         .reportName = reportName,
@@ -258,8 +259,8 @@ QString Bericht::chartFile(const print::ExportTarget &target) const
 {
     if (target.format == print::ExportFormat::Html) // which has its suffix already
         return basic::leftPart(target.file, target.file.lastIndexOf(u'.')) + u".jpg"_s;
-    return outputFolder(m_services.host) +
-           exportName(fileNameOf(target.file), reportName, m_services.language.text(TextReportFile), u".jpg"_s);
+    return outputFolder(m_session.host) +
+           exportName(fileNameOf(target.file), reportName, m_session.language.text(TextReportFile), u".jpg"_s);
 }
 
 QStringList Bericht::picturesBeside(const print::ExportTarget &target) const
@@ -277,16 +278,16 @@ QString Bericht::writePicture(const QImage &picture, const print::ExportTarget &
     QString written = chartFile(target);
     QString type;
     if (target.format != print::ExportFormat::Html)
-        QDir().mkpath(m_services.host.native(folderOf(written))); // where that fails, writing says so
+        QDir().mkpath(m_session.host.native(folderOf(written))); // where that fails, writing says so
     m_pictures.bildkonvertieren({.Image = picture}, written, type);
-    return m_services.host.dir(written).isEmpty() ? QString() : written;
+    return m_session.host.dir(written).isEmpty() ? QString() : written;
 }
 
 void Bericht::showHint()
 {
     if (m_hint != -1)
         return;
-    m_hint = static_cast<qint16>(m_services.host.desktop().messageBox(m_services.language.text(TextHint), 0, {}));
+    m_hint = static_cast<qint16>(m_session.host.desktop().messageBox(m_session.language.text(TextHint), 0, {}));
 }
 
 } // namespace kalvenor::report

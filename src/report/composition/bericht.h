@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "data/datenbankmodul.h"
+#include "data/session/session.h"
 #include "platform/chart/chart.h"
 #include "platform/print/printcontrol.h"
 #include "report/composition/kriterien.h"
@@ -13,14 +13,6 @@
 #include <QSize>
 
 namespace kalvenor::report {
-
-/// What the rooms below offer, as the report needs it.
-struct ReportServices {
-    host::Host &host;
-    language::Sprachmodul &language;
-    data::Datenbankmodul &databases;
-    print::PrintControl &print;
-};
 
 /// What one run of the report shows. List and figures must stay as they are until it ends.
 struct ReportContent {
@@ -36,7 +28,7 @@ struct ReportContent {
 /// Composes the report and hands it to the print control, or writes it into a file.
 class Bericht {
 public:
-    explicit Bericht(const ReportServices &services);
+    Bericht(data::Session &session, print::PrintControl &print);
 
     settings::Druckvorgaben vorgaben; ///< loaded with every run
     QString reportName;               ///< stands in the names of exported files; mostly empty
@@ -73,7 +65,8 @@ private:
     QString writePicture(const QImage &picture, const print::ExportTarget &target);
     void showHint();
 
-    ReportServices m_services;
+    data::Session &m_session;
+    print::PrintControl &m_print;
     Bildumwandlung m_pictures;
     qint16 m_hint = -1; ///< true until the hint was shown
 };

@@ -62,7 +62,7 @@ PersonListPanel::PersonListPanel(SelectionController &controller, PersonList lis
 
 void PersonListPanel::update()
 {
-    language::Sprachmodul &texts = m_controller.services().language;
+    language::Sprachmodul &texts = m_controller.session().language;
     const bool filtered = m_controller.isFiltered(m_list);
     m_load->setText(filtered ? language::shownText(texts, 20004, u"Filter Liste"_s)
                              : language::shownText(texts, 20003, u"Liste neu laden"_s));

@@ -22,13 +22,15 @@ constexpr std::size_t FewPersons = 1000;
 
 } // namespace
 
-SelectionController::SelectionController(const SelectionServices &services, QObject *parent)
-    : QObject(parent), m_services(services), m_lists{List(PersonList::Unmarked), List(PersonList::Marked)},
-      m_watcher(services.databases.Familiendatenbank)
+SelectionController::SelectionController(data::Session &session, desktop::Work &work, QObject *parent)
+    : QObject(parent), m_session(session), m_work(work), m_lists{List(PersonList::Unmarked), List(PersonList::Marked)},
+      m_watcher(session.databases.Familiendatenbank)
 {
     connect(&m_watcher, &DatabaseWatcher::changedElsewhere, this, &SelectionController::changedElsewhere);
+    connect(&session, &data::Session::databaseClosing, this, &SelectionController::letGo);
+    connect(&session, &data::Session::databaseExchanged, this, &SelectionController::takeOver);
     // A filter that was wanted while other work ran.
-    connect(&services.work, &desktop::Work::ended, this, [this] {
+    connect(&work, &desktop::Work::ended, this, [this] {
         if (m_wanted && !m_filtering)
             QTimer::singleShot(0, this, &SelectionController::runFilters);
     });
@@ -36,12 +38,12 @@ SelectionController::SelectionController(const SelectionServices &services, QObj
 
 QString SelectionController::text(qint16 id, const QString &germanText) const
 {
-    return language::shownText(m_services.language, id, germanText);
+    return language::shownText(m_session.language, id, germanText);
 }
 
 QString SelectionController::numberText(qint64 number) const
 {
-    return language::anzeigesprache(m_services.host).toString(number);
+    return language::anzeigesprache(m_session.host).toString(number);
 }
 
 qint64 SelectionController::personCount() const
@@ -53,7 +55,7 @@ qint64 SelectionController::personCount() const
 /// False where the task was not begun or failed; a failure was told.
 bool SelectionController::perform(const QString &what, const desktop::Work::Task &task, desktop::Work::Input input)
 {
-    return language::runAndTell(m_services.work, m_services.host, m_services.language, what, task,
+    return language::runAndTell(m_work, m_session.host, m_session.language, what, task,
                                 {.said = [this](const QString &end) { Q_EMIT said(end); }, .input = input});
 }
 
@@ -61,7 +63,7 @@ bool SelectionController::perform(const QString &what, const desktop::Work::Task
 void SelectionController::load(const std::array<QString, 2> &queries, bool all, const basic::Progress &progress,
                                bool announce)
 {
-    const std::shared_ptr<dao::Database> database = m_services.databases.Familiendatenbank;
+    const std::shared_ptr<dao::Database> database = m_session.databases.Familiendatenbank;
     database->refresh();
     std::array<std::shared_ptr<dao::Recordset>, 2> results;
     quint64 generation = 0;
@@ -72,7 +74,7 @@ void SelectionController::load(const std::array<QString, 2> &queries, bool all, 
             if (!all && queries[i] == m_lists[i].query && m_lists[i].generation == generation)
                 continue;
             if (announce)
-                m_services.work.announce(i == 0 ? u"Lade 1. Liste neu"_s : u"Lade 2. Liste neu"_s);
+                m_work.announce(i == 0 ? u"Lade 1. Liste neu"_s : u"Lade 2. Liste neu"_s);
             results[i] = database->openQuery(queries[i], progress);
         }
     }
@@ -109,7 +111,7 @@ bool SelectionController::filter(const Filter &filter, bool typed)
 {
     m_wanted = WantedFilter{filter, typed};
     m_filterShown = false;
-    if (m_services.work.isRunning())
+    if (m_work.isRunning())
         giveUpFilter();
     else
         runFilters();
@@ -119,12 +121,12 @@ bool SelectionController::filter(const Filter &filter, bool typed)
 void SelectionController::giveUpFilter()
 {
     if (m_filtering)
-        m_services.work.cancel();
+        m_work.cancel();
 }
 
 void SelectionController::runFilters()
 {
-    while (m_wanted && !m_services.work.isRunning()) {
+    while (m_wanted && !m_work.isRunning()) {
         const WantedFilter wanted = *std::exchange(m_wanted, std::nullopt);
         m_filtering = true;
         perform(
@@ -166,7 +168,7 @@ std::optional<MarkStep> SelectionController::changeMarks(const QString &what, co
 {
     std::optional<MarkStep> done;
     perform(what, [&](const basic::Progress &progress) {
-        const MarkSnapshot before(m_services.databases);
+        const MarkSnapshot before(m_session.databases);
         // The marks are set; lists that did not show them would be wrong.
         const basic::Progress toTheEnd = [&progress](qint64 steps, qint64 total) {
             progress(steps, total);
@@ -177,8 +179,8 @@ std::optional<MarkStep> SelectionController::changeMarks(const QString &what, co
         } catch (const basic::Error &) {
             const std::exception_ptr failure = std::current_exception();
             try {
-                m_services.databases.Familiendatenbank->refresh();
-                done = before.changesSince(m_services.databases);
+                m_session.databases.Familiendatenbank->refresh();
+                done = before.changesSince(m_session.databases);
                 load(queries(), true, toTheEnd);
             } catch (const basic::Error &) {
                 // The first failure is the one to tell.
@@ -208,7 +210,7 @@ void SelectionController::move(PersonList from, const std::vector<qint32> &count
     const QString what = relatives.children || relatives.parents ? text(20343, u"Verwandte werden gesucht ..."_s)
                                                                  : text(20342, u"Die Personen werden markiert ..."_s);
     const auto step = changeMarks(what, [&](const basic::Progress &progress) {
-        MarkingResult result = markPersons(m_services.databases, counters, mark, relatives, progress);
+        MarkingResult result = markPersons(m_session.databases, counters, mark, relatives, progress);
         limitReached = result.limitReached;
         return mark ? MarkStep{std::move(result.changed), {}} : MarkStep{{}, std::move(result.changed)};
     });
@@ -219,7 +221,7 @@ void SelectionController::move(PersonList from, const std::vector<qint32> &count
     const PersonList to = mark ? PersonList::Marked : PersonList::Unmarked;
     if (moved.size() <= FewPersons && !moved.empty()) {
         std::vector<quint32> tableRows;
-        dao::Recordset &persons = *m_services.databases.Datentabelle;
+        dao::Recordset &persons = *m_session.databases.Datentabelle;
         for (const qint32 counter : moved) {
             persons.seekEqual(counter);
             if (!persons.noMatch() && persons.table() == model(to).table())
@@ -230,20 +232,20 @@ void SelectionController::move(PersonList from, const std::vector<qint32> &count
     tellMoved(*step);
     Q_EMIT changed();
     if (limitReached)
-        m_services.host.desktop().messageBox(m_services.language.text(TextLimitReached), 0,
-                                             m_services.language.text(TextLimitTitle));
+        m_session.host.desktop().messageBox(m_session.language.text(TextLimitReached), 0,
+                                            m_session.language.text(TextLimitTitle));
 }
 
 void SelectionController::moveAll(PersonList from)
 {
     const bool mark = from == PersonList::Unmarked;
     const QString what =
-        mark ? text(20342, u"Die Personen werden markiert ..."_s) : m_services.language.text(TextUnmarkAll);
+        mark ? text(20342, u"Die Personen werden markiert ..."_s) : m_session.language.text(TextUnmarkAll);
     const auto step = changeMarks(
         what,
         [&](const basic::Progress &progress) {
             std::vector<qint32> keys =
-                m_services.databases.Familiendatenbank->execute(markAllStatement(from, query(from)), progress)
+                m_session.databases.Familiendatenbank->execute(markAllStatement(from, query(from)), progress)
                     .changedKeys;
             return mark ? MarkStep{std::move(keys), {}} : MarkStep{{}, std::move(keys)};
         },
@@ -261,7 +263,7 @@ void SelectionController::undo()
         return;
     bool finished = false;
     changeMarks(text(20340, u"Bitte warten ..."_s), [&](const basic::Progress &progress) {
-        m_history.undo(m_services.databases, progress);
+        m_history.undo(m_session.databases, progress);
         finished = true;
         return MarkStep{};
     });
@@ -276,7 +278,7 @@ void SelectionController::redo()
         return;
     bool finished = false;
     changeMarks(text(20340, u"Bitte warten ..."_s), [&](const basic::Progress &progress) {
-        m_history.redo(m_services.databases, progress);
+        m_history.redo(m_session.databases, progress);
         finished = true;
         return MarkStep{};
     });
@@ -285,27 +287,43 @@ void SelectionController::redo()
     Q_EMIT changed();
 }
 
-void SelectionController::afterOpening(bool opened, const MarkStep &changes, bool otherDatabase)
-{
-    m_watcher.watch(m_services.databases.Familiendatenbank);
-    if (opened && otherDatabase)
-        m_history.clear();
-    else if (opened)
-        m_history.record(changes);
-    m_wanted.reset();
-    const std::array<QString, 2> plain{plainListQuery(PersonList::Unmarked), plainListQuery(PersonList::Marked)};
-    const std::array<QString, 2> wanted = opened ? plain : queries();
-    perform(text(20346, u"Die Datenbank wird gelesen ..."_s),
-            [&](const basic::Progress &progress) { load(wanted, true, progress); });
-    if (opened)
-        Q_EMIT filterDropped();
-}
+// Another database
 
-void SelectionController::release()
+void SelectionController::letGo()
 {
     m_wanted.reset();
     for (List &list : m_lists)
         list.model.show(nullptr);
+}
+
+/// The lists are shown again once the work that exchanged the databases has ended.
+void SelectionController::takeOver(bool otherDatabase)
+{
+    m_watcher.watch(m_session.databases.Familiendatenbank);
+    if (otherDatabase)
+        m_history.clear();
+    const auto show = [this, otherDatabase] {
+        otherDatabase ? showPlain() : reloadLists();
+    };
+    if (m_work.isRunning())
+        connect(&m_work, &desktop::Work::ended, this, show, Qt::SingleShotConnection);
+    else
+        show();
+}
+
+void SelectionController::showTemplate(const MarkStep &changes)
+{
+    m_history.record(changes);
+    showPlain();
+}
+
+void SelectionController::showPlain()
+{
+    m_wanted.reset();
+    perform(text(20346, u"Die Datenbank wird gelesen ..."_s), [this](const basic::Progress &progress) {
+        load({plainListQuery(PersonList::Unmarked), plainListQuery(PersonList::Marked)}, true, progress);
+    });
+    Q_EMIT filterDropped();
 }
 
 } // namespace kalvenor::selection

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "data/session/session.h"
 #include "language/forms/form.h"
 #include "platform/desktop/work.h"
 #include "selection/filter/filtern.h"
@@ -16,21 +17,13 @@
 
 namespace kalvenor::selection {
 
-/// What the rooms below offer, as the selection's windows need it.
-struct SelectionServices {
-    host::Host &host;
-    language::Sprachmodul &language;
-    data::Datenbankmodul &databases;
-    desktop::Work &work;
-};
-
 /// Both person lists and what can be done with them, without a window. Each action catches what goes wrong in it and
 /// says so once: an unsound filter by filterRefused(), everything else in a message box. The lists then stay as they
 /// are. Actions asked for while other work is running are not begun, save filters, which wait.
 class SelectionController : public QObject {
     Q_OBJECT
 public:
-    explicit SelectionController(const SelectionServices &services, QObject *parent = nullptr);
+    SelectionController(data::Session &session, desktop::Work &work, QObject *parent = nullptr);
 
     PersonListModel &model(PersonList list) { return m_lists[place(list)].model; }
     /// The query of what the list shows: a filter's, or the plain one.
@@ -40,7 +33,8 @@ public:
     qint64 personCount() const;
     bool canUndo() const { return m_history.canUndo(); }
     bool canRedo() const { return m_history.canRedo(); }
-    const SelectionServices &services() const { return m_services; }
+    data::Session &session() const { return m_session; }
+    desktop::Work &work() const { return m_work; }
     /// A number as the interface language writes it.
     QString numberText(qint64 number) const;
 
@@ -63,11 +57,8 @@ public:
     void undo();
     void redo();
 
-    /// The databases are about to be closed.
-    void release();
-    /// A template or another database was opened: both lists become plain ones and what it changed can be undone,
-    /// unless another database is open now. Or (`opened` false) that failed, and the lists show what they showed.
-    void afterOpening(bool opened, const MarkStep &changes, bool otherDatabase);
+    /// A template was opened in the same database: both lists become plain, and what it changed can be undone.
+    void showTemplate(const MarkStep &changes);
     /// Looks whether another program changed the database.
     void lookForChanges() { m_watcher.look(); }
 
@@ -110,8 +101,12 @@ private:
     std::optional<MarkStep> changeMarks(const QString &what, const Change &change, bool announceLists = false);
     void runFilters();
     void tellMoved(const MarkStep &step);
+    void letGo();
+    void takeOver(bool otherDatabase);
+    void showPlain();
 
-    SelectionServices m_services;
+    data::Session &m_session;
+    desktop::Work &m_work;
     std::array<List, 2> m_lists;
     MarkHistory m_history;
     DatabaseWatcher m_watcher;

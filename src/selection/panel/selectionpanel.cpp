@@ -160,7 +160,7 @@ QWidget *SelectionPanel::makeNoticeBar()
 void SelectionPanel::connectFilter()
 {
     for (QWidget *entry : m_filter->entries())
-        m_controller.services().work.letTypingThrough(entry);
+        m_controller.work().letTypingThrough(entry);
     connect(m_filter, &FilterPanel::edited, &m_controller, &SelectionController::giveUpFilter);
     connect(m_filter, &FilterPanel::wanted, this, [this](const Filter &filter, bool typed) {
         const bool filtered =
@@ -176,7 +176,7 @@ void SelectionPanel::connectFilter()
     connect(&m_controller, &SelectionController::filtered, this, [this](const QString &pattern, bool typed) {
         if (!typed)
             m_filter->setPattern(pattern);
-        language::Sprachmodul &texts = m_controller.services().language;
+        language::Sprachmodul &texts = m_controller.session().language;
         const PersonList list = m_filter->filter().Filterliste;
         if (const QString date = m_filter->unsoundDate(); !date.isEmpty())
             Q_EMIT said(language::shownText(texts, 20420, u"Das ist kein Datum: %1"_s).arg(date));

@@ -3,8 +3,6 @@
 #include "selection/templates/vorlageoeffnen.h"
 
 #include "selection/marking/marksnapshot.h"
-#include "selection/templates/databaseswitch.h"
-#include <new>
 #include <QFileInfo>
 #include <unordered_set>
 #include <utility>
@@ -22,27 +20,28 @@ basic::Error withRemark(const basic::Error &error, const QString &remark)
     return basic::Error(error.kind(), error.place(), error.text() + u' ' + remark);
 }
 
-bool isOpen(const VorlageServices &services, const QString &familienpfad)
+bool isOpen(const data::Session &session, const QString &familienpfad)
 {
-    const QString open = QFileInfo(services.database.databases.Familiendatenbank->file()).canonicalFilePath();
-    return !open.isEmpty() && open == QFileInfo(services.database.host.native(familienpfad)).canonicalFilePath();
+    const QString open = QFileInfo(session.databases.Familiendatenbank->file()).canonicalFilePath();
+    return !open.isEmpty() && open == QFileInfo(session.host.native(familienpfad)).canonicalFilePath();
 }
 
 /// Whether the database has to be changed for the template's one.
-bool needsOtherDatabase(const VorlageServices &services, const QString &File, const QString &familienpfad)
+bool needsOtherDatabase(const data::Session &session, const QString &File, const QString &familienpfad,
+                        const UseOpenDatabase &useOpenDatabase)
 {
-    if (isOpen(services, familienpfad))
+    if (isOpen(session, familienpfad))
         return false;
-    if (!services.database.host.dir(familienpfad).isEmpty())
+    if (!session.host.dir(familienpfad).isEmpty())
         return true;
-    if (!services.useOpenDatabase)
-        throw basic::Error(basic::ErrorKind::FileNotFound, services.database.host.native(File),
+    if (!useOpenDatabase)
+        throw basic::Error(basic::ErrorKind::FileNotFound, session.host.native(File),
                            u"The template belongs to a family database that does not exist: %1.%2"_s.arg(
-                               familienpfad, services.database.host.hasUnmappedDrive(familienpfad)
+                               familienpfad, session.host.hasUnmappedDrive(familienpfad)
                                                  ? u" No folder is known for its drive letter; name it in "
                                                    "Kalvenor.ini, section [Laufwerke]."_s
                                                  : QString()));
-    if (!services.useOpenDatabase(familienpfad))
+    if (!useOpenDatabase(familienpfad))
         throw basic::Error(basic::ErrorKind::Cancelled, {}, u"Stopped; the template was not opened."_s);
     return false;
 }
@@ -101,27 +100,23 @@ MarkStep markExactly(data::Datenbankmodul &databases, const std::vector<qint32> 
 
 } // namespace
 
-OpenedVorlage vorlageoeffnen(const VorlageServices &services, const QString &File, const basic::Progress &progress)
+OpenedVorlage vorlageoeffnen(data::Session &session, const QString &File, const basic::Progress &progress,
+                             const UseOpenDatabase &useOpenDatabase)
 {
     OpenedVorlage opened;
-    opened.vorlage = readVorlage(services.database.host.native(File));
+    opened.vorlage = readVorlage(session.host.native(File));
     const QString &familienpfad = opened.vorlage.familienpfad;
-    opened.otherDatabase = needsOtherDatabase(services, File, familienpfad);
-    DatabaseSwitch databaseSwitch(services.database);
-    try {
-        if (opened.otherDatabase)
-            databaseSwitch.goOver(familienpfad);
-        else
-            services.database.databases.Familiendatenbank->refresh();
-        const std::vector<qint32> persons = findPersons(services.database.databases, opened, progress);
-        MarkStep changes = markExactly(services.database.databases, persons, progress);
-        if (!opened.otherDatabase)
-            opened.changes = std::move(changes);
+    const auto mark = [&] {
+        const std::vector<qint32> persons = findPersons(session.databases, opened, progress);
         opened.found = static_cast<qsizetype>(persons.size());
-    } catch (const basic::Error &error) {
-        databaseSwitch.goBack(error);
-    } catch (const std::bad_alloc &) {
-        databaseSwitch.goBack(basic::Error(basic::ErrorKind::Overflow, {}, u"There is not enough memory for this."_s));
+        return markExactly(session.databases, persons, progress);
+    };
+    opened.otherDatabase = needsOtherDatabase(session, File, familienpfad, useOpenDatabase);
+    if (opened.otherDatabase) {
+        session.exchangeDatabase(familienpfad, mark);
+    } else {
+        session.databases.Familiendatenbank->refresh();
+        opened.changes = mark();
     }
     return opened;
 }

@@ -2,19 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "data/session/session.h"
 #include "selection/marking/markhistory.h"
-#include "selection/templates/databaseswitch.h"
 #include "selection/templates/vorlage.h"
 #include <functional>
 
 namespace kalvenor::selection {
-
-/// What opening a template works with.
-struct VorlageServices {
-    DatabaseServices database;
-    /// The template's database does not exist: true goes on with the open one, false gives up. None is an error.
-    std::function<bool(const QString &familienpfad)> useOpenDatabase = {};
-};
 
 struct OpenedVorlage {
     Vorlage vorlage;
@@ -24,11 +17,14 @@ struct OpenedVorlage {
     bool otherDatabase = false;  ///< another one is open now; steps before this one belong to the former
 };
 
+/// Asked where the template's database does not exist: true goes on with the open one, false gives up.
+using UseOpenDatabase = std::function<bool(const QString &familienpfad)>;
+
 /// Opens a template; `File` is a path in Windows notation. Everything is read, checked and looked up before the first
 /// mark changes; progress can cancel until then. Where anything fails, the open database and the marks are as before,
-/// or the error says what is not. Throws Error: as readVorlage and the engine, FileNotFound for a missing database,
-/// Cancelled.
-OpenedVorlage vorlageoeffnen(const VorlageServices &services, const QString &File,
-                             const basic::Progress &progress = {});
+/// or the error says what is not. Throws Error: as readVorlage and the engine, FileNotFound for a missing database
+/// where nobody is asked, Cancelled.
+OpenedVorlage vorlageoeffnen(data::Session &session, const QString &File, const basic::Progress &progress = {},
+                             const UseOpenDatabase &useOpenDatabase = {});
 
 } // namespace kalvenor::selection

@@ -36,7 +36,7 @@ const std::vector<ChartTypeEntry> &chartTypeEntries()
     return entries;
 }
 
-std::optional<int> grafiktypOf(int chartType)
+std::optional<int> grafiktypAus(int chartType)
 {
     const auto &entries = chartTypeEntries();
     const auto found = std::find_if(entries.begin(), entries.end(), [chartType](const ChartTypeEntry &entry) {

@@ -21,7 +21,7 @@ struct ChartTypeEntry {
 const std::vector<ChartTypeEntry> &chartTypeEntries();
 
 /// The place of a chart control's type in the list; nothing where there is no such type.
-std::optional<int> grafiktypOf(int chartType);
+std::optional<int> grafiktypAus(int chartType);
 
 /// The sex boxes: 0 men and 1 women of the age list, 2 men and 3 women of the chart. Checked is exactly 1.
 using GeschlechtAlter = std::array<qint16, 4>;

@@ -113,10 +113,9 @@ void AgeListPanel::copy() const
 
 void AgeListPanel::updateFigures()
 {
-    const StatisticsServices &services = m_controller.services();
-    m_figures->setText(
-        language::shownText(services.language, 20526, u"%1 Personen, deren Alter berechnet werden kann"_s)
-            .arg(language::anzeigesprache(services.host).toString(m_model->rowCount())));
+    data::Session &session = m_controller.session();
+    m_figures->setText(language::shownText(session.language, 20526, u"%1 Personen, deren Alter berechnet werden kann"_s)
+                           .arg(language::anzeigesprache(session.host).toString(m_model->rowCount())));
 }
 
 } // namespace kalvenor::statistics

@@ -80,7 +80,7 @@ ChartPanel::ChartPanel(StatisticsController &controller, QWidget *parent)
 
 QString ChartPanel::text(qint16 id, const QString &germanText) const
 {
-    return language::shownText(m_controller.services().language, id, germanText);
+    return language::shownText(m_controller.session().language, id, germanText);
 }
 
 void ChartPanel::nameActions()
@@ -175,13 +175,13 @@ void ChartPanel::setOptions(const Statistik &options)
 
 void ChartPanel::updateLook()
 {
-    const StatisticsServices &services = m_controller.services();
-    chart::ChartLook look = grafiklook(services.language, services.host, options());
+    data::Session &session = m_controller.session();
+    chart::ChartLook look = grafiklook(session.language, session.host, options());
     look.grid = m_chart->gridAction->isChecked();
     look.values = m_chart->valuesAction->isChecked();
     const Grafikzahlen &figures = m_controller.figures();
     const bool computed = !figures.ohneDatum.isEmpty();
-    look.emptyText = computed ? leererText(services.language, figures.zahlen) : QString();
+    look.emptyText = computed ? leererText(session.language, figures.zahlen) : QString();
     m_chart->setLook(look);
 }
 
@@ -194,7 +194,7 @@ void ChartPanel::showFigures()
     }
     m_range->setText(figures.spanne.value_or(QString()));
     m_withoutDate->setText(figures.ohneDatum);
-    const QLocale locale = language::anzeigesprache(m_controller.services().host);
+    const QLocale locale = language::anzeigesprache(m_controller.session().host);
     QStringList left;
     if (figures.zahlen.nichtNachGeburt > 0)
         left << text(20528, u"%1 Personen, die nicht nach ihrer Geburt gestorben sind"_s)
@@ -211,7 +211,7 @@ void ChartPanel::showFigures()
 
 void ChartPanel::savePicture()
 {
-    desktop::Desktop &desktop = m_controller.services().host.desktop();
+    desktop::Desktop &desktop = m_controller.session().host.desktop();
     const QString file = desktop.saveFileName(window(), {.title = text(20628, u"Bild speichern unter"_s),
                                                          .filters = u"PNG (*.png);;JPEG (*.jpg);;SVG (*.svg)"_s,
                                                          .suffix = u"png"_s});

@@ -18,14 +18,15 @@ constexpr qint64 LongMs = 300;
 
 } // namespace
 
-StatisticsController::StatisticsController(const StatisticsServices &services, QObject *parent)
-    : QObject(parent), m_services(services)
+StatisticsController::StatisticsController(data::Session &session, desktop::Work &work, QObject *parent)
+    : QObject(parent), m_session(session), m_work(work)
 {
+    connect(&session, &data::Session::databaseExchanged, this, &StatisticsController::forget);
 }
 
 QString StatisticsController::text(qint16 id, const QString &germanText) const
 {
-    return language::shownText(m_services.language, id, germanText);
+    return language::shownText(m_session.language, id, germanText);
 }
 
 bool StatisticsController::perform(const QString &what, const desktop::Work::Task &task)
@@ -33,7 +34,7 @@ bool StatisticsController::perform(const QString &what, const desktop::Work::Tas
     QElapsedTimer clock;
     clock.start();
     m_mayFollow = false;
-    const bool done = language::runAndTell(m_services.work, m_services.host, m_services.language, what, task,
+    const bool done = language::runAndTell(m_work, m_session.host, m_session.language, what, task,
                                            {.said = [this](const QString &end) {
                                                Q_EMIT said(end);
                                            }});
@@ -43,7 +44,7 @@ bool StatisticsController::perform(const QString &what, const desktop::Work::Tas
 
 bool StatisticsController::alterslistenausgabe(const GeschlechtAlter &geschlechtalter)
 {
-    if (m_services.work.isRunning())
+    if (m_work.isRunning())
         return false;
     m_list.clear();
     Q_EMIT listCleared();
@@ -56,7 +57,7 @@ bool StatisticsController::alterslistenausgabe(const GeschlechtAlter &geschlecht
     qint64 marked = 0;
     const bool done =
         perform(text(20344, u"Die Altersliste wird berechnet ..."_s), [&](const basic::Progress &progress) {
-            marked = statistics::alterslistenausgabe(m_services.databases, geschlechtalter, m_list,
+            marked = statistics::alterslistenausgabe(m_session.databases, geschlechtalter, m_list,
                                                      [&](qint64 step, qint64 total) {
                                                          if (clock.elapsed() - shown >= GrowEveryMs) {
                                                              Q_EMIT listGrew();
@@ -67,7 +68,7 @@ bool StatisticsController::alterslistenausgabe(const GeschlechtAlter &geschlecht
         });
     m_listCurrent = done;
     if (marked > 0)
-        m_services.host.desktop().setPointer(desktop::Pointer::Custom);
+        m_session.host.desktop().setPointer(desktop::Pointer::Custom);
     Q_EMIT listGrew();
     return done;
 }
@@ -75,7 +76,7 @@ bool StatisticsController::alterslistenausgabe(const GeschlechtAlter &geschlecht
 bool StatisticsController::grafikermitteln(const Statistik &statistik)
 {
     const bool done = perform(text(20345, u"Die Grafik wird berechnet ..."_s), [&](const basic::Progress &progress) {
-        m_figures = statistics::grafikermitteln(m_services.databases, statistik, progress);
+        m_figures = statistics::grafikermitteln(m_session.databases, statistik, progress);
     });
     m_figuresCurrent = done;
     if (done)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "language/texts/sprache.h"
+#include "data/session/session.h"
 #include "platform/desktop/work.h"
 #include "statistics/ages/altersliste.h"
 #include "statistics/figures/grafik.h"
@@ -11,22 +11,15 @@
 
 namespace kalvenor::statistics {
 
-/// What the rooms below offer, as the statistic's windows need it.
-struct StatisticsServices {
-    host::Host &host;
-    language::Sprachmodul &language;
-    data::Datenbankmodul &databases;
-    desktop::Work &work;
-};
-
 /// Age list and figures as they were computed last, and how up to date they are, without a window. A failure is told
 /// once, in a message box.
 class StatisticsController : public QObject {
     Q_OBJECT
 public:
-    explicit StatisticsController(const StatisticsServices &services, QObject *parent = nullptr);
+    StatisticsController(data::Session &session, desktop::Work &work, QObject *parent = nullptr);
 
-    const StatisticsServices &services() const { return m_services; }
+    data::Session &session() const { return m_session; }
+    desktop::Work &work() const { return m_work; }
     const Altersliste &list() const { return m_list; }
     const Grafikzahlen &figures() const { return m_figures; }
 
@@ -54,7 +47,8 @@ private:
     bool perform(const QString &what, const desktop::Work::Task &task);
     QString text(qint16 id, const QString &germanText) const;
 
-    StatisticsServices m_services;
+    data::Session &m_session;
+    desktop::Work &m_work;
     Altersliste m_list;
     Grafikzahlen m_figures;
     bool m_listCurrent = false;

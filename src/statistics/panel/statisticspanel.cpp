@@ -28,7 +28,7 @@ constexpr int PauseMs = 120;
 StatisticsPanel::StatisticsPanel(StatisticsController &controller, QWidget *parent)
     : QWidget(parent), m_controller(controller), m_title(new QLineEdit(this)), m_notice(makeNoticeBar()),
       m_tabs(new QTabWidget(this)),
-      m_introduction(new TextEditor(controller.services().language, controller.services().host, this)),
+      m_introduction(new TextEditor(controller.session().language, controller.session().host, this)),
       m_chart(new ChartPanel(controller, this)), m_list(new AgeListPanel(controller, this))
 {
     m_title->setObjectName(u"Statistiktitel"_s);
@@ -72,7 +72,7 @@ StatisticsPanel::StatisticsPanel(StatisticsController &controller, QWidget *pare
     connect(m_introduction, &TextEditor::changed, this, &StatisticsPanel::edited);
     connect(m_title, &QLineEdit::textEdited, this, &StatisticsPanel::edited);
     connect(&controller, &StatisticsController::said, this, &StatisticsPanel::said);
-    setOptions(readOptions(controller.services().host));
+    setOptions(readOptions(controller.session().host));
 }
 
 QWidget *StatisticsPanel::makeNoticeBar()
@@ -188,7 +188,7 @@ void StatisticsPanel::computeShown()
 {
     if (isShownCurrent() || !isVisible())
         return;
-    if (m_controller.services().work.isRunning()) {
+    if (m_controller.work().isRunning()) {
         m_pause.start();
         return;
     }

@@ -9,7 +9,7 @@
 namespace kalvenor::test {
 
 /// Stands in the main window's place and writes down what is called.
-struct FakeHauptform final : host::Hauptform {
+struct FakeMainForm final : host::Hauptform {
     std::optional<QString> auswahldrucken(const print::ExportTarget &target) override
     {
         calls << QStringLiteral("auswahldrucken");
