@@ -130,7 +130,7 @@ std::string typeComplaint(const std::string &word)
     bool isNumber = false;
     const int number = QString::fromStdString(word).toInt(&isNumber);
     return isNumber && statistics::grafiktypAus(number) ? std::string()
-                                                       : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
+                                                        : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
 }
 
 std::string fileComplaint(const std::string &word)

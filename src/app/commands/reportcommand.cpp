@@ -44,7 +44,7 @@ std::string typeComplaint(const std::string &word)
     bool isNumber = false;
     const int number = toText(word).toInt(&isNumber);
     return isNumber && statistics::grafiktypAus(number) ? std::string()
-                                                       : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
+                                                        : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
 }
 
 QByteArray readFile(const QString &nativeFile)
