@@ -69,9 +69,18 @@ RtfResult RtfParser::parse()
     }
     flushBytes();
     m_result.tooLarge = m_flow.isFull();
-    m_result.damaged = m_result.damaged || (!m_ended && !m_result.tooLarge);
+    m_result.damaged = m_result.damaged || (!m_result.tooLarge && !(m_ended && onlyBlanksFollow()));
     m_flow.finish(formats().character);
     return m_result;
+}
+
+/// Behind the end of the document's group, where nothing is read.
+bool RtfParser::onlyBlanksFollow()
+{
+    RtfToken token = m_tokens.next();
+    while (token.kind == RtfToken::Kind::Text && token.bytes.trimmed().isEmpty())
+        token = m_tokens.next();
+    return token.kind == RtfToken::Kind::End;
 }
 
 void RtfParser::take(const RtfToken &token)

@@ -27,6 +27,7 @@ private:
         int fallback = 1; ///< \uc: characters after \u that stand for it elsewhere
     };
 
+    bool onlyBlanksFollow();
     void take(const RtfToken &token);
     void startGroup();
     void endGroup();

@@ -21,7 +21,7 @@ constexpr int LargestHalfPoints = 1600;
 /// What a text held beside what the document now shows.
 struct RtfResult {
     bool isRtf = true;     ///< false: it was taken as plain text
-    bool damaged = false;  ///< groups do not match or it ends in the middle; what could be read was read
+    bool damaged = false;  ///< groups do not match, or it ends in the middle or before its end; the rest was read
     bool tooLarge = false; ///< only the beginning was read
     bool pictures = false; ///< or embedded objects: left out
     bool tables = false;   ///< shown as lines with tabs

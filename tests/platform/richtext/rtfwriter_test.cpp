@@ -3,6 +3,9 @@
 #include "platform/richtext/rtfwriter.h"
 
 #include "platform/richtext/formats.h"
+#include "platform/richtext/rtfcharacters.h"
+#include "platform/richtext/rtftables.h"
+#include "platform/richtext/rtfwords.h"
 #include <gtest/gtest.h>
 #include <QFile>
 #include <QProcess>
@@ -48,6 +51,42 @@ TEST(RtfWriter, IsReadAgainAsItWas)
     EXPECT_EQ(again.toPlainText(), document.toPlainText());
     EXPECT_EQ(writeRtf(again).toStdString(), rtf.toStdString());
     EXPECT_EQ(again.findBlockByNumber(3).textList()->format().indent(), 2);
+}
+
+TEST(RtfWriter, KeepsEveryCharacter)
+{
+    QString all;
+    for (char16_t unit = 0x20; unit < 0xFFFF; ++unit) {
+        if (!QChar::isSurrogate(unit))
+            all += QChar(unit);
+    }
+    all = shownCharacters(all);
+    QByteArray rtf = "{\\rtf1 ";
+    for (const QChar c : all)
+        appendRtf(rtf, c.unicode());
+    QTextDocument document;
+    EXPECT_TRUE(readRtf(rtf + '}', document).everythingShown());
+    EXPECT_EQ(document.firstBlock().text(), all);
+    QTextDocument again;
+    readRtf(writeRtf(document), again);
+    EXPECT_EQ(again.firstBlock().text(), all);
+}
+
+TEST(RtfTables, NumberFontsAndColours)
+{
+    RtfFonts fonts;
+    EXPECT_EQ(fonts.place(u"Arial"_s), 0);
+    EXPECT_EQ(fonts.symbols(), 1);
+    EXPECT_EQ(fonts.place(u"Symbol"_s, "froman"), 2) << "chosen by somebody, not for bullets";
+    EXPECT_EQ(fonts.place(u" {A\\rial;}\u0007"_s), 0);
+    EXPECT_EQ(fonts.place(u"{;}"_s), -1);
+    EXPECT_EQ(fonts.table(),
+              R"({\fonttbl{\f0\fnil\fcharset0 Arial;}{\f1\fnil\fcharset2 Symbol;}{\f2\froman\fcharset0 Symbol;}})");
+    RtfColors colors;
+    EXPECT_EQ(colors.place(qRgb(1, 2, 3)), 1);
+    EXPECT_EQ(colors.place(qRgb(4, 5, 6)), 2);
+    EXPECT_EQ(colors.place(qRgb(1, 2, 3)), 1);
+    EXPECT_EQ(colors.entries(), R"(\red1\green2\blue3;\red4\green5\blue6;)");
 }
 
 TEST(RtfWriter, IsReadByAnOfficeProgram)
