@@ -23,7 +23,7 @@ void readTable(kalvenor::jet::Database &database, const QString &name)
                 table->text(row, column, buffer);
             }
         }
-    } catch (const kalvenor::Error &) { // one damaged table does not hide the others
+    } catch (const kalvenor::basic::Error &) { // one damaged table does not hide the others
     }
 }
 
@@ -36,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
             kalvenor::jet::Database::open(kalvenor::jet::Image::fromBytes(u"fuzz"_s, std::span(data, size)));
         for (const kalvenor::jet::CatalogueEntry &entry : database->entries())
             readTable(*database, entry.name);
-    } catch (const kalvenor::Error &) { // refused as a whole
+    } catch (const kalvenor::basic::Error &) { // refused as a whole
     }
     return 0;
 }

@@ -9,6 +9,8 @@
 #include <QGuiApplication>
 #include <QTextDocument>
 
+using namespace kalvenor::richtext;
+
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "minimal");
@@ -19,10 +21,10 @@ extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     QTextDocument document;
-    kalvenor::readRtf(QByteArrayView(data, static_cast<qsizetype>(size)), document);
-    const QByteArray written = kalvenor::writeRtf(document);
+    readRtf(QByteArrayView(data, static_cast<qsizetype>(size)), document);
+    const QByteArray written = writeRtf(document);
     QTextDocument again;
-    if (!kalvenor::readRtf(written, again).everythingShown() || kalvenor::writeRtf(again) != written)
+    if (!readRtf(written, again).everythingShown() || writeRtf(again) != written)
         std::abort();
     return 0;
 }
