@@ -9,13 +9,13 @@
 #include "settings/dialog/lengthbox.h"
 #include <gtest/gtest.h>
 #include <QCheckBox>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QFontComboBox>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -70,6 +70,15 @@ struct InitformTest : testing::Test, test::Texts {
         return *found;
     }
     void click(const char *name) { control<QPushButton>(name).click(); }
+    /// In the colour dialog that the button opens, which is confirmed or given up.
+    void pick(const char *button, const QColor &color, bool confirmed = true)
+    {
+        desktop.dialogAnswer = [&](QDialog &dialog) {
+            dynamic_cast<QColorDialog &>(dialog).setCurrentColor(color);
+            return confirmed;
+        };
+        control<ColorButton>(button).click();
+    }
     bool isOpen() const { return form->isVisible(); }
 
     Druckvorgaben vorgaben;
@@ -104,10 +113,9 @@ TEST_F(InitformTest, ConfirmingWritesWhatWasChanged)
     control<QFontComboBox>("Fontname").lineEdit()->setText("Courier New");
     control<NumberBox>("Fontsize").setValue(8.25);
     control<QCheckBox>("Fontunderline").click();
-    control<ColorButton>("Fontcolor").findChild<QAbstractButton *>("#0000ff")->click();
-    auto &entry = *control<ColorButton>("Backcolor").findChild<QLineEdit *>("Farbwert");
-    entry.setText("ffffe0");
-    QTest::keyClick(&entry, Qt::Key_Return);
+    pick("Fontcolor", Qt::blue);
+    pick("Backcolor", QColor(255, 255, 0xE0));
+    pick("Backcolor", Qt::red, false);
     EXPECT_EQ(control<FontSample>("Muster").style(), (print::TextStyle{.family = "Courier New",
                                                                        .pointSize = 8.25,
                                                                        .underline = true,

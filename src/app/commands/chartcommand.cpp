@@ -3,6 +3,8 @@
 #include "app/commands/chartcommand.h"
 
 #include "app/start/startedprogram.h"
+#include "platform/chart/chartfigures.h"
+#include "platform/chart/chartpicture.h"
 #include "statistics/figures/grafikbild.h"
 #include <algorithm>
 #include <QDir>

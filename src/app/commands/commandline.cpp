@@ -288,14 +288,16 @@ void onlyFaults(QtMsgType type, const QMessageLogContext &, const QString &text)
         desktop::writeError(text);
 }
 
-/// Fonts, pages and charts need an application of widgets, which a command runs without a desktop; all else starts
-/// faster without.
+/// Fonts, pages and charts need an application that knows fonts, which a command runs without a desktop; all else
+/// starts faster without.
 std::unique_ptr<QCoreApplication> makeApplication(const Parser &parser, int &argc, char **argv)
 {
     if (!parser.report.parsed() && !parser.chart.draws())
         return std::make_unique<QCoreApplication>(argc, argv);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!parser.report.parsed())
+        return std::make_unique<QGuiApplication>(argc, argv);
     return std::make_unique<QApplication>(argc, argv);
 }
 

@@ -13,7 +13,9 @@ struct EventKind {
     const char16_t *deutsch;
     const char16_t *english;
     const char16_t *symbolEnglish;
-    const char *picture; ///< 16 lines of 16 characters: "." paper, "#" black, "r" red, "b" blue, "g" gold
+    /// 16 × 16 pixels: for each colour its letter ("#" black, "r" red, "b" blue, "g" gold) and the bits of its pixels
+    /// in hexadecimal, four digits a row.
+    const char *picture;
 };
 
 std::span<const EventKind> eventKinds();

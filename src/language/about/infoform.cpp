@@ -31,9 +31,8 @@ struct Library {
 
 QString libraryList()
 {
-    const std::array<Library, 5> libraries = {
+    const std::array<Library, 4> libraries = {
         Library{u"Qt %1"_s.arg(QLatin1String(qVersion())), "GNU LGPL 3", "https://www.qt.io"},
-        Library{u"Qt Charts %1"_s.arg(QLatin1String(qVersion())), "GNU GPL 3", "https://www.qt.io"},
         Library{u"SQLite 3"_s, "Public Domain", "https://www.sqlite.org"},
         Library{u"CLI11"_s, "BSD 3-Clause", "https://github.com/CLIUtils/CLI11"},
         Library{u"Liberation Fonts"_s, "SIL OFL 1.1", "https://github.com/liberationfonts"},

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/chart/chartlayout.h"
+#include "platform/chart/axislayout.h"
+
+#include "platform/chart/chartgeometry.h"
 
 #include <algorithm>
 #include <cmath>
@@ -292,38 +294,6 @@ void layoutAxes(LayoutTry &attempt)
         placeBarFigures(attempt, figures);
     if (look.values && rows * attempt.subject.figures.seriesCount() <= MostPointFigures)
         placePointFigures(attempt);
-}
-
-bool isBarColumn(const ChartSubject &subject, int column)
-{
-    return subject.kind == ChartKind::Bars ||
-           (subject.kind == ChartKind::Combination && column + 1 < std::max(2, subject.figures.seriesCount()));
-}
-
-static int barColumns(const ChartSubject &subject)
-{
-    const int count = subject.figures.seriesCount();
-    return subject.kind == ChartKind::Combination ? std::max(1, count - 1) : count;
-}
-
-double barWidth(const ChartSubject &subject)
-{
-    const int rows = subject.figures.rowCount();
-    const double group = rows == 1 ? 0.5 : 0.8; // a lone row's bars would fill the plot
-    return group / barColumns(subject);
-}
-
-double barOffset(const ChartSubject &subject, int column)
-{
-    return (column - (barColumns(subject) - 1) / 2.0) * barWidth(subject);
-}
-
-QPointF figurePoint(const ChartSubject &subject, const ChartLayout &layout, int column, int row)
-{
-    const double slot = layout.plot.width() / subject.figures.rowCount();
-    const double aside = isBarColumn(subject, column) ? barOffset(subject, column) : 0;
-    const double part = (subject.figures.value(column, row) - layout.axis.low) / (layout.axis.high - layout.axis.low);
-    return {layout.plot.left() + slot * (row + 0.5 + aside), layout.plot.bottom() - layout.plot.height() * part};
 }
 
 } // namespace kalvenor::chart

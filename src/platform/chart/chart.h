@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QImage>
 #include <QLocale>
-#include <QSize>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -56,22 +54,5 @@ struct ChartLook {
     QString valueFormat = {};   ///< of a figure under the mouse: "%1: %2 years" (series and row, figure)
     QLocale locale = {};        ///< how figures are written
 };
-
-/// The size of the surrounding text in a picture, in points.
-constexpr int ChartTextPoints = 9;
-
-/// The chart on white paper, opaque. The layout follows from the picture's size on paper (pixels / dpi), so that 96 and
-/// 300 dpi give the same chart. Null for a size that cannot be (empty, or above 20000 pixels). `dpi` is held within 24
-/// to 2400. Qt Charts needs a QApplication; the platform "offscreen" will do.
-QImage chartImage(const ChartTable &table, const ChartLook &look, QSize pixels, double dpi);
-
-/// The same as a file, of the kind that its ending says: png, jpg, jpeg or svg. It is written beside and renamed, so
-/// that a failure leaves an old file as it was. `quality` is of JPEG, 0 to 100. Throws Error(Refused) for another
-/// ending or a size that cannot be, Error(WriteFailed) where the file cannot be written.
-void writeChart(const ChartTable &table, const ChartLook &look, QSize pixels, const QString &nativeFile,
-                int quality = 92, double dpi = 96);
-
-/// A figure as the chart shows it: completed tenths ("45,9" for 45.99), like the ages of the statistic.
-QString chartFigureText(double value, const QLocale &locale);
 
 } // namespace kalvenor::chart

@@ -3,6 +3,7 @@
 #include "platform/chart/chartcontrol.h"
 
 #include "platform/chart/chartdrawing.h"
+#include "platform/chart/chartpicture.h"
 
 #include <algorithm>
 #include <QClipboard>
@@ -93,7 +94,7 @@ void ChartControl::tellFigures()
 {
     if (!m_look.title.isEmpty())
         setAccessibleName(m_look.title);
-    setAccessibleDescription(m_table.isEmpty() ? m_look.emptyText : figuresText(m_table, m_look.locale));
+    setAccessibleDescription(figuresText(m_table, m_look));
     fillTable();
     forgetDrawing();
 }

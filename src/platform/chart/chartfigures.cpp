@@ -74,14 +74,17 @@ QString chartFigureText(double value, const QLocale &locale)
     return locale.toString(std::floor(value * 10) / 10, 'f', 1);
 }
 
-QString figuresText(const ChartTable &table, const QLocale &locale)
+QString figuresText(const ChartTable &table, const ChartLook &look)
 {
+    if (table.isEmpty())
+        return look.emptyText;
     const ChartFigures figures = chartFigures(table, ChartKind::Bars);
     QStringList lines;
     for (int row = 0; row < figures.rowCount(); ++row) {
         QStringList cells;
         for (int column = 0; column < figures.seriesCount(); ++column)
-            cells << (figures.series[column] + u' ' + chartFigureText(figures.value(column, row), locale)).trimmed();
+            cells
+                << (figures.series[column] + u' ' + chartFigureText(figures.value(column, row), look.locale)).trimmed();
         lines << figures.rows[row] + u": "_s + cells.join(u"; "_s);
     }
     return lines.join(u'\n');

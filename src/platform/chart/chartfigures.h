@@ -28,8 +28,10 @@ struct ChartFigures {
 /// All columns; for a pie the last one alone, with nothing below 0.
 ChartFigures chartFigures(const ChartTable &table, ChartKind kind);
 
-/// "1800-99: M 45,3; W 47,1", a line a row.
-QString figuresText(const ChartTable &table, const QLocale &locale);
+/// A figure as the chart shows it: completed tenths ("45,9" for 45.99), like the ages of the statistic.
+QString chartFigureText(double value, const QLocale &locale);
+/// "1800-99: M 45,3; W 47,1", a line a row; the look's text where the table is empty.
+QString figuresText(const ChartTable &table, const ChartLook &look);
 /// Tab-separated with the labels, a line a row, as spreadsheets paste it.
 QString figuresForClipboard(const ChartTable &table, const QLocale &locale);
 

@@ -2,8 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/chart/chartlayout.h"
 
+#include "platform/chart/axislayout.h"
+#include "platform/chart/chartstyle.h"
+#include "platform/chart/pielayout.h"
+
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace kalvenor::chart {
 namespace {
@@ -14,7 +19,6 @@ constexpr double LargestScale = 3;
 constexpr double ShrinkStep = 0.92;
 constexpr int WellReadable = 8; // pixels
 constexpr int Readable = 6;
-constexpr int MostPieColours = 8;
 
 double fontScale(double factor)
 {
@@ -120,7 +124,7 @@ std::optional<ChartLayout> tryLayout(const ChartSubject &full, QSizeF size, cons
     if (relief.title && !subject.look.title.trimmed().isEmpty())
         placeTitle(attempt, ChartFont(base, titlePixels, true));
     const bool pie = subject.kind == ChartKind::Pie;
-    if (relief.legend && subject.look.legend && (!pie || subject.figures.rowCount() <= MostPieColours))
+    if (relief.legend && subject.look.legend && (!pie || subject.figures.rowCount() <= SeriesColors))
         placeLegend(attempt, pie ? subject.figures.rows : subject.figures.series);
     if (!attempt.cramped)
         pie ? layoutPie(attempt) : layoutAxes(attempt);

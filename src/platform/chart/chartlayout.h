@@ -5,7 +5,6 @@
 #include "platform/chart/chartfigures.h"
 #include "platform/chart/charttext.h"
 
-#include <optional>
 #include <QRectF>
 
 // Where everything of a chart stands: plain arithmetic over font measures, so that nothing is cut and nothing overlaps.
@@ -49,28 +48,5 @@ struct LayoutTry {
     TextBlock fitted(const ChartFont &with, const QString &text, double width, int mostLines);
     void add(const PlacedText &text) { layout.texts.push_back(text); }
 };
-
-void layoutAxes(LayoutTry &attempt);
-void layoutPie(LayoutTry &attempt);
-
-/// Where a row's figure stands between the axes. Of bars: the middle of the bar's end.
-QPointF figurePoint(const ChartSubject &subject, const ChartLayout &layout, int column, int row);
-/// Whether the column is drawn as bars, how wide one is in rows, and where its middle lies beside the row's.
-bool isBarColumn(const ChartSubject &subject, int column);
-double barWidth(const ChartSubject &subject);
-double barOffset(const ChartSubject &subject, int column);
-/// A slice's begin and extent in degrees, clockwise from the top.
-struct PieSlice {
-    double begin;
-    double span;
-};
-std::vector<PieSlice> pieSlices(const ChartFigures &figures);
-
-struct ChartHit {
-    int column;
-    int row;
-};
-/// The figure that is drawn there.
-std::optional<ChartHit> figureAt(const ChartSubject &subject, const ChartLayout &layout, QPointF place);
 
 } // namespace kalvenor::chart

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/chart/chartpicture.h"
+
 #include "platform/basic/error.h"
-#include "platform/chart/chart.h"
 #include "platform/chart/chartdrawing.h"
+#include "platform/chart/svgcanvas.h"
 #include "platform/storage/file.h"
 
 #include <algorithm>
@@ -11,7 +13,6 @@
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QPainter>
-#include <QSvgGenerator>
 
 using namespace Qt::StringLiterals;
 
@@ -49,18 +50,10 @@ QByteArray pictureBytes(const QImage &image, const char *format, int quality)
 
 QByteArray svgBytes(const ChartTable &table, const ChartLook &look, QSize pixels, double dpi)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    QSvgGenerator generator;
-    generator.setOutputDevice(&buffer);
-    generator.setResolution(static_cast<int>(DrawingDpi));
-    const QSizeF size = QSizeF(pixels) * (DrawingDpi / dpi);
-    generator.setSize(size.toSize());
-    generator.setViewBox(QRectF(QPointF(), size));
-    QPainter painter(&generator);
-    paperDrawing(table, look, pixels, dpi).paint(painter, QRectF(QPointF(), size));
-    painter.end();
-    return bytes;
+    SvgCanvas canvas(QSizeF(pixels) * (DrawingDpi / dpi),
+                     {look.locale.bcp47Name(), look.title.simplified(), figuresText(table, look)});
+    paperDrawing(table, look, pixels, dpi).draw(canvas);
+    return canvas.finished();
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <QPainter>
 #include <QTransform>
 #include <utility>
 
@@ -28,23 +27,17 @@ QStringList pieces(const QString &text)
 
 } // namespace
 
+QRectF PlacedText::box() const
+{
+    return {QPointF(-block.size.width() / 2, -block.size.height() / 2), block.size};
+}
+
 QPolygonF PlacedText::outline() const
 {
     QTransform turn;
     turn.translate(centre.x(), centre.y());
     turn.rotate(angle);
-    return turn.map(QPolygonF(QRectF(QPointF(-block.size.width() / 2, -block.size.height() / 2), block.size)));
-}
-
-void PlacedText::draw(QPainter &painter) const
-{
-    painter.save();
-    painter.setFont(font);
-    painter.translate(centre);
-    painter.rotate(angle);
-    const QRectF box(QPointF(-block.size.width() / 2, -block.size.height() / 2), block.size);
-    painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, block.text);
-    painter.restore();
+    return turn.map(QPolygonF(box()));
 }
 
 ChartFont::ChartFont(const QFont &base, double pixels, bool bold)

@@ -7,8 +7,6 @@
 #include <QPolygonF>
 #include <QString>
 
-class QPainter;
-
 // Texts of a chart: measured first, then placed. Lengths are units of the drawing (1/96 inch in a picture).
 namespace kalvenor::chart {
 
@@ -28,8 +26,9 @@ struct PlacedText {
     QPointF centre;
     double angle = 0; ///< degrees, clockwise
 
+    /// Around (0, 0), not turned.
+    QRectF box() const;
     QPolygonF outline() const;
-    void draw(QPainter &painter) const;
 };
 
 /// A font of the drawing and its measures.

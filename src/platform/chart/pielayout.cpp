@@ -1,11 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/chart/chartlayout.h"
+#include "platform/chart/pielayout.h"
+
+#include "platform/chart/chartgeometry.h"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -82,20 +83,6 @@ std::vector<Callout> makeCallouts(LayoutTry &attempt)
 }
 
 } // namespace
-
-std::vector<PieSlice> pieSlices(const ChartFigures &figures)
-{
-    const std::vector<double> &values = figures.values.front();
-    const double total = std::accumulate(values.begin(), values.end(), 0.0);
-    std::vector<PieSlice> slices;
-    double begin = 0;
-    for (const double value : values) {
-        const double span = total > 0 ? value / total * 360 : 0;
-        slices.push_back({begin, span});
-        begin += span;
-    }
-    return slices;
-}
 
 void layoutPie(LayoutTry &attempt)
 {

@@ -2,10 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QColor>
 #include <QIcon>
 
-class QPainterPath;
+class QColor;
 
 namespace kalvenor::desktop {
 
@@ -36,11 +35,22 @@ enum class LineIcon {
     Reset,
     Preview,
     Help,
+    Bold,
+    Italic,
+    Underline,
+    StrikeOut,
+    AlignLeft,
+    AlignCentre,
+    AlignRight,
+    Justify,
+    Bullets,
+    Plain,
+    TextColor,
 };
 
 /// A line drawing, sharp at any size, in the colour that the palette gives to texts of buttons at that moment.
 QIcon lineIcon(LineIcon which);
-/// The same for a drawing on a field of 24 × 24 units; a valid colour adds a bar of that colour at its foot.
-QIcon pathIcon(const QPainterPath &path, const QColor &bar = {});
+/// The same with a bar of that colour at its foot, if it is valid.
+QIcon lineIcon(LineIcon which, const QColor &bar);
 
 } // namespace kalvenor::desktop

@@ -4,6 +4,7 @@
 
 #include "language/forms/form.h"
 #include "platform/basic/text.h"
+#include "platform/chart/chartpicture.h"
 #include "platform/print/htmlwriter.h"
 #include "platform/print/richtextblocks.h"
 #include "platform/print/rtffile.h"

@@ -5,15 +5,17 @@
 #include <QColor>
 #include <QPushButton>
 
-class QLineEdit;
+namespace kalvenor::desktop {
+class Desktop;
+}
 
 namespace kalvenor::settings {
 
-/// A button that shows a colour and opens a palette to pick another, or to type one as #rrggbb.
+/// A button that shows a colour and asks for another.
 class ColorButton : public QPushButton {
     Q_OBJECT
 public:
-    explicit ColorButton(QWidget *parent = nullptr);
+    ColorButton(desktop::Desktop &desktop, QWidget *parent);
 
     const QColor &color() const { return m_color; }
     void setColor(const QColor &color);
@@ -22,16 +24,11 @@ Q_SIGNALS:
     /// By the user.
     void picked(const QColor &color);
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
-    QWidget *makePalette();
-    void pick(const QColor &color);
-    void showColor();
+    void ask();
 
-    QColor m_color = Qt::black;
-    QLineEdit *m_entry = nullptr;
+    desktop::Desktop &m_desktop;
+    QColor m_color;
 };
 
 } // namespace kalvenor::settings

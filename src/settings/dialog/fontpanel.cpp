@@ -57,9 +57,10 @@ QLabel *note(QWidget *parent)
 
 } // namespace
 
-FontPanel::FontPanel(language::Sprachmodul &texts, QWidget *parent) : QWidget(parent), m_texts(texts)
+FontPanel::FontPanel(desktop::Desktop &desktop, language::Sprachmodul &texts, QWidget *parent)
+    : QWidget(parent), m_texts(texts)
 {
-    build();
+    build(desktop);
     layOut();
 
     connect(m_elements, &QListWidget::currentRowChanged, this, &FontPanel::fill);
@@ -78,7 +79,7 @@ FontPanel::FontPanel(language::Sprachmodul &texts, QWidget *parent) : QWidget(pa
     m_elements->setCurrentRow(0);
 }
 
-void FontPanel::build()
+void FontPanel::build(desktop::Desktop &desktop)
 {
     m_elements = new QListWidget(this);
     m_elements->setObjectName(u"Element"_s);
@@ -103,10 +104,10 @@ void FontPanel::build()
                   box("Fontitalic", "20823Kursiv", &FontTexts::Fontitalic),
                   box("Fontunderline", "20824Unterstrichen", &FontTexts::Fontunderline),
                   box("Fontstrikethru", "20825Durchgestrichen", &FontTexts::Fontstrikethru)};
-    m_color = new ColorButton(this);
+    m_color = new ColorButton(desktop, this);
     m_color->setObjectName(u"Fontcolor"_s);
     setDesignText(m_color, {}, u"20828Farbe wählen"_s);
-    m_background = new ColorButton(this);
+    m_background = new ColorButton(desktop, this);
     m_background->setObjectName(u"Backcolor"_s);
     setDesignText(m_background, {}, u"20828Farbe wählen"_s);
     m_sample = new FontSample(this);

@@ -21,7 +21,7 @@ class NumberBox;
 class FontPanel : public QWidget {
     Q_OBJECT
 public:
-    explicit FontPanel(language::Sprachmodul &texts, QWidget *parent = nullptr);
+    FontPanel(desktop::Desktop &desktop, language::Sprachmodul &texts, QWidget *parent);
 
     void setVorgaben(const Druckvorgaben &vorgaben);
     /// Puts the fonts in.
@@ -33,7 +33,7 @@ private:
         QString FontTexts::*text;
     };
 
-    void build();
+    void build(desktop::Desktop &desktop);
     void layOut();
     Element element() const;
     FontTexts &font() { return m_vorgaben.font(element()); }

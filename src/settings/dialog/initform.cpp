@@ -19,7 +19,7 @@ namespace kalvenor::settings {
 Initform::Initform(const host::Host &host, language::Sprachmodul &texts, Druckvorgaben &vorgaben,
                    print::PageSetup &page, QWidget *parent)
     : QDialog(parent), m_host(host), m_texts(texts), m_vorgaben(vorgaben), m_page(page), m_tabs(new QTabWidget(this)),
-      m_fonts(new FontPanel(texts, this)), m_pagePanel(new PagePanel(texts, this)),
+      m_fonts(new FontPanel(host.desktop(), texts, this)), m_pagePanel(new PagePanel(texts, this)),
       m_contents(new ContentsPanel(texts, this))
 {
     setObjectName(u"initform"_s);

@@ -3,7 +3,6 @@
 #include "statistics/introduction/texttools.h"
 
 #include "language/forms/widgetform.h"
-#include "platform/desktop/formaticon.h"
 #include "platform/desktop/lineicon.h"
 #include "statistics/introduction/textfield.h"
 #include <algorithm>
@@ -88,10 +87,10 @@ QAction *TextTools::make(const char *name, const char *caption, const QIcon &ico
     return action;
 }
 
-QAction *TextTools::makeToggle(const char *name, const char *caption, desktop::FormatIcon icon,
+QAction *TextTools::makeToggle(const char *name, const char *caption, desktop::LineIcon icon,
                                const QKeySequence &keys, void (TextTools::*apply)(bool))
 {
-    QAction *action = make(name, caption, desktop::formatIcon(icon), keys);
+    QAction *action = make(name, caption, desktop::lineIcon(icon), keys);
     action->setCheckable(true);
     connect(action, &QAction::triggered, this, apply);
     return action;
@@ -99,16 +98,16 @@ QAction *TextTools::makeToggle(const char *name, const char *caption, desktop::F
 
 void TextTools::makeFormats()
 {
-    m_bold = makeToggle("Fett", "20700Fett", desktop::FormatIcon::Bold, Qt::CTRL | Qt::Key_B, &TextTools::applyBold);
+    m_bold = makeToggle("Fett", "20700Fett", desktop::LineIcon::Bold, Qt::CTRL | Qt::Key_B, &TextTools::applyBold);
     m_italic =
-        makeToggle("Kursiv", "20701Kursiv", desktop::FormatIcon::Italic, Qt::CTRL | Qt::Key_I, &TextTools::applyItalic);
-    m_underline = makeToggle("Unterstrichen", "20702Unterstrichen", desktop::FormatIcon::Underline,
+        makeToggle("Kursiv", "20701Kursiv", desktop::LineIcon::Italic, Qt::CTRL | Qt::Key_I, &TextTools::applyItalic);
+    m_underline = makeToggle("Unterstrichen", "20702Unterstrichen", desktop::LineIcon::Underline,
                              Qt::CTRL | Qt::Key_U, &TextTools::applyUnderline);
-    m_strikeOut = makeToggle("Durchgestrichen", "20703Durchgestrichen", desktop::FormatIcon::StrikeOut,
+    m_strikeOut = makeToggle("Durchgestrichen", "20703Durchgestrichen", desktop::LineIcon::StrikeOut,
                              Qt::CTRL | Qt::SHIFT | Qt::Key_X, &TextTools::applyStrikeOut);
-    m_bullets = makeToggle("Aufzaehlung", "20707Aufzählung", desktop::FormatIcon::Bullets,
+    m_bullets = makeToggle("Aufzaehlung", "20707Aufzählung", desktop::LineIcon::Bullets,
                            Qt::CTRL | Qt::SHIFT | Qt::Key_L, &TextTools::applyBullets);
-    m_plain = make("Formateentfernen", "20724Formate entfernen", desktop::formatIcon(desktop::FormatIcon::Plain),
+    m_plain = make("Formateentfernen", "20724Formate entfernen", desktop::lineIcon(desktop::LineIcon::Plain),
                    Qt::CTRL | Qt::Key_Space);
     connect(m_plain, &QAction::triggered, &m_field, &TextField::removeFormats);
 }
@@ -116,10 +115,10 @@ void TextTools::makeFormats()
 void TextTools::makeAlignments()
 {
     m_alignments = {
-        make("Links", "20704Linksbündig", desktop::formatIcon(desktop::FormatIcon::Left), Qt::CTRL | Qt::Key_L),
-        make("Zentriert", "20705Zentriert", desktop::formatIcon(desktop::FormatIcon::Centre), Qt::CTRL | Qt::Key_E),
-        make("Rechts", "20706Rechtsbündig", desktop::formatIcon(desktop::FormatIcon::Right), Qt::CTRL | Qt::Key_R),
-        make("Blocksatz", "20725Blocksatz", desktop::formatIcon(desktop::FormatIcon::Justify), Qt::CTRL | Qt::Key_J)};
+        make("Links", "20704Linksbündig", desktop::lineIcon(desktop::LineIcon::AlignLeft), Qt::CTRL | Qt::Key_L),
+        make("Zentriert", "20705Zentriert", desktop::lineIcon(desktop::LineIcon::AlignCentre), Qt::CTRL | Qt::Key_E),
+        make("Rechts", "20706Rechtsbündig", desktop::lineIcon(desktop::LineIcon::AlignRight), Qt::CTRL | Qt::Key_R),
+        make("Blocksatz", "20725Blocksatz", desktop::lineIcon(desktop::LineIcon::Justify), Qt::CTRL | Qt::Key_J)};
     auto *group = new QActionGroup(this);
     for (std::size_t i = 0; i < m_alignments.size(); ++i) {
         m_alignments[i]->setCheckable(true);
@@ -324,7 +323,7 @@ void TextTools::showFormats()
     m_family->setEditText(family);
     if (!m_size->lineEdit()->hasFocus())
         m_size->setEditText(locale().toString(size, 'g', 4));
-    m_color->setIcon(desktop::colorIcon(foregroundOf(format)));
+    m_color->setIcon(desktop::lineIcon(desktop::LineIcon::TextColor, foregroundOf(format)));
 }
 
 } // namespace kalvenor::statistics

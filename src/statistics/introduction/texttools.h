@@ -13,7 +13,7 @@ class QTextCharFormat;
 class QToolButton;
 
 namespace kalvenor::desktop {
-enum class FormatIcon;
+enum class LineIcon;
 }
 
 namespace kalvenor::statistics {
@@ -32,7 +32,7 @@ Q_SIGNALS:
 
 private:
     QAction *make(const char *name, const char *caption, const QIcon &icon, const QKeySequence &keys = {});
-    QAction *makeToggle(const char *name, const char *caption, desktop::FormatIcon icon, const QKeySequence &keys,
+    QAction *makeToggle(const char *name, const char *caption, desktop::LineIcon icon, const QKeySequence &keys,
                         void (TextTools::*apply)(bool));
     void makeFormats();
     void makeEditing();

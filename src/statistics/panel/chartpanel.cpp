@@ -5,6 +5,7 @@
 #include "language/forms/form.h"
 #include "language/forms/widgetform.h"
 #include "platform/chart/chartcontrol.h"
+#include "platform/chart/chartpicture.h"
 #include "statistics/figures/grafikbild.h"
 #include "statistics/panel/sexbox.h"
 #include <QCheckBox>

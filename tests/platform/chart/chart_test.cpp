@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/basic/error.h"
+#include "platform/chart/canvas.h"
 #include "platform/chart/chartdrawing.h"
+#include "platform/chart/chartgeometry.h"
+#include "platform/chart/chartpicture.h"
 #include "platform/chart/charttables.h"
 
 #include <cmath>
@@ -61,9 +64,9 @@ TEST(Chart, AxisIsRoundAndHoldsEveryFigure)
     const struct {
         QString low, high;
         double axisLow, axisHigh, step;
-    } cases[] = {{u"38"_s, u"74"_s, 0, 80, 10},        {u"0"_s, u"0"_s, 0, 10, 1},
-                 {u"90"_s, u"104.2"_s, 0, 120, 20},    {u"-7"_s, u"30"_s, -10, 30, 5},
-                 {u".0027"_s, u".01"_s, 0, .01, .001}, {u"1e-300"_s, u"0"_s, 0, 10, 1}};
+    } cases[] = {{u"38"_s, u"74"_s, 0, 80, 10},  {u"0"_s, u"0"_s, 0, 10, 1},     {u"90"_s, u"104.2"_s, 0, 120, 20},
+                 {u"3"_s, u"24"_s, 0, 25, 2.5},  {u"-7"_s, u"30"_s, -10, 30, 5}, {u".0027"_s, u".01"_s, 0, .01, .001},
+                 {u"1e-300"_s, u"0"_s, 0, 10, 1}};
     for (const auto &[low, high, axisLow, axisHigh, step] : cases) {
         const ValueAxis axis = valueAxis(chartFigures({{}, {}, {{low}, {high}}}, ChartKind::Bars), 10);
         EXPECT_NEAR(axis.low, axisLow, 1e-9) << high.toStdString();
@@ -177,9 +180,11 @@ TEST(Chart, EmptyTableSaysWhyAndShowsNoAxes)
 TEST(Chart, FirstColoursStayApartInGreyAndFromTheirGround)
 {
     for (const bool dark : {false, true}) {
+        ChartStyle style = paperStyle();
+        style.dark = dark;
         std::vector<int> greys{dark ? 0x23 : 0xff};
         for (int i = 0; i < 3; ++i)
-            greys.push_back(qGray(seriesColor(i, dark).rgb()));
+            greys.push_back(qGray(style.seriesColor(i).rgb()));
         for (std::size_t i = 0; i < greys.size(); ++i) {
             for (std::size_t j = 0; j < i; ++j)
                 EXPECT_GE(std::abs(greys[i] - greys[j]), 35) << dark << i << j;
@@ -192,31 +197,106 @@ TEST(Chart, FileIsOfTheKindOfItsEnding)
     const QTemporaryDir folder;
     ChartLook look = fullLook(ChartType::Pie);
     look.title = u"A & <B>"_s;
-    for (const QString &name : {u"c.png"_s, u"c.JPG"_s, u"c.jpeg"_s, u"c.svg"_s}) {
+    for (const auto &[name, format] : {std::pair(u"c.png"_s, "png"), {u"c.JPG"_s, "jpeg"}, {u"c.jpeg"_s, "jpeg"}}) {
         const QString file = folder.filePath(name);
         writeChart(centuries(5), look, {600, 400}, file, 80);
         QImageReader reader(file);
         reader.setDecideFormatFromContent(true);
-        const QByteArray format = name.right(3).toLower().toLatin1();
-        EXPECT_EQ(reader.format(), format == "png" || format == "svg" ? format : QByteArray("jpeg"));
-        if (format != "svg") { // which has its size in millimetres
-            EXPECT_EQ(reader.size(), QSize(600, 400)) << name.toStdString();
-        }
+        EXPECT_EQ(reader.format(), format);
+        EXPECT_EQ(reader.size(), QSize(600, 400)) << name.toStdString();
         EXPECT_FALSE(isUniform(reader.read()));
     }
-    QFile svg(folder.filePath(u"c.svg"_s));
-    ASSERT_TRUE(svg.open(QIODevice::ReadOnly));
-    QXmlStreamReader xml(&svg);
-    QString texts;
-    while (!xml.atEnd()) {
-        xml.readNext();
-        texts += xml.text();
-        if (xml.isStartElement() && xml.name() == u"svg") {
-            EXPECT_EQ(xml.attributes().value("width"), u"158.75mm"); // 600 / 96 inch
+}
+
+TEST(Chart, SvgHoldsItsTextsAsTextsAndSaysWhatItShows)
+{
+    const QTemporaryDir folder;
+    for (const ChartType type : test::AllChartTypes) {
+        ChartLook look = fullLook(type);
+        look.title = u"A\x01 & <B>"_s;
+        look.values = true;
+        writeChart(centuries(5), look, {600, 400}, folder.filePath(u"c.svg"_s));
+        QFile file(folder.filePath(u"c.svg"_s));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        QXmlStreamReader xml(&file);
+        QMap<QString, QStringList> words; // by element
+        QString element;
+        while (xml.readNext() != QXmlStreamReader::Invalid && !xml.atEnd()) {
+            if (xml.isStartElement()) {
+                element = xml.name().toString();
+                words[element]; // of an empty one, too
+                if (element == u"svg") {
+                    EXPECT_EQ(xml.attributes().value("width"), u"158.75mm"); // 600 / 96 inch
+                    EXPECT_EQ(xml.attributes().value("xml:lang"), u"de");
+                }
+            } else if (xml.isCharacters() && !xml.isWhitespace()) {
+                words[element] << xml.text().toString();
+            }
+        }
+        EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+        EXPECT_EQ(words.keys(), (QStringList{u"desc"_s, u"path"_s, u"svg"_s, u"text"_s, u"title"_s}));
+        EXPECT_EQ(words[u"title"_s], QStringList{u"A & <B>"_s});
+        EXPECT_TRUE(words[u"desc"_s].value(0).startsWith(u"300-99: M 38,0; W 52,7; Alle 67,4\n"));
+        QStringList shown;
+        look.title = u"A & <B>"_s;
+        const ChartDrawing drawing(centuries(5), look, {600, 400}, paperStyle());
+        for (const PlacedText &text : drawing.layout().texts)
+            shown << text.block.text.split(u'\n');
+        EXPECT_EQ(words[u"text"_s], shown) << static_cast<int>(type);
+    }
+}
+
+TEST(Chart, EachFigureIsDrawnWhereItIsHit)
+{
+    struct Shapes : Canvas {
+        void shape(const QPainterPath &path, const QColor &fill, const QPen &pen) override
+        {
+            if (fill.isValid() || pen.style() == Qt::NoPen)
+                all.push_back({path, fill.rgb()});
+            else // a line is as broad as its pen
+                all.push_back({QPainterPathStroker(pen).createStroke(path), pen.color().rgb()});
+        }
+        void text(const PlacedText &, const QColor &) override {}
+        std::vector<std::pair<QPainterPath, QRgb>> all;
+    };
+    ChartTable table = centuries(5);
+    table.data[1][0] = u"-20"_s;
+    for (const ChartType type : test::AllChartTypes) {
+        const ChartStyle style = paperStyle();
+        const ChartDrawing drawing(table, fullLook(type), {600, 400}, style);
+        const ChartSubject &subject = drawing.subject();
+        Shapes shapes;
+        drawing.draw(shapes);
+        for (int column = 0; column < subject.figures.seriesCount(); ++column) {
+            for (int row = 0; row < subject.figures.rowCount(); ++row) {
+                QPointF place;
+                if (type == ChartType::Pie) {
+                    const PieSlice slice = pieSlices(subject.figures)[static_cast<std::size_t>(row)];
+                    const QRectF circle = drawing.layout().plot;
+                    QLineF ray(circle.center(), circle.center() - QPointF(0, circle.height() * 0.45));
+                    ray.setAngle(90 - slice.begin - slice.span / 2);
+                    place = ray.p2();
+                } else if (isBarColumn(subject, column)) {
+                    place = barRect(subject, drawing.layout(), column, row).center();
+                } else {
+                    place = figurePoint(subject, drawing.layout(), column, row);
+                }
+                const QRgb color = style.seriesColor(type == ChartType::Pie ? row : column).rgb();
+                const bool drawn = std::any_of(shapes.all.begin(), shapes.all.end(), [&](const auto &each) {
+                    return each.second == color && each.first.contains(place);
+                });
+                const auto name = testing::Message() << static_cast<int>(type) << ' ' << column << ' ' << row;
+                if (subject.figures.value(column, row) == 0) {
+                    EXPECT_FALSE(drawn && type != ChartType::Pie) << name;
+                    continue;
+                }
+                EXPECT_TRUE(drawn) << name;
+                const auto hit = figureAt(subject, drawing.layout(), place);
+                ASSERT_TRUE(hit) << name;
+                EXPECT_TRUE(hit->row == row && hit->column == column) << name;
+            }
         }
     }
-    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
-    EXPECT_TRUE(texts.contains(u"A & <B>") && texts.contains(u"700-99: 74,0"));
 }
 
 TEST(Chart, FailedWriteIsAnErrorAndLeavesTheOldFile)

@@ -3,6 +3,7 @@
 // chartpictures DIR: writes PNG pictures of typical charts, named by what they show.
 #include "platform/basic/error.h"
 #include "platform/chart/chartcontrol.h"
+#include "platform/chart/chartpicture.h"
 #include "platform/chart/charttables.h"
 
 #include <cstdio>
@@ -78,7 +79,7 @@ int main(int argc, char **argv)
         const QString folder = QString::fromLocal8Bit(argv[1]);
         QDir().mkpath(folder);
         pictures(folder);
-    } catch (const basic::Error &error) {
+    } catch (const kalvenor::basic::Error &error) {
         std::fprintf(stderr, "%s\n", error.what());
         return 1;
     }
