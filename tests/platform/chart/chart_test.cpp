@@ -251,10 +251,12 @@ TEST(Chart, EachFigureIsDrawnWhereItIsHit)
     struct Shapes : Canvas {
         void shape(const QPainterPath &path, const QColor &fill, const QPen &pen) override
         {
-            if (fill.isValid() || pen.style() == Qt::NoPen)
+            QPainterPathStroker line; // dashed or not
+            line.setWidth(pen.widthF());
+            if (fill.isValid())
                 all.push_back({path, fill.rgb()});
-            else // a line is as broad as its pen
-                all.push_back({QPainterPathStroker(pen).createStroke(path), pen.color().rgb()});
+            else
+                all.push_back({line.createStroke(path), pen.color().rgb()});
         }
         void text(const PlacedText &, const QColor &) override {}
         std::vector<std::pair<QPainterPath, QRgb>> all;
