@@ -114,11 +114,14 @@ void SvgCanvas::text(const PlacedText &text, const QColor &color)
                                                  (text.angle == 0 ? QString() : u" rotate(%1)"_s.arg(text.angle)));
         m_xml.writeAttribute(u"y"_s, number(baseline));
         m_xml.writeAttribute(u"text-anchor"_s, u"middle"_s);
-        m_xml.writeAttribute(u"font-family"_s, text.font.family() + u", Liberation Sans, Helvetica, sans-serif"_s);
+        m_xml.writeAttribute(u"font-family"_s, text.font.family());
         m_xml.writeAttribute(u"font-size"_s, number(text.font.pixelSize()));
         if (text.font.bold())
             m_xml.writeAttribute(u"font-weight"_s, u"bold"_s);
         writeColor(m_xml, u"fill"_s, color);
+        // As long as it was measured, whatever font stands in for a missing one.
+        m_xml.writeAttribute(u"textLength"_s, number(metrics.horizontalAdvance(line)));
+        m_xml.writeAttribute(u"lengthAdjust"_s, u"spacingAndGlyphs"_s);
         m_xml.writeCharacters(sound(line));
         m_xml.writeEndElement();
         baseline += metrics.lineSpacing();
