@@ -72,198 +72,189 @@ QPainterPath mark(int index, QPointF centre, double size)
     }
 }
 
-/// What all steps of a drawing look at.
-struct Drawing {
-    Canvas &canvas;
-    const ChartSubject &subject;
-    const ChartLayout &layout;
-    const ChartStyle &style;
+/// One drawing, step by step.
+class Drawing {
+public:
+    Drawing(Canvas &canvas, const ChartSubject &subject, const ChartLayout &layout, const ChartStyle &style)
+        : m_canvas(canvas), m_subject(subject), m_layout(layout), m_style(style)
+    {
+    }
 
-    QPen thin(const QColor &color) const { return {color, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin}; }
+    void grid() const
+    {
+        QPainterPath lines;
+        for (int tick = 0; tick <= m_layout.axis.intervals(); ++tick)
+            addLevel(lines, tick, m_layout.plot.left(), m_layout.plot.right());
+        m_canvas.shape(lines, {}, thin(m_style.grid));
+    }
 
-    void grid() const;
-    void axes() const;
-    void bars(int column) const;
-    void line(int column) const;
-    void marks(int column) const;
-    void pie() const;
-    void swatch(const LegendSwatch &swatch) const;
-    void texts() const;
+    void axes() const
+    {
+        const QRectF &plot = m_layout.plot;
+        const QPointF down(0, TickLength);
+        QPainterPath lines = polyline({{plot.bottomLeft() + down, plot.topLeft(), plot.bottomLeft(), plot.bottomRight(),
+                                        plot.bottomRight() + down}});
+        for (int tick = 0; tick <= m_layout.axis.intervals(); ++tick)
+            addLevel(lines, tick, plot.left() - TickLength, plot.left());
+        m_canvas.shape(lines, {}, thin(m_style.text));
+    }
+
+    void bars(int column) const
+    {
+        const QColor color = m_style.seriesColor(column);
+        for (int row = 0; row < m_subject.figures.rowCount(); ++row) {
+            if (!gap(column, row))
+                m_canvas.shape(rectangle(barRect(m_subject, m_layout, column, row)), color, m_style.edgePen(color));
+        }
+    }
+
+    /// A line over rows that follow one another, and what lies below it.
+    void lines(int column) const
+    {
+        int first = 0;
+        for (int row = 0; row < m_subject.figures.rowCount(); ++row) {
+            if (gap(column, row))
+                first = row + 1;
+            if (gap(column, row) || !gap(column, row + 1))
+                continue;
+            const QPolygonF points = run(column, first, row);
+            if (points.size() < 2)
+                continue; // a mark alone
+            if (m_subject.kind == ChartKind::Areas) {
+                const double zero = plotPoint(m_subject, m_layout, 0, 0).y();
+                const QPolygonF foot{{{points.last().x(), zero}, {points.first().x(), zero}, points.first()}};
+                m_canvas.shape(polyline(points + foot), translucent(m_style.seriesColor(column), AreaAlpha), Qt::NoPen);
+            }
+            m_canvas.shape(polyline(points), {}, m_style.linePen(column));
+        }
+    }
+
+    void marks(int column) const
+    {
+        // Large below small, so that each is seen where figures are the same; the outline keeps them apart.
+        const double size = MarkSize + 2 * std::min(2, m_subject.figures.seriesCount() - 1 - column);
+        for (int row = 0; row < m_subject.figures.rowCount(); ++row) {
+            if (!gap(column, row))
+                m_canvas.shape(mark(column, figurePoint(m_subject, m_layout, column, row), size),
+                               m_style.seriesColor(column), thin(m_style.ground));
+        }
+    }
+
+    void pie() const
+    {
+        QPainterPath circle;
+        circle.addEllipse(m_layout.plot);
+        bool empty = true;
+        const int last = m_subject.figures.rowCount() - 1;
+        int row = 0;
+        for (const auto &[begin, span] : pieSlices(m_subject.figures)) {
+            // The last slice touches the first.
+            const QColor color = m_style.seriesColor(row == last && row % SeriesColors == 0 && row > 0 ? row + 1 : row);
+            QPainterPath slice(m_layout.plot.center());
+            slice.arcTo(m_layout.plot, 90 - begin, -span);
+            slice.closeSubpath();
+            if (span >= 360)
+                m_canvas.shape(circle, color, Qt::NoPen); // no spoke
+            else if (span > 0)
+                m_canvas.shape(slice, color, thin(m_style.ground));
+            empty = empty && span <= 0;
+            ++row;
+        }
+        if (empty)
+            m_canvas.shape(circle, {}, thin(m_style.grid));
+    }
+
+    /// The legend's sample of a series, of a row in a pie (which has a legend only while no colour is used twice).
+    void swatch(int index, const QRectF &box) const
+    {
+        const QColor color = m_style.seriesColor(index);
+        const QPointF middle = box.center();
+        if (m_subject.kind == ChartKind::Pie || isBarColumn(m_subject, index)) {
+            m_canvas.shape(rectangle(box), color, m_style.edgePen(color));
+            return;
+        }
+        if (m_subject.kind == ChartKind::Areas)
+            m_canvas.shape(rectangle({box.left(), middle.y(), box.width(), box.height() / 2}),
+                           translucent(color, AreaAlpha), Qt::NoPen);
+        if (m_subject.kind != ChartKind::Points)
+            m_canvas.shape(polyline({{{box.left(), middle.y()}, {box.right(), middle.y()}}}), {},
+                           m_style.linePen(index));
+        if (m_subject.kind != ChartKind::Steps)
+            m_canvas.shape(mark(index, middle, std::min(MarkSize, box.height())), color, Qt::NoPen);
+    }
+
+    void texts() const
+    {
+        for (const QPolygonF &leader : m_layout.leaders)
+            m_canvas.shape(polyline(leader), {}, thin(m_style.grid));
+        for (const PlacedText &text : m_layout.texts) {
+            if (text.role == TextRole::Figure && m_subject.kind != ChartKind::Bars) // lines and bars pass behind it
+                m_canvas.shape(rectangle(text.outline().boundingRect()), translucent(m_style.ground, VeilAlpha),
+                               Qt::NoPen);
+            m_canvas.text(text, m_style.text);
+        }
+    }
 
 private:
-    QPolygonF run(int column, int first, int last) const;
+    static QPen thin(const QColor &color) { return {color, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin}; }
+
+    /// No figure, or no row any more.
+    bool gap(int column, int row) const
+    {
+        return row >= m_subject.figures.rowCount() || m_subject.figures.value(column, row) == 0;
+    }
+
+    void addLevel(QPainterPath &path, int tick, double left, double right) const
+    {
+        const double y = m_layout.plot.bottom() - m_layout.plot.height() * tick / m_layout.axis.intervals();
+        path.moveTo(left, y);
+        path.lineTo(right, y);
+    }
+
+    QPolygonF run(int column, int first, int last) const
+    {
+        double reach = 0; // to both sides of a row, in rows
+        if (m_subject.kind == ChartKind::Steps)
+            reach = 0.5;
+        else if (m_subject.kind == ChartKind::Areas && first == last)
+            reach = LoneHalfWidth;
+        QPolygonF points;
+        for (int row = first; row <= last; ++row) {
+            const double value = m_subject.figures.value(column, row);
+            points << plotPoint(m_subject, m_layout, row - reach, value);
+            if (reach > 0)
+                points << plotPoint(m_subject, m_layout, row + reach, value);
+        }
+        return points;
+    }
+
+    Canvas &m_canvas;
+    const ChartSubject &m_subject;
+    const ChartLayout &m_layout;
+    const ChartStyle &m_style;
 };
-
-double tickHeight(const ChartLayout &layout, int tick)
-{
-    return layout.plot.bottom() - layout.plot.height() * tick / layout.axis.intervals();
-}
-
-void Drawing::grid() const
-{
-    QPainterPath lines;
-    for (int tick = 0; tick <= layout.axis.intervals(); ++tick) {
-        const double y = tickHeight(layout, tick);
-        lines.moveTo(layout.plot.left(), y);
-        lines.lineTo(layout.plot.right(), y);
-    }
-    canvas.shape(lines, {}, thin(style.grid));
-}
-
-void Drawing::axes() const
-{
-    const QRectF &plot = layout.plot;
-    QPainterPath lines = polyline({{{plot.left(), plot.bottom() + TickLength},
-                                    plot.topLeft(),
-                                    plot.bottomLeft(),
-                                    plot.bottomRight(),
-                                    {plot.right(), plot.bottom() + TickLength}}});
-    for (int tick = 0; tick <= layout.axis.intervals(); ++tick) {
-        lines.moveTo(plot.left() - TickLength, tickHeight(layout, tick));
-        lines.lineTo(plot.left(), tickHeight(layout, tick));
-    }
-    canvas.shape(lines, {}, thin(style.text));
-}
-
-void Drawing::bars(int column) const
-{
-    const QColor color = style.seriesColor(column);
-    for (int row = 0; row < subject.figures.rowCount(); ++row) {
-        if (subject.figures.value(column, row) != 0)
-            canvas.shape(rectangle(barRect(subject, layout, column, row)), color, style.edgePen(color));
-    }
-}
-
-/// The line over rows that follow one another without a gap.
-QPolygonF Drawing::run(int column, int first, int last) const
-{
-    double reach = 0; // to both sides of a row
-    if (subject.kind == ChartKind::Steps)
-        reach = 0.5;
-    else if (subject.kind == ChartKind::Areas && first == last)
-        reach = LoneHalfWidth;
-    QPolygonF points;
-    for (int row = first; row <= last; ++row) {
-        const double value = subject.figures.value(column, row);
-        points << plotPoint(subject, layout, row - reach, value);
-        if (reach > 0)
-            points << plotPoint(subject, layout, row + reach, value);
-    }
-    return points;
-}
-
-void Drawing::line(int column) const
-{
-    const auto gap = [&](int row) {
-        return row >= subject.figures.rowCount() || subject.figures.value(column, row) == 0;
-    };
-    const double ground = plotPoint(subject, layout, 0, 0).y();
-    int first = 0;
-    for (int row = 0; row < subject.figures.rowCount(); ++row) {
-        if (gap(row))
-            first = row + 1;
-        if (gap(row) || !gap(row + 1))
-            continue;
-        const QPolygonF points = run(column, first, row);
-        if (points.size() < 2)
-            continue; // a mark alone
-        if (subject.kind == ChartKind::Areas) {
-            const QPolygonF foot{{{points.last().x(), ground}, {points.first().x(), ground}, points.first()}};
-            canvas.shape(polyline(points + foot), translucent(style.seriesColor(column), AreaAlpha), Qt::NoPen);
-        }
-        canvas.shape(polyline(points), {}, style.linePen(column));
-    }
-}
-
-void Drawing::marks(int column) const
-{
-    // Large below small, so that each is seen where figures are the same.
-    const double size = MarkSize + 2 * std::min(2, subject.figures.seriesCount() - 1 - column);
-    for (int row = 0; row < subject.figures.rowCount(); ++row) {
-        if (subject.figures.value(column, row) != 0) // the outline keeps marks over one another apart
-            canvas.shape(mark(column, figurePoint(subject, layout, column, row), size), style.seriesColor(column),
-                         thin(style.ground));
-    }
-}
-
-void Drawing::pie() const
-{
-    const std::vector<PieSlice> slices = pieSlices(subject.figures);
-    const auto rows = static_cast<int>(slices.size());
-    bool empty = true;
-    for (int row = 0; row < rows; ++row) {
-        const auto &[begin, span] = slices[static_cast<std::size_t>(row)];
-        if (span <= 0)
-            continue;
-        empty = false;
-        QPainterPath path;
-        if (span < 360) {
-            path.moveTo(layout.plot.center());
-            path.arcTo(layout.plot, 90 - begin, -span);
-            path.closeSubpath();
-        } else { // no spoke in a full circle
-            path.addEllipse(layout.plot);
-        }
-        // The last slice touches the first.
-        const bool sameAsFirst = row == rows - 1 && row > 0 && row % SeriesColors == 0;
-        canvas.shape(path, style.seriesColor(sameAsFirst ? row + 1 : row), span < 360 ? thin(style.ground) : Qt::NoPen);
-    }
-    if (empty) {
-        QPainterPath outline;
-        outline.addEllipse(layout.plot);
-        canvas.shape(outline, {}, thin(style.grid));
-    }
-}
-
-/// The legend's sample of a series, of a row in a pie (which has a legend only while no colour is used twice).
-void Drawing::swatch(const LegendSwatch &swatch) const
-{
-    const QRectF &box = swatch.box;
-    const QColor color = style.seriesColor(swatch.index);
-    const QPointF middle = box.center();
-    if (subject.kind == ChartKind::Pie || isBarColumn(subject, swatch.index)) {
-        canvas.shape(rectangle(box), color, style.edgePen(color));
-        return;
-    }
-    if (subject.kind == ChartKind::Areas)
-        canvas.shape(rectangle({box.left(), middle.y(), box.width(), box.height() / 2}), translucent(color, AreaAlpha),
-                     Qt::NoPen);
-    if (subject.kind != ChartKind::Points)
-        canvas.shape(polyline({{{box.left(), middle.y()}, {box.right(), middle.y()}}}), {},
-                     style.linePen(swatch.index));
-    if (subject.kind != ChartKind::Steps)
-        canvas.shape(mark(swatch.index, middle, std::min(MarkSize, box.height())), color, Qt::NoPen);
-}
-
-void Drawing::texts() const
-{
-    for (const PlacedText &text : layout.texts) {
-        if (text.role == TextRole::Figure && subject.kind != ChartKind::Bars) // lines and bars pass behind it
-            canvas.shape(rectangle(text.outline().boundingRect()), translucent(style.ground, VeilAlpha), Qt::NoPen);
-        canvas.text(text, style.text);
-    }
-}
 
 } // namespace
 
 void drawChart(Canvas &canvas, const ChartSubject &subject, const ChartLayout &layout, const ChartStyle &style,
                QSizeF size)
 {
-    const Drawing drawing{canvas, subject, layout, style};
+    const Drawing drawing(canvas, subject, layout, style);
     canvas.shape(rectangle({QPointF(), size}), style.ground, Qt::NoPen);
     const int columns = subject.figures.seriesCount();
-    if (subject.kind == ChartKind::Pie && !subject.figures.isEmpty()) {
+    if (subject.figures.isEmpty()) {
+        // the message alone
+    } else if (subject.kind == ChartKind::Pie) {
         drawing.pie();
-    } else if (!subject.figures.isEmpty()) {
+    } else {
         if (subject.look.grid)
             drawing.grid();
         drawing.axes();
-        // Lines lie over all bars, marks over all lines.
-        for (int column = 0; column < columns; ++column) {
+        for (int column = 0; column < columns; ++column) { // of a combination the line comes last
             if (isBarColumn(subject, column))
                 drawing.bars(column);
             else if (subject.kind != ChartKind::Points)
-                drawing.line(column);
+                drawing.lines(column);
         }
         for (int column = 0; column < columns; ++column) {
             if (!isBarColumn(subject, column) && subject.kind != ChartKind::Steps)
@@ -271,9 +262,7 @@ void drawChart(Canvas &canvas, const ChartSubject &subject, const ChartLayout &l
         }
     }
     for (const LegendSwatch &swatch : layout.swatches)
-        drawing.swatch(swatch);
-    for (const QPolygonF &leader : layout.leaders)
-        canvas.shape(polyline(leader), {}, drawing.thin(style.grid));
+        drawing.swatch(swatch.index, swatch.box);
     drawing.texts();
 }
 
