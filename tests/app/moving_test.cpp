@@ -116,8 +116,8 @@ TEST(Moving, SaysWhereTheWalkEndedAtTheLimit)
     open.control<QCheckBox>("quellenpincl_0").setChecked(true);
     open.controller().move(PersonList::Unmarked, {1}, open.window->selectionPanel().relatives());
     ASSERT_EQ(open.desktop.messages.size(), 1U);
-    EXPECT_EQ(open.desktop.messages[0].text, open.program.language.text(926));
-    EXPECT_EQ(open.desktop.messages[0].title, open.program.language.text(1201));
+    EXPECT_EQ(open.desktop.messages[0].text, open.program.language.text(language::Text::RelativesLimitReached));
+    EXPECT_EQ(open.desktop.messages[0].title, open.program.language.text(language::Text::MarkRelatives));
     EXPECT_EQ(open.marked().size(), 1001U) << "the marks stay";
 }
 

@@ -65,7 +65,7 @@ TEST_F(Start, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
             return nullptr;
         }));
         ASSERT_EQ(desktop.messages.size(), 1U);
-        EXPECT_EQ(desktop.messages[0].text, program.language.text(100));
+        EXPECT_EQ(desktop.messages[0].text, program.language.text(language::Text::FamilyDatabaseMissing));
         EXPECT_NE(desktop.messages[0].text, "????");
         EXPECT_EQ(desktop.messages[0].style, 16);
         EXPECT_EQ(desktop.messages[0].title, "");

@@ -91,7 +91,8 @@ TEST(Window, EndsTheDatabasesAndKeepsItsPlace)
     const auto family = open.program.databases.Familiendatenbank;
     EXPECT_TRUE(open.window->close());
     EXPECT_FALSE(family->isOpen());
-    EXPECT_EQ(open.program.language.text(911), "Auswahlkriterien") << "the host's texts are open in the end";
+    EXPECT_EQ(open.program.language.text(language::Text::CriteriaHeading), "Auswahlkriterien")
+        << "the host's texts are open in the end";
     EXPECT_TRUE(open.desktop.errors.empty());
 
     open.program.Main(

@@ -69,11 +69,11 @@ TEST(Formuebersetzen, ReadsTheCaptionsIdentifierByTheRuleOfItsType)
         {"inetFile", "12", "12Name", "12Name"},
         // Our own range.
         {"Label", "20001", "20001Name", "Eigener"},
-        {"Label", "20002", "20002Name", "Name"},          // null
-        {"Label", "20003", "20003Name", "Name"},          // no row
-        {"Menu", "", "20003 3 &Namen", "20003 3 &Namen"}, // reads as 200033
-        {"Menu", "", "20003 &Namen", "&Namen"},
-        {"CheckBox", "32767", "Name", "Name"},
+        {"Label", "20002", "20002Name", "Markierte Personen"}, // null
+        {"Label", "20003", "20003Name", "Liste neu laden"},    // no row
+        {"Menu", "", "20003 3 &Namen", "20003 3 &Namen"},      // reads as 200033
+        {"Menu", "", "20104 &Namen", "Vorlage &speichern"},
+        {"CheckBox", "32767", "Name", "????"},
         {"CheckBox", "19999", "19999Name", "????"},
     };
     for (const auto &row : cases) {
@@ -94,7 +94,7 @@ TEST(Formuebersetzen, TranslatesOrEmptiesTheTooltipOfAControl)
         {"Label", "Auswahl", 1, "12", "Zwölf"},      {"Frame", "Auswahl", 1, "12 x", "Zwölf"},
         {"CheckBox", "Auswahl", 1, "0", "0"},        {"CheckBox", "Auswahl", 1, "", ""},
         {"CheckBox", "Auswahl", 1, "-5", "-5"},      {"CheckBox", "Auswahl", 1, "Hinweis", "Hinweis"},
-        {"CheckBox", "Auswahl", 1, "99", "????"},    {"CheckBox", "Auswahl", 1, "20003", "deutsch"},
+        {"CheckBox", "Auswahl", 1, "99", "????"},    {"CheckBox", "Auswahl", 1, "20003", "Liste neu laden"},
         {"CheckBox", "Auswahl", 0, "Hinweis", ""},   {"Label", "Auswahl", 2, "12", ""},
         {"ListView", "Auswahl", -1, "12", ""},       {"ListView", "Auswahl", 1, "12", "Zwölf"},
         {"CheckBox", "Container", 0, "12", "Zwölf"}, {"CheckBox", "container", 0, "12", ""},
@@ -103,8 +103,7 @@ TEST(Formuebersetzen, TranslatesOrEmptiesTheTooltipOfAControl)
         {"Toolbar", "Auswahl", 0, "12", "12"},       {"StatusBar", "Auswahl", 1, "12", "12"},
     };
     for (const auto &row : cases) {
-        const Form form = translated({.typeName = row.type, .tooltip = row.tooltip, .tooltipText = "deutsch"},
-                                     row.shortHelp, row.form);
+        const Form form = translated({.typeName = row.type, .tooltip = row.tooltip}, row.shortHelp, row.form);
         EXPECT_EQ(form.controls[0].tooltip, row.expected) << row.type << row.form << row.shortHelp << row.tooltip;
     }
 }
@@ -125,7 +124,7 @@ TEST(Formuebersetzen, TreatsItemsByTheRuleOfTheirControl)
         {"TabStrip", "Auswahl", 1, "", "&Drucken", ""},
         {"TabStrip", "Auswahl", 1, "12 x", "&Drucken", "12 x"},
         {"TabStrip", "Auswahl", 1, "300", "&Drucken", "300"},
-        {"TabStrip", "Auswahl", 1, "20003", "&Drucken", "deutsch"},
+        {"TabStrip", "Auswahl", 1, "20003", "&Drucken", "Liste neu laden"},
         {"TabStrip", "Auswahl", 0, "Hinweis", "&Drucken", ""},
         {"TabStrip", "Container", 0, "12", "&Drucken", "Zwölf"},
         {"Toolbar", "Auswahl", 1, "12", "&Drucken", "Zwölf"},
@@ -139,7 +138,7 @@ TEST(Formuebersetzen, TreatsItemsByTheRuleOfTheirControl)
         {"CheckBox", "Auswahl", 0, "12", "180Text", "12"},
     };
     for (const auto &row : cases) {
-        const FormPart good{.tag = "180", .caption = "180Text", .tooltip = row.tooltip, .tooltipText = "deutsch"};
+        const FormPart good{.tag = "180", .caption = "180Text", .tooltip = row.tooltip};
         const FormPart untagged{.caption = "Text"};
         const Form form = translated({.typeName = row.type, .items = {untagged, good}}, row.shortHelp, row.form);
         const FormPart &item = form.controls[0].items[1];
@@ -165,24 +164,5 @@ TEST(Formuebersetzen, SetsTitleAndHourglass)
         formuebersetzen(form, texts.module, texts.host);
         EXPECT_EQ(form.title, row.title) << row.tag;
         EXPECT_EQ(form.pointer, desktop::Pointer::Hourglass);
-    }
-}
-
-TEST(ShownText, FallsBackForOurOwnOnly)
-{
-    test::Texts texts({{5, {}, "%1 of %2"}, {20005, {}, "%1 of %2"}});
-    const struct {
-        const char *language;
-        qint16 id;
-        const char *text;
-    } cases[] = {
-        {"English", 5, "%1 of %2"},      {"Deutsch", 5, ""},
-        {"Deutsch", 6, "????"},          {"English", 20005, "%1 of %2"},
-        {"Deutsch", 20005, "%1 von %2"}, {"English", 20006, "%1 von %2"},
-        {"Suomi", 20005, "%1 von %2"},
-    };
-    for (const auto &row : cases) {
-        texts.host.Sprache = row.language;
-        EXPECT_EQ(language::shownText(texts.module, row.id, "%1 von %2"), row.text) << row.language << row.id;
     }
 }

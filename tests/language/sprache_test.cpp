@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/texts/sprache.h"
 
+#include "language/texts.h"
 #include "platform/jet/creator/creator.h"
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
@@ -37,7 +38,7 @@ TEST(Sprachtext, LooksUpByIdentifierAndLanguage)
     dao::Engine engine;
     language::Sprachmodul texts(host, engine);
     host.Sprache = "Deutsch";
-    EXPECT_EQ(texts.text(1), "????") << "nothing is open yet";
+    EXPECT_EQ(texts.sprachtext(1), "????") << "nothing is open yet";
 
     texts.spracheoeffnen(basic::windowsPath(folder.filePath("ADD-IN-LANGUAGE.MDB")));
     const struct {
@@ -57,10 +58,31 @@ TEST(Sprachtext, LooksUpByIdentifierAndLanguage)
     };
     for (const auto &row : rows) {
         host.Sprache = row.language;
-        EXPECT_EQ(texts.text(row.id), row.text) << row.language.toStdString() << row.id;
+        EXPECT_EQ(texts.sprachtext(row.id).toString(), row.text) << row.language.toStdString() << row.id;
     }
     host.Sprache = "Deutsch";
     EXPECT_TRUE(texts.sprachtext(3).isNull());
+}
+
+TEST(ShownText, ComesFromTheHostOrForOurOwnFromTheCatalogue)
+{
+    test::Texts texts({{5, {}, "%1 of %2"}, {20005, {}, "%1 out of %2"}});
+    const struct {
+        const char *language;
+        qint16 id;
+        const char *text;
+    } cases[] = {
+        {"English", 5, "%1 of %2"},      {"Deutsch", 5, ""},
+        {"Deutsch", 6, "????"},          {"English", 20005, "%1 out of %2"},
+        {"Deutsch", 20005, "%1 von %2"}, {"English", 20006, "Reloads the list and lifts the filter"},
+        {"Suomi", 20005, "%1 of %2"},    {"deutsch", 20001, "Nicht markierte Personen"},
+        {"English", 180, "????"},        {"Deutsch", 29999, "????"},
+        {"Deutsch", 21412, "Unbenannt"},
+    };
+    for (const auto &row : cases) {
+        texts.host.Sprache = row.language;
+        EXPECT_EQ(texts.module.shownText(row.id).toString(), row.text) << row.language << row.id;
+    }
 }
 
 TEST(Datenbankenschliessen, ClosesAllAndOpensTheHostsOwnTexts)
@@ -76,7 +98,7 @@ TEST(Datenbankenschliessen, ClosesAllAndOpensTheHostsOwnTexts)
     EXPECT_FALSE(persons->isOpen());
     EXPECT_EQ(program.engine.workspaceCount(), 1);
     EXPECT_TRUE(program.engine.workspace(0).databases().empty());
-    EXPECT_EQ(program.language.text(100), "????") << "its database is closed as well";
+    EXPECT_EQ(program.language.text(language::Text::FamilyDatabaseMissing), "????") << "its database is closed as well";
 
     program.language.datenbankenschliessen("");
     ASSERT_EQ(program.engine.workspace(0).databases().size(), 1U);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "language/texts/catalogue.h"
 #include "language/texts/sprache.h"
 #include "platform/jet/creator/creator.h"
 #include "support/fakedesktop.h"
@@ -17,6 +18,15 @@ struct TextRow {
     int id;
     std::optional<QString> deutsch, english; ///< nothing = null
 };
+
+/// As a complete host installation has them.
+inline std::vector<TextRow> catalogueRows()
+{
+    std::vector<TextRow> rows;
+    for (const language::CatalogueText &text : language::catalogue())
+        rows.push_back({static_cast<int>(text.id), QString::fromUtf16(text.deutsch), QString::fromUtf16(text.english)});
+    return rows;
+}
 
 /// The texts of an open language database with these rows, which shows short help.
 struct Texts {

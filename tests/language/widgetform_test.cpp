@@ -3,6 +3,7 @@
 #include "language/forms/widgetform.h"
 
 #include "language/texts.h"
+#include "language/texts/catalogue.h"
 #include <gtest/gtest.h>
 #include <QCheckBox>
 #include <QDialog>
@@ -27,28 +28,31 @@ using language::setDesignText;
 
 namespace {
 
-const std::vector<test::TextRow> Full = {
-    {3, "Drei", "Three"},
-    {180, "&Drucken", "&Print"},
-    {1204, "Liste auf neuer Seite beginnen", "Begin list on a new page"},
-    {20000, "Altersstatistik", "Age statistic"},
-    {20001, "Liste", "List"},
-    {20002, "&Filter", "&Find"},
-    {20003, "&Speichern ...", "&Save ..."},
-    {20004, "Sichern", "Keep"},
-    {20005, "Zuletzt &benutzt", "&Recent"},
-    {20006, "Name", "Family name"},
-    {20007, "Geburt", "Birth"},
-    {20008, "Nach rechts", "To the right"},
-    {20009, "Personen", "Persons"},
-    {20010, "Teil des Namens", "Part of the name"},
-    {20011, "Werkzeuge", "Tools"},
-    {20012, "&Grafik", "&Chart"},
-};
+using language::Text;
+
+QString german(Text id)
+{
+    return wording(id, language::CatalogueLanguage::German);
+}
+
+QString english(Text id)
+{
+    return wording(id, language::CatalogueLanguage::English);
+}
+
+/// A host's database that words every text in its own way.
+std::vector<test::TextRow> hostRows()
+{
+    std::vector<test::TextRow> rows;
+    for (const language::CatalogueText &entry : language::catalogue())
+        rows.push_back({static_cast<int>(entry.id), german(entry.id) + u'!', english(entry.id) + u'!'});
+    return rows;
+}
 
 struct Shown {
     const char *what;
-    QString text, german, english;
+    QString text;
+    Text id;
 };
 
 /// One of every kind, and of everything something that carries no identifier.
@@ -56,57 +60,57 @@ struct Window : QMainWindow {
     Window()
     {
         setObjectName("Auswahl");
-        setDesignText(this, "20000Altersstatistik");
-        setDesignText(file, "180 &Drucken");
-        setDesignText(save, "20003&Speichern ...", "20009Personen");
+        setDesignText(this, Text::AgeStatistic);
+        setDesignText(file, Text::PreviewMenuPrint);
+        setDesignText(save, Text::MenuSaveTemplate, Text::MarkedPersons);
         file->addAction(save);
         file->addSeparator();
-        setDesignText(recent, "20005Zuletzt &benutzt");
+        setDesignText(recent, Text::MenuRecentTemplates);
         recent->addAction(recentFile);
-        setDesignText(contextEntry, "20012&Grafik");
+        setDesignText(contextEntry, Text::MenuChart);
         list->addAction(contextEntry);
 
-        setDesignText(tools, "20011Werkzeuge");
+        setDesignText(tools, Text::MenuToolBar);
         tools->addAction(save);
-        language::setDesignToolCaption(save, "20004Sichern");
-        setDesignText(chart, "20012&Grafik", "1204Liste auf neuer Seite beginnen");
+        language::setDesignToolCaption(save, Text::ToolSave);
+        setDesignText(chart, Text::MenuChart, Text::ListOnNewPage);
         chart->setMenu(chartMenu);
-        setDesignText(chartEntry, "20002&Filter");
+        setDesignText(chartEntry, Text::MenuFilter);
         chartMenu->addAction(chartEntry);
         tools->addAction(chart);
         tools->addSeparator();
         tools->addAction(plain);
         tools->addWidget(inTools);
-        setDesignText(inTools, "20009Personen");
+        setDesignText(inTools, Text::MarkedPersons);
 
-        setDesignText(group, "20001Liste");
-        setDesignText(check, "1204Liste auf neuer Seite beginnen", "20008Nach rechts");
-        setDesignText(nameLabel, "20006Name");
+        setDesignText(group, Text::FilterList);
+        setDesignText(check, Text::ListOnNewPage, Text::MarkPersonTip);
+        setDesignText(nameLabel, Text::Name);
         nameLabel->setBuddy(nameEdit);
-        setDesignText(nameEdit, "20010Teil des Namens");
+        setDesignText(nameEdit, Text::FilterNameTip);
         nameEdit->setText("Müller");
-        setDesignText(iconButton, {}, "20008Nach rechts");
+        setDesignText(iconButton, {}, Text::MarkPersonTip);
         move->setDefaultAction(moveAction);
-        setDesignText(move, "20002&Filter", "20008Nach rechts");
+        setDesignText(move, Text::MenuFilter, Text::MarkPersonTip);
         count->setToolTip("3 Personen");
 
         tabs->addTab(new QWidget, {});
         tabs->addTab(new QWidget, "3 Dinge");
-        language::setDesignTab(tabs, 0, "20012&Grafik", "20009Personen");
+        language::setDesignTab(tabs, 0, Text::MenuChart, Text::MarkedPersons);
         tabs->setTabToolTip(1, "3 Dinge");
 
         proxy->setSourceModel(model);
         list->setModel(proxy);
-        language::setDesignHeading(list->header(), 0, "20006Name");
-        language::setDesignHeading(list->header(), 2, "20007Geburt");
-        setDesignText(list, "20009Personen", "20008Nach rechts");
+        language::setDesignHeading(list->header(), 0, Text::Name);
+        language::setDesignHeading(list->header(), 2, Text::Age);
+        setDesignText(list, Text::MarkedPersons, Text::MarkPersonTip);
 
         statusBar()->addPermanentWidget(panel);
-        setDesignText(panel, {}, "20009Personen");
-        setDesignText(dock, "20002&Filter");
+        setDesignText(panel, {}, Text::MarkedPersons);
+        setDesignText(dock, Text::MenuFilter);
         addDockWidget(Qt::LeftDockWidgetArea, dock);
-        setDesignText(dialog, "20000Altersstatistik");
-        setDesignText(inDialog, "20001Liste");
+        setDesignText(dialog, Text::AgeStatistic);
+        setDesignText(inDialog, Text::FilterList);
     }
 
     QMenu *file = menuBar()->addMenu(QString());
@@ -145,55 +149,67 @@ struct Window : QMainWindow {
 
     std::vector<Shown> captions() const
     {
-        return {{"title", windowTitle(), "Altersstatistik", "Age statistic"},
-                {"menu", file->title(), "&Drucken", "&Print"},
-                {"submenu", recent->title(), "Zuletzt &benutzt", "&Recent"},
-                {"entry", save->text(), "&Speichern ...", "&Save ..."},
-                {"context entry", contextEntry->text(), "&Grafik", "&Chart"},
-                {"short tool caption", toolButton(save)->text(), "Sichern", "Keep"},
-                {"tool button", chart->text(), "&Grafik", "&Chart"},
-                {"button menu", chartEntry->text(), "&Filter", "&Find"},
-                {"tool bar", tools->windowTitle(), "Werkzeuge", "Tools"},
-                {"control in tool bar", inTools->text(), "Personen", "Persons"},
-                {"group", group->title(), "Liste", "List"},
-                {"check", check->text(), "Liste auf neuer Seite beginnen", "Begin list on a new page"},
-                {"label", nameLabel->text(), "Name", "Family name"},
-                {"entry field", nameEdit->placeholderText(), "Teil des Namens", "Part of the name"},
-                {"icon button", iconButton->accessibleName(), "Nach rechts", "To the right"},
-                {"button of action", move->text(), "Filter", "Find"},
-                {"tab", tabs->tabText(0), "&Grafik", "&Chart"},
-                {"heading", heading(0), "Name", "Family name"},
-                {"far heading", heading(2), "Geburt", "Birth"},
-                {"list", list->accessibleName(), "Personen", "Persons"},
-                {"dock", dock->windowTitle(), "&Filter", "&Find"}};
+        return {{"title", windowTitle(), Text::AgeStatistic},
+                {"menu", file->title(), Text::PreviewMenuPrint},
+                {"submenu", recent->title(), Text::MenuRecentTemplates},
+                {"entry", save->text(), Text::MenuSaveTemplate},
+                {"context entry", contextEntry->text(), Text::MenuChart},
+                {"short tool caption", toolButton(save)->text(), Text::ToolSave},
+                {"tool button", chart->text(), Text::MenuChart},
+                {"button menu", chartEntry->text(), Text::MenuFilter},
+                {"tool bar", tools->windowTitle(), Text::MenuToolBar},
+                {"control in tool bar", inTools->text(), Text::MarkedPersons},
+                {"group", group->title(), Text::FilterList},
+                {"check", check->text(), Text::ListOnNewPage},
+                {"label", nameLabel->text(), Text::Name},
+                {"entry field", nameEdit->placeholderText(), Text::FilterNameTip},
+                {"icon button", iconButton->accessibleName(), Text::MarkPersonTip},
+                {"button of action", moveAction->text(), Text::MenuFilter},
+                {"tab", tabs->tabText(0), Text::MenuChart},
+                {"heading", heading(0), Text::Name},
+                {"far heading", heading(2), Text::Age},
+                {"list", list->accessibleName(), Text::MarkedPersons},
+                {"dock", dock->windowTitle(), Text::MenuFilter}};
     }
     std::vector<Shown> tooltips() const
     {
-        return {
-            {"short tool caption", toolButton(save)->toolTip(), "Personen", "Persons"},
-            {"tool button", toolButton(chart)->toolTip(), "Liste auf neuer Seite beginnen", "Begin list on a new page"},
-            {"check", check->toolTip(), "Nach rechts", "To the right"},
-            {"icon button", iconButton->toolTip(), "Nach rechts", "To the right"},
-            {"button of action", move->toolTip(), "Nach rechts", "To the right"},
-            {"tab", tabs->tabToolTip(0), "Personen", "Persons"},
-            {"list", list->toolTip(), "Nach rechts", "To the right"},
-            {"panel", panel->toolTip(), "Personen", "Persons"}};
+        return {{"short tool caption", toolButton(save)->toolTip(), Text::MarkedPersons},
+                {"tool button", toolButton(chart)->toolTip(), Text::ListOnNewPage},
+                {"check", check->toolTip(), Text::MarkPersonTip},
+                {"icon button", iconButton->toolTip(), Text::MarkPersonTip},
+                {"button of action", move->toolTip(), Text::MarkPersonTip},
+                {"tab", tabs->tabToolTip(0), Text::MarkedPersons},
+                {"list", list->toolTip(), Text::MarkPersonTip},
+                {"panel", panel->toolTip(), Text::MarkedPersons}};
     }
 };
 
-enum class Expected { German, English, GermanWithoutHost, Nothing };
+enum class Expected { Design, HostGerman, HostEnglish, German, English, Nothing };
+
+QString expectedText(Text id, Expected expected)
+{
+    const bool isHostText = static_cast<int>(id) < language::FirstOwnText;
+    switch (expected) {
+    case Expected::Design:
+        return german(id);
+    case Expected::HostGerman:
+        return german(id) + u'!';
+    case Expected::HostEnglish:
+        return english(id) + u'!';
+    case Expected::German: // a text of the host's own range that its database lacks shows as four question marks
+        return isHostText ? "????" : german(id);
+    case Expected::English:
+        return isHostText ? "????" : english(id);
+    case Expected::Nothing:
+        break;
+    }
+    return {};
+}
 
 void expectTexts(const std::vector<Shown> &shown, Expected expected)
 {
-    for (const Shown &row : shown) {
-        // A text of the host's own range that the database lacks shows as four question marks.
-        const bool isHostText = row.english == "&Print" || row.english == "Begin list on a new page";
-        const QString text = expected == Expected::Nothing                           ? QString()
-                             : expected == Expected::English                         ? row.english
-                             : expected == Expected::GermanWithoutHost && isHostText ? "????"
-                                                                                     : row.german;
-        EXPECT_EQ(row.text, text) << row.what;
-    }
+    for (const Shown &row : shown)
+        EXPECT_EQ(row.text, expectedText(row.id, expected)) << row.what;
 }
 
 void expectTexts(const Window &window, Expected expected)
@@ -207,7 +223,7 @@ void expectTexts(const Window &window, Expected expected)
 TEST(WidgetForm, IsReadableBeforeItIsTranslated)
 {
     const Window window;
-    expectTexts(window, Expected::German);
+    expectTexts(window, Expected::Design);
 }
 
 TEST(WidgetForm, ShowsTheTextsOfTheLanguageOrItsOwn)
@@ -217,10 +233,11 @@ TEST(WidgetForm, ShowsTheTextsOfTheLanguageOrItsOwn)
         std::vector<test::TextRow> rows;
         Expected expected;
     } cases[] = {
-        {"Deutsch", Full, Expected::German},
-        {"English", Full, Expected::English},
-        {"English", {}, Expected::GermanWithoutHost},
-        {"Suomi", Full, Expected::GermanWithoutHost},
+        {"Deutsch", hostRows(), Expected::HostGerman},
+        {"English", hostRows(), Expected::HostEnglish},
+        {"Deutsch", {}, Expected::German},
+        {"English", {}, Expected::English},
+        {"Suomi", hostRows(), Expected::English},
     };
     for (const auto &row : cases) {
         SCOPED_TRACE(row.language);
@@ -251,11 +268,11 @@ TEST(WidgetForm, ShowsTheTextsOfTheLanguageOrItsOwn)
 
 TEST(WidgetForm, RemovesTooltipsWhereShortHelpIsOff)
 {
-    test::Texts texts(Full, "English");
+    test::Texts texts(hostRows(), "English");
     texts.host.Kurzhilfe = 0;
     Window window;
     formuebersetzen(window, texts.module, texts.host);
-    expectTexts(window.captions(), Expected::English);
+    expectTexts(window.captions(), Expected::HostEnglish);
     // Qt gives a tool button its action's text for a tooltip, again whenever the action changes.
     for (QAction *action : {window.save, window.chart, window.plain, window.moveAction})
         action->setEnabled(false);
@@ -267,20 +284,20 @@ TEST(WidgetForm, RemovesTooltipsWhereShortHelpIsOff)
     Window container;
     container.setObjectName("Container");
     formuebersetzen(container, texts.module, texts.host);
-    EXPECT_EQ(container.check->toolTip(), "To the right");
-    EXPECT_EQ(container.panel->toolTip(), "Persons");
+    EXPECT_EQ(container.check->toolTip(), "Mark person!");
+    EXPECT_EQ(container.panel->toolTip(), "Marked persons!");
     EXPECT_EQ(container.toolButton(container.chart)->toolTip(), "") << "its tool bar buttons are not excepted";
 }
 
 TEST(WidgetForm, SharesAnActionBetweenMenuAndToolBar)
 {
-    test::Texts texts(Full, "English");
+    test::Texts texts(hostRows(), "English");
     QMainWindow window;
     QAction *action = window.menuBar()->addMenu("Datei")->addAction("x");
     QToolBar *tools = window.addToolBar("x");
     tools->addAction(action);
-    setDesignText(action, "20003&Speichern ...");
+    setDesignText(action, Text::MenuSaveTemplate);
     formuebersetzen(window, texts.module, texts.host);
-    EXPECT_EQ(action->text(), "&Save ...");
+    EXPECT_EQ(action->text(), "&Save template!");
     EXPECT_FALSE(qobject_cast<QToolButton *>(tools->widgetForAction(action))->text().contains(u'&'));
 }

@@ -24,6 +24,7 @@ using namespace Qt::StringLiterals;
 
 using namespace kalvenor;
 using namespace kalvenor::report;
+using language::Text;
 
 namespace {
 
@@ -69,14 +70,17 @@ struct BerichtTest : testing::Test {
     {
         return basic::nativePath(bericht.auswahldrucken(content, {format, basic::windowsPath(nativeFile)}));
     }
-    QString text(qint16 id) { return program.language.text(id); }
-    QString closing() { return text(120) + u"  05.03.2024 07:08"_s; }
+    QString text(Text id) { return program.language.text(id); }
+    QString closing() { return text(Text::ReportFooter) + u"  05.03.2024 07:08"_s; }
     /// A letter a block: title T, picture P, heading of the criteria K and of the list L, line k, row r, spacer -,
     /// page break N, table t, with headings H, closing F.
     QString shape(const print::PrintDocument &document)
     {
-        const QHash<QString, QChar> known{
-            {content.statistik.titel, u'T'}, {{}, u'-'}, {text(911), u'K'}, {text(1217), u'L'}, {closing(), u'F'}};
+        const QHash<QString, QChar> known{{content.statistik.titel, u'T'},
+                                          {{}, u'-'},
+                                          {text(Text::CriteriaHeading), u'K'},
+                                          {text(Text::AgeListHeading), u'L'},
+                                          {closing(), u'F'}};
         QString letters;
         for (const print::Block &block : document.blocks()) {
             constexpr char kinds[] = "ktrNIP"; // in the order of Block
@@ -110,7 +114,7 @@ struct BerichtTest : testing::Test {
 
 TEST_F(BerichtTest, SwitchesDecideWhatStandsThere)
 {
-    const QString footer = text(120) + u"||05.03.2024 07:08"_s;
+    const QString footer = text(Text::ReportFooter) + u"||05.03.2024 07:08"_s;
     const QString header = u"Titel / 1||- %d -"_s;
     const struct {
         const char *settings, *shape;
@@ -241,7 +245,7 @@ TEST_F(BerichtTest, HintComesOnceAndFailuresRestoreThePointer)
     for (int i = 0; i < 2; ++i)
         run(print::ExportFormat::Pages, {});
     ASSERT_EQ(desktop.messages.size(), 1U);
-    EXPECT_EQ(desktop.messages[0].text, text(116));
+    EXPECT_EQ(desktop.messages[0].text, text(Text::PrintSettingsHint));
     EXPECT_EQ(desktop.pointers.back(), desktop::Pointer::Default);
     EXPECT_TRUE(print.hasDocument());
 }
@@ -264,7 +268,8 @@ TEST_F(BerichtTest, HtmlHasItsNamesTagsAndLinks)
     EXPECT_EQ(read(pages.filePath("1-D.bmp")), hostPicture);
     const QString html = QString::fromUtf8(read(page));
     EXPECT_TRUE(html.contains(chartTag("Liste-Altersstatistik.JPG")));
-    EXPECT_TRUE(html.contains("<td>" + personLink("1-D.html", "1-D.JPG", text(36)) + "Hans Adler</td>"));
+    EXPECT_TRUE(
+        html.contains("<td>" + personLink("1-D.html", "1-D.JPG", text(Text::ToPersonsPage)) + "Hans Adler</td>"));
     EXPECT_TRUE(html.contains("<td>Bär<i>, Eva</td><td>Eva Bär<i></td>")) << "brackets of names come back, too";
     EXPECT_FALSE(html.contains("&lt;") || html.contains("&gt;"));
 }
@@ -273,8 +278,8 @@ TEST_F(BerichtTest, HoldsTheSameTextsInEachFormat)
 {
     const auto missing = [&](const QString &in) {
         qsizetype at = 0;
-        for (const QString &words :
-             {u"Einleitung"_s, text(911), text(1229), text(1217), u"71.2"_s, u"Adler, Hans"_s, closing()}) {
+        for (const QString &words : {u"Einleitung"_s, text(Text::CriteriaHeading), text(Text::CriteriaPersons),
+                                     text(Text::AgeListHeading), u"71.2"_s, u"Adler, Hans"_s, closing()}) {
             at = in.indexOf(words.simplified(), at);
             if (at < 0)
                 return words;

@@ -70,12 +70,12 @@ struct Opening : testing::Test, test::StartedProgram {
         EXPECT_EQ(marked(), (std::vector<qint32>{2, 3}));
         EXPECT_EQ(program.host.Familienpfad, family);
         EXPECT_EQ(program.databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked))->recordCount(), 2);
-        EXPECT_EQ(program.language.text(20000), texts);
+        EXPECT_EQ(program.language.text(language::Text::AgeStatistic), texts);
         return said;
     }
 
     QString family = program.host.Familienpfad;
-    QString texts = program.language.text(20000);
+    QString texts = program.language.text(language::Text::AgeStatistic);
     QString other = family.left(family.lastIndexOf('\\')) + u"\\andere.mdb"_s;
     QString file = basic::windowsPath(folder.filePath("a.kvl"));
     int closings = 0;
@@ -130,7 +130,7 @@ TEST_F(Opening, GoesOverToTheTemplatesDatabase)
     EXPECT_EQ(marked(), (std::vector<qint32>{2, 3})); // the former database is left alone
     EXPECT_EQ(program.host.Familienpfad, other);
     EXPECT_EQ(program.databases.Familiendatenbank->file(), native(other));
-    EXPECT_EQ(program.language.text(20000), texts);
+    EXPECT_EQ(program.language.text(language::Text::AgeStatistic), texts);
     EXPECT_EQ(closings, 1);
     EXPECT_EQ(news, std::vector<bool>{true});
 }

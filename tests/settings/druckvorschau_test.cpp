@@ -33,7 +33,7 @@ using namespace kalvenor::settings;
 namespace {
 
 struct Preview : testing::Test, test::Texts {
-    explicit Preview(const QString &language = u"Deutsch"_s) : Texts(test::shippedTexts(), language)
+    explicit Preview(const QString &language = u"Deutsch"_s) : Texts(test::catalogueRows(), language)
     {
         main.window = &mainWindow;
         host.Hauptform = &main;

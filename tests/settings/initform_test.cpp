@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/dialog/initform.h"
 
-#include "demo/texts/texts.h"
 #include "language/texts.h"
 #include "settings/dialog/colorbutton.h"
 #include "settings/dialog/fontsample.h"
@@ -27,18 +26,8 @@ using namespace kalvenor::settings;
 
 namespace {
 
-std::vector<test::TextRow> allTexts()
-{
-    std::vector<test::TextRow> rows;
-    for (const auto &texts : {demo::hostTexts(), demo::printTexts(), demo::messageTexts()}) {
-        for (const demo::LanguageText &text : texts)
-            rows.push_back({text.id, QString::fromUtf16(text.deutsch), QString::fromUtf16(text.english)});
-    }
-    return rows;
-}
-
 struct InitformTest : testing::Test, test::Texts {
-    InitformTest() : Texts(allTexts()) { QDir(folder.path()).mkdir("Kalvenor"); }
+    InitformTest() : Texts(test::catalogueRows()) { QDir(folder.path()).mkdir("Kalvenor"); }
 
     void write(const QByteArray &content) const
     {

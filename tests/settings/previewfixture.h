@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "demo/texts/texts.h"
 #include "language/texts.h"
 #include "platform/print/printcontrol.h"
 #include <utility>
@@ -10,16 +9,6 @@
 namespace kalvenor::test {
 
 using namespace Qt::StringLiterals;
-
-inline std::vector<TextRow> shippedTexts()
-{
-    std::vector<TextRow> rows;
-    for (const auto &texts : {demo::hostTexts(), demo::windowTexts(), demo::printTexts(), demo::messageTexts()}) {
-        for (const demo::LanguageText &text : texts)
-            rows.push_back({text.id, QString::fromUtf16(text.deutsch), QString::fromUtf16(text.english)});
-    }
-    return rows;
-}
 
 /// Each page has a heading "Blatt n" and five lines, one of them "Zeile n Müller".
 inline print::PrintDocument pagesOf(int pages)

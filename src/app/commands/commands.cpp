@@ -11,15 +11,14 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
 
-namespace {
+using language::Text;
 
-constexpr qint16 TextLimitReached = 926;
-constexpr qint16 TextLimitReachedTitle = 1201;
+namespace {
 
 void tellLimitReached(Program &program)
 {
-    program.host.desktop().messageBox(program.language.text(TextLimitReached), 0,
-                                      program.language.text(TextLimitReachedTitle));
+    program.host.desktop().messageBox(program.language.text(Text::RelativesLimitReached), 0,
+                                      program.language.text(Text::MarkRelatives));
 }
 
 QString numbers(const std::vector<qint32> &counters)

@@ -10,9 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
 
-namespace {
+using language::Text;
 
-constexpr qint16 TextFamilyDatabaseMissing = 100;
+namespace {
 
 /// The active form, where there is a desktop at all.
 QWindow *activeForm()
@@ -48,7 +48,7 @@ bool Program::Main(const ShowMainWindow &showMainWindow)
     if (host.Familienpfad.isEmpty() || host.dir(host.Familienpfad).isEmpty()) {
         // AddInonTop is read later, so this changes nothing yet.
         host.fensteroben(activeForm(), 0, false);
-        host.desktop().messageBox(language.text(TextFamilyDatabaseMissing), desktop::MessageCritical, {});
+        host.desktop().messageBox(language.text(Text::FamilyDatabaseMissing), desktop::MessageCritical, {});
         return false;
     }
     databases.datenbankoeffnen(host.Familienpfad);

@@ -29,6 +29,8 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
 
+using language::Text;
+
 using selection::PersonList;
 
 namespace {
@@ -50,7 +52,7 @@ Auswahl::Auswahl(data::Session &session, QWidget *parent)
       m_splitter(new QSplitter(this)), m_actions(std::make_unique<MainActions>(*this)), m_panels(*statusBar(), m_work)
 {
     setObjectName(u"Auswahl"_s);
-    language::setDesignText(this, u"20000Altersstatistik"_s);
+    language::setDesignText(this, Text::AgeStatistic);
     m_splitter->setObjectName(u"Teiler"_s);
     setAcceptDrops(true);
     m_splitter->setChildrenCollapsible(false);
@@ -77,11 +79,6 @@ Auswahl::~Auswahl()
 {
     if (m_session.host.Hauptform == this)
         m_session.host.Hauptform = nullptr;
-}
-
-QString Auswahl::text(qint16 id, const QString &germanText)
-{
-    return language::shownText(m_session.language, id, germanText);
 }
 
 void Auswahl::connectActions()
@@ -179,7 +176,7 @@ void Auswahl::updateTitle()
     const QString &current = m_templates.current();
     const bool modified = m_templates.isModified();
     m_actions->reset->setEnabled(m_templates.canReset());
-    const QString name = text(20000, u"Altersstatistik"_s);
+    const QString name = m_session.language.text(Text::AgeStatistic);
     setWindowTitle(current.isEmpty() ? u"%1[*]"_s.arg(name) : u"%1[*] – %2"_s.arg(QFileInfo(current).fileName(), name));
     setWindowModified(modified);
 }
@@ -199,7 +196,7 @@ void Auswahl::fillRecent()
         });
     }
     if (files.isEmpty())
-        menu.addAction(text(21410, u"Keine Vorlage"_s))->setEnabled(false);
+        menu.addAction(m_session.language.text(Text::NoTemplate))->setEnabled(false);
 }
 
 void Auswahl::panelaufruf(const QString &thema)
@@ -259,7 +256,8 @@ void Auswahl::showMarkedPerson(qint32 counter)
         view.selectTableRows({static_cast<quint32>(persons.position())});
         view.setFocus();
     } catch (const basic::Error &error) {
-        m_session.host.desktop().messageBox(error.message(), desktop::MessageCritical, text(21020, u"Fehler"_s));
+        m_session.host.desktop().messageBox(error.message(), desktop::MessageCritical,
+                                            m_session.language.text(Text::Error));
     }
 }
 
@@ -294,10 +292,8 @@ void Auswahl::showShortcuts()
             QString(action->text()).remove(u'&').toHtmlEscaped());
     }
     QMessageBox box(
-        QMessageBox::NoIcon, text(21311, u"Tastenkürzel"_s),
-        u"<table>%1</table><p>%2</p>"_s.arg(rows, text(20023, u"Doppelklick, Eingabetaste oder Ziehen verschiebt "
-                                                              "Personen in die andere Liste."_s)
-                                                      .toHtmlEscaped()),
+        QMessageBox::NoIcon, m_session.language.text(Text::Shortcuts),
+        u"<table>%1</table><p>%2</p>"_s.arg(rows, m_session.language.text(Text::MovingHelp).toHtmlEscaped()),
         QMessageBox::Ok, this);
     box.setTextFormat(Qt::RichText);
     m_session.host.desktop().runDialog(box);

@@ -69,7 +69,6 @@ private:
     void connectStatistic();
     void fillRecent();
     void updateTitle();
-    QString text(qint16 id, const QString &germanText);
 
     data::Session &m_session;
     desktop::Work m_work;

@@ -4,8 +4,8 @@
 
 #include "app/start/databasefault.h"
 #include "app/window/templatedesk.h"
-#include "language/forms/form.h"
 #include "language/progress/userwork.h"
+#include "language/texts/sprache.h"
 #include <QFileInfo>
 #include <QWidget>
 
@@ -13,14 +13,11 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
 
+using language::Text;
+
 FamilyDesk::FamilyDesk(data::Session &session, desktop::Work &work, TemplateDesk &templates, QObject *parent)
     : QObject(parent), m_session(session), m_work(work), m_templates(templates)
 {
-}
-
-QString FamilyDesk::text(qint16 id, const QString &germanText) const
-{
-    return language::shownText(m_session.language, id, germanText);
 }
 
 void FamilyDesk::choose()
@@ -29,9 +26,9 @@ void FamilyDesk::choose()
         return;
     const host::Host &host = m_session.host;
     const QString file = host.desktop().openFileName(
-        qobject_cast<QWidget *>(parent()), {.title = text(21214, u"Familiendatenbank öffnen"_s),
+        qobject_cast<QWidget *>(parent()), {.title = m_session.language.text(Text::OpenFamily),
                                             .folder = QFileInfo(host.native(host.Familienpfad)).absolutePath(),
-                                            .filters = text(21213, u"Familiendatenbanken (*.mdb)"_s)});
+                                            .filters = m_session.language.text(Text::FamilyDatabases)});
     if (!file.isEmpty())
         openFile(file);
 }
@@ -44,14 +41,14 @@ bool FamilyDesk::openFile(const QString &nativeFile)
         return plain == error.message() ? plain : plain + u"\n\n"_s + error.message();
     };
     if (!language::runAndTell(m_work, m_session.host, m_session.language,
-                              text(20346, u"Die Datenbank wird gelesen ..."_s),
+                              m_session.language.text(Text::ReadingDatabase),
                               [&](const basic::Progress &) { m_session.exchangeDatabase(familienpfad); },
                               {.said = [this](const QString &end) { Q_EMIT said(end); },
                                .inPlainWords = inPlainWords,
-                               .title = text(21214, u"Familiendatenbank öffnen"_s)}))
+                               .title = m_session.language.text(Text::OpenFamily)}))
         return false;
     m_templates.startAfresh();
-    Q_EMIT said(text(20313, u"Geöffnet: %1"_s).arg(nativeFile));
+    Q_EMIT said(m_session.language.text(Text::Opened).arg(nativeFile));
     return true;
 }
 

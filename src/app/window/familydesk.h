@@ -25,8 +25,6 @@ Q_SIGNALS:
     void said(const QString &text);
 
 private:
-    QString text(qint16 id, const QString &germanText) const;
-
     data::Session &m_session;
     desktop::Work &m_work;
     TemplateDesk &m_templates;

@@ -5,7 +5,6 @@
 #include "app/start/databasefault.h"
 #include "app/start/lastfolder.h"
 #include "demo/host/demohost.h"
-#include "demo/texts/texts.h"
 #include "language/forms/widgetform.h"
 #include "language/progress/progresspanel.h"
 #include "platform/desktop/appicon.h"
@@ -23,6 +22,8 @@
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
+
+using language::Text;
 
 namespace {
 
@@ -55,26 +56,11 @@ bool isGerman(const host::Host &host)
     return language::anzeigesprache(host).language() == QLocale::German;
 }
 
-QVariant englishText(qint16 id)
+/// Without a host nobody has said which language they read, but the system.
+void speakWithoutHost(host::Host &host)
 {
-    for (const auto texts : {demo::windowTexts(), demo::messageTexts()}) {
-        for (const demo::LanguageText &text : texts) {
-            if (text.id == id)
-                return QString::fromUtf16(text.english);
-        }
-    }
-    return {};
-}
-
-/// Without a language database the design texts would be German for everybody; without a host nobody has said which
-/// language they read, but the system.
-void speakWithoutHost(Program &program)
-{
-    host::Host &host = program.host;
     if (!hasHost(host.native(host.programFolder())))
         host.Sprache = QLocale::system().language() == QLocale::German ? German : English;
-    if (!isGerman(host))
-        program.language.setSpareTexts(englishText);
 }
 
 } // namespace
@@ -82,14 +68,9 @@ void speakWithoutHost(Program &program)
 StartProblem startProblem(Program &program, const std::optional<basic::Error> &error)
 {
     const host::Host &host = program.host;
-    const auto text = [&program](qint16 id, const char *german) {
-        return language::shownText(program.language, id, QString::fromUtf8(german));
-    };
     if (!hasHost(host.native(host.programFolder())))
-        return {.text = text(21201, "Kalvenor wird aus einem Ordner unterhalb des Hauptprogramms gestartet. Hier wurde "
-                                    "kein Hauptprogramm gefunden."),
-                .details = text(21218, "In %1 liegt kein Hauptprogramm: Dort fehlt programm.ini.")
-                               .arg(host.native(host.Hostverzeichnis)),
+        return {.text = program.language.text(Text::NoHostFound),
+                .details = program.language.text(Text::NoHostInFolder).arg(host.native(host.Hostverzeichnis)),
                 .noHost = true};
     const QString &family = host.Familienpfad;
     const QString settings = host.native(host.hostSettingsFile());
@@ -101,8 +82,8 @@ StartProblem startProblem(Program &program, const std::optional<basic::Error> &e
     }
     if (family.isEmpty())
         return {.text = host.dir(host.hostSettingsFile()).isEmpty()
-                            ? text(21215, "Die Einstellungen des Hauptprogramms fehlen: %1").arg(settings)
-                            : text(21219, "In %1 ist keine Familiendatenbank genannt.").arg(settings),
+                            ? program.language.text(Text::HostSettingsMissing).arg(settings)
+                            : program.language.text(Text::NoFamilyNamed).arg(settings),
                 .anotherFamilyHelps = true};
     return {.text =
                 databaseFault(program, basic::Error(basic::ErrorKind::FileNotFound, host.native(family), {}), family),
@@ -114,17 +95,12 @@ FirstRun::FirstRun(Program &program, const StartProblem &problem, QWidget *paren
       m_details(makeLabel("Einzelheiten", this))
 {
     setObjectName(u"Ersterstart"_s);
-    language::setDesignText(this, problem.noHost ? u"21200Willkommen"_s : u"20000Altersstatistik"_s);
+    language::setDesignText(this, problem.noHost ? Text::Welcome : Text::AgeStatistic);
     setWindowIcon(desktop::applicationIcon());
     build(problem);
     language::formuebersetzen(*this, program.language, program.host);
     unsetCursor();
     showProblem(problem.text, problem.details);
-}
-
-QString FirstRun::text(qint16 id, const QString &germanText) const
-{
-    return language::shownText(m_program.language, id, germanText);
 }
 
 void FirstRun::build(const StartProblem &problem)
@@ -135,23 +111,20 @@ void FirstRun::build(const StartProblem &problem)
     column->addWidget(m_problem);
     column->addWidget(m_details);
     column->addSpacing(8);
-    const auto addWay = [&](const char *name, const char *caption, const QString &description, auto slot) {
+    const auto addWay = [&](const char *name, Text caption, const QString &description, auto slot) {
         auto *button = new QCommandLinkButton(this);
         button->setObjectName(QLatin1String(name));
         button->setDescription(description);
-        language::setDesignText(button, QString::fromUtf8(caption));
+        language::setDesignText(button, caption);
         connect(button, &QPushButton::clicked, this, slot);
         column->addWidget(button);
         return button;
     };
-    auto *family =
-        addWay("Familiewaehlen", "21202Familiendatenbank wählen ...",
-               text(21222, u"Nur für diesmal; das Hauptprogramm behält seine eigene"_s), &FirstRun::chooseFamily);
-    auto *host = addWay("Hostwaehlen", "21217Ordner des Hauptprogramms wählen ...",
-                        text(21221, u"Der Ordner, in dem programm.ini liegt"_s), &FirstRun::chooseHost);
-    addWay("Beispieldaten", "21203Beispieldaten anlegen ...",
-           text(21223, u"Ein Hauptprogramm mit einer erfundenen Familie, zum Ausprobieren"_s),
-           &FirstRun::makeDemonstration);
+    auto *family = addWay("Familiewaehlen", Text::ChooseFamily, m_program.language.text(Text::ChooseFamilyTip),
+                          &FirstRun::chooseFamily);
+    auto *host = addWay("Hostwaehlen", Text::ChooseHostFolder, m_program.language.text(Text::HostFolderTip),
+                        &FirstRun::chooseHost);
+    addWay("Beispieldaten", Text::MakeDemo, m_program.language.text(Text::MakeDemoTip), &FirstRun::makeDemonstration);
     family->setVisible(problem.anotherFamilyHelps);
     QPushButton *first = problem.anotherFamilyHelps ? family : host;
     first->setDefault(true);
@@ -159,7 +132,7 @@ void FirstRun::build(const StartProblem &problem)
 
     auto *quit = new QPushButton(this);
     quit->setObjectName(u"Beenden"_s);
-    language::setDesignText(quit, u"21204Beenden"_s);
+    language::setDesignText(quit, Text::Quit);
     quit->setAutoDefault(false);
     connect(quit, &QPushButton::clicked, this, &FirstRun::reject);
     auto *bottom = new QHBoxLayout;
@@ -203,9 +176,9 @@ void FirstRun::chooseFamily()
 {
     const host::Host &host = m_program.host;
     const QString former = host.Familienpfad.isEmpty() ? host.Hostverzeichnis : host.Familienpfad;
-    const QString file = host.desktop().openFileName(this, {.title = text(21214, u"Familiendatenbank öffnen"_s),
+    const QString file = host.desktop().openFileName(this, {.title = m_program.language.text(Text::OpenFamily),
                                                             .folder = QFileInfo(host.native(former)).absolutePath(),
-                                                            .filters = text(21213, u"Familiendatenbanken (*.mdb)"_s)});
+                                                            .filters = m_program.language.text(Text::FamilyDatabases)});
     if (!file.isEmpty())
         leadOn({host.programFolder(), host.windows(file)});
 }
@@ -213,7 +186,7 @@ void FirstRun::chooseFamily()
 void FirstRun::chooseHost()
 {
     const QString folder =
-        m_program.host.desktop().chooseFolder(this, {.title = text(21221, u"Der Ordner, in dem programm.ini liegt"_s),
+        m_program.host.desktop().chooseFolder(this, {.title = m_program.language.text(Text::HostFolderTip),
                                                      .folder = m_program.host.native(m_program.host.Hostverzeichnis)});
     if (folder.isEmpty())
         return;
@@ -225,24 +198,25 @@ void FirstRun::chooseHost()
         leadOn({basic::windowsPath(own)});
         return;
     }
-    showProblem(text(21218, u"In %1 liegt kein Hauptprogramm: Dort fehlt programm.ini."_s).arg(folder), {});
+    showProblem(m_program.language.text(Text::NoHostInFolder).arg(folder), {});
 }
 
 void FirstRun::makeDemonstration()
 {
-    const QString title = text(21209, u"Ordner für die Beispieldaten wählen"_s);
+    const QString title = m_program.language.text(Text::ChooseDemoFolder);
     const QString folder = m_program.host.desktop().chooseFolder(this, {.title = title, .folder = QDir::homePath()});
     if (folder.isEmpty())
         return;
     demo::DemoHost made;
     QString failure;
     try {
-        showProblem(text(21211, u"Die Beispieldaten werden angelegt ..."_s), {});
+        showProblem(m_program.language.text(Text::MakingDemo), {});
         if (!m_work.run(
                 {}, [&](const basic::Progress &progress) { made = demo::makeDemoHost({.folder = folder}, progress); }))
             return;
     } catch (const basic::Error &error) {
-        failure = error.kind() == basic::ErrorKind::Cancelled ? text(20348, u"Abgebrochen"_s) : error.message();
+        failure =
+            error.kind() == basic::ErrorKind::Cancelled ? m_program.language.text(Text::Cancelled) : error.message();
     } catch (const std::bad_alloc &) {
         failure = u"There is not enough memory for this."_s;
     }
@@ -254,7 +228,7 @@ void FirstRun::makeDemonstration()
     if (!isGerman(host))
         host.inischreiben(basic::windowsPath(made.hostFolder) + u"\\programm.ini"_s, u"Ansicht"_s, u"Sprache"_s,
                           English);
-    host.desktop().messageBox(text(21212, u"Die Beispieldaten liegen in %1."_s).arg(made.hostFolder), 0, {});
+    host.desktop().messageBox(m_program.language.text(Text::DemoMade).arg(made.hostFolder), 0, {});
     leadOn({basic::windowsPath(made.programFolder)});
 }
 
@@ -274,7 +248,7 @@ std::unique_ptr<Program> startProgram(desktop::Desktop &desktop, StartPlace plac
         } catch (const std::bad_alloc &) {
             failure = basic::Error(basic::ErrorKind::Overflow, {}, u"There is not enough memory for this."_s);
         }
-        speakWithoutHost(*program);
+        speakWithoutHost(program->host);
         if (beforeQuestion)
             beforeQuestion(program->host);
         const StartProblem problem = startProblem(*program, failure);

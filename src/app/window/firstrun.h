@@ -52,7 +52,6 @@ private:
     void makeDemonstration();
     void leadOn(const StartPlace &place);
     void showProblem(const QString &text, const QString &details);
-    QString text(qint16 id, const QString &germanText) const;
 
     Program &m_program;
     desktop::Work m_work;

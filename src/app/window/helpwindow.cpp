@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/helpwindow.h"
 
-#include "language/forms/form.h"
 #include "language/forms/widgetform.h"
+#include "language/texts/sprache.h"
 #include "platform/desktop/lineicon.h"
 #include <algorithm>
 #include <QAction>
@@ -29,6 +29,8 @@ static void initHelpResources()
 
 namespace kalvenor::app {
 
+using language::Text;
+
 namespace {
 
 const QString Beginning = u"Hilfe"_s;
@@ -53,12 +55,12 @@ HelpWindow::HelpWindow(language::Sprachmodul &language, const host::Host &host, 
 {
     initHelpResources();
     setObjectName(u"Hilfefenster"_s);
-    language::setDesignText(this, u"21312Anleitung"_s);
+    language::setDesignText(this, Text::Manual);
     m_text->setObjectName(u"Hilfetext"_s);
     m_text->document()->setDocumentMargin(16);
-    language::setDesignText(m_text, u"21312Anleitung"_s);
+    language::setDesignText(m_text, Text::Manual);
     m_contents->setObjectName(u"Inhalt"_s);
-    language::setDesignText(m_contents, u"21301Inhalt"_s);
+    language::setDesignText(m_contents, Text::Contents);
     m_contents->setSpacing(3);
     m_contents->setWordWrap(true);
     m_contents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -89,12 +91,12 @@ HelpWindow::HelpWindow(language::Sprachmodul &language, const host::Host &host, 
     m_text->setFocus();
 }
 
-QAction *HelpWindow::makeAction(QToolBar *tools, const char *name, const char *tooltip, const QKeySequence &keys)
+QAction *HelpWindow::makeAction(QToolBar *tools, const char *name, Text tooltip, const QKeySequence &keys)
 {
     QAction *action = tools->addAction(QString());
     action->setObjectName(QLatin1String(name));
     // The tooltip is the caption too, for those who hear the button.
-    language::setDesignText(action, QString::fromUtf8(tooltip), QString::fromUtf8(tooltip));
+    language::setDesignText(action, tooltip, tooltip);
     action->setShortcut(keys);
     return action;
 }
@@ -102,8 +104,8 @@ QAction *HelpWindow::makeAction(QToolBar *tools, const char *name, const char *t
 QToolBar *HelpWindow::makeTools()
 {
     auto *tools = new QToolBar(this);
-    QAction *back = makeAction(tools, "Zurueck", "21303Zurück", QKeySequence(Qt::ALT | Qt::Key_Left));
-    QAction *forward = makeAction(tools, "Vorwaerts", "21304Vorwärts", QKeySequence(Qt::ALT | Qt::Key_Right));
+    QAction *back = makeAction(tools, "Zurueck", Text::HelpBack, QKeySequence(Qt::ALT | Qt::Key_Left));
+    QAction *forward = makeAction(tools, "Vorwaerts", Text::HelpForward, QKeySequence(Qt::ALT | Qt::Key_Right));
     back->setIcon(desktop::lineIcon(desktop::LineIcon::Left));
     forward->setIcon(desktop::lineIcon(desktop::LineIcon::Right));
     connect(back, &QAction::triggered, m_text, &QTextBrowser::backward);
@@ -113,10 +115,10 @@ QToolBar *HelpWindow::makeTools()
     back->setEnabled(false);
     forward->setEnabled(false);
     tools->addSeparator();
-    QAction *smaller = makeAction(tools, "Kleiner", "21315Kleinere Schrift", QKeySequence::ZoomOut);
-    QAction *larger = makeAction(tools, "Groesser", "21314Größere Schrift", QKeySequence::ZoomIn);
-    language::setDesignToolCaption(smaller, u"A−"_s);
-    language::setDesignToolCaption(larger, u"A+"_s);
+    QAction *smaller = makeAction(tools, "Kleiner", Text::SmallerText, QKeySequence::ZoomOut);
+    QAction *larger = makeAction(tools, "Groesser", Text::LargerText, QKeySequence::ZoomIn);
+    smaller->setIconText(u"A−"_s);
+    larger->setIconText(u"A+"_s);
     connect(smaller, &QAction::triggered, m_text, [this] { m_text->zoomOut(); });
     connect(larger, &QAction::triggered, m_text, [this] { m_text->zoomIn(); });
     tools->addSeparator();
@@ -125,12 +127,12 @@ QToolBar *HelpWindow::makeTools()
     m_search->setObjectName(u"Suche"_s);
     m_search->setClearButtonEnabled(true);
     m_search->setMaximumWidth(280);
-    language::setDesignText(m_search, u"21313In der Anleitung suchen"_s);
+    language::setDesignText(m_search, Text::SearchManual);
     tools->addWidget(m_search);
-    QAction *previous = makeAction(tools, "Vorige", "21317Vorige Fundstelle", QKeySequence(Qt::SHIFT | Qt::Key_F3));
-    QAction *next = makeAction(tools, "Naechste", "21316Nächste Fundstelle", QKeySequence(Qt::Key_F3));
-    language::setDesignToolCaption(previous, u"▲"_s);
-    language::setDesignToolCaption(next, u"▼"_s);
+    QAction *previous = makeAction(tools, "Vorige", Text::PreviousMatch, QKeySequence(Qt::SHIFT | Qt::Key_F3));
+    QAction *next = makeAction(tools, "Naechste", Text::NextMatch, QKeySequence(Qt::Key_F3));
+    previous->setIconText(u"▲"_s);
+    next->setIconText(u"▼"_s);
     m_found = new QLabel(tools);
     m_found->setObjectName(u"Fundstelle"_s);
     m_found->setContentsMargins(8, 0, 8, 0);
@@ -231,8 +233,7 @@ void HelpWindow::showMatch()
         QTextCursor none = m_text->textCursor();
         none.clearSelection();
         m_text->setTextCursor(none);
-        m_found->setText(m_search->text().isEmpty() ? QString()
-                                                    : language::shownText(m_language, 21305, u"Nichts gefunden."_s));
+        m_found->setText(m_search->text().isEmpty() ? QString() : m_language.text(Text::HelpNothingFound));
     } else {
         marks[m_match].format.setBackground(palette().highlight());
         marks[m_match].format.setForeground(palette().highlightedText());
@@ -240,7 +241,7 @@ void HelpWindow::showMatch()
         cursor.clearSelection();
         m_text->setTextCursor(cursor);
         m_text->ensureCursorVisible();
-        m_found->setText(language::shownText(m_language, 21318, u"%1 von %2"_s).arg(m_match + 1).arg(m_matches.size()));
+        m_found->setText(m_language.text(Text::CountOf).arg(m_match + 1).arg(m_matches.size()));
     }
     m_text->setExtraSelections(marks);
 }

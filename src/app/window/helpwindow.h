@@ -38,7 +38,7 @@ private:
     };
 
     QToolBar *makeTools();
-    QAction *makeAction(QToolBar *tools, const char *name, const char *tooltip, const QKeySequence &keys);
+    QAction *makeAction(QToolBar *tools, const char *name, language::Text tooltip, const QKeySequence &keys);
     void readContents();
     void goTo(const QString &anchor, qsizetype row);
     void followScrolling();

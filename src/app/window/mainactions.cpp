@@ -14,13 +14,15 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
 
+using language::Text;
+
 namespace {
 
-void giveToolButton(QAction *action, desktop::LineIcon icon, const char *caption, const char *tooltip)
+void giveToolButton(QAction *action, desktop::LineIcon icon, Text caption, Text tooltip)
 {
     action->setIcon(desktop::lineIcon(icon));
-    language::setDesignToolCaption(action, QString::fromUtf8(caption));
-    language::setDesignText(action, {}, QString::fromUtf8(tooltip));
+    language::setDesignToolCaption(action, caption);
+    language::setDesignText(action, {}, tooltip);
 }
 
 } // namespace
@@ -34,20 +36,20 @@ MainActions::MainActions(QMainWindow &window) : tools(new QToolBar(&window)), m_
     makeToolBar();
 }
 
-QAction *MainActions::make(const char *name, const char *caption, const QKeySequence &keys)
+QAction *MainActions::make(const char *name, Text caption, const QKeySequence &keys)
 {
     auto *action = new QAction(&m_window);
     action->setObjectName(QLatin1String(name));
-    language::setDesignText(action, QString::fromUtf8(caption));
+    language::setDesignText(action, caption);
     action->setShortcut(keys);
     all << action;
     return action;
 }
 
-QMenu *MainActions::makeMenu(const char *caption, const QList<QAction *> &actions)
+QMenu *MainActions::makeMenu(Text caption, const QList<QAction *> &actions)
 {
     auto *menu = m_window.menuBar()->addMenu(QString());
-    language::setDesignText(menu, QString::fromUtf8(caption));
+    language::setDesignText(menu, caption);
     for (QAction *action : actions) {
         if (action == nullptr)
             menu->addSeparator();
@@ -59,31 +61,29 @@ QMenu *MainActions::makeMenu(const char *caption, const QList<QAction *> &action
 
 void MainActions::makeStatistic()
 {
-    openTemplate = make("oeffnen", "20102 Vorlage ö&ffnen ...", Qt::CTRL | Qt::Key_O);
-    saveTemplate = make("speichern", "20104 Vorlage &speichern", Qt::CTRL | Qt::Key_S);
-    saveTemplateAs = make("speichernunter", "20105 Vorlage speichern &unter ...", Qt::CTRL | Qt::SHIFT | Qt::Key_S);
-    reset = make("loeschen", "20106 &Zurücksetzen");
-    database = make("Familiewaehlen", "20107 &Familiendatenbank wählen ...");
-    preview = make("Seitenansicht", "20108 Seiten&ansicht ...", Qt::CTRL | Qt::SHIFT | Qt::Key_P);
-    print = make("drucken", "20109 &Drucken ...", Qt::CTRL | Qt::Key_P);
-    exportFile = make("exportieren", "20111 Als PDF, RTF oder HTML s&peichern ...", Qt::CTRL | Qt::SHIFT | Qt::Key_E);
-    settings = make("Druckeinstellungen", "20110 Druck&einstellungen ...");
-    quit = make("Beenden", "20112 &Beenden", Qt::CTRL | Qt::Key_Q);
+    openTemplate = make("oeffnen", Text::MenuOpenTemplate, Qt::CTRL | Qt::Key_O);
+    saveTemplate = make("speichern", Text::MenuSaveTemplate, Qt::CTRL | Qt::Key_S);
+    saveTemplateAs = make("speichernunter", Text::MenuSaveTemplateAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    reset = make("loeschen", Text::MenuReset);
+    database = make("Familiewaehlen", Text::MenuChooseFamily);
+    preview = make("Seitenansicht", Text::MenuPreview, Qt::CTRL | Qt::SHIFT | Qt::Key_P);
+    print = make("drucken", Text::MenuPrint, Qt::CTRL | Qt::Key_P);
+    exportFile = make("exportieren", Text::MenuExport, Qt::CTRL | Qt::SHIFT | Qt::Key_E);
+    settings = make("Druckeinstellungen", Text::MenuPrintSettings);
+    quit = make("Beenden", Text::MenuQuit, Qt::CTRL | Qt::Key_Q);
     quit->setMenuRole(QAction::QuitRole);
-    giveToolButton(openTemplate, desktop::LineIcon::Open, "20201Öffnen", "20221Eine gespeicherte Vorlage öffnen");
-    giveToolButton(saveTemplate, desktop::LineIcon::Save, "20202Speichern", "20222Die Statistik als Vorlage speichern");
-    giveToolButton(reset, desktop::LineIcon::Reset, "20203Zurücksetzen",
-                   "20223Titel, Einleitung und Grafik zurücksetzen");
-    giveToolButton(preview, desktop::LineIcon::Preview, "20204Vorschau", "20224Die Seiten vor dem Drucken ansehen");
-    giveToolButton(print, desktop::LineIcon::Print, "20205Drucken", "20225Die Statistik drucken");
-    giveToolButton(settings, desktop::LineIcon::Sliders, "20206Einstellungen",
-                   "20226Schriften, Farben und Ränder einstellen");
-    giveToolButton(quit, desktop::LineIcon::Quit, "20211Beenden", "20231Das Programm beenden");
+    giveToolButton(openTemplate, desktop::LineIcon::Open, Text::Open, Text::ToolOpenTip);
+    giveToolButton(saveTemplate, desktop::LineIcon::Save, Text::ToolSave, Text::ToolSaveTip);
+    giveToolButton(reset, desktop::LineIcon::Reset, Text::ToolReset, Text::ToolResetTip);
+    giveToolButton(preview, desktop::LineIcon::Preview, Text::ToolPreview, Text::ToolPreviewTip);
+    giveToolButton(print, desktop::LineIcon::Print, Text::ToolPrint, Text::ToolPrintTip);
+    giveToolButton(settings, desktop::LineIcon::Sliders, Text::ToolSettings, Text::ToolSettingsTip);
+    giveToolButton(quit, desktop::LineIcon::Quit, Text::Quit, Text::ToolQuitTip);
 
-    QMenu *menu = makeMenu("20100 &Statistik", {openTemplate});
+    QMenu *menu = makeMenu(Text::MenuStatistic, {openTemplate});
     recent = menu->addMenu(QString());
     recent->setObjectName(u"Zuletzt"_s);
-    language::setDesignText(recent, u"20103 Zuletzt &benutzte Vorlagen"_s);
+    language::setDesignText(recent, Text::MenuRecentTemplates);
     menu->addActions({saveTemplate, saveTemplateAs, reset});
     menu->addSeparator();
     menu->addAction(database);
@@ -95,57 +95,55 @@ void MainActions::makeStatistic()
 
 void MainActions::makeEdit()
 {
-    undo = make("Rueckgaengig", "20121 &Rückgängig", Qt::CTRL | Qt::Key_Z);
-    redo = make("Wiederherstellen", "20122 &Wiederherstellen", Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
-    copy = make("Kopieren", "20128 &Kopieren", Qt::CTRL | Qt::Key_C);
+    undo = make("Rueckgaengig", Text::MenuUndo, Qt::CTRL | Qt::Key_Z);
+    redo = make("Wiederherstellen", Text::MenuRedo, Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
+    copy = make("Kopieren", Text::MenuCopy, Qt::CTRL | Qt::Key_C);
     copy->setShortcutContext(Qt::WidgetShortcut); // chart, age list and text have a copying of their own
-    selectAll = make("Allesauswaehlen", "20131 &Alles auswählen");
-    mark = make("Markieren", "20123 Person &markieren", Qt::CTRL | Qt::Key_M);
-    unmark = make("Aufheben", "20124 Markierung &aufheben", Qt::CTRL | Qt::Key_D);
-    markAll = make("Allemarkieren", "20125 A&lle markieren", Qt::CTRL | Qt::SHIFT | Qt::Key_M);
-    unmarkAll = make("Alleaufheben", "20126 Alle Markierungen auf&heben", Qt::CTRL | Qt::SHIFT | Qt::Key_D);
-    find = make("Suchen", "20127 &Person suchen", Qt::CTRL | Qt::Key_F);
-    giveToolButton(undo, desktop::LineIcon::Undo, "20207Rückgängig",
-                   "20227Die letzte Änderung der Markierungen zurücknehmen");
-    giveToolButton(redo, desktop::LineIcon::Redo, "20208Wiederherstellen",
-                   "20228Die zurückgenommene Änderung wieder ausführen");
+    selectAll = make("Allesauswaehlen", Text::MenuSelectAll);
+    mark = make("Markieren", Text::MenuMarkPerson, Qt::CTRL | Qt::Key_M);
+    unmark = make("Aufheben", Text::MenuUnmarkPerson, Qt::CTRL | Qt::Key_D);
+    markAll = make("Allemarkieren", Text::MenuMarkAll, Qt::CTRL | Qt::SHIFT | Qt::Key_M);
+    unmarkAll = make("Alleaufheben", Text::MenuUnmarkAll, Qt::CTRL | Qt::SHIFT | Qt::Key_D);
+    find = make("Suchen", Text::MenuFindPerson, Qt::CTRL | Qt::Key_F);
+    giveToolButton(undo, desktop::LineIcon::Undo, Text::Undo, Text::ToolUndoTip);
+    giveToolButton(redo, desktop::LineIcon::Redo, Text::Redo, Text::ToolRedoTip);
     find->setIcon(desktop::lineIcon(desktop::LineIcon::Find));
     copy->setIcon(desktop::lineIcon(desktop::LineIcon::Copy));
     mark->setIcon(desktop::lineIcon(desktop::LineIcon::Right));
     unmark->setIcon(desktop::lineIcon(desktop::LineIcon::Left));
     markAll->setIcon(desktop::lineIcon(desktop::LineIcon::AllRight));
     unmarkAll->setIcon(desktop::lineIcon(desktop::LineIcon::AllLeft));
-    makeMenu("20120 &Bearbeiten",
+    makeMenu(Text::MenuEdit,
              {undo, redo, nullptr, mark, unmark, markAll, unmarkAll, nullptr, copy, selectAll, nullptr, find});
 }
 
 void MainActions::makeView()
 {
-    introduction = make("Einleitungzeigen", "20146 &Einleitung", Qt::ALT | Qt::Key_1);
-    chart = make("Grafikzeigen", "20147 &Grafik", Qt::ALT | Qt::Key_2);
-    ageList = make("Alterslistezeigen", "20148 A&ltersliste", Qt::ALT | Qt::Key_3);
-    showTools = make("Werkzeugleiste", "20141 &Werkzeugleiste");
-    showStatus = make("Statusleiste", "20142 &Statusleiste");
-    showFilter = make("Filteranzeigen", "20143 &Filter");
-    reload = make("Neuladen", "20144 Listen &neu laden", Qt::Key_F5);
+    introduction = make("Einleitungzeigen", Text::MenuIntroduction, Qt::ALT | Qt::Key_1);
+    chart = make("Grafikzeigen", Text::MenuChart, Qt::ALT | Qt::Key_2);
+    ageList = make("Alterslistezeigen", Text::MenuAgeList, Qt::ALT | Qt::Key_3);
+    showTools = make("Werkzeugleiste", Text::MenuToolBar);
+    showStatus = make("Statusleiste", Text::MenuStatusBar);
+    showFilter = make("Filteranzeigen", Text::MenuFilter);
+    reload = make("Neuladen", Text::MenuReloadLists, Qt::Key_F5);
     for (QAction *shown : {showTools, showStatus, showFilter}) {
         shown->setCheckable(true);
         shown->setChecked(true);
     }
-    giveToolButton(reload, desktop::LineIcon::Reload, "20209Neu laden", "20229Beide Listen neu laden");
-    makeMenu("20140 &Ansicht",
+    giveToolButton(reload, desktop::LineIcon::Reload, Text::ToolReload, Text::ToolReloadTip);
+    makeMenu(Text::MenuView,
              {introduction, chart, ageList, nullptr, showTools, showStatus, showFilter, nullptr, reload});
 }
 
 void MainActions::makeHelp()
 {
-    manual = make("Anleitung", "20161 &Anleitung", Qt::Key_F1);
-    shortcuts = make("Tastenkuerzel", "20163 &Tastenkürzel", Qt::CTRL | Qt::Key_F1);
-    about = make("Ueber", "20162 Ü&ber Kalvenor ...");
+    manual = make("Anleitung", Text::MenuManual, Qt::Key_F1);
+    shortcuts = make("Tastenkuerzel", Text::MenuShortcuts, Qt::CTRL | Qt::Key_F1);
+    about = make("Ueber", Text::MenuAbout);
     about->setMenuRole(QAction::AboutRole);
-    giveToolButton(manual, desktop::LineIcon::Help, "20210Hilfe", "20230Die Anleitung zeigen");
+    giveToolButton(manual, desktop::LineIcon::Help, Text::ToolHelp, Text::ToolHelpTip);
     shortcuts->setIcon(desktop::lineIcon(desktop::LineIcon::Keyboard));
-    makeMenu("20160 &Hilfe", {manual, shortcuts, nullptr, about});
+    makeMenu(Text::MenuHelp, {manual, shortcuts, nullptr, about});
 }
 
 void MainActions::makeToolBar()
@@ -154,7 +152,7 @@ void MainActions::makeToolBar()
     tools->setMovable(false);
     tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     tools->setContextMenuPolicy(Qt::PreventContextMenu);
-    language::setDesignText(tools, u"20141 &Werkzeugleiste"_s);
+    language::setDesignText(tools, Text::MenuToolBar);
     tools->addActions({openTemplate, saveTemplate, reset});
     tools->addSeparator();
     tools->addActions({preview, print, settings});

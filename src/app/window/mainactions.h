@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "language/texts/text.h"
 #include <QKeySequence>
 #include <QList>
 
@@ -31,8 +32,8 @@ struct MainActions {
     QList<QAction *> all;
 
 private:
-    QAction *make(const char *name, const char *caption, const QKeySequence &keys = {});
-    QMenu *makeMenu(const char *caption, const QList<QAction *> &actions);
+    QAction *make(const char *name, language::Text caption, const QKeySequence &keys = {});
+    QMenu *makeMenu(language::Text caption, const QList<QAction *> &actions);
     void makeStatistic();
     void makeEdit();
     void makeView();

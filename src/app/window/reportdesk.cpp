@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/reportdesk.h"
 
-#include "language/forms/form.h"
 #include "language/progress/userwork.h"
+#include "language/texts/sprache.h"
 #include "platform/chart/chartcontrol.h"
 #include "selection/filter/filterpanel.h"
 #include "selection/panel/selectioncontroller.h"
@@ -17,6 +17,8 @@
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
+
+using language::Text;
 
 namespace {
 
@@ -35,11 +37,6 @@ ReportDesk::ReportDesk(data::Session &session, desktop::Work &work, selection::S
 }
 
 ReportDesk::~ReportDesk() = default;
-
-QString ReportDesk::text(qint16 id, const QString &germanText) const
-{
-    return language::shownText(m_session.language, id, germanText);
-}
 
 report::ReportContent ReportDesk::content() const
 {
@@ -66,12 +63,12 @@ std::optional<QString> ReportDesk::auswahldrucken(const print::ExportTarget &tar
         return std::nullopt;
     QString written;
     const bool done = language::runAndTell(
-        m_work, m_session.host, m_session.language, text(20349, u"Die Seiten werden zusammengestellt ..."_s),
+        m_work, m_session.host, m_session.language, m_session.language.text(Text::ComposingPages),
         [&](const basic::Progress &progress) { written = m_bericht.auswahldrucken(content(), target, progress); },
         {.said = [this](const QString &end) { Q_EMIT said(end); },
          .inPlainWords =
              [this](const basic::Error &error) {
-                 return text(21053, u"Der Bericht konnte nicht erstellt werden: %1"_s).arg(error.message());
+                 return m_session.language.text(Text::ReportFailed).arg(error.message());
              }});
     if (!done)
         return std::nullopt;
@@ -93,9 +90,9 @@ bool ReportDesk::initspeichern()
 {
     const bool done = m_bericht.initspeichern();
     if (!done)
-        m_session.host.desktop().messageBox(text(20874, u"Die Einstellungen konnten nicht gespeichert werden: %1"_s)
+        m_session.host.desktop().messageBox(m_session.language.text(Text::SettingsNotSaved)
                                                 .arg(m_session.host.native(m_session.host.ownSettingsFile())),
-                                            desktop::MessageCritical, text(21020, u"Fehler"_s));
+                                            desktop::MessageCritical, m_session.language.text(Text::Error));
     return done;
 }
 

@@ -49,7 +49,6 @@ Q_SIGNALS:
     void said(const QString &text);
 
 private:
-    QString text(qint16 id, const QString &germanText) const;
     report::ReportContent content() const;
     void showPreview();
     void forget();

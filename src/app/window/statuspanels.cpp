@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
 
+using language::Text;
+
 namespace {
 
 constexpr qsizetype DamageLinesShown = 12;
@@ -23,25 +25,24 @@ constexpr qsizetype DamageLinesShown = 12;
 StatusPanels::StatusPanels(QStatusBar &bar, desktop::Work &work) : m_bar(bar)
 {
     bar.addPermanentWidget(new language::ProgressPanel(work, &bar));
-    m_database = makePanel("PanelDatenbank", "20303Die geöffnete Familiendatenbank");
-    m_readOnly = makePanel("PanelNurlesen", "20307Die Datenbank kann nicht geändert werden; Markierungen sind nicht "
-                                            "möglich.");
-    language::setDesignText(m_readOnly, u"20306Nur lesen"_s);
-    m_damage = makePanel("PanelSchaden", "");
-    m_persons = makePanel("PanelPersonen", "20304Zahl der Personen in der Datenbank");
-    m_marked = makePanel("PanelMarkiert", "20305Zahl der markierten Personen");
+    m_database = makePanel("PanelDatenbank", Text::FamilyDatabaseTip);
+    m_readOnly = makePanel("PanelNurlesen", Text::ReadOnlyTip);
+    language::setDesignText(m_readOnly, Text::ReadOnly);
+    m_damage = makePanel("PanelSchaden", Text::None);
+    m_persons = makePanel("PanelPersonen", Text::PersonsCountTip);
+    m_marked = makePanel("PanelMarkiert", Text::MarkedCountTip);
     m_readOnly->hide();
     m_damage->hide();
     QObject::connect(&bar, &QStatusBar::messageChanged, m_database,
                      [this](const QString &message) { makeRoom(message); });
 }
 
-QLabel *StatusPanels::makePanel(const char *name, const char *tooltip)
+QLabel *StatusPanels::makePanel(const char *name, Text tooltip)
 {
     auto *label = new QLabel(&m_bar);
     label->setObjectName(QLatin1String(name));
     label->setContentsMargins(6, 0, 6, 0);
-    language::setDesignText(label, {}, QString::fromUtf8(tooltip));
+    language::setDesignText(label, {}, tooltip);
     m_bar.addPermanentWidget(label);
     return label;
 }
@@ -61,9 +62,6 @@ void StatusPanels::makeRoom(const QString &message)
 void StatusPanels::update(data::Session &session, selection::SelectionController &lists)
 {
     using selection::PersonList;
-    const auto text = [&session](qint16 id, const char *german) {
-        return language::shownText(session.language, id, QString::fromUtf8(german));
-    };
     const dao::Database &family = *session.databases.Familiendatenbank;
     if (!family.isOpen())
         return; // while another one is being opened
@@ -71,7 +69,7 @@ void StatusPanels::update(data::Session &session, selection::SelectionController
     m_readOnly->setVisible(jet::isWriteProtected(family.file()));
     const QStringList damage = family.warnings();
     m_damage->setVisible(!damage.isEmpty());
-    m_damage->setText(text(20320, "Beschädigt, nicht alles lesbar: %1").arg(lists.numberText(damage.size())));
+    m_damage->setText(session.language.text(Text::DamageCount).arg(lists.numberText(damage.size())));
     m_damage->setToolTip(damage.mid(0, DamageLinesShown).join(u'\n'));
 
     const auto count = [&lists](PersonList list) {
@@ -81,8 +79,8 @@ void StatusPanels::update(data::Session &session, selection::SelectionController
     // A filter narrows one list at most; the other one tells how many are marked.
     const qint64 marked =
         lists.isFiltered(PersonList::Marked) ? all - count(PersonList::Unmarked) : count(PersonList::Marked);
-    m_persons->setText(text(20301, "Personen: %1").arg(lists.numberText(all)));
-    m_marked->setText(text(20302, "Davon markiert: %1").arg(lists.numberText(marked)));
+    m_persons->setText(session.language.text(Text::PersonsCount).arg(lists.numberText(all)));
+    m_marked->setText(session.language.text(Text::MarkedCount).arg(lists.numberText(marked)));
 }
 
 } // namespace kalvenor::app

@@ -20,7 +20,7 @@ public:
     void update(data::Session &session, selection::SelectionController &lists);
 
 private:
-    QLabel *makePanel(const char *name, const char *tooltip);
+    QLabel *makePanel(const char *name, language::Text tooltip);
     void makeRoom(const QString &message);
 
     QStatusBar &m_bar;

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/templatedesk.h"
 
-#include "language/forms/form.h"
 #include "language/progress/userwork.h"
+#include "language/texts/sprache.h"
 #include "selection/templates/vorlageoeffnen.h"
 #include "selection/templates/vorlagespeichern.h"
 #include <QFileInfo>
@@ -12,6 +12,8 @@
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
+
+using language::Text;
 
 namespace {
 
@@ -31,9 +33,7 @@ QString inPlainWords(language::Sprachmodul &texts, const basic::Error &error)
     const QString file = match.captured(1);
     const QString line = match.captured(2);
     const QString plain =
-        line == u"1"
-            ? language::shownText(texts, 21413, u"Das ist keine Vorlage: %1"_s).arg(file)
-            : language::shownText(texts, 21403, u"Die Vorlage ist beschädigt (Zeile %1): %2"_s).arg(line, file);
+        line == u"1" ? texts.text(Text::NoTemplateFile).arg(file) : texts.text(Text::TemplateDamaged).arg(line, file);
     return plain + u"\n\n"_s + error.message();
 }
 
@@ -43,11 +43,6 @@ TemplateDesk::TemplateDesk(data::Session &session, desktop::Work &work, selectio
                            statistics::StatisticsPanel &panel, QObject *parent)
     : QObject(parent), m_session(session), m_work(work), m_lists(lists), m_panel(panel), m_saved(panel.statistik())
 {
-}
-
-QString TemplateDesk::text(qint16 id, const QString &germanText) const
-{
-    return language::shownText(m_session.language, id, germanText);
 }
 
 /// False where the task was not begun, failed or was cancelled; it was told.
@@ -77,9 +72,9 @@ bool TemplateDesk::mayDiscard()
 {
     if (!isModified())
         return true;
-    switch (m_session.host.desktop().messageBox(
-        text(21407, u"Titel oder Einleitung wurden geändert. Soll die Vorlage gespeichert werden?"_s),
-        desktop::ButtonsYesNoCancel + desktop::MessageQuestion, text(21023, u"Frage"_s))) {
+    switch (m_session.host.desktop().messageBox(m_session.language.text(Text::SaveChangedTemplate),
+                                                desktop::ButtonsYesNoCancel + desktop::MessageQuestion,
+                                                m_session.language.text(Text::Question))) {
     case desktop::ResultYes:
         return save();
     case desktop::ResultNo:
@@ -101,9 +96,10 @@ void TemplateDesk::open()
 {
     if (!mayDiscard())
         return;
-    const QString file = m_session.host.desktop().openFileName(
-        qobject_cast<QWidget *>(parent()),
-        {.title = text(21400, u"Vorlage öffnen"_s), .folder = folder(), .filters = text(21402, u"Vorlagen (*.kvl)"_s)});
+    const QString file = m_session.host.desktop().openFileName(qobject_cast<QWidget *>(parent()),
+                                                               {.title = m_session.language.text(Text::OpenTemplate),
+                                                                .folder = folder(),
+                                                                .filters = m_session.language.text(Text::Templates)});
     if (!file.isEmpty())
         openFile(file);
 }
@@ -114,14 +110,13 @@ bool TemplateDesk::openFile(const QString &nativeFile)
         return false;
     selection::OpenedVorlage opened;
     const selection::UseOpenDatabase useOpenDatabase = [this](const QString &database) {
-        const QString question =
-            text(21404, u"Die Vorlage gehört zu einer Datenbank, die nicht vorhanden ist: %1"_s).arg(database);
+        const QString question = m_session.language.text(Text::TemplateDatabaseMissing).arg(database);
         return m_session.host.desktop().messageBox(question + u"\n\n"_s +
-                                                       text(21405, u"Mit der geöffneten Datenbank öffnen"_s) + u'?',
+                                                       m_session.language.text(Text::OpenWithThisDatabase) + u'?',
                                                    desktop::ButtonsOkCancel + desktop::MessageQuestion,
-                                                   text(21400, u"Vorlage öffnen"_s)) == desktop::ResultOk;
+                                                   m_session.language.text(Text::OpenTemplate)) == desktop::ResultOk;
     };
-    const bool done = perform(text(21409, u"Die Vorlage wird geöffnet ..."_s), [&](const basic::Progress &progress) {
+    const bool done = perform(m_session.language.text(Text::OpeningTemplate), [&](const basic::Progress &progress) {
         opened = selection::vorlageoeffnen(m_session, basic::windowsPath(nativeFile), progress, useOpenDatabase);
     });
     if (!done) {
@@ -134,12 +129,12 @@ bool TemplateDesk::openFile(const QString &nativeFile)
     setCurrent(nativeFile);
     remember(nativeFile);
     m_panel.computeAll();
-    Q_EMIT said(text(20313, u"Geöffnet: %1"_s).arg(nativeFile));
+    Q_EMIT said(m_session.language.text(Text::Opened).arg(nativeFile));
     if (!opened.missing.empty())
         m_session.host.desktop().messageBox(
-            text(21406, u"%1 Personen der Vorlage sind nicht in der Datenbank."_s)
+            m_session.language.text(Text::TemplatePersonsMissing)
                 .arg(language::anzeigesprache(m_session.host).toString(static_cast<qlonglong>(opened.missing.size()))),
-            0, text(21400, u"Vorlage öffnen"_s));
+            0, m_session.language.text(Text::OpenTemplate));
     return true;
 }
 
@@ -162,18 +157,19 @@ bool TemplateDesk::saveAs()
 {
     const QString file = m_session.host.desktop().saveFileName(
         qobject_cast<QWidget *>(parent()),
-        {.title = text(21401, u"Vorlage speichern unter"_s),
+        {.title = m_session.language.text(Text::SaveTemplateAs),
          .folder = folder(),
-         .filters = text(21402, u"Vorlagen (*.kvl)"_s),
+         .filters = m_session.language.text(Text::Templates),
          .suffix = Suffix,
-         .name = m_current.isEmpty() ? text(21412, u"Unbenannt"_s) + u'.' + Suffix : QFileInfo(m_current).fileName()});
+         .name = m_current.isEmpty() ? m_session.language.text(Text::Untitled) + u'.' + Suffix
+                                     : QFileInfo(m_current).fileName()});
     return !file.isEmpty() && write(file);
 }
 
 bool TemplateDesk::write(const QString &nativeFile)
 {
     const statistics::Statistik now = m_panel.statistik();
-    if (!perform(text(20340, u"Bitte warten ..."_s), [&](const basic::Progress &progress) {
+    if (!perform(m_session.language.text(Text::PleaseWait), [&](const basic::Progress &progress) {
             selection::vorlagespeichern(m_session.host, m_session.databases, basic::windowsPath(nativeFile), now,
                                         progress);
         }))
@@ -181,7 +177,7 @@ bool TemplateDesk::write(const QString &nativeFile)
     m_saved = now;
     setCurrent(nativeFile);
     remember(nativeFile);
-    Q_EMIT said(text(20312, u"Gespeichert: %1"_s).arg(nativeFile));
+    Q_EMIT said(m_session.language.text(Text::Saved).arg(nativeFile));
     return true;
 }
 

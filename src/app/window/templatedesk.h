@@ -45,7 +45,6 @@ Q_SIGNALS:
     void said(const QString &text);
 
 private:
-    QString text(qint16 id, const QString &germanText) const;
     bool perform(const QString &what, const desktop::Work::Task &task);
     void show(const statistics::Statistik &statistik);
     void clearTo(const statistics::Statistik &statistik);

@@ -5,7 +5,7 @@
 #include "app/start/lastfolder.h"
 #include "app/window/auswahl.h"
 #include "app/window/firstrun.h"
-#include "language/forms/form.h"
+#include "language/texts/sprache.h"
 #include "platform/desktop/appicon.h"
 #include "platform/desktop/terminal.h"
 #include "platform/desktop/widgetdesktop.h"

@@ -6,7 +6,7 @@
 #include "demo/family/names.h"
 #include "demo/host/familytables.h"
 #include "demo/host/icons.h"
-#include "demo/texts/texts.h"
+#include "language/texts/catalogue.h"
 #include <set>
 
 using namespace Qt::StringLiterals;
@@ -135,10 +135,8 @@ void writeLanguageDatabase(const QString &file)
     auto &table = creator.addTable(u"Languages"_s,
                                    {longColumn(u"Counter"), textColumn(u"Deutsch", 255), textColumn(u"English", 255)},
                                    counterIndex());
-    for (const auto group : {hostTexts(), windowTexts(), statisticsTexts(), printTexts(), messageTexts()}) {
-        for (const LanguageText &entry : group)
-            table.addRow({entry.id, text(entry.deutsch), text(entry.english)});
-    }
+    for (const language::CatalogueText &entry : language::catalogue())
+        table.addRow({static_cast<int>(entry.id), text(entry.deutsch), text(entry.english)});
     creator.write(file);
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/about/infoform.h"
 
-#include "language/forms/form.h"
 #include "language/forms/widgetform.h"
+#include "language/texts/sprache.h"
 #include "platform/basic/version.h"
 #include "platform/desktop/appicon.h"
 #include <array>
@@ -50,18 +50,18 @@ QString libraryList()
 Infoform::Infoform(const host::Host &host, Sprachmodul &texts, Ereignisarten &kinds, QWidget *parent) : QDialog(parent)
 {
     setObjectName(u"Infoform"_s);
-    setDesignText(this, u"21100Über Kalvenor"_s);
+    setDesignText(this, Text::AboutKalvenor);
     setWindowIcon(desktop::applicationIcon());
     auto *tabs = new QTabWidget(this);
     tabs->setObjectName(u"Tabs"_s);
     tabs->addTab(makeAbout(), basic::versionRecord().productName);
     tabs->addTab(makeLegend(kinds), {});
     tabs->addTab(makeLibraries(), {});
-    setDesignTab(tabs, 1, u"21101Zeichen der Ereignisse"_s);
-    setDesignTab(tabs, 2, u"21102Verwendete Bibliotheken"_s);
+    setDesignTab(tabs, 1, Text::EventSymbols);
+    setDesignTab(tabs, 2, Text::LibrariesUsed);
     auto *ok = new QPushButton(this);
     ok->setObjectName(u"OK"_s);
-    setDesignText(ok, u"21000OK"_s);
+    setDesignText(ok, Text::Ok);
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     auto *column = new QVBoxLayout(this);
@@ -85,19 +85,19 @@ QWidget *Infoform::makeAbout()
     grid->addWidget(picture, 0, 0, 2, 1, Qt::AlignTop);
     grid->setColumnStretch(1, 1);
     // The description and the licence are translated, name, number and holder are not.
-    const std::array<QString, 5> captions = {
-        version.productName,
-        u"Version: %1.%2.%3"_s.arg(version.majorNumber).arg(version.minorNumber).arg(version.revision),
-        u"21105"_s + version.fileDescription, version.legalCopyright,
-        u"21106Kalvenor ist freie Software unter der GNU General "
-        "Public License, Version 3 oder später."_s};
+    const std::array<std::pair<QString, Text>, 5> captions = {
+        {{version.productName, Text::None},
+         {u"Version: %1.%2.%3"_s.arg(version.majorNumber).arg(version.minorNumber).arg(version.revision), Text::None},
+         {version.fileDescription, Text::AboutDescription},
+         {version.legalCopyright, Text::None},
+         {{}, Text::AboutLicence}}};
     for (std::size_t i = 0; i < captions.size(); ++i) {
-        auto *label = new QLabel(page);
+        auto *label = new QLabel(captions[i].first, page);
         const auto row = static_cast<int>(i);
         label->setObjectName(i < 4 ? u"Label_%1"_s.arg(row) : u"Lizenz"_s);
         label->setWordWrap(true);
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        setDesignText(label, captions[i]);
+        setDesignText(label, captions[i].second);
         if (i == 0) {
             QFont large = label->font();
             large.setPointSizeF(large.pointSizeF() * 1.8);
@@ -136,10 +136,10 @@ QWidget *Infoform::makeLegend(Ereignisarten &kinds)
     list->setIconSize({20, 20});
     list->setColumnCount(3);
     list->setMinimumHeight(300);
-    setDesignText(list, u"21101Zeichen der Ereignisse"_s);
-    setDesignHeading(list->header(), 0, u"21107Bild"_s);
-    setDesignHeading(list->header(), 1, u"21108Zeichen"_s);
-    setDesignHeading(list->header(), 2, u"21109Ereignis"_s);
+    setDesignText(list, Text::EventSymbols);
+    setDesignHeading(list->header(), 0, Text::EventPicture);
+    setDesignHeading(list->header(), 1, Text::EventSymbol);
+    setDesignHeading(list->header(), 2, Text::EventName);
     for (const EventImage &kind : kinds.images()) {
         auto *item = new QTreeWidgetItem(list, {{}, kind.symbol(), kind.name()});
         if (!kind.picture.isNull())

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/forms/designtext.h"
 
-#include <algorithm>
-
 #include "language/forms/widgetform.h"
+#include "language/texts/catalogue.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -23,12 +22,14 @@
 
 namespace kalvenor::language {
 
-Designed split(const QString &designed)
+QString tagOf(Text id)
 {
-    const auto *end = std::find_if(designed.begin(), designed.end(), [](QChar c) { return c < u'0' || c > u'9'; });
-    const qsizetype digits = end - designed.begin();
-    const bool blank = digits > 0 && designed.mid(digits).startsWith(u' ');
-    return {designed.left(digits), designed.mid(digits + (blank ? 1 : 0))};
+    return id == Text::None ? QString() : QString::number(static_cast<qint16>(id));
+}
+
+QString designTextOf(Text id)
+{
+    return wording(id, CatalogueLanguage::German);
 }
 
 QString textProperty(const QObject *object, const char *property)
@@ -69,56 +70,46 @@ void showHeading(QHeaderView *header, int column, const QString &shown)
                  qUtf8Printable(header->parent() ? header->parent()->objectName() : QString()), column);
 }
 
-void setDesignText(QObject *item, const QString &caption, const QString &tooltip)
+void setDesignText(QObject *item, Text caption, Text tooltip)
 {
     QObject *carrier = carrierOf(item);
-    if (!caption.isEmpty()) {
-        const Designed designed = split(caption);
-        carrier->setProperty(Tag, designed.tag);
-        carrier->setProperty(DesignText, designed.text);
-        carrier->setProperty(captionProperty(carrier), designed.text);
+    if (caption != Text::None) {
+        carrier->setProperty(Tag, tagOf(caption));
+        carrier->setProperty(captionProperty(carrier), designTextOf(caption));
     }
-    if (!tooltip.isEmpty()) {
-        const Designed designed = split(tooltip);
-        carrier->setProperty(TooltipTag, designed.tag);
-        carrier->setProperty(DesignTooltip, designed.text);
-        carrier->setProperty("toolTip", designed.text);
+    if (tooltip != Text::None) {
+        carrier->setProperty(TooltipTag, tagOf(tooltip));
+        carrier->setProperty("toolTip", designTextOf(tooltip));
         if (auto *button = qobject_cast<QAbstractButton *>(item); button && button->text().isEmpty())
-            button->setAccessibleName(designed.text);
+            button->setAccessibleName(designTextOf(tooltip));
     }
 }
 
-void setDesignToolCaption(QAction *action, const QString &caption)
+void setDesignToolCaption(QAction *action, Text caption)
 {
-    const Designed designed = split(caption);
-    action->setProperty(ToolTag, designed.tag);
-    action->setProperty(DesignToolText, designed.text);
-    action->setIconText(designed.text);
+    action->setProperty(ToolTag, tagOf(caption));
+    action->setIconText(designTextOf(caption));
 }
 
-void setDesignTab(QTabBar *tabs, int index, const QString &caption, const QString &tooltip)
+void setDesignTab(QTabBar *tabs, int index, Text caption, Text tooltip)
 {
-    const Designed text = split(caption);
-    const Designed help = split(tooltip);
-    tabs->setTabData(index, QVariantMap{{QLatin1String(Tag), text.tag},
-                                        {QLatin1String(DesignText), text.text},
-                                        {QLatin1String(TooltipTag), help.tag},
-                                        {QLatin1String(DesignTooltip), help.text}});
-    tabs->setTabText(index, text.text);
-    tabs->setTabToolTip(index, help.text);
+    tabs->setTabData(index,
+                     QVariantMap{{QLatin1String(Tag), tagOf(caption)}, {QLatin1String(TooltipTag), tagOf(tooltip)}});
+    tabs->setTabText(index, designTextOf(caption));
+    tabs->setTabToolTip(index, designTextOf(tooltip));
 }
 
-void setDesignTab(QTabWidget *tabs, int index, const QString &caption, const QString &tooltip)
+void setDesignTab(QTabWidget *tabs, int index, Text caption, Text tooltip)
 {
     setDesignTab(tabs->tabBar(), index, caption, tooltip);
 }
 
-void setDesignHeading(QHeaderView *header, int column, const QString &caption)
+void setDesignHeading(QHeaderView *header, int column, Text caption)
 {
     QVariantMap headings = header->property(Headings).toMap();
-    headings.insert(QString::number(column), caption);
+    headings.insert(QString::number(column), tagOf(caption));
     header->setProperty(Headings, headings);
-    showHeading(header, column, split(caption).text);
+    showHeading(header, column, designTextOf(caption));
 }
 
 } // namespace kalvenor::language

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "language/texts/text.h"
 #include <QString>
 
 class QHeaderView;
@@ -10,21 +11,16 @@ class QObject;
 // How the design-time texts of widgetform.h are kept with the items.
 namespace kalvenor::language {
 
-// Dynamic properties, and the keys of a tab's data.
+// Dynamic properties, and the keys of a tab's data; each holds an identifier in digits.
 inline constexpr const char *Tag = "tag";
-inline constexpr const char *DesignText = "designText";
 inline constexpr const char *TooltipTag = "tooltipTag";
-inline constexpr const char *DesignTooltip = "designTooltip";
-inline constexpr const char *ToolTag = "toolTag"; // of an action's tool bar button
-inline constexpr const char *DesignToolText = "designToolText";
-inline constexpr const char *Headings = "headings"; // of a header view: column → design-time caption
+inline constexpr const char *ToolTag = "toolTag";   // of an action's tool bar button
+inline constexpr const char *Headings = "headings"; // of a header view: column → identifier
 
-/// A design-time text, taken apart.
-struct Designed {
-    QString tag; ///< digits, empty where there are none
-    QString text;
-};
-Designed split(const QString &designed);
+/// "" for Text::None.
+QString tagOf(Text id);
+/// What a form shows before it is translated: the German text.
+QString designTextOf(Text id);
 
 QString textProperty(const QObject *object, const char *property);
 

@@ -10,20 +10,6 @@ namespace kalvenor::language {
 
 namespace {
 
-bool isOwnAndLacking(qint16 id, const QVariant &text)
-{
-    return id >= FirstOwnText && (text.isNull() || text.toString() == u"????"_s);
-}
-
-QString withoutNumber(const QString &designed, qint16 id)
-{
-    const QString number = QString::number(id);
-    if (!designed.startsWith(number))
-        return designed;
-    const bool blank = designed.mid(number.size()).startsWith(u' ');
-    return designed.mid(number.size() + (blank ? 1 : 0));
-}
-
 qint16 leadingIdentifier(const QString &text)
 {
     return basic::toInteger16(basic::leadingNumber(text));
@@ -90,16 +76,13 @@ private:
         }
     }
 
-    /// A null cannot be assigned to a caption: it stays, unless the text is one of our own.
-    void assign(QString &shown, qint16 id, const QString &designed)
+    /// A null cannot be assigned to a caption: it stays.
+    void assign(QString &shown, qint16 id)
     {
-        const QVariant text = m_texts.sprachtext(id);
-        if (isOwnAndLacking(id, text))
-            shown = designed;
-        else if (!text.isNull())
+        const QVariant text = m_texts.shownText(id);
+        if (!text.isNull())
             shown = text.toString();
     }
-    void assign(QString &caption, qint16 id) { assign(caption, id, withoutNumber(caption, id)); }
 
     template <typename Test>
     void captionOfNumber(QString &caption, const QString &carrier, Test test)
@@ -120,14 +103,14 @@ private:
         attempt([&] {
             const qint16 n = leadingIdentifier(part.tooltip);
             if (n > 0)
-                assign(part.tooltip, n, part.tooltipText);
+                assign(part.tooltip, n);
         });
     }
 
     void itemTooltip(FormPart &item, bool enabled)
     {
         if (enabled)
-            attempt([&] { assign(item.tooltip, basic::textToInteger16(item.tooltip), item.tooltipText); });
+            attempt([&] { assign(item.tooltip, basic::textToInteger16(item.tooltip)); });
         else
             item.tooltip.clear();
     }
@@ -146,17 +129,6 @@ void formuebersetzen(Form &form, Sprachmodul &texts, const host::Host &host)
     translation.captionOfTag(form.title, form.tag);
     for (FormPart &control : form.controls)
         translation.control(control);
-}
-
-QLocale anzeigesprache(const host::Host &host)
-{
-    return host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0 ? QLocale::German : QLocale::English;
-}
-
-QString shownText(Sprachmodul &texts, qint16 id, const QString &germanText)
-{
-    const QVariant text = texts.sprachtext(id);
-    return isOwnAndLacking(id, text) ? germanText : text.toString();
 }
 
 } // namespace kalvenor::language

@@ -4,15 +4,11 @@
 
 #include "host/host.h"
 #include "language/texts/sprache.h"
-#include <QLocale>
 #include <QString>
 #include <vector>
 
 // A window as the translation sees it: texts with identifiers, whatever draws them.
 namespace kalvenor::language {
-
-/// Identifiers from here on are the program's own; a host's database may lack them.
-inline constexpr qint16 FirstOwnText = 20000;
 
 /// A control or an item of one: a tab, a tool bar button or an entry of its menu, a panel, a column heading.
 struct FormPart {
@@ -20,7 +16,6 @@ struct FormPart {
     QString tag = {};      ///< the caption's identifier in digits
     QString caption = {};  ///< at design time the identifier and the German text: "1204Liste auf neuer Seite beginnen"
     QString tooltip = {};  ///< at design time the identifier alone
-    QString tooltipText = {}; ///< the tooltip's German text, for an identifier of our own
     std::vector<FormPart> items = {};
 };
 
@@ -35,12 +30,5 @@ struct Form {
 /// Translates title, captions and tooltips by the rules of each control's type. What has no readable identifier stays
 /// as it is; tooltips are emptied unless short help is switched on. The pointer is left an hourglass. Never fails.
 void formuebersetzen(Form &form, Sprachmodul &texts, const host::Host &host);
-
-/// How numbers are written for the host's language: German, else English.
-QLocale anzeigesprache(const host::Host &host);
-
-/// A text shown at run time: the identifier's text, or `germanText` where it is one of our own that the database lacks.
-/// Places such as %1 are left for the caller to fill.
-QString shownText(Sprachmodul &texts, qint16 id, const QString &germanText);
 
 } // namespace kalvenor::language

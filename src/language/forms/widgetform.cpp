@@ -71,14 +71,19 @@ QString tooltipOf(const QString &tag, const QString &shown)
     return u"shown"_s;
 }
 
+/// The caption that a form carries at design time: the identifier, directly followed by the German text.
+QString designCaption(const QString &tag)
+{
+    return tag.isEmpty() ? QString() : tag + designTextOf(static_cast<Text>(tag.toShort()));
+}
+
 Node nodeOf(const QString &typeName, QObject *carrier)
 {
     const QString tag = textProperty(carrier, Tag);
     return {.part = {.typeName = typeName,
                      .tag = tag,
-                     .caption = tag.isEmpty() ? QString() : tag + textProperty(carrier, DesignText),
-                     .tooltip = tooltipOf(textProperty(carrier, TooltipTag), textProperty(carrier, "toolTip")),
-                     .tooltipText = textProperty(carrier, DesignTooltip)},
+                     .caption = designCaption(tag),
+                     .tooltip = tooltipOf(textProperty(carrier, TooltipTag), textProperty(carrier, "toolTip"))},
             .showCaption = [=](const QString &shown) { carrier->setProperty(captionProperty(carrier), shown); },
             .showTooltip =
                 [=](const QString &shown) {
@@ -93,9 +98,8 @@ Node tabNode(QTabBar *tabs, int index)
         return data.value(QLatin1String(key)).toString();
     };
     return {.part = {.tag = value(Tag),
-                     .caption = value(Tag) + value(DesignText),
-                     .tooltip = tooltipOf(value(TooltipTag), tabs->tabToolTip(index)),
-                     .tooltipText = value(DesignTooltip)},
+                     .caption = designCaption(value(Tag)),
+                     .tooltip = tooltipOf(value(TooltipTag), tabs->tabToolTip(index))},
             .showCaption = [=](const QString &shown) { tabs->setTabText(index, shown); },
             .showTooltip =
                 [=](const QString &shown) {
@@ -284,7 +288,7 @@ private:
         const QString toolTag = textProperty(action, ToolTag);
         if (!toolTag.isEmpty()) {
             node.part.tag = toolTag;
-            node.part.caption = toolTag + textProperty(action, DesignToolText);
+            node.part.caption = designCaption(toolTag);
             node.showCaption = [=](const QString &shown) {
                 action->setIconText(shown);
             };
@@ -304,10 +308,10 @@ private:
     {
         const QVariantMap headings = header->property(Headings).toMap();
         for (auto at = headings.begin(); at != headings.end(); ++at) {
-            const QString designed = at.value().toString();
+            const QString tag = at.value().toString();
             const int column = at.key().toInt();
             list.items.push_back(
-                {.part = {.tag = split(designed).tag, .caption = designed}, .showCaption = [=](const QString &shown) {
+                {.part = {.tag = tag, .caption = designCaption(tag)}, .showCaption = [=](const QString &shown) {
                      showHeading(header, column, shown);
                  }});
         }
@@ -346,7 +350,7 @@ void nameButton(QAbstractButton *button, Sprachmodul &texts)
     bool isNumber = false;
     const qint16 id = textProperty(carrier, TooltipTag).toShort(&isNumber);
     if (button->text().isEmpty() && isNumber)
-        button->setAccessibleName(shownText(texts, id, textProperty(carrier, DesignTooltip)));
+        button->setAccessibleName(texts.shownText(id).toString());
 }
 
 } // namespace

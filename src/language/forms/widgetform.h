@@ -12,27 +12,26 @@ class QTabBar;
 class QTabWidget;
 class QWidget;
 
-// Windows of Qt as forms. A design-time text is its identifier, directly or after a blank followed by the German text:
-// "1204Liste auf neuer Seite beginnen", "180 &Drucken". The German text is shown at once, the identifier is kept in a
-// dynamic property ("tag", "tooltipTag"). The German text must not begin with a digit.
+// Windows of Qt as forms. A design-time text is an identifier; its German text is shown at once, as the text that the
+// form was designed with, and the identifier is kept in a dynamic property ("tag", "tooltipTag") for the translation.
 namespace kalvenor::language {
 
-/// Gives an item its design-time caption and tooltip; an empty one leaves what is there. The caption is the text of a
+/// Gives an item its design-time caption and tooltip; Text::None leaves what is there. The caption is the text of a
 /// button, label or action, the title of a group box, menu, dock, tool bar or window, the placeholder of an entry
 /// field, and the accessible name of anything else. A button without a text takes its tooltip as its accessible name.
-void setDesignText(QObject *item, const QString &caption, const QString &tooltip = {});
-/// A caption of its own for the action's tool bar button (its icon text), e.g. "20202Speichern" where the menu has
-/// "20104Vorlage &speichern". Without it the button follows the action's text.
-void setDesignToolCaption(QAction *action, const QString &caption);
+void setDesignText(QObject *item, Text caption, Text tooltip = Text::None);
+/// A caption of its own for the action's tool bar button (its icon text), e.g. "Save" where the menu has
+/// "Save template". Without it the button follows the action's text.
+void setDesignToolCaption(QAction *action, Text caption);
 /// One tab. Its tab data (QTabBar::tabData) is used for this and not to be used otherwise.
-void setDesignTab(QTabBar *tabs, int index, const QString &caption, const QString &tooltip = {});
-void setDesignTab(QTabWidget *tabs, int index, const QString &caption, const QString &tooltip = {});
+void setDesignTab(QTabBar *tabs, int index, Text caption, Text tooltip = Text::None);
+void setDesignTab(QTabWidget *tabs, int index, Text caption, Text tooltip = Text::None);
 /// One column heading of a view. The header's model must be set before and must take setHeaderData for the display
 /// role.
-void setDesignHeading(QHeaderView *header, int column, const QString &caption);
+void setDesignHeading(QHeaderView *header, int column, Text caption);
 
 /// Translates a window that was built with design-time texts; call it once when the window is complete, with
-/// setDesignText(&window, "20000Altersstatistik") for its title and the object name as the form's name. Items without
+/// setDesignText(&window, Text::…) for its title and the object name as the form's name. Items without
 /// an identifier keep their text; their tooltip is removed too where short help is off (host.Kurzhilfe is not 1), so a
 /// tooltip set later is the caller's to suppress. Dialogs and windows that are children are left to their own call.
 /// The window's cursor stays an hourglass: call window.unsetCursor() when it is ready.

@@ -22,7 +22,7 @@ ProgressPanel::ProgressPanel(desktop::Work &work, QWidget *parent) : QWidget(par
     auto *cancel = new QPushButton(this);
     cancel->setObjectName(u"Abbrechen"_s);
     cancel->setFocusPolicy(Qt::NoFocus); // Escape does the same; the focus stays where the user works
-    setDesignText(cancel, u"20341Abbrechen"_s);
+    setDesignText(cancel, Text::Cancel);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred); // a status bar would draw the button out
     m_bar->setFixedWidth(160);
     m_bar->setTextVisible(false);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/progress/userwork.h"
 
-#include "language/forms/form.h"
+#include "language/texts/sprache.h"
 #include <new>
 
 using namespace Qt::StringLiterals;
@@ -15,13 +15,13 @@ bool runAndTell(desktop::Work &work, const host::Host &host, Sprachmodul &texts,
     const auto tell = [&](const basic::Error &error) {
         host.desktop().messageBox(told.inPlainWords ? told.inPlainWords(error) : error.message(),
                                   desktop::MessageCritical,
-                                  told.title.isEmpty() ? shownText(texts, 21020, u"Fehler"_s) : told.title);
+                                  told.title.isEmpty() ? texts.text(Text::Error) : told.title);
     };
     try {
         return work.run(what, task, told.input);
     } catch (const basic::Error &error) {
         if (error.kind() == basic::ErrorKind::Cancelled)
-            told.said(shownText(texts, 20348, u"Abgebrochen"_s));
+            told.said(texts.text(Text::Cancelled));
         else
             tell(error);
     } catch (const std::bad_alloc &) {

@@ -2,9 +2,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/texts/sprache.h"
 
+#include "language/texts/catalogue.h"
+
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::language {
+
+namespace {
+
+const QString Missing = u"????"_s;
+
+} // namespace
+
+QLocale anzeigesprache(const host::Host &host)
+{
+    return host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0 ? QLocale::German : QLocale::English;
+}
 
 void Sprachmodul::spracheoeffnen(const QString &file)
 {
@@ -15,17 +28,12 @@ void Sprachmodul::spracheoeffnen(const QString &file)
 
 QVariant Sprachmodul::sprachtext(qint16 id)
 {
-    QVariant result = u"????"_s;
+    QVariant result = Missing;
     try {
         if (m_languages) {
             m_languages->seekEqual(id);
             if (!m_languages->noMatch())
                 result = m_languages->value(m_host.Sprache);
-        }
-        if (!m_languages && m_spareTexts) {
-            const QVariant spare = m_spareTexts(id);
-            if (!spare.isNull())
-                result = spare;
         }
     } catch (const basic::Error &) {
         // A text that cannot be looked up never stops anything: it shows as four question marks.
@@ -33,6 +41,16 @@ QVariant Sprachmodul::sprachtext(qint16 id)
     if (result.isNull() || !result.toString().contains(u'#'))
         return result;
     return result.toString().remove(u"#PROGNAME#"_s).remove(u"#APPNAME#"_s);
+}
+
+QVariant Sprachmodul::shownText(qint16 id)
+{
+    const QVariant text = sprachtext(id);
+    if (id < FirstOwnText || (!text.isNull() && text.toString() != Missing))
+        return text;
+    const bool german = anzeigesprache(m_host).language() == QLocale::German;
+    const QString own = wording(static_cast<Text>(id), german ? CatalogueLanguage::German : CatalogueLanguage::English);
+    return own.isNull() ? text : own;
 }
 
 void Sprachmodul::datenbankenschliessen(const QString &name)

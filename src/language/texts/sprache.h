@@ -3,14 +3,20 @@
 #pragma once
 
 #include "host/host.h"
+#include "language/texts/text.h"
 #include "platform/dao/dao.h"
-#include <functional>
 #include <memory>
+#include <QLocale>
 #include <QString>
 #include <QVariant>
-#include <utility>
 
 namespace kalvenor::language {
+
+/// Identifiers from here on are the program's own; a host's database may lack them.
+inline constexpr qint16 FirstOwnText = 20000;
+
+/// How numbers and dates are written for the host's language: German, else English.
+QLocale anzeigesprache(const host::Host &host);
 
 /// The texts of the program: the table `Languages` of a language database, one column a language, looked up by text
 /// identifier at the moment a text is shown. The table's current row moves with every lookup.
@@ -25,10 +31,11 @@ public:
     /// The text in the current language, "????" where there is no such row, column or table. The placeholders
     /// #PROGNAME# and #APPNAME# are removed. An empty field gives null.
     QVariant sprachtext(qint16 id);
-    /// The same as plain text; null gives "".
-    QString text(qint16 id) { return sprachtext(id).toString(); }
-    /// Texts for as long as no language database is open: a string, or null where there is none.
-    void setSpareTexts(std::function<QVariant(qint16)> texts) { m_spareTexts = std::move(texts); }
+    /// The same, but one of our own (from FirstOwnText on) that the database lacks comes from the catalogue: in German
+    /// for a German host, in English for all others.
+    QVariant shownText(qint16 id);
+    /// shownText as plain text; null gives "". Places such as %1 are left for the caller to fill.
+    QString text(Text id) { return shownText(static_cast<qint16>(id)).toString(); }
 
     /// Closes every database of every workspace, last first, then, where `name` is empty, opens the host's own
     /// language database "\language.mdb". Throws the engine's Error.
@@ -39,7 +46,6 @@ private:
     dao::Engine &m_engine;
     std::shared_ptr<dao::Database> m_database;
     std::shared_ptr<dao::Recordset> m_languages;
-    std::function<QVariant(qint16)> m_spareTexts;
 };
 
 } // namespace kalvenor::language

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "report/composition/agelisttable.h"
 
-#include "language/forms/form.h"
+#include "language/texts/sprache.h"
 #include "platform/basic/text.h"
 #include "platform/print/textface.h"
 #include "report/composition/bericht.h"
@@ -17,9 +17,10 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::report {
 
+using language::Text;
+
 namespace {
 
-constexpr qint16 TextToPage = 36;
 constexpr qint64 RowsBetweenReports = 256;
 constexpr print::Twips CellPadding = 2 * 70; // both sides, as the print control has it
 constexpr std::size_t Age = 0, Sex = 1, Name = 2;
@@ -34,11 +35,6 @@ QString nameIn(const statistics::Alterszeile &line)
 AgeListTable::AgeListTable(Setup setup)
     : m_setup(std::move(setup)), m_html(m_setup.target.format == print::ExportFormat::Html)
 {
-}
-
-QString AgeListTable::text(qint16 id, const QString &germanText) const
-{
-    return language::shownText(m_setup.session.language, id, germanText);
 }
 
 print::TextStyle AgeListTable::headingStyle() const
@@ -58,10 +54,11 @@ std::vector<print::Column> AgeListTable::columns(const statistics::Altersliste &
         return std::max(width, needed);
     };
     print::Twips age = fit(widths[Age], u"100.0"_s, face);
-    print::Twips sex = fit(fit(widths[Sex], text(20950, u"Mann"_s), face), text(20951, u"Frau"_s), face);
+    print::Twips sex = fit(fit(widths[Sex], m_setup.session.language.text(Text::ReportMan), face),
+                           m_setup.session.language.text(Text::ReportWoman), face);
     if (m_setup.headed) {
-        age = fit(age, text(20967, u"Alter"_s), headingFace);
-        sex = fit(sex, text(20968, u"Geschlecht"_s), headingFace);
+        age = fit(age, m_setup.session.language.text(Text::Age), headingFace);
+        sex = fit(sex, m_setup.session.language.text(Text::Sex), headingFace);
     }
     print::Twips name = widths[Name];
     if (name > 0) {
@@ -85,16 +82,17 @@ void AgeListTable::write(print::PrintDocument &document, const statistics::Alter
     print::TableStart table{.columns = columns(list), .rowSpacing = m_setup.rowSpacing};
     if (m_setup.headed) {
         const print::StyleId heading = document.addStyle(headingStyle());
-        table.heading = {{{.text = text(20967, u"Alter"_s), .style = heading},
-                          {.text = text(20968, u"Geschlecht"_s), .style = heading},
-                          {.text = text(20969, u"Name"_s), .style = heading}}};
+        table.heading = {{{.text = m_setup.session.language.text(Text::Age), .style = heading},
+                          {.text = m_setup.session.language.text(Text::Sex), .style = heading},
+                          {.text = m_setup.session.language.text(Text::Name), .style = heading}}};
         if (m_html)
-            table.heading.front().push_back({.text = text(20972, u"Person"_s), .style = heading});
+            table.heading.front().push_back(
+                {.text = m_setup.session.language.text(Text::ReportPerson), .style = heading});
     }
     document.add(std::move(table));
 
-    const QString man = text(20950, u"Mann"_s);
-    const QString woman = text(20951, u"Frau"_s);
+    const QString man = m_setup.session.language.text(Text::ReportMan);
+    const QString woman = m_setup.session.language.text(Text::ReportWoman);
     qint64 row = 0;
     for (const statistics::Alterszeile &line : list) {
         if (progress && row % RowsBetweenReports == 0 && !progress(row, static_cast<qint64>(list.size())))
@@ -146,7 +144,7 @@ QString AgeListTable::link(qint32 counter)
     const QString page = personPage(counter, m_setup.reportName);
     if (inOutputFolder(page).isEmpty())
         return {};
-    return personLink(page, pictureOf(page), m_setup.session.language.text(TextToPage));
+    return personLink(page, pictureOf(page), m_setup.session.language.text(Text::ToPersonsPage));
 }
 
 /// The person's picture beside the page, under the page's name; a BMP is converted to JPEG first.

@@ -34,7 +34,6 @@ public:
     void write(print::PrintDocument &document, const statistics::Altersliste &list, const basic::Progress &progress);
 
 private:
-    QString text(qint16 id, const QString &germanText) const;
     print::TextStyle headingStyle() const;
     std::vector<print::Column> columns(const statistics::Altersliste &list) const;
     QString fullName(qint32 counter);

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "report/composition/bericht.h"
 
-#include "language/forms/form.h"
+#include "language/texts/sprache.h"
 #include "platform/basic/text.h"
 #include "platform/chart/chartpicture.h"
 #include "platform/print/htmlwriter.h"
@@ -23,13 +23,9 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::report {
 
-namespace {
+using language::Text;
 
-constexpr qint16 TextCriteria = 911;
-constexpr qint16 TextHint = 116;
-constexpr qint16 TextFooter = 120;
-constexpr qint16 TextReportFile = 1205;
-constexpr qint16 TextAgeList = 1217;
+namespace {
 
 constexpr double PictureDpi = 220;
 constexpr double TwipsPerInch = 1440;
@@ -101,7 +97,7 @@ QString Bericht::auswahldrucken(const ReportContent &content, print::ExportTarge
     const auto restore = qScopeGuard([&host] { host.desktop().setPointer(desktop::Pointer::Default); });
     initladen();
     if (target.format == print::ExportFormat::Html)
-        target.file = exportName(target.file, reportName, m_session.language.text(TextReportFile), u".html"_s);
+        target.file = exportName(target.file, reportName, m_session.language.text(Text::ReportName), u".html"_s);
     NewPictures newPictures(host, picturesBeside(target));
     print::PrintDocument document = compose(content, target, progress);
     showHint();
@@ -127,7 +123,7 @@ print::PrintDocument Bericht::compose(const ReportContent &content, const print:
 {
     print::PrintDocument document;
     document.title =
-        content.statistik.titel.isEmpty() ? m_session.language.text(TextReportFile) : content.statistik.titel;
+        content.statistik.titel.isEmpty() ? m_session.language.text(Text::ReportName) : content.statistik.titel;
     document.language = language::anzeigesprache(m_session.host).bcp47Name().left(2);
     document.page = settings::usablePage(m_print.page);
     addRunningTexts(document, content);
@@ -150,7 +146,7 @@ print::PrintDocument Bericht::compose(const ReportContent &content, const print:
 
 QString Bericht::footerText() const
 {
-    return m_session.language.text(TextFooter);
+    return m_session.language.text(Text::ReportFooter);
 }
 
 QString Bericht::now(const ReportContent &content) const
@@ -215,7 +211,7 @@ void Bericht::addChart(print::PrintDocument &document, const ReportContent &cont
 void Bericht::addCriteria(print::PrintDocument &document, const ReportContent &content) const
 {
     if (vorgaben.isPrinted(settings::TitelKriterien))
-        document.add(print::Paragraph{.text = m_session.language.text(TextCriteria),
+        document.add(print::Paragraph{.text = m_session.language.text(Text::CriteriaHeading),
                                       .style = document.addStyle(style(settings::TitelKriterien)),
                                       .spaceBefore = Gap,
                                       .spaceAfter = Gap / 4,
@@ -238,7 +234,7 @@ void Bericht::addAgeList(print::PrintDocument &document, const ReportContent &co
         document.add(print::Paragraph{.text = {}, .spaceAfter = Gap / 2});
     const bool headed = vorgaben.isPrinted(settings::TitelAltersliste);
     if (headed)
-        document.add(print::Paragraph{.text = m_session.language.text(TextAgeList),
+        document.add(print::Paragraph{.text = m_session.language.text(Text::AgeListHeading),
                                       .style = document.addStyle(style(settings::TitelAltersliste)),
                                       .spaceBefore = newPage ? 2 * Gap : Gap,
                                       .spaceAfter = Gap / 2,
@@ -261,7 +257,7 @@ QString Bericht::chartFile(const print::ExportTarget &target) const
     if (target.format == print::ExportFormat::Html) // which has its suffix already
         return basic::leftPart(target.file, target.file.lastIndexOf(u'.')) + u".jpg"_s;
     return outputFolder(m_session.host) +
-           exportName(fileNameOf(target.file), reportName, m_session.language.text(TextReportFile), u".jpg"_s);
+           exportName(fileNameOf(target.file), reportName, m_session.language.text(Text::ReportName), u".jpg"_s);
 }
 
 QStringList Bericht::picturesBeside(const print::ExportTarget &target) const
@@ -288,7 +284,8 @@ void Bericht::showHint()
 {
     if (m_hint != -1)
         return;
-    m_hint = static_cast<qint16>(m_session.host.desktop().messageBox(m_session.language.text(TextHint), 0, {}));
+    m_hint = static_cast<qint16>(
+        m_session.host.desktop().messageBox(m_session.language.text(Text::PrintSettingsHint), 0, {}));
 }
 
 } // namespace kalvenor::report

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "report/composition/kriterien.h"
 
-#include "language/forms/form.h"
+#include "language/texts/sprache.h"
 #include "platform/basic/date.h"
 #include <array>
 
@@ -10,25 +10,18 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::report {
 
+using language::Text;
+
 namespace {
 
-constexpr qint16 LabelName = 1215;
-constexpr qint16 LabelSex = 1222;
-constexpr std::array<qint16, 3> LabelDates{1223, 1224, 1225}; // birth, death, last change
-constexpr qint16 LabelList = 1226;
-constexpr qint16 LabelRelatives = 1227;
-constexpr qint16 LabelGrouping = 1228;
-constexpr qint16 LabelPersons = 1229;
-constexpr qint16 LabelAverages = 1206;
-constexpr qint16 LabelRange = 1209;
-constexpr qint16 LabelLeftOut = 1208;
+constexpr std::array<Text, 3> LabelDates{Text::CriteriaBirth, Text::CriteriaDeath, Text::CriteriaChange};
 
 class Lines {
 public:
     explicit Lines(language::Sprachmodul &language) : m_language(language) {}
 
-    QString text(qint16 id, const QString &germanText) { return language::shownText(m_language, id, germanText); }
-    void add(qint16 label, const QString &what) { lines << m_language.text(label) + what; }
+    QString text(Text id) { return m_language.text(id); }
+    void add(Text label, const QString &what) { lines << m_language.text(label) + what; }
 
     QStringList lines;
 
@@ -43,31 +36,31 @@ QString range(Lines &lines, const std::array<QString, 2> &bounds)
     const bool from = basic::isDate(bounds[0], order);
     const bool to = basic::isDate(bounds[1], order);
     if (from && to)
-        return lines.text(20963, u"%1 bis %2"_s).arg(bounds[0], bounds[1]);
+        return lines.text(Text::PeriodFromTo).arg(bounds[0], bounds[1]);
     if (from)
-        return lines.text(20961, u"ab %1"_s).arg(bounds[0]);
-    return to ? lines.text(20962, u"bis %1"_s).arg(bounds[1]) : QString();
+        return lines.text(Text::PeriodFrom).arg(bounds[0]);
+    return to ? lines.text(Text::PeriodTo).arg(bounds[1]) : QString();
 }
 
 void addFilter(Lines &lines, const selection::Filter &filter)
 {
     const QString pattern = filter.Presse.trimmed();
     if (!QString(pattern).remove(u'*').isEmpty()) // filtering puts stars around nothing, too
-        lines.add(LabelName, pattern);
+        lines.add(Text::CriteriaName, pattern);
     const bool men = filter.Geschlechtfilter[0] == 1;
     const bool women = filter.Geschlechtfilter[1] == 1;
     if (men || women)
-        lines.add(LabelSex, men && women ? lines.text(20960, u"Männer und Frauen"_s)
-                            : men        ? lines.text(20958, u"Männer"_s)
-                                         : lines.text(20959, u"Frauen"_s));
+        lines.add(Text::CriteriaSex, men && women ? lines.text(Text::MenAndWomen)
+                                     : men        ? lines.text(Text::ReportMen)
+                                                  : lines.text(Text::ReportWomen));
     const QString dates = range(lines, filter.Presse_Datum);
     for (std::size_t i = 0; i < LabelDates.size(); ++i) {
         if (filter.Datumfilter[i] == 1 && !dates.isEmpty())
             lines.add(LabelDates[i], dates);
     }
-    lines.add(LabelList, filter.Filterliste == selection::PersonList::Unmarked
-                             ? lines.text(20956, u"nicht markierte Personen"_s)
-                             : lines.text(20957, u"markierte Personen"_s));
+    lines.add(Text::CriteriaList, filter.Filterliste == selection::PersonList::Unmarked
+                                      ? lines.text(Text::OfUnmarkedPersons)
+                                      : lines.text(Text::OfMarkedPersons));
 }
 
 QString joined(const std::array<QString, 3> &texts)
@@ -86,26 +79,26 @@ QStringList kriterien(const Auswahlkriterien &criteria, const statistics::Statis
         addFilter(lines, criteria.filter);
     QStringList relatives;
     if (criteria.relatives.children)
-        relatives << lines.text(20954, u"Kinder und Nachkommen"_s);
+        relatives << lines.text(Text::ChildrenAndDescendants);
     if (criteria.relatives.parents)
-        relatives << lines.text(20955, u"Eltern und Vorfahren"_s);
+        relatives << lines.text(Text::ParentsAndAncestors);
     if (!relatives.isEmpty())
-        lines.add(LabelRelatives, relatives.join(u", "_s));
-    lines.add(LabelGrouping, statistik.nachGeburtsjahr ? lines.text(20952, u"nach Geburtsjahr"_s)
-                                                       : lines.text(20953, u"nach Sterbejahr"_s));
-    lines.add(LabelPersons, joined(figures.anzahl));
-    lines.add(LabelAverages, joined(figures.durchschnitt));
+        lines.add(Text::CriteriaRelatives, relatives.join(u", "_s));
+    lines.add(Text::CriteriaGrouping,
+              statistik.nachGeburtsjahr ? lines.text(Text::GroupedByBirth) : lines.text(Text::GroupedByDeath));
+    lines.add(Text::CriteriaPersons, joined(figures.anzahl));
+    lines.add(Text::CriteriaAverages, joined(figures.durchschnitt));
     if (figures.spanne)
-        lines.add(LabelRange, figures.spanne->trimmed());
+        lines.add(Text::CriteriaAgeRange, figures.spanne->trimmed());
     QStringList leftOut;
     if (figures.zahlen.ohneDatum > 0)
-        leftOut << lines.text(20964, u"%1 ohne Geburts- oder Sterbedatum"_s).arg(figures.zahlen.ohneDatum);
+        leftOut << lines.text(Text::LeftOutWithoutDate).arg(figures.zahlen.ohneDatum);
     if (figures.zahlen.nichtNachGeburt > 0)
-        leftOut << lines.text(20965, u"%1 nicht nach der Geburt gestorben"_s).arg(figures.zahlen.nichtNachGeburt);
+        leftOut << lines.text(Text::LeftOutNotDied).arg(figures.zahlen.nichtNachGeburt);
     if (const qint64 notListed = figures.zahlen.gezaehlt - static_cast<qint64>(listedPersons); notListed > 0)
-        leftOut << lines.text(20973, u"%1 nach Geschlecht nicht in der Altersliste"_s).arg(notListed);
+        leftOut << lines.text(Text::LeftOutBySex).arg(notListed);
     if (!leftOut.isEmpty())
-        lines.add(LabelLeftOut, leftOut.join(u", "_s));
+        lines.add(Text::CriteriaLeftOut, leftOut.join(u", "_s));
     return lines.lines;
 }
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "report/pictures/bildkonvertieren.h"
 
-#include "language/forms/form.h"
+#include "language/texts/sprache.h"
 #include "platform/basic/error.h"
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
@@ -18,6 +18,8 @@
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::report {
+
+using language::Text;
 
 namespace {
 
@@ -96,11 +98,8 @@ void Bildumwandlung::bildkonvertieren(const PictureControl &control, QString &fi
     file = base + type;
 
     if (!findComponent()) {
-        m_host.desktop().messageBox(
-            language::shownText(m_texts, 21052,
-                                u"Die Bildumwandlung steht nicht zur Verfügung; das Bild wird als BMP "
-                                "gespeichert."_s),
-            desktop::MessageCritical, language::shownText(m_texts, 21020, u"Fehler"_s));
+        m_host.desktop().messageBox(m_texts.text(Text::NoPictureConversion), desktop::MessageCritical,
+                                    m_texts.text(Text::Error));
         file = base + u"BMP"_s;
         if (!renameTo(nativeBmp, nameOf(file)))
             cannotWrite(nativeBmp, u"The file cannot be renamed."_s);
@@ -111,8 +110,7 @@ void Bildumwandlung::bildkonvertieren(const PictureControl &control, QString &fi
         const QString output = m_host.native(file);
         const QString fault = m_component->convertEx(nativeBmp, output, quality(), 0, 0, 0);
         if (!fault.isEmpty())
-            m_host.desktop().messageBox(language::shownText(m_texts, 21054, u"Fehler:"_s) + fault, 0,
-                                        language::shownText(m_texts, 21020, u"Fehler"_s));
+            m_host.desktop().messageBox(m_texts.text(Text::ErrorPrefix) + fault, 0, m_texts.text(Text::Error));
         else
             renameTo(output, nameOf(file)); // an old picture's name could differ in case, and links would miss it
     }

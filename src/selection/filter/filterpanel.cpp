@@ -19,21 +19,23 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::selection {
 
+using language::Text;
+
 namespace {
 
 constexpr int TypingPauseMs = 300;
 const QString EmptyDate = u"__-__-____"_s;
 
 template <typename Control>
-Control *made(QWidget *parent, const char *name, int index, const char *caption, const char *tooltip)
+Control *made(QWidget *parent, const char *name, int index, Text caption, Text tooltip)
 {
     auto *control = new Control(parent);
     control->setObjectName(u"%1_%2"_s.arg(QLatin1String(name)).arg(index));
-    language::setDesignText(control, QString::fromUtf8(caption), QString::fromUtf8(tooltip));
+    language::setDesignText(control, caption, tooltip);
     return control;
 }
 
-QLabel *labelFor(QWidget *buddy, QWidget *parent, const QString &caption)
+QLabel *labelFor(QWidget *buddy, QWidget *parent, Text caption)
 {
     auto *label = new QLabel(parent);
     language::setDesignText(label, caption);
@@ -55,7 +57,7 @@ QHBoxLayout *rowOf(std::initializer_list<QWidget *> widgets)
 FilterPanel::FilterPanel(QWidget *parent) : QGroupBox(parent)
 {
     setObjectName(u"Filter"_s);
-    language::setDesignText(this, u"20400Filter"_s);
+    language::setDesignText(this, Text::Filter);
     build();
     layOut();
 
@@ -84,38 +86,34 @@ void FilterPanel::build()
     m_name = new QLineEdit(this);
     m_name->setObjectName(u"Presse"_s);
     m_name->setClearButtonEnabled(true);
-    language::setDesignText(m_name, {}, u"20402Teil des Namens; * steht für beliebige Zeichen, ? für eines"_s);
-    m_sexes = {made<QCheckBox>(this, "Geschlechtfilter", 0, "20403&Männer",
-                               "20417Nur Männer zeigen; beide oder keines zeigt alle"),
-               made<QCheckBox>(this, "Geschlechtfilter", 1, "20404&Frauen",
-                               "20418Nur Frauen zeigen; beide oder keines zeigt alle")};
-    const char *incomplete = "20424Personen ohne vollständiges Datum erscheinen nur, wo eine Grenze leer ist.";
-    m_dates = {made<QCheckBox>(this, "Datumfilter", 0, "20405&Geburtsdatum", incomplete),
-               made<QCheckBox>(this, "Datumfilter", 1, "20406S&terbedatum", incomplete),
-               made<QCheckBox>(this, "Datumfilter", 2, "20407&Letzte Änderung", "")};
-    m_bounds = {made<QLineEdit>(this, "Presse_Datum", 0, "", "20414Erster Tag, als Tag, Monat und Jahr"),
-                made<QLineEdit>(this, "Presse_Datum", 1, "", "20415Letzter Tag, als Tag, Monat und Jahr")};
+    language::setDesignText(m_name, {}, Text::FilterNameTip);
+    m_sexes = {made<QCheckBox>(this, "Geschlechtfilter", 0, Text::FilterMen, Text::FilterMenTip),
+               made<QCheckBox>(this, "Geschlechtfilter", 1, Text::FilterWomen, Text::FilterWomenTip)};
+    constexpr Text incomplete = Text::IncompleteDatesTip;
+    m_dates = {made<QCheckBox>(this, "Datumfilter", 0, Text::FilterBirth, incomplete),
+               made<QCheckBox>(this, "Datumfilter", 1, Text::FilterDeath, incomplete),
+               made<QCheckBox>(this, "Datumfilter", 2, Text::FilterChange, Text::None)};
+    m_bounds = {made<QLineEdit>(this, "Presse_Datum", 0, Text::None, Text::FilterFromTip),
+                made<QLineEdit>(this, "Presse_Datum", 1, Text::None, Text::FilterToTip)};
     for (QLineEdit *bound : m_bounds) {
         bound->setInputMask(u"00-00-0000;_"_s);
         bound->setFixedWidth(bound->fontMetrics().horizontalAdvance(u"00-00-0000"_s) +
                              3 * bound->fontMetrics().averageCharWidth() + 8);
         bound->installEventFilter(this);
     }
-    m_lists = {made<QRadioButton>(this, "Filterliste", 0, "20410Ni&cht markierte Personen",
-                                  "20416Der Filter wirkt auf diese Liste"),
-               made<QRadioButton>(this, "Filterliste", 1, "20411Ma&rkierte Personen",
-                                  "20416Der Filter wirkt auf diese Liste")};
+    m_lists = {made<QRadioButton>(this, "Filterliste", 0, Text::FilterUnmarked, Text::FilterListTip),
+               made<QRadioButton>(this, "Filterliste", 1, Text::FilterMarked, Text::FilterListTip)};
     m_lists[0]->setChecked(true);
     m_filter = new QPushButton(this);
     m_filter->setObjectName(u"Filtern"_s);
     m_filter->setIcon(desktop::lineIcon(desktop::LineIcon::Find));
     m_filter->setAutoDefault(false);
-    language::setDesignText(m_filter, u"20412Filtern"_s);
+    language::setDesignText(m_filter, Text::FilterApply);
     m_clear = new QPushButton(this);
     m_clear->setObjectName(u"Filteraufheben"_s);
     m_clear->setIcon(desktop::lineIcon(desktop::LineIcon::Clear));
     m_clear->setAutoDefault(false);
-    language::setDesignText(m_clear, u"20413Filter a&ufheben"_s);
+    language::setDesignText(m_clear, Text::FilterClear);
 }
 
 void FilterPanel::layOut()
@@ -124,18 +122,18 @@ void FilterPanel::layOut()
     name->addWidget(m_name, 1);
     name->addWidget(m_filter);
     name->addWidget(m_clear);
-    auto *from = labelFor(m_bounds[0], this, u"20408&von"_s);
-    auto *to = labelFor(m_bounds[1], this, u"20409b&is"_s);
+    auto *from = labelFor(m_bounds[0], this, Text::FilterFrom);
+    auto *to = labelFor(m_bounds[1], this, Text::FilterTo);
 
     auto *grid = new QGridLayout(this);
-    grid->addWidget(labelFor(m_name, this, u"20401&Name"_s), 0, 0);
+    grid->addWidget(labelFor(m_name, this, Text::FilterName), 0, 0);
     grid->addLayout(name, 0, 1);
-    grid->addWidget(labelFor(nullptr, this, u"20421Geschlecht"_s), 1, 0);
+    grid->addWidget(labelFor(nullptr, this, Text::Sex), 1, 0);
     grid->addLayout(rowOf({m_sexes[0], m_sexes[1]}), 1, 1);
-    grid->addWidget(labelFor(nullptr, this, u"20422Zeitraum"_s), 2, 0);
+    grid->addWidget(labelFor(nullptr, this, Text::FilterPeriod), 2, 0);
     grid->addLayout(rowOf({m_dates[0], m_dates[1], m_dates[2]}), 2, 1);
     grid->addLayout(rowOf({from, m_bounds[0], to, m_bounds[1]}), 3, 1);
-    grid->addWidget(labelFor(nullptr, this, u"20423Liste"_s), 4, 0);
+    grid->addWidget(labelFor(nullptr, this, Text::FilterList), 4, 0);
     grid->addLayout(rowOf({m_lists[0], m_lists[1]}), 4, 1);
     grid->setColumnStretch(1, 1);
 

@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::selection {
 
+using language::Text;
+
 PersonListPanel::PersonListPanel(SelectionController &controller, PersonList list, QWidget *parent)
     : QWidget(parent), m_controller(controller), m_list(list), m_view(new PersonListView(controller.model(list), this)),
       m_load(new QToolButton(this)), m_figures(new QLabel(this))
@@ -22,8 +24,7 @@ PersonListPanel::PersonListPanel(SelectionController &controller, PersonList lis
         return u"%1_%2"_s.arg(QLatin1String(name)).arg(static_cast<int>(list));
     };
     controller.model(list).setObjectName(named("Data"));
-    const QString heading =
-        list == PersonList::Unmarked ? u"20001Nicht markierte Personen"_s : u"20002Markierte Personen"_s;
+    const Text heading = list == PersonList::Unmarked ? Text::UnmarkedPersons : Text::MarkedPersons;
     auto *title = new QLabel(this);
     language::setDesignText(title, heading);
     QFont bold = title->font();
@@ -31,15 +32,14 @@ PersonListPanel::PersonListPanel(SelectionController &controller, PersonList lis
     title->setFont(bold);
 
     m_view->setObjectName(named("liste"));
-    language::setDesignText(m_view, heading,
-                            u"20023Doppelklick, Eingabetaste oder Ziehen verschiebt Personen in die andere Liste."_s);
+    language::setDesignText(m_view, heading, Text::MovingHelp);
     m_load->setObjectName(named("Ladepersonenliste"));
     m_load->setCheckable(true);
     m_load->setAutoRaise(true);
     m_load->setFocusPolicy(Qt::TabFocus);
     m_load->setIcon(desktop::lineIcon(desktop::LineIcon::Reload));
     m_load->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    language::setDesignText(m_load, {}, u"20006Lädt die Liste neu und hebt den Filter auf"_s);
+    language::setDesignText(m_load, {}, Text::ReloadListTip);
     m_figures->setObjectName(named("Zahl"));
     m_figures->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 
@@ -64,22 +64,20 @@ void PersonListPanel::update()
 {
     language::Sprachmodul &texts = m_controller.session().language;
     const bool filtered = m_controller.isFiltered(m_list);
-    m_load->setText(filtered ? language::shownText(texts, 20004, u"Filter Liste"_s)
-                             : language::shownText(texts, 20003, u"Liste neu laden"_s));
+    m_load->setText(filtered ? texts.text(Text::FilteredList) : texts.text(Text::ReloadList));
     m_load->setChecked(filtered);
 
     const auto number = [this](qint64 value) {
         return m_controller.numberText(value);
     };
-    QString figures = language::shownText(texts, 20005, u"%1 von %2"_s)
+    QString figures = texts.text(Text::CountOf)
                           .arg(number(m_controller.model(m_list).rowCount()), number(m_controller.personCount()));
     if (const qint64 selected = m_view->selectedCount(); selected > 1)
-        figures = language::shownText(texts, 20028, u"%1 ausgewählt"_s).arg(number(selected)) + u" · "_s + figures;
+        figures = texts.text(Text::SelectedCount).arg(number(selected)) + u" · "_s + figures;
     m_figures->setText(figures);
-    m_view->setPlaceholder(filtered ? language::shownText(texts, 20020, u"Keine Person passt zum Filter."_s)
-                           : m_list == PersonList::Marked
-                               ? language::shownText(texts, 20019, u"Keine Person ist markiert."_s)
-                               : QString());
+    m_view->setPlaceholder(filtered                       ? texts.text(Text::NobodyMatches)
+                           : m_list == PersonList::Marked ? texts.text(Text::NobodyMarked)
+                                                          : QString());
 }
 
 } // namespace kalvenor::selection

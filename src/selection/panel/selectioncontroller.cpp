@@ -12,11 +12,10 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::selection {
 
+using language::Text;
+
 namespace {
 
-constexpr qint16 TextLimitReached = 926;
-constexpr qint16 TextLimitTitle = 1201;
-constexpr qint16 TextUnmarkAll = 930;
 /// The persons that arrive in a list are shown selected up to here.
 constexpr std::size_t FewPersons = 1000;
 
@@ -34,11 +33,6 @@ SelectionController::SelectionController(data::Session &session, desktop::Work &
         if (m_wanted && !m_filtering)
             QTimer::singleShot(0, this, &SelectionController::runFilters);
     });
-}
-
-QString SelectionController::text(qint16 id, const QString &germanText) const
-{
-    return language::shownText(m_session.language, id, germanText);
 }
 
 QString SelectionController::numberText(qint64 number) const
@@ -93,7 +87,7 @@ void SelectionController::load(const std::array<QString, 2> &queries, bool all, 
 
 void SelectionController::reloadLists()
 {
-    perform(text(20346, u"Die Datenbank wird gelesen ..."_s),
+    perform(m_session.language.text(Text::ReadingDatabase),
             [this](const basic::Progress &progress) { load(queries(), true, progress); });
 }
 
@@ -101,7 +95,7 @@ void SelectionController::reloadPlain(PersonList list)
 {
     auto wanted = queries();
     wanted[place(list)] = plainListQuery(list);
-    perform(text(20346, u"Die Datenbank wird gelesen ..."_s),
+    perform(m_session.language.text(Text::ReadingDatabase),
             [&](const basic::Progress &progress) { load(wanted, true, progress); });
 }
 
@@ -130,7 +124,7 @@ void SelectionController::runFilters()
         const WantedFilter wanted = *std::exchange(m_wanted, std::nullopt);
         m_filtering = true;
         perform(
-            text(20340, u"Bitte warten ..."_s),
+            m_session.language.text(Text::PleaseWait),
             [&](const basic::Progress &progress) {
                 try {
                     const FilterQueries built = filtern(wanted.filter, basic::systemDateOrder());
@@ -140,7 +134,7 @@ void SelectionController::runFilters()
                 } catch (const basic::Error &error) {
                     if (error.kind() == basic::ErrorKind::InvalidSql ||
                         error.kind() == basic::ErrorKind::InvalidPattern || error.kind() == basic::ErrorKind::Refused)
-                        Q_EMIT filterRefused(text(20419, u"Filter nicht verständlich: %1"_s).arg(error.text()));
+                        Q_EMIT filterRefused(m_session.language.text(Text::FilterNotUnderstood).arg(error.text()));
                     else if (error.kind() == basic::ErrorKind::Cancelled ? !m_wanted : !wanted.typed)
                         throw;
                     else if (error.kind() != basic::ErrorKind::Cancelled)
@@ -155,7 +149,7 @@ void SelectionController::runFilters()
 void SelectionController::clearFilter()
 {
     m_wanted.reset();
-    perform(text(20340, u"Bitte warten ..."_s), [this](const basic::Progress &progress) {
+    perform(m_session.language.text(Text::PleaseWait), [this](const basic::Progress &progress) {
         load({plainListQuery(PersonList::Unmarked), plainListQuery(PersonList::Marked)}, false, progress);
     });
 }
@@ -195,10 +189,9 @@ std::optional<MarkStep> SelectionController::changeMarks(const QString &what, co
 void SelectionController::tellMoved(const MarkStep &step)
 {
     if (!step.marked.empty())
-        Q_EMIT said(text(20308, u"Markiert: %1"_s).arg(numberText(static_cast<qint64>(step.marked.size()))));
+        Q_EMIT said(m_session.language.text(Text::Marked).arg(numberText(static_cast<qint64>(step.marked.size()))));
     else if (!step.unmarked.empty())
-        Q_EMIT said(
-            text(20309, u"Markierungen aufgehoben: %1"_s).arg(numberText(static_cast<qint64>(step.unmarked.size()))));
+        Q_EMIT said(m_session.language.text(Text::Unmarked).arg(numberText(static_cast<qint64>(step.unmarked.size()))));
 }
 
 void SelectionController::move(PersonList from, const std::vector<qint32> &counters, Relatives relatives)
@@ -207,8 +200,8 @@ void SelectionController::move(PersonList from, const std::vector<qint32> &count
         return;
     const bool mark = from == PersonList::Unmarked;
     bool limitReached = false;
-    const QString what = relatives.children || relatives.parents ? text(20343, u"Verwandte werden gesucht ..."_s)
-                                                                 : text(20342, u"Die Personen werden markiert ..."_s);
+    const QString what = relatives.children || relatives.parents ? m_session.language.text(Text::SearchingRelatives)
+                                                                 : m_session.language.text(Text::MarkingPersons);
     const auto step = changeMarks(what, [&](const basic::Progress &progress) {
         MarkingResult result = markPersons(m_session.databases, counters, mark, relatives, progress);
         limitReached = result.limitReached;
@@ -232,15 +225,15 @@ void SelectionController::move(PersonList from, const std::vector<qint32> &count
     tellMoved(*step);
     Q_EMIT changed();
     if (limitReached)
-        m_session.host.desktop().messageBox(m_session.language.text(TextLimitReached), 0,
-                                            m_session.language.text(TextLimitTitle));
+        m_session.host.desktop().messageBox(m_session.language.text(Text::RelativesLimitReached), 0,
+                                            m_session.language.text(Text::MarkRelatives));
 }
 
 void SelectionController::moveAll(PersonList from)
 {
     const bool mark = from == PersonList::Unmarked;
     const QString what =
-        mark ? text(20342, u"Die Personen werden markiert ..."_s) : m_session.language.text(TextUnmarkAll);
+        mark ? m_session.language.text(Text::MarkingPersons) : m_session.language.text(Text::UnmarkingAll);
     const auto step = changeMarks(
         what,
         [&](const basic::Progress &progress) {
@@ -262,13 +255,13 @@ void SelectionController::undo()
     if (!canUndo())
         return;
     bool finished = false;
-    changeMarks(text(20340, u"Bitte warten ..."_s), [&](const basic::Progress &progress) {
+    changeMarks(m_session.language.text(Text::PleaseWait), [&](const basic::Progress &progress) {
         m_history.undo(m_session.databases, progress);
         finished = true;
         return MarkStep{};
     });
     if (finished)
-        Q_EMIT said(text(20207, u"Rückgängig"_s));
+        Q_EMIT said(m_session.language.text(Text::Undo));
     Q_EMIT changed();
 }
 
@@ -277,13 +270,13 @@ void SelectionController::redo()
     if (!canRedo())
         return;
     bool finished = false;
-    changeMarks(text(20340, u"Bitte warten ..."_s), [&](const basic::Progress &progress) {
+    changeMarks(m_session.language.text(Text::PleaseWait), [&](const basic::Progress &progress) {
         m_history.redo(m_session.databases, progress);
         finished = true;
         return MarkStep{};
     });
     if (finished)
-        Q_EMIT said(text(20208, u"Wiederherstellen"_s));
+        Q_EMIT said(m_session.language.text(Text::Redo));
     Q_EMIT changed();
 }
 
@@ -320,7 +313,7 @@ void SelectionController::showTemplate(const MarkStep &changes)
 void SelectionController::showPlain()
 {
     m_wanted.reset();
-    perform(text(20346, u"Die Datenbank wird gelesen ..."_s), [this](const basic::Progress &progress) {
+    perform(m_session.language.text(Text::ReadingDatabase), [this](const basic::Progress &progress) {
         load({plainListQuery(PersonList::Unmarked), plainListQuery(PersonList::Marked)}, true, progress);
     });
     Q_EMIT filterDropped();

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "data/session/session.h"
-#include "language/forms/form.h"
+#include "language/texts/sprache.h"
 #include "platform/desktop/work.h"
 #include "selection/filter/filtern.h"
 #include "selection/lists/personlistmodel.h"
@@ -93,7 +93,6 @@ private:
     using Change = std::function<MarkStep(const basic::Progress &)>;
 
     static std::size_t place(PersonList list) { return static_cast<std::size_t>(list); }
-    QString text(qint16 id, const QString &germanText) const;
     bool perform(const QString &what, const desktop::Work::Task &task,
                  desktop::Work::Input input = desktop::Work::Input::CancelOnly);
     void load(const std::array<QString, 2> &queries, bool all, const basic::Progress &progress, bool announce = false);

@@ -23,9 +23,11 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::selection {
 
+using language::Text;
+
 namespace {
 
-QAbstractButton *moveButton(QWidget *parent, const char *name, desktop::LineIcon icon, const char *tooltip)
+QAbstractButton *moveButton(QWidget *parent, const char *name, desktop::LineIcon icon, Text tooltip)
 {
     auto *button = new QToolButton(parent);
     button->setObjectName(QLatin1String(name));
@@ -33,7 +35,7 @@ QAbstractButton *moveButton(QWidget *parent, const char *name, desktop::LineIcon
     button->setFocusPolicy(Qt::StrongFocus);
     button->setIconSize({24, 24});
     button->setMinimumWidth(48);
-    language::setDesignText(button, {}, QString::fromUtf8(tooltip));
+    language::setDesignText(button, {}, tooltip);
     return button;
 }
 
@@ -104,17 +106,15 @@ void SelectionPanel::orderTabs()
 QWidget *SelectionPanel::makeMoveColumn()
 {
     auto *middle = new QWidget(this);
-    m_move = {moveButton(middle, "RM", desktop::LineIcon::Right, "20007Person markieren"),
-              moveButton(middle, "RM2", desktop::LineIcon::Left, "20009Markierung der Person aufheben")};
-    m_moveAll = {moveButton(middle, "RMA", desktop::LineIcon::AllRight, "20008Alle Personen der Liste markieren"),
-                 moveButton(middle, "RM2A", desktop::LineIcon::AllLeft, "20010Alle Markierungen der Liste aufheben")};
+    m_move = {moveButton(middle, "RM", desktop::LineIcon::Right, Text::MarkPersonTip),
+              moveButton(middle, "RM2", desktop::LineIcon::Left, Text::UnmarkPersonTip)};
+    m_moveAll = {moveButton(middle, "RMA", desktop::LineIcon::AllRight, Text::MarkAllTip),
+                 moveButton(middle, "RM2A", desktop::LineIcon::AllLeft, Text::UnmarkAllTip)};
     m_relatives = {new QCheckBox(middle), new QCheckBox(middle)};
     m_relatives[0]->setObjectName(u"quellenpincl_0"_s);
     m_relatives[1]->setObjectName(u"quellenpincl_1"_s);
-    language::setDesignText(m_relatives[0], u"20029mit Nach&kommen"_s,
-                            u"20013Mit einer Person auch alle ihre Nachkommen verschieben"_s);
-    language::setDesignText(m_relatives[1], u"20030mit V&orfahren"_s,
-                            u"20014Mit einer Person auch alle ihre Vorfahren verschieben"_s);
+    language::setDesignText(m_relatives[0], Text::WithDescendants, Text::WithDescendantsTip);
+    language::setDesignText(m_relatives[1], Text::WithAncestors, Text::WithAncestorsTip);
 
     auto *column = new QVBoxLayout(middle);
     column->setContentsMargins(4, 0, 4, 0);
@@ -144,10 +144,10 @@ QWidget *SelectionPanel::makeNoticeBar()
     auto *label = new QLabel(bar);
     label->setForegroundRole(QPalette::ToolTipText);
     label->setWordWrap(true);
-    language::setDesignText(label, u"20315Die Datenbank wurde von einem anderen Programm geändert."_s);
+    language::setDesignText(label, Text::DatabaseChanged);
     auto *reload = new QPushButton(bar);
     reload->setObjectName(u"Jetztneuladen"_s);
-    language::setDesignText(reload, u"20316Jetzt neu laden"_s);
+    language::setDesignText(reload, Text::ReloadNow);
     auto *row = new QHBoxLayout(bar);
     row->setContentsMargins(8, 4, 4, 4);
     row->addWidget(label, 1);
@@ -179,10 +179,10 @@ void SelectionPanel::connectFilter()
         language::Sprachmodul &texts = m_controller.session().language;
         const PersonList list = m_filter->filter().Filterliste;
         if (const QString date = m_filter->unsoundDate(); !date.isEmpty())
-            Q_EMIT said(language::shownText(texts, 20420, u"Das ist kein Datum: %1"_s).arg(date));
+            Q_EMIT said(texts.text(Text::NoDate).arg(date));
         else
-            Q_EMIT said(language::shownText(texts, 20314, u"Filter: %1 gefunden"_s)
-                            .arg(m_controller.numberText(m_controller.model(list).rowCount())));
+            Q_EMIT said(
+                texts.text(Text::FilterFound).arg(m_controller.numberText(m_controller.model(list).rowCount())));
     });
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/dialog/contentspanel.h"
 
-#include "language/forms/form.h"
 #include "language/forms/widgetform.h"
+#include "language/texts/sprache.h"
 #include "settings/dialog/lengthbox.h"
 #include <QCheckBox>
 #include <QComboBox>
@@ -14,6 +14,8 @@
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::settings {
+
+using language::Text;
 
 namespace {
 
@@ -26,27 +28,26 @@ constexpr double WidestColumn = 500;   // millimetres
 struct PrintSwitch {
     Element element;
     const char *name;
-    const char *caption;
+    Text caption;
 };
-constexpr PrintSwitch PrintSwitches[] = {
-    {TitelKriterien, "TitelKriterien", "1216Überschrift der Auswahlkriterien drucken"},
-    {TitelAltersliste, "TitelAltersliste", "1218Überschrift der Altersliste drucken"},
-    {NeueSeite, "NeueSeite", "1204Liste auf neuer Seite beginnen"},
-    {Header, "Header", "1219Kopfzeile drucken"},
-    {Footer, "Footer", "1220Fußzeile drucken"}};
+constexpr PrintSwitch PrintSwitches[] = {{TitelKriterien, "TitelKriterien", Text::PrintCriteriaHeading},
+                                         {TitelAltersliste, "TitelAltersliste", Text::PrintAgeListHeading},
+                                         {NeueSeite, "NeueSeite", Text::ListOnNewPage},
+                                         {Header, "Header", Text::PrintHeader},
+                                         {Footer, "Footer", Text::PrintFooter}};
 
-QCheckBox *checkBox(const char *name, const char *caption, QWidget *parent)
+QCheckBox *checkBox(const char *name, Text caption, QWidget *parent)
 {
     auto *box = new QCheckBox(parent);
     box->setObjectName(QLatin1String(name));
-    setDesignText(box, QString::fromUtf8(caption));
+    setDesignText(box, caption);
     return box;
 }
 
-void addRow(QFormLayout *form, const char *caption, QWidget *field)
+void addRow(QFormLayout *form, Text caption, QWidget *field)
 {
     auto *label = new QLabel(field->parentWidget());
-    setDesignText(label, QString::fromUtf8(caption));
+    setDesignText(label, caption);
     label->setBuddy(field);
     form->addRow(label, field);
 }
@@ -70,9 +71,9 @@ ContentsPanel::ContentsPanel(language::Sprachmodul &texts, QWidget *parent) : QW
 QWidget *ContentsPanel::makeSwitches()
 {
     auto *group = new QGroupBox(this);
-    setDesignText(group, u"20859Gedruckt wird"_s);
+    setDesignText(group, Text::WhatIsPrinted);
     auto *column = new QVBoxLayout(group);
-    m_chart = checkBox("Bildprint", "1221Grafik drucken", group);
+    m_chart = checkBox("Bildprint", Text::PrintChart, group);
     column->addWidget(m_chart);
     for (std::size_t i = 0; i < m_switches.size(); ++i) {
         m_switches[i] = checkBox(PrintSwitches[i].name, PrintSwitches[i].caption, group);
@@ -84,17 +85,17 @@ QWidget *ContentsPanel::makeSwitches()
 QWidget *ContentsPanel::makeChart()
 {
     auto *group = new QGroupBox(this);
-    setDesignText(group, u"20860Grafik"_s);
+    setDesignText(group, Text::Chart);
     auto *form = new QFormLayout(group);
     m_percent = new QComboBox(group);
     m_percent->setObjectName(u"Bildgroesse"_s);
-    setDesignText(m_percent, {}, u"20861Höhe der Grafik; bei 100 % ist sie geformt wie im Fenster"_s);
+    setDesignText(m_percent, {}, Text::ChartSizeTip);
     m_fontFactor = new NumberBox(0.5, 20, 2, group);
     m_fontFactor->setObjectName(u"Fontfaktor"_s);
     m_fontFactor->setSingleStep(0.5);
-    setDesignText(m_fontFactor, {}, u"20862Bei 3 sind die Schriften so groß wie der Text der Umgebung"_s);
-    addRow(form, "20850Größe der Grafik", m_percent);
-    addRow(form, "20851Schriftgröße der Grafik", m_fontFactor);
+    setDesignText(m_fontFactor, {}, Text::ChartFontSizeTip);
+    addRow(form, Text::ChartSize, m_percent);
+    addRow(form, Text::ChartFontSize, m_fontFactor);
     connect(m_chart, &QCheckBox::toggled, group, &QWidget::setEnabled);
     return group;
 }
@@ -102,25 +103,25 @@ QWidget *ContentsPanel::makeChart()
 QWidget *ContentsPanel::makeList()
 {
     auto *group = new QGroupBox(this);
-    setDesignText(group, u"20808Altersliste"_s);
+    setDesignText(group, Text::AgeList);
     auto *form = new QFormLayout(group);
-    const QString unit = u' ' + language::shownText(m_texts, 20845, u"mm"_s);
+    const QString unit = u' ' + m_texts.text(Text::Millimetres);
     m_spacing = new LengthBox(WidestSpacing, 2, group);
     m_spacing->setObjectName(u"Abstand"_s);
     m_spacing->setSingleStep(0.1);
     m_spacing->setSuffix(unit);
-    addRow(form, "20849Abstand der Zeilen", m_spacing);
+    addRow(form, Text::LineSpacing, m_spacing);
     auto *widths = new QLabel(group);
-    setDesignText(widths, u"20852Spaltenbreiten der Altersliste"_s);
+    setDesignText(widths, Text::ColumnWidths);
     form->addRow(widths);
-    constexpr std::pair<const char *, const char *> columns[] = {
-        {"Spalten_1", "20853Alter"}, {"Spalten_2", "20854Geschlecht"}, {"Spalten_4", "20855Name"}};
+    constexpr std::pair<const char *, Text> columns[] = {
+        {"Spalten_1", Text::Age}, {"Spalten_2", Text::Sex}, {"Spalten_4", Text::Name}};
     for (std::size_t i = 0; i < m_columns.size(); ++i) {
         m_columns[i] = new LengthBox(WidestColumn, 1, group);
         m_columns[i]->setObjectName(QLatin1String(columns[i].first));
         m_columns[i]->setSuffix(unit);
         // A width of 0 is a share of what the other columns leave.
-        m_columns[i]->setSpecialValueText(language::shownText(m_texts, 20863, u"übriger Platz"_s));
+        m_columns[i]->setSpecialValueText(m_texts.text(Text::RemainingSpace));
         addRow(form, columns[i].second, m_columns[i]);
     }
     return group;
@@ -137,7 +138,7 @@ void ContentsPanel::setContents(const Druckvorgaben &vorgaben, const ReportMeasu
     m_spacing->setTwips(vorgaben.Abstand);
 
     m_percent->clear();
-    const QString percentText = language::shownText(m_texts, 20856, u"%1 %"_s);
+    const QString percentText = m_texts.text(Text::Percent);
     const auto offer = [&](int percent) {
         m_percent->addItem(percentText.arg(percent), percent);
     };

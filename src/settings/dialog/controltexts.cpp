@@ -6,6 +6,8 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::settings {
 
+using language::Text;
+
 namespace {
 
 /// Puts the value at the first place of this kind at or behind `from`, which moves behind it; without one, at the end.
@@ -26,11 +28,11 @@ void fill(QString &text, const QString &place, const QString &value, qsizetype &
 
 void ControlTexts::load(language::Sprachmodul &texts)
 {
-    printingCaption = texts.text(185);
-    cancel = texts.text(186);
-    device = texts.text(187);
-    page = texts.text(188);
-    zoomChoices = texts.text(189);
+    printingCaption = texts.text(Text::PrintingDialog);
+    cancel = texts.text(Text::PrintingCancel);
+    device = texts.text(Text::PrintingDevice);
+    page = texts.text(Text::PrintingPage);
+    zoomChoices = texts.text(Text::ZoomChoices);
 }
 
 QString ControlTexts::deviceLine(const QString &printer, const QString &place) const

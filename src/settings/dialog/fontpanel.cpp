@@ -3,8 +3,8 @@
 #include "settings/dialog/fontpanel.h"
 
 #include "data/datevalue.h"
-#include "language/forms/form.h"
 #include "language/forms/widgetform.h"
+#include "language/texts/sprache.h"
 #include "platform/basic/number.h"
 #include "settings/dialog/colorbutton.h"
 #include "settings/dialog/fontsample.h"
@@ -24,15 +24,15 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::settings {
 
+using language::Text;
+
 namespace {
 
 using language::setDesignText;
 
-constexpr std::pair<qint16, const char16_t *> ElementNames[] = {
-    {20804, u"Titel"},       {20805, u"Überschrift der Kriterien"},
-    {20806, u"Kriterien"},   {20807, u"Überschrift der Altersliste"},
-    {20808, u"Altersliste"}, {20809, u"Kopfzeile"},
-    {20810, u"Fußzeile"}};
+constexpr Text ElementNames[] = {
+    Text::ElementTitle, Text::ElementCriteriaHeading, Text::ElementCriteria, Text::ElementAgeListHeading,
+    Text::AgeList,      Text::ElementHeader,          Text::ElementFooter};
 static_assert(std::size(ElementNames) == FontElements.size());
 
 /// Whether the system has the font or a stand-in made for it, rather than any font at all.
@@ -83,9 +83,9 @@ void FontPanel::build(desktop::Desktop &desktop)
 {
     m_elements = new QListWidget(this);
     m_elements->setObjectName(u"Element"_s);
-    m_elements->setAccessibleName(language::shownText(m_texts, 20801, u"Schriften"_s));
-    for (const auto &[id, german] : ElementNames)
-        m_elements->addItem(language::shownText(m_texts, id, QString::fromUtf16(german)));
+    m_elements->setAccessibleName(m_texts.text(Text::SettingsFonts));
+    for (const Text name : ElementNames)
+        m_elements->addItem(m_texts.text(name));
     m_elements->setSpacing(2);
     m_elements->setFixedWidth(m_elements->sizeHintForColumn(0) + 24);
 
@@ -94,38 +94,37 @@ void FontPanel::build(desktop::Desktop &desktop)
     m_size = new NumberBox(SmallestFontSize, LargestFontSize, 2, this);
     m_size->setObjectName(u"Fontsize"_s);
     m_size->setSuffix(u" pt"_s);
-    const auto box = [this](const char *name, const char *caption, QString FontTexts::*text) {
+    const auto box = [this](const char *name, Text caption, QString FontTexts::*text) {
         auto *made = new QCheckBox(this);
         made->setObjectName(QLatin1String(name));
-        setDesignText(made, QString::fromUtf8(caption));
+        setDesignText(made, caption);
         return Switch{made, text};
     };
-    m_switches = {box("Fontbold", "20822Fett", &FontTexts::Fontbold),
-                  box("Fontitalic", "20823Kursiv", &FontTexts::Fontitalic),
-                  box("Fontunderline", "20824Unterstrichen", &FontTexts::Fontunderline),
-                  box("Fontstrikethru", "20825Durchgestrichen", &FontTexts::Fontstrikethru)};
+    m_switches = {box("Fontbold", Text::Bold, &FontTexts::Fontbold),
+                  box("Fontitalic", Text::Italic, &FontTexts::Fontitalic),
+                  box("Fontunderline", Text::Underline, &FontTexts::Fontunderline),
+                  box("Fontstrikethru", Text::StrikeThrough, &FontTexts::Fontstrikethru)};
     m_color = new ColorButton(desktop, this);
     m_color->setObjectName(u"Fontcolor"_s);
-    setDesignText(m_color, {}, u"20828Farbe wählen"_s);
+    setDesignText(m_color, {}, Text::ChooseColour);
     m_background = new ColorButton(desktop, this);
     m_background->setObjectName(u"Backcolor"_s);
-    setDesignText(m_background, {}, u"20828Farbe wählen"_s);
+    setDesignText(m_background, {}, Text::ChooseColour);
     m_sample = new FontSample(this);
     m_sample->setObjectName(u"Muster"_s);
-    m_sample->setText(language::shownText(m_texts, 20829, u"Mustertext"_s));
+    m_sample->setText(m_texts.text(Text::SampleText));
     m_missing = note(this);
     m_missing->setObjectName(u"Schriftfehlt"_s);
     m_underline = note(this);
-    setDesignText(m_underline, u"20831Unterstreichen wirkt nur in der Vorschau dieses Fensters, nicht "
-                               "auf den gedruckten Seiten."_s);
+    setDesignText(m_underline, Text::UnderlineNote);
 }
 
 void FontPanel::layOut()
 {
     auto *form = new QFormLayout;
-    const auto row = [&](const char *caption, QWidget *field) {
+    const auto row = [&](Text caption, QWidget *field) {
         auto *label = new QLabel(this);
-        setDesignText(label, QString::fromUtf8(caption));
+        setDesignText(label, caption);
         label->setBuddy(field);
         form->addRow(label, field);
     };
@@ -136,11 +135,11 @@ void FontPanel::layOut()
         grid->addWidget(m_switches[i].box, static_cast<int>(i) / 2, static_cast<int>(i) % 2);
     grid->setColumnStretch(1, 1);
 
-    row("20820Schriftart", m_family);
-    row("20821Größe", m_size);
+    row(Text::FontFamily, m_family);
+    row(Text::FontSize, m_size);
     form->addRow(QString(), marks);
-    row("20826Schriftfarbe", m_color);
-    row("20827Hintergrund", m_background);
+    row(Text::TextColour, m_color);
+    row(Text::FontBackground, m_background);
     form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
 
     auto *right = new QVBoxLayout;
@@ -199,8 +198,7 @@ void FontPanel::showSample()
     m_sample->setStyle(style);
     m_underline->setVisible(style.underline);
     m_missing->setVisible(!isAvailable(style.family));
-    m_missing->setText(
-        language::shownText(m_texts, 20876, u"Diese Schrift ist nicht vorhanden: %1"_s).arg(style.family));
+    m_missing->setText(m_texts.text(Text::FontMissing).arg(style.family));
 }
 
 } // namespace kalvenor::settings

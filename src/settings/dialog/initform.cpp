@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/dialog/initform.h"
 
-#include "language/forms/form.h"
 #include "language/forms/widgetform.h"
+#include "language/texts/sprache.h"
 #include "settings/dialog/contentspanel.h"
 #include "settings/dialog/fontpanel.h"
 #include "settings/dialog/pagepanel.h"
@@ -16,6 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::settings {
 
+using language::Text;
+
 Initform::Initform(const host::Host &host, language::Sprachmodul &texts, Druckvorgaben &vorgaben,
                    print::PageSetup &page, QWidget *parent)
     : QDialog(parent), m_host(host), m_texts(texts), m_vorgaben(vorgaben), m_page(page), m_tabs(new QTabWidget(this)),
@@ -23,14 +25,14 @@ Initform::Initform(const host::Host &host, language::Sprachmodul &texts, Druckvo
       m_contents(new ContentsPanel(texts, this))
 {
     setObjectName(u"initform"_s);
-    language::setDesignText(this, u"20800Druckeinstellungen"_s);
+    language::setDesignText(this, Text::PrintSettings);
     m_tabs->setObjectName(u"Tabs"_s);
     m_tabs->addTab(m_fonts, {});
     m_tabs->addTab(m_pagePanel, {});
     m_tabs->addTab(m_contents, {});
-    language::setDesignTab(m_tabs, 0, u"20801Schriften"_s);
-    language::setDesignTab(m_tabs, 1, u"20802Seite"_s);
-    language::setDesignTab(m_tabs, 2, u"20803Inhalt"_s);
+    language::setDesignTab(m_tabs, 0, Text::SettingsFonts);
+    language::setDesignTab(m_tabs, 1, Text::SettingsPage);
+    language::setDesignTab(m_tabs, 2, Text::Contents);
     new QVBoxLayout(this);
     layout()->addWidget(m_tabs);
     makeButtons();
@@ -43,16 +45,16 @@ Initform::Initform(const host::Host &host, language::Sprachmodul &texts, Druckvo
 
 void Initform::makeButtons()
 {
-    const auto button = [this](const char *name, const char *caption, const char *tooltip) {
+    const auto button = [this](const char *name, Text caption, Text tooltip) {
         auto *made = new QPushButton(this);
         made->setObjectName(QLatin1String(name));
         made->setAutoDefault(false);
-        language::setDesignText(made, QString::fromUtf8(caption), QString::fromUtf8(tooltip));
+        language::setDesignText(made, caption, tooltip);
         return made;
     };
-    auto *defaults = button("Vorgaben", "20872Vorgaben", "20873Alle Einstellungen auf die Vorgaben setzen");
-    auto *ok = button("Ende_0", "20870OK", "");
-    auto *cancel = button("Ende_1", "20871Abbrechen", "");
+    auto *defaults = button("Vorgaben", Text::Defaults, Text::DefaultsTip);
+    auto *ok = button("Ende_0", Text::Ok, Text::None);
+    auto *cancel = button("Ende_1", Text::Cancel, Text::None);
     ok->setDefault(true);
     connect(defaults, &QPushButton::clicked, this, &Initform::showDefaults);
     connect(ok, &QPushButton::clicked, this, &Initform::confirm);
@@ -88,13 +90,12 @@ void Initform::confirm()
     const print::PageSetup page = m_pagePanel->page();
     if (!leavesRoom(page)) {
         m_tabs->setCurrentWidget(m_pagePanel);
-        tell(20875, u"Die Ränder lassen keinen Platz für den Text."_s);
+        tell(Text::NoRoomForText);
         return;
     }
     const bool saved = initspeichern(m_host, vorgaben, page);
     if (!m_contents->measures().write(m_host) || !saved) {
-        tell(20874, u"Die Einstellungen konnten nicht gespeichert werden: %1"_s,
-             QDir::toNativeSeparators(m_host.native(m_host.ownSettingsFile())));
+        tell(Text::SettingsNotSaved, QDir::toNativeSeparators(m_host.native(m_host.ownSettingsFile())));
         return;
     }
     m_vorgaben = vorgaben;
@@ -102,9 +103,9 @@ void Initform::confirm()
     accept();
 }
 
-void Initform::tell(qint16 id, const QString &germanText, const QString &what)
+void Initform::tell(Text id, const QString &what)
 {
-    QString text = language::shownText(m_texts, id, germanText);
+    QString text = m_texts.text(id);
     m_host.desktop().messageBox(text.replace(u"%1"_s, what), desktop::MessageCritical, windowTitle());
 }
 

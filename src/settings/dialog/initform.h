@@ -28,7 +28,7 @@ private:
     void fill(const Druckvorgaben &vorgaben, const print::PageSetup &page, const ReportMeasures &measures);
     void showDefaults();
     void confirm();
-    void tell(qint16 id, const QString &germanText, const QString &what = {});
+    void tell(language::Text id, const QString &what = {});
 
     const host::Host &m_host;
     language::Sprachmodul &m_texts;

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/dialog/pagepanel.h"
 
-#include "language/forms/form.h"
 #include "language/forms/widgetform.h"
+#include "language/texts/sprache.h"
 #include "settings/dialog/lengthbox.h"
 #include "settings/store/druckvorgaben.h"
 #include <algorithm>
@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::settings {
 
+using language::Text;
+
 namespace {
 
 using language::setDesignText;
@@ -24,8 +26,10 @@ using language::setDesignText;
 constexpr double WidestMargin = 500; // millimetres
 constexpr std::array<print::Twips print::PageSetup::*, 4> Margins = {
     &print::PageSetup::left, &print::PageSetup::top, &print::PageSetup::right, &print::PageSetup::bottom};
-constexpr std::pair<const char *, const char *> MarginNames[] = {
-    {"Links", "20841Links"}, {"Oben", "20842Oben"}, {"Rechts", "20843Rechts"}, {"Unten", "20844Unten"}};
+constexpr std::pair<const char *, Text> MarginNames[] = {{"Links", Text::MarginLeft},
+                                                         {"Oben", Text::MarginTop},
+                                                         {"Rechts", Text::MarginRight},
+                                                         {"Unten", Text::MarginBottom}};
 static_assert(std::size(MarginNames) == Margins.size());
 
 } // namespace
@@ -74,25 +78,25 @@ void PaperSketch::paintEvent(QPaintEvent *)
 PagePanel::PagePanel(language::Sprachmodul &texts, QWidget *parent) : QWidget(parent)
 {
     auto *marginGroup = new QGroupBox(this);
-    setDesignText(marginGroup, u"20840Seitenränder"_s);
+    setDesignText(marginGroup, Text::Margins);
     auto *form = new QFormLayout(marginGroup);
     for (std::size_t i = 0; i < m_margins.size(); ++i) {
         m_margins[i] = new LengthBox(WidestMargin, 1, marginGroup);
         m_margins[i]->setObjectName(QLatin1String(MarginNames[i].first));
-        m_margins[i]->setSuffix(u' ' + language::shownText(texts, 20845, u"mm"_s));
+        m_margins[i]->setSuffix(u' ' + texts.text(Text::Millimetres));
         auto *label = new QLabel(marginGroup);
-        setDesignText(label, QString::fromUtf8(MarginNames[i].second));
+        setDesignText(label, MarginNames[i].second);
         label->setBuddy(m_margins[i]);
         form->addRow(label, m_margins[i]);
         connect(m_margins[i], &LengthBox::valueChanged, this, &PagePanel::showPage);
     }
 
     auto *orientationGroup = new QGroupBox(this);
-    setDesignText(orientationGroup, u"20846Ausrichtung"_s);
+    setDesignText(orientationGroup, Text::Orientation);
     auto *upright = new QVBoxLayout(orientationGroup);
     m_orientations = {new QRadioButton(orientationGroup), new QRadioButton(orientationGroup)};
-    setDesignText(m_orientations[0], u"20847Hochformat"_s);
-    setDesignText(m_orientations[1], u"20848Querformat"_s);
+    setDesignText(m_orientations[0], Text::Portrait);
+    setDesignText(m_orientations[1], Text::Landscape);
     for (std::size_t i = 0; i < m_orientations.size(); ++i) {
         m_orientations[i]->setObjectName(u"Ausrichtung_%1"_s.arg(i));
         upright->addWidget(m_orientations[i]);

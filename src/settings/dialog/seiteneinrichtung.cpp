@@ -19,6 +19,8 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::settings {
 
+using language::Text;
+
 namespace {
 
 constexpr double TwipsPerMillimetre = 1440 / 25.4;
@@ -41,18 +43,18 @@ Seiteneinrichtung::Seiteneinrichtung(const host::Host &host, language::Sprachmod
     : QDialog(parent), m_host(host), m_texts(texts), m_paper(new QComboBox(this)), m_panel(new PagePanel(texts, this))
 {
     setObjectName(u"Seiteneinrichtung"_s);
-    language::setDesignText(this, u"193Seite einrichten"_s);
+    language::setDesignText(this, Text::PageSetup);
     m_paper->setObjectName(u"Papier"_s);
     auto *paperLabel = new QLabel(this);
-    language::setDesignText(paperLabel, u"20939Papier"_s);
+    language::setDesignText(paperLabel, Text::Paper);
     paperLabel->setBuddy(m_paper);
     auto *ok = new QPushButton(this);
     ok->setObjectName(u"OK"_s);
     ok->setDefault(true);
-    language::setDesignText(ok, u"20870OK"_s);
+    language::setDesignText(ok, Text::Ok);
     auto *cancel = new QPushButton(this);
     cancel->setObjectName(u"Abbrechen"_s);
-    language::setDesignText(cancel, u"20871Abbrechen"_s);
+    language::setDesignText(cancel, Text::Cancel);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
 
@@ -115,8 +117,7 @@ void Seiteneinrichtung::accept()
         QDialog::accept();
         return;
     }
-    m_host.desktop().messageBox(language::shownText(m_texts, 20875, u"Die Ränder lassen keinen Platz für den Text."_s),
-                                desktop::MessageCritical, windowTitle());
+    m_host.desktop().messageBox(m_texts.text(Text::NoRoomForText), desktop::MessageCritical, windowTitle());
 }
 
 } // namespace kalvenor::settings

@@ -3,9 +3,9 @@
 #include "settings/preview/druckvorschau.h"
 
 #include "host/hauptform.h"
-#include "language/forms/form.h"
 #include "language/forms/widgetform.h"
 #include "language/progress/progresspanel.h"
+#include "language/texts/sprache.h"
 #include "platform/desktop/lineicon.h"
 #include "settings/preview/pageview.h"
 #include "settings/preview/previewactions.h"
@@ -29,6 +29,8 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::settings {
 
+using language::Text;
+
 namespace {
 
 constexpr int OnTop = -1;
@@ -44,9 +46,9 @@ Druckvorschau::Druckvorschau(const host::Host &host, language::Sprachmodul &text
       m_commands(new PreviewCommands(host, texts, control, work, *m_view, *this)), m_open(new QPushButton(this))
 {
     setObjectName(u"Druckvorschau"_s);
-    language::setDesignText(this, u"20900Seitenansicht"_s);
+    language::setDesignText(this, Text::PrintPreview);
     m_view->setObjectName(u"VSPrinter"_s);
-    language::setDesignText(m_view, u"20914Seiten"_s);
+    language::setDesignText(m_view, Text::Pages);
     auto *middle = new QWidget(this);
     auto *column = new QVBoxLayout(middle);
     column->setContentsMargins(0, 0, 0, 0);
@@ -60,7 +62,7 @@ Druckvorschau::Druckvorschau(const host::Host &host, language::Sprachmodul &text
     language::formuebersetzen(*this, texts, host);
     unsetCursor();
     m_title = windowTitle();
-    m_pageOf = text(20905, u"Seite %1 von %2"_s);
+    m_pageOf = text(Text::PageNumberOf);
     m_controlTexts.load(texts);
     m_commands->setTexts(m_controlTexts);
     m_actions->showZoomChoices(m_controlTexts);
@@ -77,7 +79,7 @@ Druckvorschau::~Druckvorschau() = default;
 void Druckvorschau::makeStatusBar()
 {
     m_open->setObjectName(u"Oeffnen"_s);
-    language::setDesignText(m_open, u"20938Öffnen"_s);
+    language::setDesignText(m_open, Text::Open);
     m_open->hide();
     connect(m_open, &QPushButton::clicked, this, &Druckvorschau::openSaved);
     statusBar()->addPermanentWidget(new language::ProgressPanel(m_work, this));
@@ -133,9 +135,9 @@ void Druckvorschau::showPlace()
     m_actions->follow(*m_view, m_pageOf);
 }
 
-QString Druckvorschau::text(qint16 id, const QString &germanText, const QString &what) const
+QString Druckvorschau::text(Text id, const QString &what) const
 {
-    return language::shownText(m_texts, id, germanText).replace(u"%1"_s, what.isNull() ? u"%1"_s : what);
+    return m_texts.text(id).replace(u"%1"_s, what.isNull() ? u"%1"_s : what);
 }
 
 void Druckvorschau::say(const QString &what)
@@ -146,7 +148,7 @@ void Druckvorschau::say(const QString &what)
 
 void Druckvorschau::saySaved(const QString &file)
 {
-    say(text(20934, u"Gespeichert: %1"_s, QDir::toNativeSeparators(file)));
+    say(text(Text::Saved, QDir::toNativeSeparators(file)));
     m_saved = file;
     m_open->show();
 }
@@ -154,9 +156,8 @@ void Druckvorschau::saySaved(const QString &file)
 void Druckvorschau::openSaved()
 {
     if (!QDesktopServices::openUrl(QUrl::fromLocalFile(m_saved)))
-        m_host.desktop().messageBox(
-            text(20942, u"Die Datei kann nicht geöffnet werden: %1"_s, QDir::toNativeSeparators(m_saved)),
-            desktop::MessageCritical, m_title);
+        m_host.desktop().messageBox(text(Text::FileNotOpened, QDir::toNativeSeparators(m_saved)),
+                                    desktop::MessageCritical, m_title);
 }
 
 void Druckvorschau::toolbarbuttonclick(const QString &key)
@@ -177,8 +178,7 @@ void Druckvorschau::toolbarbuttonclick(const QString &key)
         m_commands->carryOut(key);
     } catch (const basic::Error &error) {
         if (error.kind() == basic::ErrorKind::Cancelled)
-            say(key == u"drucker" ? text(20936, u"Der Druck wurde abgebrochen."_s)
-                                  : text(20948, u"Das Speichern wurde abgebrochen."_s));
+            say(key == u"drucker" ? text(Text::PrintingCancelled) : text(Text::SavingCancelled));
         else
             m_host.desktop().messageBox(error.message(), desktop::MessageCritical, m_title);
     } catch (const std::bad_alloc &) {

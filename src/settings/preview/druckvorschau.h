@@ -51,7 +51,7 @@ private:
     void say(const QString &what);
     void saySaved(const QString &file);
     void openSaved();
-    QString text(qint16 id, const QString &germanText, const QString &what = {}) const;
+    QString text(language::Text id, const QString &what = {}) const;
 
     const host::Host &m_host;
     language::Sprachmodul &m_texts;

@@ -21,20 +21,22 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::settings {
 
+using language::Text;
+
 namespace {
 
 constexpr std::array<Fit, 4> FitOfChoice = {Fit::WholePage, Fit::PageWidth, Fit::TwoPages, Fit::Thumbnails};
 
-QAction *make(QMainWindow &window, const char *name, const char *caption, const QList<QKeySequence> &keys = {})
+QAction *make(QMainWindow &window, const char *name, Text caption, const QList<QKeySequence> &keys = {})
 {
     auto *action = new QAction(&window);
     action->setObjectName(QLatin1String(name));
-    language::setDesignText(action, QString::fromUtf8(caption));
+    language::setDesignText(action, caption);
     action->setShortcuts(keys);
     return action;
 }
 
-QAction *make(QMainWindow &window, const char *name, const char *caption, desktop::LineIcon icon,
+QAction *make(QMainWindow &window, const char *name, Text caption, desktop::LineIcon icon,
               const QList<QKeySequence> &keys = {})
 {
     QAction *action = make(window, name, caption, keys);
@@ -42,22 +44,21 @@ QAction *make(QMainWindow &window, const char *name, const char *caption, deskto
     return action;
 }
 
-QAction *makeCommand(QMainWindow &window, const char *key, const char *caption, const char *tooltip,
-                     desktop::LineIcon icon)
+QAction *makeCommand(QMainWindow &window, const char *key, Text caption, Text tooltip, desktop::LineIcon icon)
 {
     QAction *action = make(window, key, caption, icon);
-    language::setDesignText(action, {}, QString::fromUtf8(tooltip));
+    language::setDesignText(action, {}, tooltip);
     return action;
 }
 
-QToolBar *makeToolBar(QMainWindow &window, const char *name, const char *caption, Qt::ToolButtonStyle style)
+QToolBar *makeToolBar(QMainWindow &window, const char *name, Text caption, Qt::ToolButtonStyle style)
 {
     auto *bar = new QToolBar(&window);
     bar->setObjectName(QLatin1String(name));
     bar->setMovable(false);
     bar->setToolButtonStyle(style);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    language::setDesignText(bar, QString::fromUtf8(caption));
+    language::setDesignText(bar, caption);
     window.addToolBar(bar);
     return bar;
 }
@@ -65,29 +66,27 @@ QToolBar *makeToolBar(QMainWindow &window, const char *name, const char *caption
 } // namespace
 
 PreviewActions::PreviewActions(QMainWindow &window)
-    : commands{makeCommand(window, "drucker", "190Drucken", "20930Die Seiten drucken", desktop::LineIcon::Print),
-               makeCommand(window, "save", "191Speichern", "20931Die Seiten als RTF, PDF oder HTML speichern",
-                           desktop::LineIcon::Save),
-               makeCommand(window, "INITVorgaben", "192Druckeinstellungen",
-                           "20932Schriften, Farben und Umfang des Berichts einstellen", desktop::LineIcon::Sliders),
-               makeCommand(window, "INI", "193Seite einrichten", "20933Papier, Ausrichtung und Ränder einstellen",
-                           desktop::LineIcon::Page)},
-      MDD(make(window, "MDD", "180 &Drucken", desktop::LineIcon::Print, {Qt::CTRL | Qt::Key_P})),
-      MDS(make(window, "MDS", "181 &Speichern", desktop::LineIcon::Save, {Qt::CTRL | Qt::Key_S})),
-      MDINI(make(window, "MDINI", "182 &Druckvorlage", desktop::LineIcon::Page)),
-      MDE(make(window, "MDE", "183 &Fenster schließen", {Qt::CTRL | Qt::Key_W})),
-      MHH(make(window, "MHH", "184 &Hilfe", {Qt::Key_F1})),
-      first(make(window, "Erste", "20901Erste Seite", desktop::LineIcon::First, {Qt::CTRL | Qt::Key_Home})),
-      previous(make(window, "Vorige", "20902Vorige Seite", desktop::LineIcon::Left, {Qt::CTRL | Qt::Key_PageUp})),
-      next(make(window, "Naechste", "20903Nächste Seite", desktop::LineIcon::Right, {Qt::CTRL | Qt::Key_PageDown})),
-      last(make(window, "Letzte", "20904Letzte Seite", desktop::LineIcon::Last, {Qt::CTRL | Qt::Key_End})),
-      larger(make(window, "Groesser", "20908Vergrößern", desktop::LineIcon::Plus,
+    : commands{makeCommand(window, "drucker", Text::PreviewPrint, Text::PreviewPrintTip, desktop::LineIcon::Print),
+               makeCommand(window, "save", Text::PreviewSave, Text::PreviewSaveTip, desktop::LineIcon::Save),
+               makeCommand(window, "INITVorgaben", Text::PreviewSettings, Text::PreviewSettingsTip,
+                           desktop::LineIcon::Sliders),
+               makeCommand(window, "INI", Text::PageSetup, Text::PageSetupTip, desktop::LineIcon::Page)},
+      MDD(make(window, "MDD", Text::PreviewMenuPrint, desktop::LineIcon::Print, {Qt::CTRL | Qt::Key_P})),
+      MDS(make(window, "MDS", Text::PreviewMenuSave, desktop::LineIcon::Save, {Qt::CTRL | Qt::Key_S})),
+      MDINI(make(window, "MDINI", Text::PreviewMenuPageSetup, desktop::LineIcon::Page)),
+      MDE(make(window, "MDE", Text::PreviewMenuClose, {Qt::CTRL | Qt::Key_W})),
+      MHH(make(window, "MHH", Text::PreviewMenuHelp, {Qt::Key_F1})),
+      first(make(window, "Erste", Text::FirstPage, desktop::LineIcon::First, {Qt::CTRL | Qt::Key_Home})),
+      previous(make(window, "Vorige", Text::PreviousPage, desktop::LineIcon::Left, {Qt::CTRL | Qt::Key_PageUp})),
+      next(make(window, "Naechste", Text::NextPage, desktop::LineIcon::Right, {Qt::CTRL | Qt::Key_PageDown})),
+      last(make(window, "Letzte", Text::LastPage, desktop::LineIcon::Last, {Qt::CTRL | Qt::Key_End})),
+      larger(make(window, "Groesser", Text::ZoomIn, desktop::LineIcon::Plus,
                   {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal})),
-      smaller(make(window, "Kleiner", "20909Verkleinern", desktop::LineIcon::Minus, {Qt::CTRL | Qt::Key_Minus})),
-      actualSize(make(window, "Originalgroesse", "20916Originalgröße", {Qt::CTRL | Qt::Key_0})),
-      find(make(window, "Finden", "20910Text suchen", desktop::LineIcon::Find, {Qt::CTRL | Qt::Key_F})),
-      findNext(make(window, "Weitersuchen", "20911Weitersuchen", {Qt::Key_F3})),
-      findPrevious(make(window, "Rueckwaertssuchen", "20915Rückwärts suchen", {Qt::SHIFT | Qt::Key_F3})), fits{},
+      smaller(make(window, "Kleiner", Text::ZoomOut, desktop::LineIcon::Minus, {Qt::CTRL | Qt::Key_Minus})),
+      actualSize(make(window, "Originalgroesse", Text::ActualSize, {Qt::CTRL | Qt::Key_0})),
+      find(make(window, "Finden", Text::FindText, desktop::LineIcon::Find, {Qt::CTRL | Qt::Key_F})),
+      findNext(make(window, "Weitersuchen", Text::FindNext, {Qt::Key_F3})),
+      findPrevious(make(window, "Rueckwaertssuchen", Text::FindPrevious, {Qt::SHIFT | Qt::Key_F3})), fits{},
       page(new QSpinBox), zoom(new QComboBox)
 {
     auto *group = new QActionGroup(&window);
@@ -100,11 +99,11 @@ PreviewActions::PreviewActions(QMainWindow &window)
     page->setButtonSymbols(QAbstractSpinBox::NoButtons);
     page->setAlignment(Qt::AlignCenter);
     page->setKeyboardTracking(false);
-    language::setDesignText(page, u"20906Gehe zu Seite"_s, u"20906Gehe zu Seite"_s);
+    language::setDesignText(page, Text::GoToPage, Text::GoToPage);
     zoom->setObjectName(u"Zoom"_s);
     zoom->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     zoom->setMaxVisibleItems(30);
-    language::setDesignText(zoom, u"20907Zoom"_s, u"20907Zoom"_s);
+    language::setDesignText(zoom, Text::Zoom, Text::Zoom);
     makeMenus(window);
     makeToolBars(window);
     showZoomChoices({});
@@ -114,7 +113,7 @@ void PreviewActions::makeMenus(QMainWindow &window)
 {
     QMenu *md = window.menuBar()->addMenu(QString());
     md->setObjectName(u"MD"_s);
-    language::setDesignText(md, u"180 &Drucken"_s);
+    language::setDesignText(md, Text::PreviewMenuPrint);
     md->addActions({MDD, MDS});
     md->addSeparator();
     md->addAction(MDINI);
@@ -122,7 +121,7 @@ void PreviewActions::makeMenus(QMainWindow &window)
     md->addAction(MDE);
 
     QMenu *view = window.menuBar()->addMenu(QString());
-    language::setDesignText(view, u"20140 &Ansicht"_s);
+    language::setDesignText(view, Text::MenuView);
     view->addActions({fits[0], fits[1], fits[2], fits[3]});
     view->addSeparator();
     view->addActions({larger, smaller, actualSize});
@@ -136,9 +135,9 @@ void PreviewActions::makeMenus(QMainWindow &window)
 
 void PreviewActions::makeToolBars(QMainWindow &window)
 {
-    QToolBar *tools = makeToolBar(window, "Toolbar", "20141 &Werkzeugleiste", Qt::ToolButtonTextBesideIcon);
+    QToolBar *tools = makeToolBar(window, "Toolbar", Text::MenuToolBar, Qt::ToolButtonTextBesideIcon);
     tools->addActions(commands);
-    QToolBar *pages = makeToolBar(window, "Seiten", "20914Seiten", Qt::ToolButtonIconOnly);
+    QToolBar *pages = makeToolBar(window, "Seiten", Text::Pages, Qt::ToolButtonIconOnly);
     pages->addActions({first, previous});
     pages->addWidget(page);
     pages->addActions({next, last});

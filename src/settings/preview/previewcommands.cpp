@@ -3,7 +3,7 @@
 #include "settings/preview/previewcommands.h"
 
 #include "host/hauptform.h"
-#include "language/forms/form.h"
+#include "language/texts/sprache.h"
 #include "platform/print/pdfwriter.h"
 #include "settings/dialog/seiteneinrichtung.h"
 #include "settings/preview/druckanzeige.h"
@@ -19,6 +19,8 @@
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::settings {
+
+using language::Text;
 
 namespace {
 
@@ -63,15 +65,15 @@ host::Hauptform &PreviewCommands::mainForm() const
     return *m_host.Hauptform;
 }
 
-QString PreviewCommands::text(qint16 id, const QString &germanText, const QString &what) const
+QString PreviewCommands::text(Text id, const QString &what) const
 {
-    return language::shownText(m_texts, id, germanText).replace(u"%1"_s, what.isNull() ? u"%1"_s : what);
+    return m_texts.text(id).replace(u"%1"_s, what.isNull() ? u"%1"_s : what);
 }
 
 std::shared_ptr<const print::PageLayout> PreviewCommands::pagesAtHand() const
 {
     if (!m_control.hasDocument())
-        throw basic::Error(basic::ErrorKind::Refused, {}, text(20940, u"Es ist noch kein Bericht zusammengestellt."_s));
+        throw basic::Error(basic::ErrorKind::Refused, {}, text(Text::NoReportYet));
     return m_control.layout();
 }
 
@@ -84,7 +86,7 @@ void PreviewCommands::print()
     if (QPrinterInfo::availablePrinterNames().isEmpty()) // then the dialog begins with a file
         printer.setOutputFileName(proposedFile(m_host, m_control.document().title));
     QPrintDialog dialog(&printer, &m_window);
-    dialog.setWindowTitle(text(190, {}));
+    dialog.setWindowTitle(text(Text::PreviewPrint));
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange |
                       QAbstractPrintDialog::PrintCurrentPage | QAbstractPrintDialog::PrintCollateCopies |
                       QAbstractPrintDialog::PrintShowPageSize);
@@ -94,21 +96,21 @@ void PreviewCommands::print()
 
     const bool toFile = !printer.outputFileName().isEmpty();
     if (!toFile && printer.printerName().isEmpty())
-        throw basic::Error(basic::ErrorKind::Refused, {}, text(20937, u"Es ist kein Drucker eingerichtet."_s));
+        throw basic::Error(basic::ErrorKind::Refused, {}, text(Text::NoPrinter));
     const std::vector<int> pages = pagesToPrint(pageCount, printChoice(printer, m_view.currentPage()));
     if (pages.empty())
-        throw basic::Error(basic::ErrorKind::Refused, {}, text(20941, u"In diesem Bereich liegen keine Seiten."_s));
+        throw basic::Error(basic::ErrorKind::Refused, {}, text(Text::NoPagesInRange));
     const QPrinterInfo device(printer);
     m_printing->begin(toFile ? u"PDF"_s : printer.printerName(),
                       toFile                        ? QDir::toNativeSeparators(printer.outputFileName())
                       : device.location().isEmpty() ? device.description()
                                                     : device.location());
-    m_work.run(text(20945, u"Die Seiten werden gedruckt ..."_s),
+    m_work.run(text(Text::PrintingPages),
                [&](const basic::Progress &progress) { printPages(*layout, printer, pages, progress); });
     if (toFile)
         Q_EMIT saved(printer.outputFileName());
     else
-        Q_EMIT said(text(20935, u"Gedruckt: %1 Seiten"_s, QString::number(pages.size())));
+        Q_EMIT said(text(Text::PrintedPages, QString::number(pages.size())));
 }
 
 void PreviewCommands::save()
@@ -116,7 +118,7 @@ void PreviewCommands::save()
     const auto normalPointer = qScopeGuard([this] { m_window.unsetCursor(); });
     QString file;
     try {
-        file = askForSaveFile(m_window, m_host, text(194, {}));
+        file = askForSaveFile(m_window, m_host, text(Text::SaveStatisticAs));
     } catch (const basic::Error &) {
         return; // a dialog that fails counts as cancelled
     }
@@ -133,8 +135,7 @@ void PreviewCommands::save()
         saveByComposing(print::ExportFormat::Html, file);
         break;
     case SavedAs::Nothing:
-        Q_EMIT said(text(20943, u"Nichts gespeichert, der Name muss auf .rtf, .pdf oder .html enden: %1"_s,
-                         QDir::toNativeSeparators(file)));
+        Q_EMIT said(text(Text::WrongFileEnding, QDir::toNativeSeparators(file)));
         break;
     }
 }
@@ -142,7 +143,7 @@ void PreviewCommands::save()
 void PreviewCommands::savePdf(const QString &file)
 {
     const std::shared_ptr<const print::PageLayout> layout = pagesAtHand();
-    m_work.run(text(20946, u"Die PDF-Datei wird geschrieben ..."_s), [&](const basic::Progress &progress) {
+    m_work.run(text(Text::WritingPdf), [&](const basic::Progress &progress) {
         print::writePdf(*layout, m_control.document().title, file, progress);
     });
     Q_EMIT saved(file);
@@ -154,7 +155,7 @@ void PreviewCommands::saveByComposing(print::ExportFormat format, const QString 
     if (written)
         Q_EMIT saved(m_host.native(*written));
     else
-        Q_EMIT said(text(20947, u"Nicht gespeichert: %1"_s, QDir::toNativeSeparators(file)));
+        Q_EMIT said(text(Text::NotSaved, QDir::toNativeSeparators(file)));
 }
 
 void PreviewCommands::setUpPage()

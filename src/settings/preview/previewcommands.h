@@ -45,7 +45,7 @@ private:
     host::Hauptform &mainForm() const;
     /// Throws Error(Refused) where nothing has been composed yet.
     std::shared_ptr<const print::PageLayout> pagesAtHand() const;
-    QString text(qint16 id, const QString &germanText, const QString &what = {}) const;
+    QString text(language::Text id, const QString &what = {}) const;
 
     const host::Host &m_host;
     language::Sprachmodul &m_texts;

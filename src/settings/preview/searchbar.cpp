@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/preview/searchbar.h"
 
-#include "language/forms/form.h"
 #include "language/forms/widgetform.h"
+#include "language/texts/sprache.h"
 #include "platform/desktop/lineicon.h"
 #include "settings/preview/pageview.h"
 #include <QHBoxLayout>
@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::settings {
 
+using language::Text;
+
 namespace {
 
 constexpr int ScanMs = 15;
@@ -25,14 +27,14 @@ constexpr int ScanMs = 15;
 
 SearchBar::SearchBar(PageView &view, language::Sprachmodul &texts, QWidget *parent)
     : QWidget(parent), m_view(view), m_texts(texts), m_entry(new QLineEdit(this)),
-      m_previous(makeButton("Rueckwaerts", "20915Rückwärts suchen")), m_next(makeButton("Weiter", "20911Weitersuchen")),
-      m_close(makeButton("Suchezu", "21004Schließen")), m_count(new QLabel(this))
+      m_previous(makeButton("Rueckwaerts", Text::FindPrevious)), m_next(makeButton("Weiter", Text::FindNext)),
+      m_close(makeButton("Suchezu", Text::Close)), m_count(new QLabel(this))
 {
     setObjectName(u"Suche"_s);
     m_entry->setObjectName(u"Suchtext"_s);
     m_entry->setClearButtonEnabled(true);
     m_entry->setMaximumWidth(320);
-    language::setDesignText(m_entry, u"20910Text suchen"_s);
+    language::setDesignText(m_entry, Text::FindText);
     m_count->setObjectName(u"Fundstellen"_s);
     m_previous->setIcon(desktop::lineIcon(desktop::LineIcon::Up));
     m_next->setIcon(desktop::lineIcon(desktop::LineIcon::Down));
@@ -56,12 +58,12 @@ SearchBar::SearchBar(PageView &view, language::Sprachmodul &texts, QWidget *pare
     showCount();
 }
 
-QToolButton *SearchBar::makeButton(const char *name, const char *tooltip)
+QToolButton *SearchBar::makeButton(const char *name, Text tooltip)
 {
     auto *button = new QToolButton(this);
     button->setObjectName(QLatin1String(name));
     button->setAutoRaise(true);
-    language::setDesignText(button, {}, QString::fromUtf8(tooltip));
+    language::setDesignText(button, {}, tooltip);
     return button;
 }
 
@@ -150,12 +152,12 @@ void SearchBar::showCount()
     const auto count = static_cast<qlonglong>(m_search.matches().size());
     QString shown;
     if (count > 0) {
-        const QString all = language::shownText(m_texts, 20913, u"%1 Fundstellen"_s);
+        const QString all = m_texts.text(Text::MatchCount);
         const auto at = m_view.shownMatch();
         shown = all.arg(at ? locale.toString(static_cast<qlonglong>(*at) + 1) + u" / "_s + locale.toString(count)
                            : locale.toString(count));
     } else if (!m_search.needle().isEmpty() && m_search.isFinished()) {
-        shown = language::shownText(m_texts, 20912, u"Nicht gefunden: %1"_s).arg(m_search.needle());
+        shown = m_texts.text(Text::NotFound).arg(m_search.needle());
     }
     m_count->setText(shown);
     m_previous->setEnabled(count > 0);

@@ -34,7 +34,7 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    QToolButton *makeButton(const char *name, const char *tooltip);
+    QToolButton *makeButton(const char *name, language::Text tooltip);
     void advance();
     void go(bool forward);
     void show(std::size_t match);

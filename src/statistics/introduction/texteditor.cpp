@@ -3,8 +3,8 @@
 #include "statistics/introduction/texteditor.h"
 
 #include "host/host.h"
-#include "language/forms/form.h"
 #include "language/forms/widgetform.h"
+#include "language/texts/sprache.h"
 #include "platform/richtext/rtfreader.h"
 #include "platform/richtext/rtfwriter.h"
 #include "platform/storage/file.h"
@@ -23,6 +23,8 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::statistics {
 
+using language::Text;
+
 namespace {
 
 constexpr qint64 LargestFile = 64LL * 1024 * 1024;
@@ -40,8 +42,8 @@ TextEditor::TextEditor(language::Sprachmodul &texts, host::Host &host, QWidget *
 {
     setObjectName(u"Einleitung"_s);
     m_field->setObjectName(u"RTFtextfeld0"_s);
-    language::setDesignText(m_field, u"20723Schreiben Sie hier, was vor der Statistik stehen soll."_s);
-    m_field->setAccessibleName(text(20722, "Einleitender Text des Berichts"));
+    language::setDesignText(m_field, Text::IntroductionHint);
+    m_field->setAccessibleName(m_texts.text(Text::IntroductionName));
     auto *tools = new TextTools(*m_field, this);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -56,11 +58,6 @@ TextEditor::TextEditor(language::Sprachmodul &texts, host::Host &host, QWidget *
             Q_EMIT changed();
     });
     setRtf({});
-}
-
-QString TextEditor::text(qint16 id, const char *german) const
-{
-    return language::shownText(m_texts, id, QString::fromUtf8(german));
 }
 
 QByteArray TextEditor::rtf() const
@@ -110,8 +107,8 @@ const QTextDocument &TextEditor::document() const
 void TextEditor::openText()
 {
     const QString file = m_host.desktop().openFileName(
-        this, {.title = text(20719, "Text öffnen"),
-               .filters = text(20721, "RTF-Texte (*.rtf)") + u";;"_s + text(20726, "Alle Dateien (*)")});
+        this, {.title = m_texts.text(Text::OpenText),
+               .filters = m_texts.text(Text::RtfTexts) + u";;"_s + m_texts.text(Text::AllFiles)});
     QByteArray content;
     if (file.isEmpty() || !readFile(file, content))
         return;
@@ -141,20 +138,20 @@ bool TextEditor::readFile(const QString &file, QByteArray &content)
     const QString shown = QDir::toNativeSeparators(file);
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly)) {
-        showError(text(20734, "Die Datei %1 kann nicht gelesen werden: %2").arg(shown, source.errorString()));
+        showError(m_texts.text(Text::TextNotRead).arg(shown, source.errorString()));
         return false;
     }
     content = source.read(LargestFile + 1);
     if (source.error() != QFileDevice::NoError) {
-        showError(text(20734, "Die Datei %1 kann nicht gelesen werden: %2").arg(shown, source.errorString()));
+        showError(m_texts.text(Text::TextNotRead).arg(shown, source.errorString()));
         return false;
     }
     if (content.size() > LargestFile) {
-        showError(text(20736, "Die Datei %1 ist zu groß. Ein Text kann bis zu 64 MB haben.").arg(shown));
+        showError(m_texts.text(Text::TextTooLarge).arg(shown));
         return false;
     }
     if (!isText(content)) {
-        showError(text(20735, "Die Datei %1 ist kein Text.").arg(shown));
+        showError(m_texts.text(Text::FileIsNoText).arg(shown));
         return false;
     }
     return true;
@@ -162,46 +159,43 @@ bool TextEditor::readFile(const QString &file, QByteArray &content)
 
 void TextEditor::saveText()
 {
-    const QString file = m_host.desktop().saveFileName(this, {.title = text(20720, "Text speichern unter"),
-                                                              .filters = text(20721, "RTF-Texte (*.rtf)"),
-                                                              .suffix = u"rtf"_s});
+    const QString file = m_host.desktop().saveFileName(
+        this, {.title = m_texts.text(Text::SaveTextAs), .filters = m_texts.text(Text::RtfTexts), .suffix = u"rtf"_s});
     if (file.isEmpty())
         return;
     QString why;
     // Plain text or nothing, not edited, is not yet the RTF that the file's name promises.
     const QByteArray content = richtext::looksLikeRtf(rtf()) ? rtf() : richtext::writeRtf(*m_field->document());
     if (storage::replaceFileSafely(file, content, &why))
-        Q_EMIT said(text(20738, "Der Text wurde in %1 gespeichert.").arg(QDir::toNativeSeparators(file)));
+        Q_EMIT said(m_texts.text(Text::TextSaved).arg(QDir::toNativeSeparators(file)));
     else
-        showError(
-            text(20737, "Der Text konnte nicht in %1 gespeichert werden: %2").arg(QDir::toNativeSeparators(file), why));
+        showError(m_texts.text(Text::TextNotSaved).arg(QDir::toNativeSeparators(file), why));
 }
 
 void TextEditor::showError(const QString &message)
 {
-    m_host.desktop().messageBox(message, desktop::MessageCritical, text(21020, "Fehler"));
+    m_host.desktop().messageBox(message, desktop::MessageCritical, m_texts.text(Text::Error));
 }
 
 void TextEditor::sayWhatIsMissing(const richtext::RtfResult &result, const QString &name)
 {
     if (!result.isRtf && !name.isEmpty()) {
-        Q_EMIT said(text(20733, "%1 wurde als einfacher Text ohne Formate gelesen.").arg(name));
+        Q_EMIT said(m_texts.text(Text::ReadAsPlainText).arg(name));
         return;
     }
     QStringList parts;
     if (result.pictures)
-        parts << text(20728, "Bilder");
+        parts << m_texts.text(Text::NotShownPictures);
     if (result.tables)
-        parts << text(20729, "Rahmen von Tabellen");
+        parts << m_texts.text(Text::NotShownFrames);
     if (result.others)
-        parts << text(20730, "Kopfzeilen, Fußnoten oder verborgener Text");
+        parts << m_texts.text(Text::NotShownNotes);
     if (result.damaged)
-        parts << text(20731, "beschädigte Stellen");
+        parts << m_texts.text(Text::NotShownDamage);
     if (result.tooLarge)
-        parts << text(20732, "das Ende des sehr langen Textes");
+        parts << m_texts.text(Text::NotShownEnd);
     if (!parts.isEmpty())
-        Q_EMIT said(text(20727, "Nicht gezeigt: %1. Solange Sie den Text nicht ändern, bleibt er, wie er ist.")
-                        .arg(parts.join(u", "_s)));
+        Q_EMIT said(m_texts.text(Text::NotShown).arg(parts.join(u", "_s)));
 }
 
 } // namespace kalvenor::statistics

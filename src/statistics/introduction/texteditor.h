@@ -52,7 +52,6 @@ Q_SIGNALS:
     void said(const QString &message);
 
 private:
-    QString text(qint16 id, const char *german) const;
     void sayWhatIsMissing(const richtext::RtfResult &result, const QString &name);
     void showError(const QString &message);
     bool readFile(const QString &file, QByteArray &content);

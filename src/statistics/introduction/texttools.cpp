@@ -21,6 +21,8 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::statistics {
 
+using language::Text;
+
 namespace {
 
 constexpr double SmallestSize = 4;
@@ -29,15 +31,15 @@ constexpr double LargestSize = 200;
 constexpr std::array Alignments{Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight, Qt::AlignJustify};
 
 struct NamedColor {
-    const char *caption;
+    Text caption;
     QRgb color; ///< 0: automatic
 };
 /// Each reads well on white paper.
-constexpr NamedColor NamedColors[] = {{"20740Automatisch", 0},      {"20741Dunkelrot", 0xFF800000},
-                                      {"20742Rot", 0xFFD00000},     {"20743Orange", 0xFFC05A00},
-                                      {"20744Grün", 0xFF207520},    {"20745Türkis", 0xFF007878},
-                                      {"20746Blau", 0xFF1F5FC8},    {"20747Dunkelblau", 0xFF000080},
-                                      {"20748Violett", 0xFF7A2A90}, {"20749Grau", 0xFF666666}};
+constexpr NamedColor NamedColors[] = {{Text::ColourAutomatic, 0},       {Text::ColourDarkRed, 0xFF800000},
+                                      {Text::ColourRed, 0xFFD00000},    {Text::ColourOrange, 0xFFC05A00},
+                                      {Text::ColourGreen, 0xFF207520},  {Text::ColourTeal, 0xFF007878},
+                                      {Text::ColourBlue, 0xFF1F5FC8},   {Text::ColourDarkBlue, 0xFF000080},
+                                      {Text::ColourPurple, 0xFF7A2A90}, {Text::ColourGrey, 0xFF666666}};
 
 QColor foregroundOf(const QTextCharFormat &format)
 {
@@ -60,7 +62,7 @@ QIcon swatch(const QColor &color)
 TextTools::TextTools(TextField &field, QWidget *parent) : QToolBar(parent), m_field(field), m_menu(new QMenu(&field))
 {
     setObjectName(u"Textwerkzeuge"_s);
-    language::setDesignText(this, u"20739Textformate"_s);
+    language::setDesignText(this, Text::TextFormats);
     setContextMenuPolicy(Qt::PreventContextMenu);
     setIconSize(QSize(18, 18));
     makeFormats();
@@ -76,19 +78,19 @@ TextTools::TextTools(TextField &field, QWidget *parent) : QToolBar(parent), m_fi
     showFormats();
 }
 
-QAction *TextTools::make(const char *name, const char *caption, const QIcon &icon, const QKeySequence &keys)
+QAction *TextTools::make(const char *name, Text caption, const QIcon &icon, const QKeySequence &keys)
 {
     auto *action = new QAction(icon, {}, this);
     action->setObjectName(QLatin1String(name));
-    language::setDesignText(action, QString::fromUtf8(caption), QString::fromUtf8(caption));
+    language::setDesignText(action, caption, caption);
     // The field itself looks for the keys, so that the window's actions with the same ones do not stand in its way.
     action->setShortcut(keys);
     action->setShortcutContext(Qt::WidgetShortcut);
     return action;
 }
 
-QAction *TextTools::makeToggle(const char *name, const char *caption, desktop::LineIcon icon,
-                               const QKeySequence &keys, void (TextTools::*apply)(bool))
+QAction *TextTools::makeToggle(const char *name, Text caption, desktop::LineIcon icon, const QKeySequence &keys,
+                               void (TextTools::*apply)(bool))
 {
     QAction *action = make(name, caption, desktop::lineIcon(icon), keys);
     action->setCheckable(true);
@@ -98,16 +100,16 @@ QAction *TextTools::makeToggle(const char *name, const char *caption, desktop::L
 
 void TextTools::makeFormats()
 {
-    m_bold = makeToggle("Fett", "20700Fett", desktop::LineIcon::Bold, Qt::CTRL | Qt::Key_B, &TextTools::applyBold);
+    m_bold = makeToggle("Fett", Text::Bold, desktop::LineIcon::Bold, Qt::CTRL | Qt::Key_B, &TextTools::applyBold);
     m_italic =
-        makeToggle("Kursiv", "20701Kursiv", desktop::LineIcon::Italic, Qt::CTRL | Qt::Key_I, &TextTools::applyItalic);
-    m_underline = makeToggle("Unterstrichen", "20702Unterstrichen", desktop::LineIcon::Underline,
-                             Qt::CTRL | Qt::Key_U, &TextTools::applyUnderline);
-    m_strikeOut = makeToggle("Durchgestrichen", "20703Durchgestrichen", desktop::LineIcon::StrikeOut,
+        makeToggle("Kursiv", Text::Italic, desktop::LineIcon::Italic, Qt::CTRL | Qt::Key_I, &TextTools::applyItalic);
+    m_underline = makeToggle("Unterstrichen", Text::Underline, desktop::LineIcon::Underline, Qt::CTRL | Qt::Key_U,
+                             &TextTools::applyUnderline);
+    m_strikeOut = makeToggle("Durchgestrichen", Text::StrikeThrough, desktop::LineIcon::StrikeOut,
                              Qt::CTRL | Qt::SHIFT | Qt::Key_X, &TextTools::applyStrikeOut);
-    m_bullets = makeToggle("Aufzaehlung", "20707Aufzählung", desktop::LineIcon::Bullets,
-                           Qt::CTRL | Qt::SHIFT | Qt::Key_L, &TextTools::applyBullets);
-    m_plain = make("Formateentfernen", "20724Formate entfernen", desktop::lineIcon(desktop::LineIcon::Plain),
+    m_bullets = makeToggle("Aufzaehlung", Text::Bullets, desktop::LineIcon::Bullets, Qt::CTRL | Qt::SHIFT | Qt::Key_L,
+                           &TextTools::applyBullets);
+    m_plain = make("Formateentfernen", Text::RemoveFormats, desktop::lineIcon(desktop::LineIcon::Plain),
                    Qt::CTRL | Qt::Key_Space);
     connect(m_plain, &QAction::triggered, &m_field, &TextField::removeFormats);
 }
@@ -115,10 +117,10 @@ void TextTools::makeFormats()
 void TextTools::makeAlignments()
 {
     m_alignments = {
-        make("Links", "20704Linksbündig", desktop::lineIcon(desktop::LineIcon::AlignLeft), Qt::CTRL | Qt::Key_L),
-        make("Zentriert", "20705Zentriert", desktop::lineIcon(desktop::LineIcon::AlignCentre), Qt::CTRL | Qt::Key_E),
-        make("Rechts", "20706Rechtsbündig", desktop::lineIcon(desktop::LineIcon::AlignRight), Qt::CTRL | Qt::Key_R),
-        make("Blocksatz", "20725Blocksatz", desktop::lineIcon(desktop::LineIcon::Justify), Qt::CTRL | Qt::Key_J)};
+        make("Links", Text::AlignLeft, desktop::lineIcon(desktop::LineIcon::AlignLeft), Qt::CTRL | Qt::Key_L),
+        make("Zentriert", Text::AlignCentre, desktop::lineIcon(desktop::LineIcon::AlignCentre), Qt::CTRL | Qt::Key_E),
+        make("Rechts", Text::AlignRight, desktop::lineIcon(desktop::LineIcon::AlignRight), Qt::CTRL | Qt::Key_R),
+        make("Blocksatz", Text::AlignJustify, desktop::lineIcon(desktop::LineIcon::Justify), Qt::CTRL | Qt::Key_J)};
     auto *group = new QActionGroup(this);
     for (std::size_t i = 0; i < m_alignments.size(); ++i) {
         m_alignments[i]->setCheckable(true);
@@ -129,16 +131,15 @@ void TextTools::makeAlignments()
 
 void TextTools::makeEditing()
 {
-    m_undo =
-        make("Textrueckgaengig", "20711Rückgängig", desktop::lineIcon(desktop::LineIcon::Undo), Qt::CTRL | Qt::Key_Z);
-    m_redo = make("Textwiederherstellen", "20712Wiederherstellen", desktop::lineIcon(desktop::LineIcon::Redo));
+    m_undo = make("Textrueckgaengig", Text::Undo, desktop::lineIcon(desktop::LineIcon::Undo), Qt::CTRL | Qt::Key_Z);
+    m_redo = make("Textwiederherstellen", Text::Redo, desktop::lineIcon(desktop::LineIcon::Redo));
     m_redo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
-    m_cut = make("Ausschneiden", "20713Ausschneiden", {}, QKeySequence::Cut);
-    m_copy = make("Textkopieren", "20714Kopieren", desktop::lineIcon(desktop::LineIcon::Copy), QKeySequence::Copy);
-    m_paste = make("Einfuegen", "20715Einfügen", {}, QKeySequence::Paste);
-    m_pastePlain = make("Ohneformateeinfuegen", "20716Ohne Formate einfügen", {}, Qt::CTRL | Qt::SHIFT | Qt::Key_V);
-    m_open = make("Textoeffnen", "20717Text öffnen ...", desktop::lineIcon(desktop::LineIcon::Open));
-    m_save = make("Textspeichern", "20718Text speichern ...", desktop::lineIcon(desktop::LineIcon::Save));
+    m_cut = make("Ausschneiden", Text::EditorCut, {}, QKeySequence::Cut);
+    m_copy = make("Textkopieren", Text::EditorCopy, desktop::lineIcon(desktop::LineIcon::Copy), QKeySequence::Copy);
+    m_paste = make("Einfuegen", Text::EditorPaste, {}, QKeySequence::Paste);
+    m_pastePlain = make("Ohneformateeinfuegen", Text::PastePlain, {}, Qt::CTRL | Qt::SHIFT | Qt::Key_V);
+    m_open = make("Textoeffnen", Text::OpenTextMenu, desktop::lineIcon(desktop::LineIcon::Open));
+    m_save = make("Textspeichern", Text::SaveTextMenu, desktop::lineIcon(desktop::LineIcon::Save));
     connect(m_undo, &QAction::triggered, &m_field, &QTextEdit::undo);
     connect(m_redo, &QAction::triggered, &m_field, &QTextEdit::redo);
     connect(m_cut, &QAction::triggered, &m_field, &QTextEdit::cut);
@@ -160,7 +161,7 @@ void TextTools::makeFonts()
     m_family = new QFontComboBox(this);
     m_family->setObjectName(u"Schriftart"_s);
     m_family->setMaximumWidth(m_family->fontMetrics().averageCharWidth() * 20);
-    language::setDesignText(m_family, u"20708Schriftart"_s, u"20708Schriftart"_s);
+    language::setDesignText(m_family, Text::FontFamily, Text::FontFamily);
     connect(m_family, &QComboBox::textActivated, this, [this](const QString &family) {
         QTextCharFormat format;
         format.setFontFamilies({family});
@@ -174,7 +175,7 @@ void TextTools::makeFonts()
     m_size->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_size->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_size->setMaxVisibleItems(16);
-    language::setDesignText(m_size, u"20709Schriftgröße"_s, u"20709Schriftgröße"_s);
+    language::setDesignText(m_size, Text::EditorFontSize, Text::EditorFontSize);
     for (const int size : {8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 28, 36, 48, 72})
         m_size->addItem(QString::number(size));
     connect(m_size, &QComboBox::textActivated, this, &TextTools::applySize);
@@ -186,12 +187,12 @@ void TextTools::makeColors()
     m_color = new QToolButton(this);
     m_color->setObjectName(u"Schriftfarbe"_s);
     m_color->setPopupMode(QToolButton::InstantPopup);
-    language::setDesignText(m_color, {}, u"20710Schriftfarbe"_s);
+    language::setDesignText(m_color, {}, Text::TextColour);
     m_colors = new QMenu(m_color);
     for (const NamedColor &named : NamedColors) {
         const QColor color = named.color == 0 ? QColor() : QColor(named.color);
         QAction *action = m_colors->addAction(swatch(color), {});
-        language::setDesignText(action, QString::fromUtf8(named.caption));
+        language::setDesignText(action, named.caption);
         connect(action, &QAction::triggered, this, [this, color] { applyColor(color); });
     }
     m_color->setMenu(m_colors);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "language/texts/text.h"
 #include <array>
 #include <QKeySequence>
 #include <QToolBar>
@@ -31,8 +32,8 @@ Q_SIGNALS:
     void saveWanted();
 
 private:
-    QAction *make(const char *name, const char *caption, const QIcon &icon, const QKeySequence &keys = {});
-    QAction *makeToggle(const char *name, const char *caption, desktop::LineIcon icon, const QKeySequence &keys,
+    QAction *make(const char *name, language::Text caption, const QIcon &icon, const QKeySequence &keys = {});
+    QAction *makeToggle(const char *name, language::Text caption, desktop::LineIcon icon, const QKeySequence &keys,
                         void (TextTools::*apply)(bool));
     void makeFormats();
     void makeEditing();

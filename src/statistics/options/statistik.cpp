@@ -20,18 +20,18 @@ const QString SexSection = u"Geschlecht"_s;
 const std::vector<ChartTypeEntry> &chartTypeEntries()
 {
     static const std::vector<ChartTypeEntry> entries{
-        {chart::ChartType::Bar3D, 20601, "Balken 3D"},
-        {chart::ChartType::Bar, 20602, "Balken"},
-        {chart::ChartType::Line3D, 20603, "Linien 3D"},
-        {chart::ChartType::Line, 20604, "Linien"},
-        {chart::ChartType::Area3D, 20605, "Flächen 3D"},
-        {chart::ChartType::Area, 20606, "Flächen"},
-        {chart::ChartType::Step3D, 20607, "Stufen 3D"},
-        {chart::ChartType::Step, 20608, "Stufen"},
-        {chart::ChartType::Combination3D, 20609, "Kombination 3D"},
-        {chart::ChartType::Combination, 20610, "Kombination"},
-        {chart::ChartType::Pie, 20611, "Kreis"},
-        {chart::ChartType::XY, 20612, "XY-Punkte"},
+        {chart::ChartType::Bar3D, language::Text::ChartBars3D},
+        {chart::ChartType::Bar, language::Text::ChartBars},
+        {chart::ChartType::Line3D, language::Text::ChartLines3D},
+        {chart::ChartType::Line, language::Text::ChartLines},
+        {chart::ChartType::Area3D, language::Text::ChartAreas3D},
+        {chart::ChartType::Area, language::Text::ChartAreas},
+        {chart::ChartType::Step3D, language::Text::ChartSteps3D},
+        {chart::ChartType::Step, language::Text::ChartSteps},
+        {chart::ChartType::Combination3D, language::Text::ChartCombination3D},
+        {chart::ChartType::Combination, language::Text::ChartCombination},
+        {chart::ChartType::Pie, language::Text::ChartPie},
+        {chart::ChartType::XY, language::Text::ChartXY},
     };
     return entries;
 }

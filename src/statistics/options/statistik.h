@@ -3,6 +3,7 @@
 #pragma once
 
 #include "host/host.h"
+#include "language/texts/text.h"
 #include "platform/chart/chart.h"
 #include <array>
 #include <optional>
@@ -15,8 +16,7 @@ namespace kalvenor::statistics {
 /// One entry of `Grafiktyp`: its type is the item's data, its place the number that templates and settings keep.
 struct ChartTypeEntry {
     chart::ChartType type;
-    qint16 textId;
-    const char *germanText; ///< UTF-8
+    language::Text name;
 };
 const std::vector<ChartTypeEntry> &chartTypeEntries();
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/panel/agelistpanel.h"
 
-#include "language/forms/form.h"
 #include "language/forms/widgetform.h"
+#include "language/texts/sprache.h"
 #include "statistics/panel/agelistmodel.h"
 #include "statistics/panel/sexbox.h"
 #include <algorithm>
@@ -22,14 +22,16 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::statistics {
 
+using language::Text;
+
 AgeListPanel::AgeListPanel(StatisticsController &controller, QWidget *parent)
     : QWidget(parent), m_controller(controller),
-      m_model(new AgeListModel(controller.list(), this)), m_sexes{makeSexBox(this, 0, "20512Männer in der Liste"),
-                                                                  makeSexBox(this, 1, "20513Frauen in der Liste")},
+      m_model(new AgeListModel(controller.list(), this)), m_sexes{makeSexBox(this, 0, Text::MenListed),
+                                                                  makeSexBox(this, 1, Text::WomenListed)},
       m_view(new QTableView(this)), m_figures(new QLabel(this))
 {
     m_view->setObjectName(u"Altersliste"_s);
-    language::setDesignText(m_view, u"20502Altersliste"_s);
+    language::setDesignText(m_view, Text::AgeList);
     m_view->setModel(m_model);
     QFont fixedPitch(u"Courier New"_s); // what makes the columns line up
     fixedPitch.setStyleHint(QFont::Monospace);
@@ -77,19 +79,19 @@ AgeListPanel::AgeListPanel(StatisticsController &controller, QWidget *parent)
 
 void AgeListPanel::makeActions()
 {
-    const auto action = [this](const char *name, const char *caption, const QList<QKeySequence> &keys) {
+    const auto action = [this](const char *name, Text caption, const QList<QKeySequence> &keys) {
         auto *made = new QAction(m_view);
         made->setObjectName(QLatin1String(name));
-        language::setDesignText(made, QString::fromUtf8(caption));
+        language::setDesignText(made, caption);
         made->setShortcuts(keys);
         made->setShortcutContext(Qt::WidgetShortcut);
         m_view->addAction(made);
         return made;
     };
-    connect(action("Zeilenkopieren", "20531Zeilen kopieren", QKeySequence::keyBindings(QKeySequence::Copy)),
+    connect(action("Zeilenkopieren", Text::CopyLines, QKeySequence::keyBindings(QKeySequence::Copy)),
             &QAction::triggered, this, &AgeListPanel::copy);
-    connect(action("Personzeigen", "20533Person in der Liste zeigen", {Qt::Key_Return, Qt::Key_Enter}),
-            &QAction::triggered, this, [this] {
+    connect(action("Personzeigen", Text::ShowPersonInList, {Qt::Key_Return, Qt::Key_Enter}), &QAction::triggered, this,
+            [this] {
                 if (m_view->currentIndex().isValid())
                     Q_EMIT personWanted(m_model->counterAt(m_view->currentIndex().row()));
             });
@@ -114,7 +116,7 @@ void AgeListPanel::copy() const
 void AgeListPanel::updateFigures()
 {
     data::Session &session = m_controller.session();
-    m_figures->setText(language::shownText(session.language, 20526, u"%1 Personen, deren Alter berechnet werden kann"_s)
+    m_figures->setText(session.language.text(Text::PersonsWithAge)
                            .arg(language::anzeigesprache(session.host).toString(m_model->rowCount())));
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/panel/chartpanel.h"
 
-#include "language/forms/form.h"
 #include "language/forms/widgetform.h"
+#include "language/texts/sprache.h"
 #include "platform/chart/chartcontrol.h"
 #include "platform/chart/chartpicture.h"
 #include "statistics/figures/grafikbild.h"
@@ -21,15 +21,17 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::statistics {
 
+using language::Text;
+
 namespace {
 
 constexpr QSize SavedSize(1600, 1000);
 constexpr double SavedDpi = 160;
 
-QLabel *heading(QWidget *parent, const char *caption)
+QLabel *heading(QWidget *parent, Text caption)
 {
     auto *label = new QLabel(parent);
-    language::setDesignText(label, QString::fromUtf8(caption));
+    language::setDesignText(label, caption);
     return label;
 }
 
@@ -42,23 +44,21 @@ QLabel *figure(QWidget *parent, const QString &name)
     return label;
 }
 
-QAbstractButton *groupingButton(QWidget *parent, int index, const char *caption, const char *tooltip)
+QAbstractButton *groupingButton(QWidget *parent, int index, Text caption, Text tooltip)
 {
     auto *button = new QRadioButton(parent);
     button->setObjectName(u"gt_ribbon_%1"_s.arg(index));
-    language::setDesignText(button, QString::fromUtf8(caption), QString::fromUtf8(tooltip));
+    language::setDesignText(button, caption, tooltip);
     return button;
 }
 
 } // namespace
 
 ChartPanel::ChartPanel(StatisticsController &controller, QWidget *parent)
-    : QWidget(parent), m_controller(controller), m_type(new QComboBox(this)), m_legend(new QCheckBox(this)),
-      m_grouping{
-          groupingButton(this, 0, "20516Geburtsjahr", "20518Die Grafik ordnet die Personen nach ihrem Geburtsjahr"),
-          groupingButton(this, 1, "20517Sterbejahr", "20519Die Grafik ordnet die Personen nach ihrem Sterbejahr")},
-      m_sexes{makeSexBox(this, 2, "20538Männer"), makeSexBox(this, 3, "20539Frauen")},
-      m_chart(new chart::ChartControl(this))
+    : QWidget(parent), m_controller(controller), m_type(new QComboBox(this)),
+      m_legend(new QCheckBox(this)), m_grouping{groupingButton(this, 0, Text::ByBirth, Text::ByBirthTip),
+                                                groupingButton(this, 1, Text::ByDeath, Text::ByDeathTip)},
+      m_sexes{makeSexBox(this, 2, Text::Men), makeSexBox(this, 3, Text::Women)}, m_chart(new chart::ChartControl(this))
 {
     m_chart->setObjectName(u"Grafik"_s);
     nameActions();
@@ -79,29 +79,24 @@ ChartPanel::ChartPanel(StatisticsController &controller, QWidget *parent)
     setFocusProxy(m_type);
 }
 
-QString ChartPanel::text(qint16 id, const QString &germanText) const
-{
-    return language::shownText(m_controller.session().language, id, germanText);
-}
-
 void ChartPanel::nameActions()
 {
-    language::setDesignText(m_chart->copyAction, u"20626Bild kopieren"_s);
-    language::setDesignText(m_chart->saveAction, u"20627Bild speichern ..."_s);
-    language::setDesignText(m_chart->gridAction, u"20629Gitterlinien"_s);
-    language::setDesignText(m_chart->valuesAction, u"20630Werte anzeigen"_s);
-    language::setDesignText(m_chart->tableAction, u"20631Als Tabelle zeigen"_s);
+    language::setDesignText(m_chart->copyAction, Text::CopyPicture);
+    language::setDesignText(m_chart->saveAction, Text::SavePicture);
+    language::setDesignText(m_chart->gridAction, Text::GridLines);
+    language::setDesignText(m_chart->valuesAction, Text::ShowValues);
+    language::setDesignText(m_chart->tableAction, Text::ShowAsTable);
 }
 
 QWidget *ChartPanel::makeOptions()
 {
     auto *box = new QWidget(this);
     m_type->setObjectName(u"Grafiktyp"_s);
-    m_type->setAccessibleName(text(20600, u"Art der Grafik"_s));
+    m_type->setAccessibleName(m_controller.session().language.text(Text::ChartType));
     for (const ChartTypeEntry &entry : chartTypeEntries())
-        m_type->addItem(text(entry.textId, QString::fromUtf8(entry.germanText)), static_cast<int>(entry.type));
+        m_type->addItem(m_controller.session().language.text(entry.name), static_cast<int>(entry.type));
     m_legend->setObjectName(u"Legende"_s);
-    language::setDesignText(m_legend, u"20520Legende"_s, u"20521Die Legende der Grafik zeigen"_s);
+    language::setDesignText(m_legend, Text::Legend, Text::LegendTip);
     auto *first = new QHBoxLayout;
     first->addWidget(m_type, 1);
     first->addWidget(m_legend);
@@ -121,15 +116,14 @@ QWidget *ChartPanel::makeOptions()
 QWidget *ChartPanel::makeFigures()
 {
     auto *box = new QWidget(this);
-    language::setDesignText(
-        box, u"20534Anzahl, Durchschnittsalter, niedrigstes und höchstes Alter der markierten Personen"_s);
+    language::setDesignText(box, Text::FiguresTip);
     auto *grid = new QGridLayout(box);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(16);
     grid->setVerticalSpacing(2);
-    grid->addWidget(heading(box, "20508Anzahl"), 1, 0);
-    grid->addWidget(heading(box, "20509Durchschnittsalter"), 2, 0);
-    const std::array<const char *, 3> groups{"20505Männer", "20506Frauen", "20507Alle"};
+    grid->addWidget(heading(box, Text::FiguresCount), 1, 0);
+    grid->addWidget(heading(box, Text::FiguresAverage), 2, 0);
+    constexpr std::array groups{Text::Men, Text::Women, Text::All};
     for (int i = 0; i < 3; ++i) {
         const auto place = static_cast<std::size_t>(i);
         grid->addWidget(heading(box, groups[place]), 0, i + 1, Qt::AlignRight);
@@ -143,9 +137,9 @@ QWidget *ChartPanel::makeFigures()
     m_range = figure(box, u"Altersspanne"_s);
     m_withoutDate = figure(box, u"OhneDatum"_s);
     m_leftOut = figure(box, u"Ausgelassen"_s);
-    grid->addWidget(heading(box, "20510Niedrigstes | höchstes Alter"), 3, 0);
+    grid->addWidget(heading(box, Text::FiguresRange), 3, 0);
     grid->addWidget(m_range, 3, 1, 1, 4);
-    grid->addWidget(heading(box, "20511Nicht berücksichtigt"), 4, 0, Qt::AlignTop);
+    grid->addWidget(heading(box, Text::FiguresLeftOut), 4, 0, Qt::AlignTop);
     grid->addWidget(m_withoutDate, 4, 1, 1, 4);
     grid->addWidget(m_leftOut, 5, 1, 1, 4);
     grid->setColumnStretch(4, 1);
@@ -198,12 +192,14 @@ void ChartPanel::showFigures()
     const QLocale locale = language::anzeigesprache(m_controller.session().host);
     QStringList left;
     if (figures.zahlen.nichtNachGeburt > 0)
-        left << text(20528, u"%1 Personen, die nicht nach ihrer Geburt gestorben sind"_s)
+        left << m_controller.session()
+                    .language.text(Text::PersonsNotDiedAfterBirth)
                     .arg(locale.toString(figures.zahlen.nichtNachGeburt));
-    m_unknownSex->setText(
-        figures.zahlen.ohneGeschlecht == 0
-            ? QString()
-            : text(20540, u"(%1 ohne Angabe des Geschlechts)"_s).arg(locale.toString(figures.zahlen.ohneGeschlecht)));
+    m_unknownSex->setText(figures.zahlen.ohneGeschlecht == 0
+                              ? QString()
+                              : m_controller.session()
+                                    .language.text(Text::UnknownSexCount)
+                                    .arg(locale.toString(figures.zahlen.ohneGeschlecht)));
     m_leftOut->setText(left.join(u'\n'));
     m_leftOut->setVisible(!left.isEmpty());
     m_chart->setTable(figures.tabelle);
@@ -213,16 +209,18 @@ void ChartPanel::showFigures()
 void ChartPanel::savePicture()
 {
     desktop::Desktop &desktop = m_controller.session().host.desktop();
-    const QString file = desktop.saveFileName(window(), {.title = text(20628, u"Bild speichern unter"_s),
-                                                         .filters = u"PNG (*.png);;JPEG (*.jpg);;SVG (*.svg)"_s,
-                                                         .suffix = u"png"_s});
+    const QString file =
+        desktop.saveFileName(window(), {.title = m_controller.session().language.text(Text::SavePictureAs),
+                                        .filters = u"PNG (*.png);;JPEG (*.jpg);;SVG (*.svg)"_s,
+                                        .suffix = u"png"_s});
     if (file.isEmpty())
         return;
     try {
         chart::writeChart(m_chart->table(), m_chart->look(), SavedSize, file, 92, SavedDpi);
-        Q_EMIT said(text(20312, u"Gespeichert: %1"_s).arg(file));
+        Q_EMIT said(m_controller.session().language.text(Text::Saved).arg(file));
     } catch (const basic::Error &error) {
-        desktop.messageBox(error.message(), desktop::MessageCritical, text(21020, u"Fehler"_s));
+        desktop.messageBox(error.message(), desktop::MessageCritical,
+                           m_controller.session().language.text(Text::Error));
     }
 }
 

@@ -43,7 +43,6 @@ private:
     void nameActions();
     void showFigures();
     void savePicture();
-    QString text(qint16 id, const QString &germanText) const;
 
     StatisticsController &m_controller;
     // In the order in which Tab goes through them.

@@ -9,12 +9,12 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::statistics {
 
-QCheckBox *makeSexBox(QWidget *parent, int index, const char *caption)
+QCheckBox *makeSexBox(QWidget *parent, int index, language::Text caption)
 {
     auto *box = new QCheckBox(parent);
     box->setObjectName(u"geschlechtalter_%1"_s.arg(index));
     box->setChecked(true);
-    language::setDesignText(box, QString::fromUtf8(caption));
+    language::setDesignText(box, caption);
     return box;
 }
 

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/panel/statisticscontroller.h"
 
-#include "language/forms/form.h"
 #include "language/progress/userwork.h"
+#include "language/texts/sprache.h"
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::statistics {
+
+using language::Text;
 
 namespace {
 
@@ -22,11 +24,6 @@ StatisticsController::StatisticsController(data::Session &session, desktop::Work
     : QObject(parent), m_session(session), m_work(work)
 {
     connect(&session, &data::Session::databaseExchanged, this, &StatisticsController::forget);
-}
-
-QString StatisticsController::text(qint16 id, const QString &germanText) const
-{
-    return language::shownText(m_session.language, id, germanText);
 }
 
 bool StatisticsController::perform(const QString &what, const desktop::Work::Task &task)
@@ -55,17 +52,16 @@ bool StatisticsController::alterslistenausgabe(const GeschlechtAlter &geschlecht
     clock.start();
     qint64 shown = 0;
     qint64 marked = 0;
-    const bool done =
-        perform(text(20344, u"Die Altersliste wird berechnet ..."_s), [&](const basic::Progress &progress) {
-            marked = statistics::alterslistenausgabe(m_session.databases, geschlechtalter, m_list,
-                                                     [&](qint64 step, qint64 total) {
-                                                         if (clock.elapsed() - shown >= GrowEveryMs) {
-                                                             Q_EMIT listGrew();
-                                                             shown = clock.elapsed();
-                                                         }
-                                                         return progress(step, total);
-                                                     });
-        });
+    const bool done = perform(m_session.language.text(Text::ComputingAgeList), [&](const basic::Progress &progress) {
+        marked = statistics::alterslistenausgabe(m_session.databases, geschlechtalter, m_list,
+                                                 [&](qint64 step, qint64 total) {
+                                                     if (clock.elapsed() - shown >= GrowEveryMs) {
+                                                         Q_EMIT listGrew();
+                                                         shown = clock.elapsed();
+                                                     }
+                                                     return progress(step, total);
+                                                 });
+    });
     m_listCurrent = done;
     if (marked > 0)
         m_session.host.desktop().setPointer(desktop::Pointer::Custom);
@@ -75,7 +71,7 @@ bool StatisticsController::alterslistenausgabe(const GeschlechtAlter &geschlecht
 
 bool StatisticsController::grafikermitteln(const Statistik &statistik)
 {
-    const bool done = perform(text(20345, u"Die Grafik wird berechnet ..."_s), [&](const basic::Progress &progress) {
+    const bool done = perform(m_session.language.text(Text::ComputingChart), [&](const basic::Progress &progress) {
         m_figures = statistics::grafikermitteln(m_session.databases, statistik, progress);
     });
     m_figuresCurrent = done;

@@ -45,7 +45,6 @@ Q_SIGNALS:
 
 private:
     bool perform(const QString &what, const desktop::Work::Task &task);
-    QString text(qint16 id, const QString &germanText) const;
 
     data::Session &m_session;
     desktop::Work &m_work;

@@ -19,6 +19,8 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::statistics {
 
+using language::Text;
+
 namespace {
 
 constexpr int PauseMs = 120;
@@ -34,17 +36,17 @@ StatisticsPanel::StatisticsPanel(StatisticsController &controller, QWidget *pare
     m_title->setObjectName(u"Statistiktitel"_s);
     m_title->setMaxLength(250);
     auto *titleLabel = new QLabel(this);
-    language::setDesignText(titleLabel, u"20535Tit&el"_s);
-    language::setDesignText(m_title, u"20504Altersstatistik der Familie"_s, u"20503Titel der Statistik"_s);
+    language::setDesignText(titleLabel, Text::TitleLabel);
+    language::setDesignText(m_title, Text::StatisticTitleHint, Text::StatisticTitle);
     titleLabel->setBuddy(m_title);
 
     m_tabs->setObjectName(u"statistiktab"_s);
     m_tabs->addTab(m_introduction, {});
     m_tabs->addTab(m_chart, {});
     m_tabs->addTab(m_list, {});
-    language::setDesignTab(m_tabs, Introduction, u"20500Einleitung"_s);
-    language::setDesignTab(m_tabs, Chart, u"20501Grafik"_s);
-    language::setDesignTab(m_tabs, AgeList, u"20502Altersliste"_s);
+    language::setDesignTab(m_tabs, Introduction, Text::Introduction);
+    language::setDesignTab(m_tabs, Chart, Text::Chart);
+    language::setDesignTab(m_tabs, AgeList, Text::AgeList);
 
     auto *head = new QHBoxLayout;
     head->addWidget(titleLabel);
@@ -82,10 +84,10 @@ QWidget *StatisticsPanel::makeNoticeBar()
     bar->setFrameShape(QFrame::StyledPanel);
     auto *label = new QLabel(bar);
     label->setWordWrap(true);
-    language::setDesignText(label, u"20536Was hier steht, ist nicht auf dem neuesten Stand."_s);
+    language::setDesignText(label, Text::OutOfDate);
     auto *compute = new QPushButton(bar);
     compute->setObjectName(u"Neuberechnen"_s);
-    language::setDesignText(compute, u"20537Neu berechnen"_s);
+    language::setDesignText(compute, Text::ComputeAgain);
     connect(compute, &QPushButton::clicked, this, &StatisticsPanel::computeShown);
     auto *row = new QHBoxLayout(bar);
     row->setContentsMargins(8, 2, 2, 2);

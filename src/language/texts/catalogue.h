@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "language/texts/text.h"
+#include <QString>
+#include <span>
+
+// The wording of every text, in the two languages that the program itself speaks. A host's language database is asked
+// first; demonstration hosts get theirs from here. At most 255 characters each, all of Windows-1252.
+namespace kalvenor::language {
+
+struct CatalogueText {
+    Text id;
+    const char16_t *deutsch;
+    const char16_t *english;
+};
+
+std::span<const CatalogueText> hostTexts();       ///< below 20000: the host's own
+std::span<const CatalogueText> windowTexts();     ///< 20000–20499: main window, menus, tool bar, status bar, filter
+std::span<const CatalogueText> statisticsTexts(); ///< 20500–20799: tabs, figures, chart, editor
+std::span<const CatalogueText> printTexts();      ///< 20800–20999: print settings, preview, report
+std::span<const CatalogueText> messageTexts();    ///< 21000 and up: messages, about, first run, help, templates
+
+/// All of them, a group after the other.
+std::span<const CatalogueText> catalogue();
+
+enum class CatalogueLanguage { German, English };
+
+/// The wording of a text; null where the catalogue does not have it.
+QString wording(Text id, CatalogueLanguage language);
+
+} // namespace kalvenor::language

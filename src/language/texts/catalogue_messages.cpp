@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "language/texts/catalogue.h"
+
+namespace kalvenor::language {
+
+namespace {
+
+constexpr CatalogueText Texts[] = {
+    // Buttons
+    {Text::Close, u"Schließen", u"Close"},
+    // Titles of messages
+    {Text::Error, u"Fehler", u"Error"},
+    {Text::Question, u"Frage", u"Question"},
+    // Messages: databases and files
+    {Text::FileNotFound, u"Die Datei wurde nicht gefunden: %1", u"The file was not found: %1"},
+    {Text::FileNotReadable, u"Die Datei kann nicht gelesen werden: %1", u"The file cannot be read: %1"},
+    {Text::FileDamaged, u"Die Datei ist beschädigt: %1", u"The file is damaged: %1"},
+    {Text::FileInUse,
+     u"Die Datei wird von einem anderen Programm benutzt. Schließen Sie sie dort und versuchen Sie es noch einmal.",
+     u"Another program is using the file. Close it there and try again."},
+    {Text::HostTableMissing, u"Die Tabelle %1 fehlt in %2. Die Installation des Hauptprogramms ist nicht vollständig.",
+     u"The table %1 is missing in %2. The installation of the main program is not complete."},
+    {Text::NoPictureConversion, u"Die Bildumwandlung steht nicht zur Verfügung; das Bild wird als BMP gespeichert.",
+     u"Picture conversion is not available; the picture is saved as BMP."},
+    {Text::ReportFailed, u"Der Bericht konnte nicht erstellt werden: %1", u"The report could not be made: %1"},
+    {Text::ErrorPrefix, u"Fehler:", u"Error:"},
+    // About box
+    {Text::AboutKalvenor, u"Über Kalvenor", u"About Kalvenor"},
+    {Text::EventSymbols, u"Zeichen der Ereignisse", u"Symbols of the events"},
+    {Text::LibrariesUsed, u"Verwendete Bibliotheken", u"Libraries used"},
+    {Text::AboutDescription, u"Altersstatistik zu einer Familiendatenbank", u"Age statistic of a family database"},
+    {Text::AboutLicence, u"Kalvenor ist freie Software unter der GNU General Public License, Version 3 oder später.",
+     u"Kalvenor is free software under the GNU General Public License, version 3 or later."},
+    {Text::EventPicture, u"Bild", u"Picture"},
+    {Text::EventSymbol, u"Zeichen", u"Symbol"},
+    {Text::EventName, u"Ereignis", u"Event"},
+    // First run
+    {Text::Welcome, u"Willkommen", u"Welcome"},
+    {Text::NoHostFound,
+     u"Kalvenor wird aus einem Ordner unterhalb des Hauptprogramms gestartet. Hier wurde kein Hauptprogramm gefunden.",
+     u"Kalvenor is started from a folder below the main program. No main program was found here."},
+    {Text::ChooseFamily, u"Familiendatenbank wählen ...", u"Choose family database ..."},
+    {Text::MakeDemo, u"Beispieldaten anlegen ...", u"Make demonstration data ..."},
+    {Text::FamilyMissing, u"Die Familiendatenbank %1 ist nicht vorhanden.", u"The family database %1 does not exist."},
+    {Text::NoFamilyDatabase, u"Die Datei %1 ist keine Familiendatenbank.", u"The file %1 is not a family database."},
+    {Text::UnknownDatabaseFormat, u"Diese Datenbank hat ein Format, das nicht gelesen werden kann: %1",
+     u"This database has a format that cannot be read: %1"},
+    {Text::FamilyLocked, u"Die Familiendatenbank ist gesperrt, weil ein anderes Programm sie allein benutzt.",
+     u"The family database is locked because another program uses it exclusively."},
+    {Text::ChooseDemoFolder, u"Ordner für die Beispieldaten wählen", u"Choose a folder for the demonstration data"},
+    {Text::MakingDemo, u"Die Beispieldaten werden angelegt ...", u"The demonstration data are being made ..."},
+    {Text::DemoMade, u"Die Beispieldaten liegen in %1.", u"The demonstration data are in %1."},
+    {Text::FamilyDatabases, u"Familiendatenbanken (*.mdb)", u"Family databases (*.mdb)"},
+    {Text::OpenFamily, u"Familiendatenbank öffnen", u"Open family database"},
+    {Text::HostSettingsMissing, u"Die Einstellungen des Hauptprogramms fehlen: %1",
+     u"The settings of the main program are missing: %1"},
+    {Text::TextDatabaseMissing, u"Die Textdatenbank fehlt: %1", u"The text database is missing: %1"},
+    {Text::ChooseHostFolder, u"Ordner des Hauptprogramms wählen ...", u"Choose the main program's folder ..."},
+    {Text::NoHostInFolder, u"In %1 liegt kein Hauptprogramm: Dort fehlt programm.ini.",
+     u"There is no main program in %1: it has no programm.ini."},
+    {Text::NoFamilyNamed, u"In %1 ist keine Familiendatenbank genannt.", u"No family database is named in %1."},
+    {Text::UnknownDrive, u"Für das Laufwerk %1 ist kein Ordner bekannt. Nennen Sie ihn in %2, Abschnitt [Laufwerke].",
+     u"No folder is known for the drive %1. Name it in %2, section [Laufwerke]."},
+    {Text::HostFolderTip, u"Der Ordner, in dem programm.ini liegt", u"The folder that holds programm.ini"},
+    {Text::ChooseFamilyTip, u"Nur für diesmal; das Hauptprogramm behält seine eigene",
+     u"For this time only; the main program keeps its own"},
+    {Text::MakeDemoTip, u"Ein Hauptprogramm mit einer erfundenen Familie, zum Ausprobieren",
+     u"A main program with an invented family, to try things out"},
+    // Help
+    {Text::HelpBack, u"Zurück", u"Back"},
+    {Text::HelpForward, u"Vorwärts", u"Forward"},
+    {Text::HelpNothingFound, u"Nichts gefunden.", u"Nothing found."},
+    {Text::Shortcuts, u"Tastenkürzel", u"Keyboard shortcuts"},
+    {Text::Manual, u"Anleitung", u"Manual"},
+    {Text::SearchManual, u"In der Anleitung suchen", u"Search the manual"},
+    {Text::LargerText, u"Größere Schrift", u"Larger text"},
+    {Text::SmallerText, u"Kleinere Schrift", u"Smaller text"},
+    {Text::NextMatch, u"Nächste Fundstelle", u"Next match"},
+    {Text::PreviousMatch, u"Vorige Fundstelle", u"Previous match"},
+    // Templates
+    {Text::OpenTemplate, u"Vorlage öffnen", u"Open template"},
+    {Text::SaveTemplateAs, u"Vorlage speichern unter", u"Save template as"},
+    {Text::Templates, u"Vorlagen (*.kvl)", u"Templates (*.kvl)"},
+    {Text::TemplateDamaged, u"Die Vorlage ist beschädigt (Zeile %1): %2", u"The template is damaged (line %1): %2"},
+    {Text::TemplateDatabaseMissing, u"Die Vorlage gehört zu einer Datenbank, die nicht vorhanden ist: %1",
+     u"The template belongs to a database that does not exist: %1"},
+    {Text::OpenWithThisDatabase, u"Mit der geöffneten Datenbank öffnen", u"Open with the database at hand"},
+    {Text::TemplatePersonsMissing, u"%1 Personen der Vorlage sind nicht in der Datenbank.",
+     u"%1 persons of the template are not in the database."},
+    {Text::SaveChangedTemplate, u"Titel oder Einleitung wurden geändert. Soll die Vorlage gespeichert werden?",
+     u"Title or introduction have been changed. Save the template?"},
+    {Text::OpeningTemplate, u"Die Vorlage wird geöffnet ...", u"The template is being opened ..."},
+    {Text::NoTemplate, u"Keine Vorlage", u"No template"},
+    {Text::Untitled, u"Unbenannt", u"Untitled"},
+    {Text::NoTemplateFile, u"Das ist keine Vorlage: %1", u"This is not a template: %1"},
+};
+
+} // namespace
+
+std::span<const CatalogueText> messageTexts()
+{
+    return Texts;
+}
+
+} // namespace kalvenor::language
