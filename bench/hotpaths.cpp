@@ -94,8 +94,8 @@ void pdf(benchmark::State &state)
 {
     print::PrintDocument document;
     document.footer.text = u"||%d"_s;
-    document.add(
-        print::TableStart{print::columnsFromFormat(u"<6000|^1700|>1500"), {{{u"Name"_s}, {u"Born"_s}, {u"Age"_s}}}});
+    document.add(print::TableStart{{{.width = 6000}, {print::Alignment::Centre, 1700}, {print::Alignment::Right, 1500}},
+                                   {{{u"Name"_s}, {u"Born"_s}, {u"Age"_s}}}});
     for (qsizetype i = 0; i < state.range(0); ++i)
         document.add(print::TableRow{{{names()[i % 1000]}, {u"12.03.1801"_s}, {QString::number(i % 97)}}});
     const QTemporaryDir folder;

@@ -20,7 +20,7 @@ print::PrintDocument listOf(int rows)
     document.title = u"Ages"_s;
     document.footer.text = u"||%d"_s;
     const print::StyleId bold = document.addStyle({.bold = true});
-    document.add(print::TableStart{print::columnsFromFormat(u"<6000|^1700|>1500"),
+    document.add(print::TableStart{{{.width = 6000}, {print::Alignment::Centre, 1700}, {print::Alignment::Right, 1500}},
                                    {{{u"Name"_s, bold}, {u"Born"_s, bold}, {u"Age"_s, bold}}}});
     for (int i = 0; i < rows; ++i)
         document.add(print::TableRow{

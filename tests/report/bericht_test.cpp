@@ -6,10 +6,12 @@
 #include "demo/host/demohost.h"
 #include "platform/basic/codepage.h"
 #include "platform/basic/error.h"
+#include "platform/print/htmlwriter.h"
 #include "platform/print/pdfwriter.h"
 #include "platform/richtext/rtfreader.h"
 #include "report/export/htmlexport.h"
 #include "support/fakedesktop.h"
+#include "support/faultystorage.h"
 #include "support/fixtures.h"
 #include <gtest/gtest.h>
 #include <QDir>
@@ -334,5 +336,42 @@ TEST_F(BerichtTest, NonsenseInTheSettingsBreaksNothing)
         run(print::ExportFormat::Pages, {});
         EXPECT_GE(print.layout()->pages().size(), 2U) << value;
         EXPECT_FALSE(run(print::ExportFormat::Rtf, folder.filePath("n.rtf")).isEmpty());
+    }
+}
+
+TEST_F(BerichtTest, AnOldPageStaysUntilTheNewOneIsWhole)
+{
+    using namespace test;
+    FaultyStorage storage;
+    print::PrintDocument document;
+    document.add(print::Paragraph{.text = u"<b>"_s});
+    const QString native = folder.filePath("p.html"), page = basic::windowsPath(native);
+    const auto make = [&] {
+        print::writeHtmlFile(document, program.host.native(rawPage(page)), {});
+        htmlnachbearbeiten(program.host, page);
+    };
+    make();
+    const QByteArray whole = read(native);
+    EXPECT_TRUE(whole.contains("<b>"));
+    for (const Fault fault : {Fault::Fails, Fault::CutShort}) {
+        bool failed = false;
+        const auto work = [&] {
+            failed = false;
+            try {
+                make();
+            } catch (const basic::Error &) {
+                failed = true;
+            }
+        };
+        const auto check = [&](Call struck) {
+            EXPECT_EQ(failed, fault == Fault::Fails && struck != Call::None);
+            const QByteArray now = read(native);
+            EXPECT_TRUE(now == whole || (failed && now == "old"));
+            if (struck == Call::SyncFolder) // the raw page is in its place, but told as not safe
+                QFile::remove(folder.filePath("p.htmlx"));
+            EXPECT_EQ(QDir(folder.path()).entryList({"p.*"}, QDir::Files), QStringList{"p.html"});
+        };
+        atEachCall(
+            storage, fault, [&] { write(native, "old"); }, work, check);
     }
 }

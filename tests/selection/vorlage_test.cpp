@@ -3,6 +3,7 @@
 #include "selection/templates/vorlage.h"
 
 #include "platform/basic/error.h"
+#include "support/faultystorage.h"
 #include <gtest/gtest.h>
 #include <QFile>
 #include <QTemporaryDir>
@@ -157,4 +158,29 @@ TEST_F(VorlageFile, NothingIsLostWhereItCannotBeWritten)
     EXPECT_EQ(content(), "before");
     file = folder.filePath("no/such/folder.kvl");
     EXPECT_TRUE(refused(wholeVorlage()).contains("not saved"));
+}
+
+TEST_F(VorlageFile, StaysWholeWhereSavingFails)
+{
+    using namespace test;
+    FaultyStorage storage;
+    writeVorlage(file, wholeVorlage());
+    const QByteArray saved = content();
+    for (const Fault fault : {Fault::Fails, Fault::CutShort}) {
+        bool failed = false;
+        const auto save = [&] {
+            failed = false;
+            try {
+                writeVorlage(file, wholeVorlage());
+            } catch (const basic::Error &) {
+                failed = true;
+            }
+        };
+        const auto check = [&](Call struck) {
+            EXPECT_EQ(failed, fault == Fault::Fails && struck != Call::None);
+            EXPECT_EQ(content(), failed && struck != Call::SyncFolder ? "old" : saved);
+        };
+        atEachCall(
+            storage, fault, [&] { put("old"); }, save, check);
+    }
 }

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../support/columns.h"
 #include "settings/preview/pageview.h"
 
 #include "settings/dialog/controltexts.h"
@@ -144,7 +145,7 @@ TEST(PageSearch, FindsTexts)
     print::PrintDocument document = test::pagesOf(3);
     const print::StyleId bold = document.addStyle({.bold = true});
     document.add(print::RichParagraph{.runs = {{u"Groß"_s, bold}, {u"vater"_s}}});
-    document.add(print::TableStart{.columns = print::columnsFromFormat(u"<3000|>900")});
+    document.add(print::TableStart{.columns = test::columns(u"<3000|>900")});
     document.add(print::TableRow{.cells = {{u"Adler, Hans"_s}, {u"71"_s}}});
     const auto layout = std::make_shared<const print::PageLayout>(document);
     const struct {

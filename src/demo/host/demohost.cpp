@@ -8,7 +8,7 @@
 #include "platform/basic/codepage.h"
 #include "platform/basic/error.h"
 #include "platform/basic/path.h"
-#include "platform/storage/file.h"
+#include "platform/storage/replacement.h"
 #include <QDir>
 #include <QFileInfo>
 

@@ -5,7 +5,7 @@
 #include "platform/basic/error.h"
 #include "platform/chart/chartdrawing.h"
 #include "platform/chart/svgcanvas.h"
-#include "platform/storage/file.h"
+#include "platform/storage/replacement.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,13 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/desktop/imagecomponent.h"
 
+#include "platform/storage/replacement.h"
+
 #include <algorithm>
 #include <map>
 #include <mutex>
+#include <QBuffer>
 #include <QImage>
 #include <QImageReader>
 #include <QImageWriter>
-#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
@@ -51,14 +53,15 @@ public:
             image.setDotsPerMeterX(dotsPerMeter);
             image.setDotsPerMeterY(dotsPerMeter);
         }
-        QSaveFile file(outputFile); // an old picture stays whole until the new one is
-        if (!file.open(QIODevice::WriteOnly))
-            return outputFile + u": "_s + file.errorString();
-        QImageWriter writer(&file, "jpeg");
+        QBuffer bytes;
+        QImageWriter writer(&bytes, "jpeg");
         writer.setQuality(std::clamp(quality, 0, 100));
         if (!writer.write(image))
             return outputFile + u": "_s + writer.errorString();
-        return file.commit() ? QString() : outputFile + u": "_s + file.errorString();
+        QString reason;
+        if (!storage::replaceFileSafely(outputFile, bytes.data(), &reason))
+            return outputFile + u": "_s + reason;
+        return {};
     }
 };
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/storage/replacement.h"
 #include <QIODevice>
-#include <QSaveFile>
 #include <QString>
 
 namespace kalvenor::print {
@@ -33,8 +33,8 @@ private:
     [[noreturn]] void fail(const QString &text) const;
 
     QString m_kind;
-    QSaveFile m_file;
-    bool m_failed = false;
+    QString m_path;
+    storage::Replacement m_file;
 };
 
 } // namespace kalvenor::print

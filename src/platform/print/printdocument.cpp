@@ -17,22 +17,6 @@ namespace {
     throw basic::Error(basic::ErrorKind::InvalidProcedureCall, u"print document"_s, text);
 }
 
-std::optional<Alignment> alignmentOf(QChar sign)
-{
-    switch (sign.unicode()) {
-    case u'<':
-        return Alignment::Left;
-    case u'^':
-        return Alignment::Centre;
-    case u'>':
-        return Alignment::Right;
-    case u'=':
-        return Alignment::Justified;
-    default:
-        return {};
-    }
-}
-
 void checkSpace(Twips before, Twips after)
 {
     if (before < 0 || after < 0)
@@ -46,25 +30,6 @@ void checkLevel(int level)
 }
 
 } // namespace
-
-std::vector<Column> columnsFromFormat(QStringView format)
-{
-    std::vector<Column> columns;
-    for (QStringView part : format.split(u'|')) {
-        part = part.trimmed();
-        Column column;
-        if (const auto alignment = part.isEmpty() ? std::nullopt : alignmentOf(part.front())) {
-            column.alignment = *alignment;
-            part = part.mid(1);
-        }
-        bool isNumber = false;
-        column.width = part.toInt(&isNumber);
-        if (!isNumber || column.width < 0)
-            refuse(u"\"%1\" is not a column format such as \"<4000|>900\"."_s.arg(format));
-        columns.push_back(column);
-    }
-    return columns;
-}
 
 std::array<QString, 3> runningTextParts(QStringView text, int pageNumber)
 {

@@ -55,10 +55,6 @@ struct Column {
     bool operator==(const Column &) const = default;
 };
 
-/// Columns from a format text such as "<4000|^1200|>900": alignment sign (< left, ^ centre, > right, = justified,
-/// left without one) and width. Throws Error(InvalidProcedureCall) for anything else.
-std::vector<Column> columnsFromFormat(QStringView format);
-
 /// The outline of a document has this many levels.
 constexpr int DeepestOutlineLevel = 3;
 

@@ -8,7 +8,7 @@
 #include <QStringView>
 
 #include "platform/basic/codepage.h"
-#include "platform/storage/file.h"
+#include "platform/storage/replacement.h"
 
 using namespace Qt::StringLiterals;
 
@@ -177,8 +177,10 @@ QByteArray readWhole(const QString &nativeFile, storage::FileFault &fault)
     fault = file.fault();
     if (!file.isOpen())
         return {};
-    QByteArray bytes(qMax(file.size(), 0), '\0');
-    if (!file.readAt(0, {reinterpret_cast<std::uint8_t *>(bytes.data()), static_cast<std::size_t>(bytes.size())})) {
+    const qint64 size = file.size();
+    QByteArray bytes(qMax(size, 0), '\0');
+    if (size < 0 ||
+        !file.readAt(0, {reinterpret_cast<std::uint8_t *>(bytes.data()), static_cast<std::size_t>(bytes.size())})) {
         fault = storage::FileFault::Other;
         return {};
     }

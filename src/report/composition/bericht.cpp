@@ -106,7 +106,7 @@ QString Bericht::auswahldrucken(const ReportContent &content, print::ExportTarge
         m_print.setDocument(std::move(document), progress);
         break;
     case print::ExportFormat::Html:
-        print::writeHtmlFile(document, host.native(target.file), progress);
+        print::writeHtmlFile(document, host.native(rawPage(target.file)), progress);
         htmlnachbearbeiten(host, target.file);
         break;
     case print::ExportFormat::Rtf:

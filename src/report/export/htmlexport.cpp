@@ -4,7 +4,7 @@
 
 #include "platform/basic/error.h"
 #include "platform/basic/text.h"
-#include "platform/storage/file.h"
+#include "platform/storage/replacement.h"
 #include <QDir>
 #include <QFile>
 #include <QScopeGuard>
@@ -88,23 +88,25 @@ QString personLink(const QString &page, const QString &pictureFile, const QStrin
            Quote + alternativeText + Quote + u'>';
 }
 
+QString rawPage(const QString &exportFile)
+{
+    return exportFile + u'x';
+}
+
 void htmlnachbearbeiten(const host::Host &host, const QString &exportFile)
 {
-    if (host.dir(exportFile).isEmpty())
-        return;
-    const QString page = host.native(exportFile);
-    const QString copy = page + u'x';
-    QFile::remove(copy);
+    const QString copy = host.native(rawPage(exportFile));
     const auto removeCopy = qScopeGuard([&copy] { QFile::remove(copy); });
-    if (!QFile::copy(page, copy))
-        failed(exportFile, u"there is no room for a copy beside it"_s);
     QFile source(copy);
     if (!source.open(QIODevice::ReadOnly))
         failed(exportFile, source.errorString());
-    QString why;
-    if (!storage::replaceFileSafely(page, withTags(source.readAll()), &why))
-        failed(exportFile, why);
+    const QByteArray page = source.readAll();
+    if (source.error() != QFileDevice::NoError)
+        failed(exportFile, source.errorString());
     source.close();
+    QString why;
+    if (!storage::replaceFileSafely(host.native(exportFile), withTags(page), &why))
+        failed(exportFile, why);
 
     QDir folder(host.native(folderOf(exportFile)));
     const QStringList copies = folder.entryList({u"*.htmlx"_s}, QDir::Files);

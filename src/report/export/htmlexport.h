@@ -31,8 +31,11 @@ QString personPage(qint32 counter, const QString &reportName);
 /// The link to a person's page, around what follows in the cell. The page's name stands without quotes.
 QString personLink(const QString &page, const QString &pictureFile, const QString &alternativeText);
 
-/// Turns every "&lt;" and "&gt;" of the exported page back, so that the tags among the text are tags. Deletes every
-/// ".htmlx" file of the folder. Nothing where there is no such page. Throws Error(WriteFailed).
+/// Where the page is written as it is, beside its place: an old page stays until the new one is whole.
+QString rawPage(const QString &exportFile);
+
+/// Makes the page of the raw one: turns every "&lt;" and "&gt;" back, so that the tags among the text are tags. Deletes
+/// every ".htmlx" file of the folder, the raw page among them. Throws Error(WriteFailed).
 void htmlnachbearbeiten(const host::Host &host, const QString &exportFile);
 
 } // namespace kalvenor::report

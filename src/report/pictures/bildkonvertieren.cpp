@@ -7,13 +7,14 @@
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
 #include "platform/desktop/sharedlibrary.h"
+#include "platform/storage/replacement.h"
 #include <algorithm>
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QPainter>
-#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
@@ -48,14 +49,13 @@ QImage onPaper(const QImage &image)
 
 void writeBmp(const QImage &image, const QString &nativeFile)
 {
-    QSaveFile file(nativeFile);
-    if (!file.open(QIODevice::WriteOnly))
-        cannotWrite(nativeFile, file.errorString());
-    QImageWriter writer(&file, "bmp");
+    QBuffer bytes;
+    QImageWriter writer(&bytes, "bmp");
     if (!writer.write(onPaper(image)))
         cannotWrite(nativeFile, writer.errorString());
-    if (!file.commit())
-        cannotWrite(nativeFile, file.errorString());
+    QString reason;
+    if (!storage::replaceFileSafely(nativeFile, bytes.data(), &reason))
+        cannotWrite(nativeFile, reason);
 }
 
 /// Gives the file exactly this name, where its old name may differ in case alone. False where that fails.

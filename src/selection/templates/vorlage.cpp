@@ -5,7 +5,7 @@
 #include "platform/basic/codepage.h"
 #include "platform/basic/error.h"
 #include "platform/basic/sequential.h"
-#include "platform/storage/file.h"
+#include "platform/storage/replacement.h"
 #include <limits>
 #include <QList>
 #include <QStringList>

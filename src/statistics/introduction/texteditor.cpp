@@ -7,7 +7,7 @@
 #include "language/texts/sprache.h"
 #include "platform/richtext/rtfreader.h"
 #include "platform/richtext/rtfwriter.h"
-#include "platform/storage/file.h"
+#include "platform/storage/replacement.h"
 #include "statistics/introduction/documentcopy.h"
 #include "statistics/introduction/textfield.h"
 #include "statistics/introduction/texttools.h"

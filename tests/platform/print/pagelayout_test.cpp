@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../../support/columns.h"
 #include "platform/print/pagelayout.h"
 
 #include "platform/basic/error.h"
@@ -156,7 +157,7 @@ TEST(PageLayout, TextsNeitherMeetNorLeaveTheirLine)
                 document.header.text = QStringList{name, name, name}.join(u'|');
                 document.footer.text = QStringList{name, QString(), name}.join(u'|');
             }
-            std::vector<Column> columns = columnsFromFormat(format);
+            std::vector<Column> columns = test::columns(format);
             for (Column &column : columns)
                 column.overflow = overflow;
             document.add(TableStart{columns});

@@ -32,17 +32,6 @@ TEST(RunningText, SplitsAtBarsAndNumbersPages)
     }
 }
 
-TEST(ColumnFormat, ReadsSignsAndWidths)
-{
-    const std::vector<Column> expected{
-        {Alignment::Left, 4000},   {Alignment::Centre, 1200}, {Alignment::Right, 900},
-        {Alignment::Justified, 0}, {Alignment::Left, 5},
-    };
-    EXPECT_EQ(columnsFromFormat(u"<4000|^1200| >900 |=0|5"), expected);
-    for (const QString &bad : {u""_s, u"<"_s, u"<12|"_s, u"<x"_s, u"<-5"_s, u"<1.5"_s, u"<99999999999"_s})
-        EXPECT_THROW(columnsFromFormat(bad), basic::Error) << qPrintable(bad);
-}
-
 TEST(PrintDocument, SharesEqualStyles)
 {
     PrintDocument document;

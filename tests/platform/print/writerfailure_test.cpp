@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../../support/columns.h"
+#include "../../support/faultystorage.h"
 #include "platform/basic/error.h"
 #include "platform/print/htmlwriter.h"
 #include "platform/print/pdfwriter.h"
@@ -39,7 +41,7 @@ class WriterFailure : public testing::Test {
 protected:
     void SetUp() override
     {
-        m_document.add(TableStart{columnsFromFormat(u"<5000|>1200")});
+        m_document.add(TableStart{test::columns(u"<5000|>1200")});
         for (int i = 1; i <= 2000; ++i)
             m_document.add(TableRow{{{u"Müller-Łódź, Jürgen Ελένη "_s + QString::number(i)}, {u"77 J."_s}}});
     }
@@ -108,6 +110,35 @@ TEST_F(WriterFailure, UnwritablePlaceIsSaid)
                 EXPECT_EQ(error.kind(), basic::ErrorKind::WriteFailed) << error.what();
                 EXPECT_TRUE(error.text().contains(QLatin1String(writer.name))) << error.what();
             }
+        }
+    }
+}
+
+TEST_F(WriterFailure, EachFailingCallKeepsTheOldFile)
+{
+    using namespace test;
+    FaultyStorage storage;
+    for (const auto &writer : Writers) {
+        SCOPED_TRACE(writer.name);
+        writer.write(m_document, path(), {});
+        const qint64 whole = QFileInfo(path()).size();
+        for (const Fault fault : {Fault::Fails, Fault::CutShort}) {
+            bool failed = false;
+            const auto write = [&] {
+                failed = false;
+                try {
+                    writer.write(m_document, path(), {});
+                } catch (const basic::Error &error) {
+                    failed = error.kind() == basic::ErrorKind::WriteFailed;
+                }
+            };
+            const auto check = [&](Call struck) {
+                EXPECT_EQ(failed, fault == Fault::Fails && struck != Call::None);
+                EXPECT_EQ(QFileInfo(path()).size(), failed && struck != Call::SyncFolder ? 3 : whole);
+                EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{u"out"_s});
+            };
+            atEachCall(
+                storage, fault, [&] { writeOld(); }, write, check);
         }
     }
 }

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "../../support/columns.h"
 #include "platform/print/htmlwriter.h"
 #include "platform/print/pdfwriter.h"
 #include "platform/print/rtffile.h"
@@ -41,7 +42,7 @@ protected:
         QImage image(20, 10, QImage::Format_ARGB32);
         image.fill(Qt::green);
         d.add(Picture{.image = image, .width = 2000, .height = 1000, .alternativeText = u"Das \"Bild\""_s});
-        d.add(TableStart{columnsFromFormat(u"<5000|^1200|0"), {{{u"Name"_s, mark}, {u"Alter"_s, bold}}}, 20});
+        d.add(TableStart{test::columns(u"<5000|^1200|0"), {{{u"Name"_s, mark}, {u"Alter"_s, bold}}}, 20});
         d.add(TableRow{{{u"Łódź, Ελένη 𝔘"_s}, {u"77 J."_s, mark}, {u"€ – “x”"_s, 0, Alignment::Right}}});
         d.add(PageBreak{});
         d.add(TableRow{{{u"Letzte"_s, bold, {}, 1}}});

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/profile/profile.h"
 
+#include "../../support/faultystorage.h"
+
 #include <gtest/gtest.h>
 #include <QFile>
 #include <QTemporaryDir>
@@ -176,4 +178,21 @@ TEST_F(Profile, WriteMakesOrRefuses)
     EXPECT_FALSE(writePrivateProfileString("Sec", "Key", "1", m_folder.filePath(u"fehlt/x.ini"_s)));
     EXPECT_FALSE(writePrivateProfileString("Sec", "Key", {}, m_folder.filePath(u"fehlt/x.ini"_s)));
     EXPECT_FALSE(writePrivateProfileString("Sec", "Key", "1", m_folder.path()));
+}
+
+TEST_F(Profile, StaysWholeWhereTheDiskFails)
+{
+    using namespace kalvenor::test;
+    FaultyStorage storage;
+    const QByteArray before = "[A]\r\nX=1\r\n", then = "[A]\r\nX=2\r\n[B]\r\nY=3\r\n";
+    const ProfileValue values[] = {{"A", "X", "2"}, {"B", "Y", "3"}};
+    for (const Fault fault : {Fault::Fails, Fault::CutShort}) {
+        bool done = false;
+        atEachCall(
+            storage, fault, [&] { put(before); }, [&] { done = writePrivateProfileStrings(values, m_file); },
+            [&](Call struck) {
+                EXPECT_EQ(done, fault == Fault::CutShort || struck == Call::None);
+                EXPECT_EQ(get(), done || struck == Call::SyncFolder ? then : before);
+            });
+    }
 }

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/storage/file.h"
+#include "platform/storage/replacement.h"
+
+#include "../../support/faultystorage.h"
 
 #include <array>
 
@@ -66,7 +68,7 @@ TEST_F(Files, ReadAndWriteInPlace)
     File file = File::open(path("a"), File::Mode::ReadWrite, &error);
     ASSERT_TRUE(file.isOpen()) << error.toStdString();
     EXPECT_EQ(file.size(), 10);
-    EXPECT_NEAR(static_cast<double>(file.modifiedNs()) / 1e6,
+    EXPECT_NEAR(static_cast<double>(file.state().modifiedNs) / 1e6,
                 static_cast<double>(QFileInfo(path("a")).lastModified().toMSecsSinceEpoch()), 2);
 
     std::array<std::uint8_t, 4> four = {};
@@ -161,4 +163,43 @@ TEST_F(Files, Replace)
     EXPECT_FALSE(replaceFileSafely({}, "x", nullptr));
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System).filter(u"a."_s).size(), 0)
         << "no temporary file stays";
+}
+
+TEST_F(Files, ReplaceLeavesTheOldOrTheNewOne)
+{
+    using namespace kalvenor::test;
+    FaultyStorage storage;
+    const QByteArray content(200'000, 'n');
+    for (const Fault fault : {Fault::Fails, Fault::FailsFromOn, Fault::CutShort}) {
+        bool done = false;
+        atEachCall(
+            storage, fault, [&] { put("a", "old"); }, [&] { done = replaceFileSafely(path("a"), content, nullptr); },
+            [&](Call struck) {
+                EXPECT_EQ(done, struck == Call::None || fault == Fault::CutShort);
+                EXPECT_EQ(get("a"), done || struck == Call::SyncFolder ? content : "old");
+                const QStringList files = QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden);
+                if (fault == Fault::FailsFromOn) { // nothing can be removed either
+                    for (const QString &name : files)
+                        EXPECT_TRUE(name == u"a" || QFile::remove(m_folder.filePath(name)));
+                } else {
+                    EXPECT_EQ(files, QStringList{u"a"_s});
+                }
+            });
+    }
+}
+
+TEST_F(Files, LocksKeepOthersOut)
+{
+    put("a", "0123456789");
+    File one = File::open(path("a"), File::Mode::ReadWrite, nullptr);
+    {
+        File two = File::open(path("a"), File::Mode::ReadWrite, nullptr);
+        EXPECT_EQ(one.lock(4, 2), File::Lock::Taken);
+        EXPECT_EQ(two.lock(5, 9), File::Lock::HeldElsewhere);
+        EXPECT_EQ(two.lock(6, 1000), File::Lock::Taken);
+        EXPECT_TRUE(one.unlock(4, 2));
+        EXPECT_EQ(two.lock(4, 2), File::Lock::Taken);
+        EXPECT_EQ(one.lock(0, 5), File::Lock::HeldElsewhere);
+    }
+    EXPECT_EQ(one.lock(0, 2000), File::Lock::Taken) << "closed, the other one holds nothing";
 }

@@ -7,9 +7,9 @@
 #include "platform/jet/creator/creator_table.h"
 #include "platform/jet/order/sortkey.h"
 #include "platform/jet/reader/encoding.h"
+#include "platform/storage/replacement.h"
 #include <algorithm>
 #include <array>
-#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
@@ -109,12 +109,12 @@ void Creator::write(const QString &file, std::uint32_t encodingKey)
     if (!m_impl->isComplete)
         m_impl->complete();
     PageStore &store = m_impl->store;
-    QSaveFile out(file);
+    storage::Replacement out(file);
     const auto check = [&](bool success) {
         if (!success)
-            throw basic::Error(basic::ErrorKind::WriteFailed, file, u"Cannot be written: %1"_s.arg(out.errorString()));
+            throw basic::Error(basic::ErrorKind::WriteFailed, file, u"Cannot be written: %1"_s.arg(out.errorText()));
     };
-    check(out.open(QIODevice::WriteOnly));
+    check(!out.hasFailed());
     std::array<std::uint8_t, PageSize> buffer;
     for (std::uint32_t page = 0; page < store.count(); ++page) {
         std::copy_n(store.page(page), PageSize, buffer.begin());
@@ -122,10 +122,9 @@ void Creator::write(const QString &file, std::uint32_t encodingKey)
             fillHeaderPage(buffer.data(), encodingKey);
         else if (encodingKey != 0)
             encodePage(buffer, encodingKey, page);
-        check(out.write(reinterpret_cast<const char *>(buffer.data()), PageSize) == PageSize);
+        check(out.append({reinterpret_cast<const char *>(buffer.data()), PageSize}));
     }
-    // commit() alone says yes to a disk that is full at its last flush.
-    check(out.flush() && out.commit());
+    check(out.commit());
 }
 
 } // namespace kalvenor::jet

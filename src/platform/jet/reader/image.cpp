@@ -25,6 +25,7 @@ constexpr std::size_t HeaderRoom = 4096; ///< holds the header page of either ve
 constexpr std::size_t CountersSize = 512;
 constexpr qint64 LargestFile = qint64{2} << 30;
 constexpr int Attempts = 5;
+constexpr std::chrono::milliseconds FirstPause{5}; ///< doubled each time; all together nobody notices
 
 std::uint32_t pageSizeOf(std::span<const std::uint8_t> head)
 {
@@ -73,8 +74,9 @@ void checkHeader(const QString &name, std::span<const std::uint8_t> head)
 Stamp Image::stampOf(const QString &name, const storage::File &file)
 {
     Stamp stamp;
-    stamp.size = file.size();
-    stamp.modifiedNs = file.modifiedNs();
+    const storage::FileState now = file.state();
+    stamp.size = now.size;
+    stamp.modifiedNs = now.modifiedNs;
     if (stamp.size < 0)
         notReadable(name, file);
     std::array<std::uint8_t, HeaderRoom> head{};
@@ -96,7 +98,7 @@ std::shared_ptr<Image> Image::load(const QString &name)
 {
     for (int attempt = 0; attempt < Attempts; ++attempt) {
         if (attempt > 0)
-            std::this_thread::sleep_for(std::chrono::milliseconds(40 * attempt));
+            std::this_thread::sleep_for(FirstPause * (1 << (attempt - 1)));
         const storage::File file = openForReading(name);
         const Stamp before = stampOf(name, file);
         if (before.size > LargestFile)
