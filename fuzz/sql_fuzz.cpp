@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     static const QByteArray Marked = family(Work, true);
     static const QByteArray Unmarked = family(Work, false);
     static dao::Engine engine;
-    static const auto Database = engine.workspace(0).openDatabase(Work.path());
+    static const auto Database = engine.openDatabase(Work.path());
 
     const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     const QString narrowed =

@@ -42,13 +42,12 @@ QString sideDatabaseFile(HostDatabase database)
 void Datenbankmodul::datenbankoeffnen(const QString &familyDatabase)
 {
     using enum HostDatabase;
-    dao::Workspace &workspace = m_engine.workspace(0);
     m_tables.clear();
     m_sideDatabases.clear();
-    Familiendatenbank = workspace.openDatabase(m_host.native(familyDatabase));
+    Familiendatenbank = m_engine.openDatabase(m_host.native(familyDatabase));
     for (const HostDatabase side : {Events, History, Names, Places})
         m_sideDatabases.push_back(
-            workspace.openDatabase(m_host.native(m_host.Hostverzeichnis + sideDatabaseFile(side))));
+            m_engine.openDatabase(m_host.native(m_host.Hostverzeichnis + sideDatabaseFile(side))));
 
     for (const HostTable &table : hostTables(m_host.Sprache)) {
         const auto &database =

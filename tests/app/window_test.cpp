@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/jet/reader/database.h"
+#include "support/faultystorage.h"
 #include "support/openwindow.h"
 #include <QAction>
+#include <QDateTime>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -62,6 +64,30 @@ TEST(AnotherProgram, ItsChangeComesInWithTheNextAction)
     EXPECT_EQ(open.shown(PersonList::Marked), (Counters{3, 5}));
     open.controller().undo();
     EXPECT_EQ(open.marked(), Counters{3}) << "what the other program marked is not ours to take back";
+}
+
+TEST(AnotherProgram, MayWriteBetweenTheQueriesOfTheTwoLists)
+{
+    OpenWindow open(smallFamily());
+    FaultyStorage storage;
+    bool mark = false;
+    int seconds = 0;
+    const auto other = [&] {
+        mark = !mark;
+        markElsewhere(open, QString("Update Daten SET Markierung = %1 WHERE Counter = 3").arg(mark ? -1 : 0));
+        QFile touched(open.family()); // the clock of the disk may stand still
+        ASSERT_TRUE(touched.open(QIODevice::ReadWrite));
+        touched.setFileTime(QDateTime::currentDateTime().addSecs(++seconds), QFileDevice::FileModificationTime);
+    };
+    const auto check = [&](Call) {
+        Counters all = open.shown(PersonList::Unmarked);
+        const Counters marked = open.shown(PersonList::Marked);
+        all.insert(all.end(), marked.begin(), marked.end());
+        std::sort(all.begin(), all.end());
+        EXPECT_EQ(all, (Counters{1, 2, 3, 4, 5, 6, 7})) << "each person is in one list";
+    };
+    atEachCall(
+        storage, Fault::OtherFirst, [] {}, [&] { open.controller().reloadLists(); }, check, other);
 }
 
 TEST(Window, SaysThatTheDatabaseIsDamaged)

@@ -11,7 +11,7 @@ using namespace kalvenor;
 TEST(Datenbankoeffnen, OpensFiveDatabasesAndAllTables)
 {
     test::StartedProgram started({{.counter = 7, .listname = "Abel, Anna"}});
-    const auto &open = started.program.engine.workspace(0).databases();
+    const auto &open = started.program.engine.databases();
     QStringList files;
     for (const auto &database : open)
         files << QFileInfo(database->file()).fileName();

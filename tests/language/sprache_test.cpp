@@ -89,18 +89,16 @@ TEST(Datenbankenschliessen, ClosesAllAndOpensTheHostsOwnTexts)
 {
     test::StartedProgram started;
     app::Program &program = started.program;
-    program.engine.createWorkspace();
     const auto family = program.databases.Familiendatenbank;
     const auto persons = program.databases.Datentabelle;
 
     program.language.datenbankenschliessen("bleibt");
     EXPECT_FALSE(family->isOpen());
     EXPECT_FALSE(persons->isOpen());
-    EXPECT_EQ(program.engine.workspaceCount(), 1);
-    EXPECT_TRUE(program.engine.workspace(0).databases().empty());
+    EXPECT_TRUE(program.engine.databases().empty());
     EXPECT_EQ(program.language.text(language::Text::FamilyDatabaseMissing), "????") << "its database is closed as well";
 
     program.language.datenbankenschliessen("");
-    ASSERT_EQ(program.engine.workspace(0).databases().size(), 1U);
-    EXPECT_TRUE(program.engine.workspace(0).databases()[0]->file().endsWith("/language.mdb"));
+    ASSERT_EQ(program.engine.databases().size(), 1U);
+    EXPECT_TRUE(program.engine.databases()[0]->file().endsWith("/language.mdb"));
 }

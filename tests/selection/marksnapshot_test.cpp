@@ -1,7 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/marking/marksnapshot.h"
-
 #include "selection/lists/listquery.h"
 #include "support/startedprogram.h"
 #include <algorithm>
@@ -20,10 +18,9 @@ TEST(MarkSnapshot, TellsWhatAnActionChangedThatEndedHalfWay)
     for (const bool readAnew : {false, true}) {
         SCOPED_TRACE(readAnew);
         test::StartedProgram started(persons);
-        data::Datenbankmodul &databases = started.program.databases;
-        dao::Database &family = *databases.Familiendatenbank;
-        const MarkSnapshot before(databases);
-        EXPECT_TRUE(before.changesSince(databases).isEmpty());
+        dao::Database &family = *started.program.databases.Familiendatenbank;
+        const dao::MarkSnapshot before = family.marks("Daten");
+        EXPECT_TRUE(family.marks("Daten").since(before).isEmpty());
 
         std::vector<qint32> all;
         for (const auto &person : persons)
@@ -44,7 +41,7 @@ TEST(MarkSnapshot, TellsWhatAnActionChangedThatEndedHalfWay)
         } else {
             family.refresh();
         }
-        MarkStep step = before.changesSince(databases);
+        const dao::MarkDifference step = family.marks("Daten").since(before);
         EXPECT_TRUE(step.unmarked.empty());
         if (readAnew) {
             EXPECT_EQ(step.marked, std::vector<qint32>{49999});
@@ -54,6 +51,6 @@ TEST(MarkSnapshot, TellsWhatAnActionChangedThatEndedHalfWay)
         EXPECT_LT(step.marked.size(), 10000U);
         family.setMarks("Daten", step.marked, false);
         EXPECT_EQ(family.openQuery(plainListQuery(PersonList::Marked))->recordCount(), 10000);
-        EXPECT_TRUE(before.changesSince(databases).isEmpty());
+        EXPECT_TRUE(family.marks("Daten").since(before).isEmpty());
     }
 }

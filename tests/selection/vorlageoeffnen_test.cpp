@@ -4,6 +4,7 @@
 
 #include "selection/lists/listquery.h"
 #include "selection/templates/vorlagespeichern.h"
+#include "support/faultystorage.h"
 #include "support/startedprogram.h"
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -52,7 +53,7 @@ struct Opening : testing::Test, test::StartedProgram {
     static std::vector<qint32> inFile(const QString &nativeFile)
     {
         dao::Engine engine;
-        const auto rows = engine.workspace(0).openDatabase(nativeFile)->openQuery(plainListQuery(PersonList::Marked));
+        const auto rows = engine.openDatabase(nativeFile)->openQuery(plainListQuery(PersonList::Marked));
         std::vector<qint32> counters;
         for (; !rows->eof(); rows->moveNext())
             counters.push_back(rows->integer(rows->fieldIndex("Counter")).value_or(0));
@@ -224,5 +225,60 @@ TEST_F(Opening, ResetTakesTheOptionsFromThePrintSettings)
         const auto box = static_cast<qint16>(row.box);
         const statistics::Statistik expected{{}, {}, row.type, row.legend, {box, box, box, box}, row.byBirth};
         EXPECT_EQ(vorlageclear(program.host), expected) << row.ini;
+    }
+}
+
+TEST_F(Opening, AndUndoAreWholeOrAsBeforeWhereTheDiskFails)
+{
+    test::FaultyStorage storage;
+    const QString path = save(family, {9, 3, 1});
+    const std::vector<qint32> before{2, 3}, then{1, 3, 9};
+    const MarkStep step{{1, 9}, {2}};
+    const struct {
+        const char *name;
+        bool rollsBack;
+        std::function<void()> work;
+    } rows[] = {
+        {"opening", true,
+         [&] {
+             open(path);
+         }},
+        {"undo", false,
+         [&] {
+             MarkHistory history;
+             history.record({{2}, {1, 9}});
+             history.undo(program.databases);
+         }},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        for (const test::Fault fault : {test::Fault::Fails, test::Fault::CutShort, test::Fault::Pretends}) {
+            std::optional<QString> said;
+            const auto prepare = [&] {
+                dao::Database &database = *program.databases.Familiendatenbank;
+                database.setMarks("Daten", step.marked, false);
+                database.setMarks("Daten", step.unmarked, true);
+            };
+            const auto work = [&] {
+                said.reset();
+                try {
+                    row.work();
+                } catch (const basic::Error &error) {
+                    said = error.message();
+                }
+            };
+            const auto check = [&](test::Call struck) {
+                EXPECT_EQ(said.has_value(), (fault == test::Fault::Fails && struck != test::Call::None) ||
+                                                (fault == test::Fault::Pretends && struck == test::Call::Write));
+                program.databases.Familiendatenbank->refresh();
+                if (!said || row.rollsBack) {
+                    EXPECT_EQ(marked(), said ? before : then);
+                }
+                EXPECT_EQ(
+                    program.databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked))->recordCount(),
+                    static_cast<qint64>(marked().size()));
+            };
+            test::atEachCall(storage, fault, prepare, work, check);
+        }
     }
 }

@@ -67,7 +67,7 @@ struct OpenWindow : Installation {
     std::vector<qint32> inFile(const QString &query)
     {
         dao::Engine engine;
-        const auto persons = engine.workspace(0).openDatabase(family())->openQuery(query);
+        const auto persons = engine.openDatabase(family())->openQuery(query);
         const int field = persons->fieldIndex(u"Counter"_s);
         std::vector<qint32> counters;
         for (; !persons->eof(); persons->moveNext())
@@ -99,7 +99,7 @@ struct OpenWindow : Installation {
 inline void markElsewhere(const OpenWindow &open, const QString &statement)
 {
     dao::Engine other;
-    other.workspace(0).openDatabase(open.family())->execute(statement);
+    other.openDatabase(open.family())->execute(statement);
 }
 
 /// Seven persons in three generations; by name: 1 to 7. The women are 2, 4 and 6.

@@ -245,12 +245,11 @@ void Auswahl::showMarkedPerson(qint32 counter)
     try {
         persons.seekEqual(counter);
         // The statistic may have seen what another program changed before the lists did.
-        if (m_controller.isFiltered(PersonList::Marked) ||
-            persons.table() != m_controller.model(PersonList::Marked).table()) {
+        if (m_controller.isFiltered(PersonList::Marked) || !m_controller.model(PersonList::Marked).countsIn(persons)) {
             m_controller.reloadPlain(PersonList::Marked);
             persons.seekEqual(counter);
         }
-        if (persons.noMatch() || persons.table() != m_controller.model(PersonList::Marked).table())
+        if (persons.noMatch() || !m_controller.model(PersonList::Marked).countsIn(persons))
             return;
         selection::PersonListView &view = m_selection->listPanel(PersonList::Marked).view();
         view.selectTableRows({static_cast<quint32>(persons.position())});

@@ -62,8 +62,7 @@ void Ereignisarten::ereignis_art_laden()
 {
     m_images.clear();
     m_unreadable.clear();
-    const auto database =
-        m_engine.workspace(0).openDatabase(m_host.native(m_host.Hostverzeichnis + u"\\Ereignis.mdb"_s));
+    const auto database = m_engine.openDatabase(m_host.native(m_host.Hostverzeichnis + u"\\Ereignis.mdb"_s));
     const auto close = qScopeGuard([&] { database->close(); });
     database->openTable(m_host.Sprache); // the query could not say that it is the table that is missing
     const auto kinds = database->openQuery(u"SELECT * FROM "_s + m_host.Sprache + u" ORDER BY Index;"_s);

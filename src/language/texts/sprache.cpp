@@ -21,7 +21,7 @@ QLocale anzeigesprache(const host::Host &host)
 
 void Sprachmodul::spracheoeffnen(const QString &file)
 {
-    m_database = m_engine.workspace(0).openDatabase(m_host.native(file));
+    m_database = m_engine.openDatabase(m_host.native(file));
     m_languages = m_database->openTable(u"Languages"_s);
     m_languages->setIndex(u"Counter"_s);
 }
@@ -55,8 +55,7 @@ QVariant Sprachmodul::shownText(qint16 id)
 
 void Sprachmodul::datenbankenschliessen(const QString &name)
 {
-    for (int i = m_engine.workspaceCount() - 1; i >= 0; --i)
-        m_engine.closeWorkspace(i);
+    m_engine.close(); // the one workspace; a default one is never closed itself
     if (name.isEmpty())
         spracheoeffnen(m_host.Hostverzeichnis + u"\\language.mdb"_s);
 }

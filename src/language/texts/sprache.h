@@ -37,7 +37,7 @@ public:
     /// shownText as plain text; null gives "". Places such as %1 are left for the caller to fill.
     QString text(Text id) { return shownText(static_cast<qint16>(id)).toString(); }
 
-    /// Closes every database of every workspace, last first, then, where `name` is empty, opens the host's own
+    /// Closes every database of the engine, last first, then, where `name` is empty, opens the host's own
     /// language database "\language.mdb". Throws the engine's Error.
     void datenbankenschliessen(const QString &name);
 

@@ -13,9 +13,14 @@ public:
     Bits() = default;
     explicit Bits(quint32 count) : m_words((static_cast<std::size_t>(count) + 63) / 64) {}
 
-    bool test(quint32 bit) const { return ((m_words[bit >> 6] >> (bit & 63)) & 1) != 0; }
+    bool test(quint32 bit) const
+    {
+        Q_ASSERT(bit >> 6 < m_words.size());
+        return ((m_words[bit >> 6] >> (bit & 63)) & 1) != 0;
+    }
     void set(quint32 bit, bool on)
     {
+        Q_ASSERT(bit >> 6 < m_words.size());
         const quint64 mask = quint64(1) << (bit & 63);
         m_words[bit >> 6] = on ? m_words[bit >> 6] | mask : m_words[bit >> 6] & ~mask;
     }

@@ -48,16 +48,6 @@ bool Database::isOpen() const
     return d->session != nullptr;
 }
 
-QStringList Database::tableNames()
-{
-    QStringList names;
-    for (const jet::CatalogueEntry &entry : d->open().snapshot()->database()->entries()) {
-        if (!entry.system)
-            names << entry.name;
-    }
-    return names;
-}
-
 std::shared_ptr<Recordset> Database::openTable(const QString &name)
 {
     d->reloadIfStale();
@@ -103,12 +93,7 @@ Execution Database::setMarks(const QString &table, std::span<const qint32> keys,
 {
     const auto collect = [&](SqlSession &session) {
         UpdateResult update{session.snapshot()->view(table)};
-        const jet::Table &rows = *update.view->table();
-        update.markColumn = rows.columnOf(MarkColumnName);
-        if (update.markColumn < 0)
-            throw basic::Error(basic::ErrorKind::ColumnNotFound, tablePlace(d->file, table),
-                               u"There is no column %1."_s.arg(MarkColumnName));
-        const LongIndex &index = update.view->index(keyColumnOf(rows));
+        const LongIndex &index = update.view->index(keyColumnOf(*update.view->table()));
         for (const qint32 key : keys) {
             for (const quint32 row : index.rows(key))
                 update.marks.push_back({row, value});
@@ -128,15 +113,16 @@ Execution Database::writeMarks(const std::function<UpdateResult(SqlSession &)> &
         const std::shared_ptr<SqlSession> session = d->session;
         const UpdateResult update = collect(*session);
         d->open();
+        TableView &view = *update.view;
+        const jet::Table &table = *view.table();
+        const int markColumn = markColumnOf(table);
         execution.matched = static_cast<qint64>(update.marks.size());
         if (update.marks.empty())
             break;
-        TableView &view = *update.view;
-        const jet::Table &table = *view.table();
         const int keyColumn = keyColumnOf(table);
-        const Bits old = view.marks(update.markColumn);
+        const Bits old = view.marks(markColumn);
         try {
-            for (const quint32 row : session->snapshot()->write(view, update.markColumn, update.marks, progress)) {
+            for (const quint32 row : session->snapshot()->write(view, markColumn, update.marks, progress)) {
                 table.fetchAhead(row);
                 if (const auto key = table.integer(row, keyColumn); key && !before.contains(*key))
                     execution.changedKeys.push_back(*key);
@@ -156,14 +142,19 @@ Execution Database::writeMarks(const std::function<UpdateResult(SqlSession &)> &
                                    u"when the other program has finished."_s);
             for (const jet::Mark &mark : update.marks) {
                 const auto key = table.integer(mark.row, keyColumn);
-                if (key && old.test(mark.row) != table.boolean(mark.row, update.markColumn) &&
-                    before.insert(*key).second)
+                if (key && old.test(mark.row) != table.boolean(mark.row, markColumn) && before.insert(*key).second)
                     execution.changedKeys.push_back(*key);
             }
             d->reload();
         }
     }
     return execution;
+}
+
+MarkSnapshot Database::marks(const QString &table)
+{
+    const std::shared_ptr<TableView> view = d->open().snapshot()->view(table);
+    return {view, view->marks(markColumnOf(*view->table()))};
 }
 
 bool Database::refresh()
@@ -200,48 +191,23 @@ void Database::close()
     while (!d->recordsets.empty())
         d->recordsets.back()->close();
     d->session.reset();
-    if (Workspace *workspace = std::exchange(d->workspace, nullptr))
-        std::erase(workspace->m_databases, self);
+    if (Engine *engine = std::exchange(d->engine, nullptr))
+        std::erase(engine->m_databases, self);
 }
 
-std::shared_ptr<Database> Workspace::openDatabase(const QString &file)
+std::shared_ptr<Database> Engine::openDatabase(const QString &file)
 {
     auto priv = std::make_unique<Database::Private>();
     priv->file = file;
-    priv->workspace = this;
+    priv->engine = this;
     priv->reload();
     return m_databases.emplace_back(std::make_shared<Database>(std::move(priv)));
 }
 
-void Workspace::close()
+void Engine::close()
 {
     while (!m_databases.empty())
         std::shared_ptr<Database>(m_databases.back())->close();
-}
-
-Engine::Engine()
-{
-    createWorkspace();
-}
-
-Workspace &Engine::workspace(int index)
-{
-    if (index < 0 || index >= workspaceCount())
-        throw basic::Error(basic::ErrorKind::Subscript, {}, u"There is no workspace %1."_s.arg(index));
-    return *m_workspaces[static_cast<std::size_t>(index)];
-}
-
-int Engine::createWorkspace()
-{
-    m_workspaces.push_back(std::make_unique<Workspace>());
-    return workspaceCount() - 1;
-}
-
-void Engine::closeWorkspace(int index)
-{
-    workspace(index).close();
-    if (index > 0)
-        m_workspaces.erase(m_workspaces.begin() + index);
 }
 
 } // namespace kalvenor::dao

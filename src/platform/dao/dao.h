@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/basic/progress.h"
+#include "platform/dao/marksnapshot.h"
 #include "platform/dao/recordset.h"
 #include <functional>
 #include <memory>
@@ -11,7 +12,7 @@
 #include <span>
 #include <vector>
 
-// The database objects the program works with: an engine with workspaces, a workspace with databases, a database with
+// The database objects the program works with: an engine with databases (its one, default workspace), a database with
 // recordsets. Whoever holds an object keeps it alive; once closed, every use throws Error(ObjectClosed).
 namespace kalvenor::dao {
 
@@ -34,20 +35,22 @@ public:
 
     const QString &file() const;
     bool isOpen() const;
-    /// User tables by name, in catalogue order.
-    QStringList tableNames();
     /// A table-type recordset, on the first row. The name counts without case, trailing blanks count.
     /// Throws TableNotFound, Damaged.
     std::shared_ptr<Recordset> openTable(const QString &name);
     /// A query recordset (a keyset: row numbers, no values copied), on the first row. The SQL text is executed as it
     /// stands, one SELECT only. Throws InvalidSql, InvalidPattern, TableNotFound, Refused, Cancelled.
     std::shared_ptr<Recordset> openQuery(const QString &sql, const basic::Progress &progress = {});
-    /// Executes one UPDATE that sets `Markierung`. Throws as openQuery, and as jet::MarkWriter::write.
+    /// Executes one UPDATE table SET Markierung = number, True or False, with or without WHERE. Throws as openQuery,
+    /// and as setMarks.
     Execution execute(const QString &sql, const basic::Progress &progress = {});
     /// Sets `Markierung` of the rows with these `Counter` values, as Edit and Update would one by one; keys that the
     /// table does not hold are passed over. Throws TableNotFound, ColumnNotFound, and as jet::MarkWriter::write.
     Execution setMarks(const QString &table, std::span<const qint32> keys, bool value,
                        const basic::Progress &progress = {});
+
+    /// The marks of a table as they are in memory. Throws TableNotFound, ColumnNotFound.
+    MarkSnapshot marks(const QString &table);
 
     /// Reads the file anew where another program changed it. True where it did. Open recordsets keep their state.
     bool refresh();
@@ -65,19 +68,19 @@ public:
 
 private:
     friend class Recordset;
-    friend class Workspace;
+    friend class Engine;
     /// Writes what `collect` finds in the present state of the file; where another program changed it meanwhile, reads
     /// it anew and does both once more.
     Execution writeMarks(const std::function<UpdateResult(SqlSession &)> &collect, const basic::Progress &progress);
     std::unique_ptr<Private> d;
 };
 
-class Workspace {
+class Engine {
 public:
-    Workspace() = default;
-    ~Workspace() { close(); }
-    Workspace(const Workspace &) = delete;
-    Workspace &operator=(const Workspace &) = delete;
+    Engine() = default;
+    ~Engine() { close(); }
+    Engine(const Engine &) = delete;
+    Engine &operator=(const Engine &) = delete;
 
     /// Opens a file (native path), shared. Throws FileNotFound, FileUnreadable, NotADatabase, Damaged.
     std::shared_ptr<Database> openDatabase(const QString &file);
@@ -88,20 +91,6 @@ public:
 private:
     friend class Database;
     std::vector<std::shared_ptr<Database>> m_databases;
-};
-
-class Engine {
-public:
-    Engine();
-    /// Workspace 0, the default one, always exists.
-    Workspace &workspace(int index);
-    int workspaceCount() const { return static_cast<int>(m_workspaces.size()); }
-    int createWorkspace();
-    /// Closes the workspace and, unless it is workspace 0, drops it.
-    void closeWorkspace(int index);
-
-private:
-    std::vector<std::unique_ptr<Workspace>> m_workspaces;
 };
 
 } // namespace kalvenor::dao

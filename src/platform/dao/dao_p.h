@@ -11,7 +11,7 @@ namespace kalvenor::dao {
 
 struct Database::Private {
     QString file;
-    Workspace *workspace = nullptr;
+    Engine *engine = nullptr;
     std::shared_ptr<SqlSession> session; ///< none once closed; another one after each reload
     quint64 generation = 0;
     std::vector<std::shared_ptr<Recordset>> recordsets{};
@@ -44,10 +44,12 @@ struct Recordset::Private {
     void requireTable() const;
     quint32 row() const
     {
+        Q_ASSERT(valid && (isTable || position < static_cast<qint64>(result.rows.size())));
         return isTable ? static_cast<quint32>(position) : result.rows[static_cast<std::size_t>(position)];
     }
     const QVariant &cell(int field) const
     {
+        Q_ASSERT(valid && !result.view && field < result.names.size());
         return result.cells[static_cast<std::size_t>(position * result.names.size() + field)];
     }
     int column(int field) const { return result.columns[static_cast<std::size_t>(field)]; }

@@ -240,32 +240,21 @@ bool Recordset::update()
     if (!database || !database->isOpen())
         throw basic::Error(basic::ErrorKind::ObjectClosed, d->place, u"The database was closed."_s);
 
-    for (bool again = false;; again = true) {
-        // The row may be another one in a newer state of the file; its key says which.
-        if (const auto &current = database->d->session->snapshot(); current != d->snapshot) {
-            const auto key = d->result.view->table()->integer(d->row(), keyColumnOf(*d->result.view->table()));
-            d->adopt(current);
-            const auto rows = key ? d->result.view->index(keyColumnOf(*d->result.view->table())).rows(*key)
-                                  : std::span<const quint32>();
-            if (rows.empty())
-                throw basic::Error(basic::ErrorKind::ChangedElsewhere, d->place,
-                                   u"Another program deleted the row. Load the list anew."_s);
-            d->stand(rows.front());
-        }
-        TableView &view = *d->result.view;
-        const int markColumn = view.table()->columnOf(MarkColumnName);
-        if (markColumn < 0)
-            throw basic::Error(basic::ErrorKind::ColumnNotFound, d->place,
-                               u"There is no column %1."_s.arg(MarkColumnName));
-        const jet::Mark mark{d->row(), *value};
-        try {
-            return !d->snapshot->write(view, markColumn, {&mark, 1}, {}).empty();
-        } catch (const basic::Error &error) {
-            if (error.kind() != basic::ErrorKind::ChangedElsewhere || again)
-                throw;
-            database->d->reload();
-        }
-    }
+    const jet::Table &table = *d->result.view->table();
+    const int keyColumn = keyColumnOf(table);
+    const auto key = table.integer(d->row(), keyColumn);
+    if (!key)
+        throw basic::Error(basic::ErrorKind::NotMarkable, d->place,
+                           u"Marks cannot be set: row %1 has no key."_s.arg(d->row()));
+    const Execution done = database->setMarks(table.name(), {&*key, 1}, *value);
+    // The row may be another one in a newer state of the file; its key says which.
+    d->adopt(database->d->open().snapshot());
+    const auto rows = d->result.view->index(keyColumnOf(*d->result.view->table())).rows(*key);
+    if (rows.empty())
+        throw basic::Error(basic::ErrorKind::ChangedElsewhere, d->place,
+                           u"Another program deleted the row. Load the list anew."_s);
+    d->stand(rows.front());
+    return !done.changedKeys.empty();
 }
 
 std::span<const quint32> Recordset::rows() const
@@ -274,16 +263,17 @@ std::span<const quint32> Recordset::rows() const
     return d->result.rows;
 }
 
-std::shared_ptr<const jet::Table> Recordset::table() const
+qint64 Recordset::tableRowCount() const
 {
     d->requireOpen();
-    return d->result.view ? d->result.view->table() : nullptr;
+    return d->result.view ? d->result.view->table()->rowCount() : 0;
 }
 
-QStringList Recordset::fieldNames() const
+bool Recordset::countsIn(const Recordset &other) const
 {
     d->requireOpen();
-    return d->result.names;
+    other.d->requireOpen();
+    return d->result.view != nullptr && d->result.view == other.d->result.view;
 }
 
 int Recordset::fieldIndex(const QString &name) const

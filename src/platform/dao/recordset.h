@@ -9,10 +9,6 @@
 #include <QVariant>
 #include <span>
 
-namespace kalvenor::jet {
-class Table;
-}
-
 namespace kalvenor::dao {
 
 class Database;
@@ -45,21 +41,22 @@ public:
     /// nothing was found; the current row is then none.
     void seekEqual(qint32 key);
     bool noMatch() const;
-    /// Edit, set, Update of one field: only `Markierung` can be set. Update writes at once to the file.
-    /// Throws NoCurrentRow, Refused, and as jet::MarkWriter::write.
+    /// Edit, set, Update of one field: only `Markierung` can be set. Update is Database::setMarks for the row's
+    /// `Counter`. Throws NoCurrentRow, Refused, ChangedElsewhere where the row is gone, and as setMarks.
     void edit();
     void setValue(const QString &field, bool value);
     /// True where the mark really changed.
     bool update();
 
-    /// The rows of table() that a query gave, in its order; empty for a table recordset and where SQLite had to sort or
-    /// compute. For list models: valid until the recordset is closed.
+    /// The rows of its table that a query gave, in its order; empty for a table recordset and where SQLite had to sort
+    /// or compute. For list models: valid until the recordset is closed.
     std::span<const quint32> rows() const;
-    /// What rows() count in, one state of the file; nothing where the values were computed.
-    std::shared_ptr<const jet::Table> table() const;
+    /// How many rows that table has; 0 where the values were computed.
+    qint64 tableRowCount() const;
+    /// Both count in the same rows: those of one table in one state of the file.
+    bool countsIn(const Recordset &other) const;
 
     // Fields. The name counts without case. Throws ColumnNotFound.
-    QStringList fieldNames() const;
     int fieldIndex(const QString &name) const;
     // Values of the current row; null gives nothing. Throws NoCurrentRow.
     QVariant value(int field) const;

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/dao/sqlsession.h"
+#include "platform/dao/sqlerror.h"
 
 #include <QRegularExpression>
 
@@ -24,8 +24,6 @@ constexpr Complaint Complaints[] = {
     {"^wrong number of arguments to function (.*)$", u"The function %1 has too many or too few values"},
     {"^misuse of aggregate:? ?(.*)$", u"The function %1 cannot stand there"},
     {"^Expression tree is too large.*$", u"The statement is nested too deeply"},
-    {"^table (.*) may not be modified$", u"The table \"%1\" cannot be changed"},
-    {"^.*RETURNING is not available.*$", u"RETURNING is not understood"},
     {"^parser stack overflow$", u"The statement is nested too deeply"},
     {"^too many terms in compound SELECT$", u"The statement combines too many queries"},
     {"^(?:statement|string or blob) too (?:long|big)$", u"The statement or a value in it is too long"},

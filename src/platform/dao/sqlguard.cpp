@@ -119,18 +119,11 @@ void SqlGuard::watch(sqlite3 *handle, bool on)
 
 QString SqlGuard::objection(int action, const QString &first, const QString &second) const
 {
-    const SqlRun *run = *m_current;
     switch (action) {
     case SQLITE_SELECT:
         return {};
     case SQLITE_READ:
         return m_isDeclared(first) ? QString() : u"There is no table \"%1\" in the file."_s.arg(first);
-    case SQLITE_UPDATE:
-        if (run == nullptr || !run->updating)
-            return statementsAllowed();
-        return second.compare(MarkColumnName, Qt::CaseInsensitive) == 0
-                   ? QString()
-                   : u"Only %1 can be changed, not \"%2\"."_s.arg(MarkColumnName).arg(second);
     case SQLITE_FUNCTION:
         return std::any_of(AllowedFunctions.begin(), AllowedFunctions.end(),
                            [&second](const char16_t *name) {

@@ -10,8 +10,8 @@ namespace kalvenor::dao {
 
 class SqlRun;
 
-/// What statements may do, as SQLite is told it: reading the declared tables, setting the mark column while an UPDATE
-/// runs, and a few functions. Everything else is refused by name.
+/// What statements may do, as SQLite is told it: reading the declared tables, and a few functions. Everything else is
+/// refused by name.
 class SqlGuard {
 public:
     /// `current` is the run at hand or null; `isDeclared` is asked for each table that is read.

@@ -3,6 +3,7 @@
 #include "platform/dao/sqlsession.h"
 
 #include "platform/basic/error.h"
+#include "platform/dao/sqlerror.h"
 #include "platform/dao/sqlguard.h"
 #include "platform/dao/virtualtable.h"
 #include <algorithm>
@@ -14,9 +15,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A result that SQLite had to sort or compute is copied; the lists of the program never are.
-constexpr qint64 MostCells = 4'000'000;
-constexpr qint64 MostBytes = 512LL * 1024 * 1024;
+QString quoted(const QString &name)
+{
+    return u'"' + QString(name).replace(u'"', u"\"\""_s) + u'"';
+}
+
+/// What SQLite calls the number of a row, which a column of that name would hide.
+QString rowNumberName(const jet::Table &table)
+{
+    for (const QString &name : {u"rowid"_s, u"_rowid_"_s, u"oid"_s}) {
+        if (table.columnOf(name) < 0)
+            return name;
+    }
+    throw basic::Error(basic::ErrorKind::NotMarkable, tablePlace(table.image().file(), table.name()),
+                       u"Marks cannot be set: its columns hide the numbers of the rows."_s);
+}
 
 } // namespace
 
@@ -138,8 +151,8 @@ private:
     std::unique_ptr<sqlite3_stmt, Finalize> m_statement;
 };
 
-SqlSession::SqlSession(std::shared_ptr<Snapshot> snapshot)
-    : m_snapshot(std::move(snapshot)), m_parts(std::make_unique<Parts>())
+SqlSession::SqlSession(std::shared_ptr<Snapshot> snapshot, CopyLimits limits)
+    : m_snapshot(std::move(snapshot)), m_limits(limits), m_parts(std::make_unique<Parts>())
 {
     int code = sqlite3_open_v2(":memory:", &m_parts->handle,
                                SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
@@ -167,10 +180,10 @@ void SqlSession::declare(const QString &name)
 {
     Parts &parts = *m_parts;
     parts.module.next = m_snapshot->view(name);
-    const QString quoted = u'"' + QString(name).replace(u'"', u"\"\""_s) + u'"';
     parts.guard.watch(parts.handle, false);
-    const int code = sqlite3_exec(parts.handle, u"CREATE VIRTUAL TABLE %1 USING jet"_s.arg(quoted).toUtf8().constData(),
-                                  nullptr, nullptr, nullptr);
+    const int code =
+        sqlite3_exec(parts.handle, u"CREATE VIRTUAL TABLE %1 USING jet"_s.arg(quoted(name)).toUtf8().constData(),
+                     nullptr, nullptr, nullptr);
     parts.guard.watch(parts.handle, true);
     if (code != SQLITE_OK)
         throw basic::Error(basic::ErrorKind::Damaged, tablePlace(place(), name),
@@ -283,8 +296,7 @@ QueryResult SqlSession::query(const QString &text, const basic::Progress &progre
     SqlRun run(m_parts->run, place(), progress);
     declareTables(sql);
     Statement statement(*m_parts, sql.adapted(knownNames()), place());
-    if (sqlite3_stmt_readonly(statement) == 0)
-        throw basic::Error(basic::ErrorKind::Refused, place(), u"A query changes nothing."_s);
+    Q_ASSERT(sqlite3_stmt_readonly(statement) != 0);
     QueryResult result;
     const int fields = sqlite3_column_count(statement);
     std::vector<bool> yesNo;
@@ -309,52 +321,36 @@ QueryResult SqlSession::query(const QString &text, const basic::Progress &progre
     while (statement.step()) {
         for (int i = 0; i < fields; ++i)
             result.cells.push_back(cellOf(statement, i, yesNo[static_cast<std::size_t>(i)], bytes));
-        if (static_cast<qint64>(result.cells.size()) > MostCells || bytes > MostBytes)
+        if (static_cast<qint64>(result.cells.size()) > m_limits.cells || bytes > m_limits.bytes)
             throw basic::Error(basic::ErrorKind::Refused, place(),
                                u"The result is too large to be sorted or computed. Select fewer rows or columns."_s);
     }
     return result;
 }
 
-/// Finds the rows of an UPDATE as a query does: SQLite would carry all columns of each row through a table of its own,
-/// twice. False where that way is not open.
-bool SqlSession::collectMarks(const ConstantUpdate &wanted, UpdateResult &update) const
-{
-    const SqlText sql(wanted.rows, place());
-    const Statement statement(*m_parts, sql.adapted(knownNames()), place());
-    QueryResult found;
-    found.view = plainView(sql, statement, found.columns);
-    if (!found.view || found.view->typeOf(found.columns.front()) != jet::ColumnType::Boolean ||
-        !collectRows(sql, found))
-        return false;
-    if (found.rows.empty())
-        return true;
-    update.view = found.view;
-    update.markColumn = found.columns.front();
-    update.marks.reserve(found.rows.size());
-    for (const quint32 row : found.rows)
-        update.marks.push_back({row, wanted.on});
-    return true;
-}
-
+/// The rows are found as a query finds them. SQLite itself never writes.
 UpdateResult SqlSession::update(const QString &text, const basic::Progress &progress)
 {
     const SqlText sql(text, place());
-    if (!sql.beginsWith(u"UPDATE"))
+    SqlRun run(m_parts->run, place(), progress);
+    declareTables(sql);
+    const auto wanted = sql.constantUpdate(knownNames());
+    if (!wanted)
         throw basic::Error(basic::ErrorKind::Refused, place(),
                            u"Only UPDATE … SET %1 is carried out."_s.arg(MarkColumnName));
-    SqlRun run(m_parts->run, place(), progress);
-    run.updating = true;
-    declareTables(sql);
-    const QStringList known = knownNames();
-    Statement statement(*m_parts, sql.adapted(known), place()); // refuses what is not allowed
+    if (wanted->column.compare(MarkColumnName, Qt::CaseInsensitive) != 0)
+        throw basic::Error(basic::ErrorKind::Refused, place(),
+                           u"Only %1 can be changed, not \"%2\"."_s.arg(MarkColumnName).arg(wanted->column));
+    UpdateResult update{m_snapshot->view(wanted->table)};
+    QString select = u"SELECT %1 FROM %2"_s.arg(rowNumberName(*update.view->table()), quoted(wanted->table));
+    if (!wanted->condition.isEmpty())
+        select += u" WHERE "_s + wanted->condition;
+    Statement statement(*m_parts, SqlText(select, place()).adapted(knownNames()), place());
     if (!run.reached(0, 0))
         run.rethrow();
-    if (const auto constant = sql.constantUpdate(known); constant && collectMarks(*constant, run.update))
-        return std::move(run.update);
-    while (statement.step()) {
-    }
-    return std::move(run.update);
+    while (statement.step())
+        update.marks.push_back({static_cast<std::uint32_t>(sqlite3_column_int64(statement, 0)), wanted->on});
+    return update;
 }
 
 } // namespace kalvenor::dao

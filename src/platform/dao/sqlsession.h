@@ -26,9 +26,15 @@ struct QueryResult {
 
 /// What an UPDATE would set, in the order of the statement.
 struct UpdateResult {
-    std::shared_ptr<TableView> view{}; ///< none where no row was selected
-    int markColumn = -1;
+    std::shared_ptr<TableView> view{};
     std::vector<jet::Mark> marks{};
+};
+
+/// What a result may hold at most whose values SQLite had to sort or compute: they are copied. The lists of the program
+/// never are.
+struct CopyLimits {
+    qint64 cells = 4'000'000;
+    qint64 bytes = 512LL * 1024 * 1024; ///< of texts and bytes
 };
 
 /// What the callbacks of a running statement report to.
@@ -52,8 +58,6 @@ public:
 
     QString refusal{};                    ///< what the authorizer objected to
     std::vector<TableCursor *> cursors{}; ///< the open ones
-    bool updating = false;
-    UpdateResult update{};
 
 private:
     SqlRun *&m_current;
@@ -69,7 +73,7 @@ private:
 class SqlSession {
 public:
     /// Throws InvalidProcedureCall where SQLite itself cannot be set up.
-    explicit SqlSession(std::shared_ptr<Snapshot> snapshot);
+    explicit SqlSession(std::shared_ptr<Snapshot> snapshot, CopyLimits limits = {});
     ~SqlSession();
     SqlSession(const SqlSession &) = delete;
     SqlSession &operator=(const SqlSession &) = delete;
@@ -77,7 +81,7 @@ public:
     const std::shared_ptr<Snapshot> &snapshot() const { return m_snapshot; }
     /// Throws InvalidSql, InvalidPattern, TableNotFound, Damaged, Refused, Cancelled.
     QueryResult query(const QString &sql, const basic::Progress &progress);
-    /// Collects what the UPDATE sets; nothing is changed yet. Throws as query, and NotMarkable, TypeMismatch.
+    /// Collects what the UPDATE sets; nothing is changed yet. Throws as query.
     UpdateResult update(const QString &sql, const basic::Progress &progress);
 
 private:
@@ -91,14 +95,11 @@ private:
     std::shared_ptr<TableView> plainView(const SqlText &sql, const Statement &statement,
                                          std::vector<int> &columns) const;
     bool collectRows(const SqlText &sql, QueryResult &result) const;
-    bool collectMarks(const ConstantUpdate &wanted, UpdateResult &update) const;
 
     struct Parts;
     std::shared_ptr<Snapshot> m_snapshot;
+    CopyLimits m_limits;
     std::unique_ptr<Parts> m_parts;
 };
-
-/// The complaint of SQLite in plain words. `offset` counts UTF-8 bytes of the statement; negative where unknown.
-QString plainComplaint(const QString &complaint, const QString &sql, int offset, bool hasQuotes);
 
 } // namespace kalvenor::dao

@@ -260,16 +260,24 @@ std::optional<ConstantUpdate> SqlText::constantUpdate(const QStringList &known) 
             return {};
     }
     const std::size_t where = value + 1;
-    if (where < m_tokens.size() && !isWord(where, u"WHERE"))
-        return {};
-    for (const char16_t *word : {u"ORDER", u"LIMIT", u"RETURNING"}) {
-        if (indexOf(word) < m_tokens.size())
+    if (where < m_tokens.size()) {
+        if (!isWord(where, u"WHERE") || !closesOnlyItsOwn(where))
             return {};
+        const Token &last = m_tokens.back();
+        const qsizetype begin = m_tokens[where].start + m_tokens[where].length;
+        update.condition = u"(%1)"_s.arg(QStringView(m_text).mid(begin, last.start + last.length - begin));
     }
-    update.rows = u"SELECT %1 FROM %2 "_s.arg(view(m_tokens[3]), view(m_tokens[1]));
-    if (where < m_tokens.size())
-        update.rows += QStringView(m_text).mid(m_tokens[where].start);
+    update.table = nameOf(m_tokens[1]);
+    update.column = nameOf(m_tokens[3]);
     return update;
+}
+
+bool SqlText::closesOnlyItsOwn(std::size_t first) const
+{
+    int open = 0;
+    for (std::size_t i = first; i < m_tokens.size() && open >= 0; ++i)
+        open += isSign(i, u"(") ? 1 : isSign(i, u")") ? -1 : 0;
+    return open == 0;
 }
 
 /// The word stands behind `column =`, `column <>` …

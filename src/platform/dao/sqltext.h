@@ -9,10 +9,12 @@
 
 namespace kalvenor::dao {
 
-/// An UPDATE that sets one column to one value in all its rows.
+/// An UPDATE that sets one column to one value in all its rows. Names are without quotes and brackets.
 struct ConstantUpdate {
-    bool on = false; ///< the value, as a Yes/No column takes it
-    QString rows{};  ///< SELECT of that column in the rows that it changes
+    QString table{};
+    QString column{};
+    bool on = false;     ///< the value, as a Yes/No column takes it
+    QString condition{}; ///< what follows WHERE, in brackets that it cannot leave; empty where all rows are meant
 };
 
 /// One SQL statement cut into its words, so that what Jet's dialect allows and SQLite's does not can be adapted
@@ -31,8 +33,8 @@ public:
     /// A single SELECT … FROM that neither joins, groups, combines nor drops equal rows: each row of its result is a
     /// row of one table, in the moment when it is delivered. Nor does it sort by the number of a field.
     bool deliversPlainRows() const;
-    /// Where the statement is UPDATE table SET column = number, True or False, with or without WHERE; `known` as in
-    /// adapted(). Nothing for any other statement.
+    /// Where the statement is UPDATE table SET column = number, True or False, with or without WHERE (and a WHERE that
+    /// closes only brackets of its own); `known` as in adapted(). Nothing for any other statement.
     std::optional<ConstantUpdate> constantUpdate(const QStringList &known) const;
 
     /// The statement for SQLite: a blank between a number and a letter directly behind it; a bare word that is one of
@@ -59,6 +61,7 @@ private:
     bool followsComparison(std::size_t token) const;
     QString nameOf(const Token &token) const;
     std::size_t indexOf(QStringView word) const;
+    bool closesOnlyItsOwn(std::size_t first) const;
     /// What stands for the tokens from `first` to before `last`.
     QString adapted(std::size_t first, std::size_t last, const QStringList &known) const;
     [[noreturn]] void failUnclosed(qsizetype at, bool isText, const QString &place) const;

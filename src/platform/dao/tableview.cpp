@@ -15,6 +15,15 @@ QString tablePlace(const QString &file, const QString &table)
     return u"%1, table %2"_s.arg(file, table);
 }
 
+int markColumnOf(const jet::Table &table)
+{
+    const int column = table.columnOf(MarkColumnName);
+    if (column < 0)
+        throw basic::Error(basic::ErrorKind::ColumnNotFound, tablePlace(table.image().file(), table.name()),
+                           u"There is no column %1."_s.arg(MarkColumnName));
+    return column;
+}
+
 int keyColumnOf(const jet::Table &table)
 {
     const QString place = tablePlace(table.image().file(), table.name());
@@ -32,6 +41,7 @@ int keyColumnOf(const jet::Table &table)
 
 jet::ColumnType TableView::typeOf(int column) const
 {
+    Q_ASSERT(column >= 0 && static_cast<std::size_t>(column) < m_table->columns().size());
     return m_table->columns()[static_cast<std::size_t>(column)].type;
 }
 
@@ -49,6 +59,7 @@ bool TableView::isText(int column) const
 
 const LongIndex &TableView::index(int column)
 {
+    Q_ASSERT(isWhole(column));
     auto found = m_indexes.find(column);
     if (found == m_indexes.end())
         found = m_indexes.emplace(column, LongIndex(*m_table, column)).first;
@@ -59,6 +70,7 @@ const std::vector<quint32> &TableView::order(int column)
 {
     if (isWhole(column))
         return index(column).order();
+    Q_ASSERT(isText(column));
     auto found = m_orders.find(column);
     if (found == m_orders.end())
         found = m_orders.emplace(column, generalOrder(*m_table, column)).first;

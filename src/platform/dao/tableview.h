@@ -19,6 +19,8 @@ inline constexpr QStringView KeyColumnName = u"Counter";
 /// "file, table name", as errors name their place.
 QString tablePlace(const QString &file, const QString &table);
 
+/// The mark column of a table. Throws ColumnNotFound.
+int markColumnOf(const jet::Table &table);
 /// The key column of a table whose marks can be set. Throws NotMarkable.
 int keyColumnOf(const jet::Table &table);
 

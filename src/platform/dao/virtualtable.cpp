@@ -18,7 +18,6 @@ namespace {
 struct VirtualTable : sqlite3_vtab {
     TableModule *module = nullptr;
     std::shared_ptr<TableView> view;
-    int markColumn = -1;
 };
 
 // A plan is a text of pairs, an operation and a column: "l1 m2 o1 ". Operations with an argument come first, in the
@@ -89,10 +88,10 @@ int create(sqlite3 *handle, void *aux, int, const char *const *, sqlite3_vtab **
             *complaint = sqlite3_mprintf("%s", sqlite3_errmsg(handle));
             return code;
         }
+        Q_ASSERT(module->next != nullptr);
         auto table = std::make_unique<VirtualTable>();
         table->module = module;
         table->view = module->next;
-        table->markColumn = module->next->table()->columnOf(MarkColumnName);
         *result = table.release();
         return SQLITE_OK;
     } catch (const std::exception &error) {
@@ -374,9 +373,6 @@ void giveValue(sqlite3_context *context, TableCursor &cursor, int column)
 int column(sqlite3_vtab_cursor *base, sqlite3_context *context, int index)
 {
     return guarded(base->pVtab, [&] {
-        // An UPDATE asks for all columns; for those that it does not set, nothing is to be given.
-        if (sqlite3_vtab_nochange(context))
-            return SQLITE_OK;
         giveValue(context, *static_cast<TableCursor *>(base), index);
         return SQLITE_OK;
     });
@@ -386,44 +382,6 @@ int rowid(sqlite3_vtab_cursor *base, sqlite3_int64 *result)
 {
     *result = static_cast<TableCursor *>(base)->row;
     return SQLITE_OK;
-}
-
-bool truthOf(sqlite3_value *value, const QString &place)
-{
-    const int type = sqlite3_value_numeric_type(value);
-    if (type == SQLITE_INTEGER || type == SQLITE_FLOAT)
-        return sqlite3_value_double(value) != 0.0;
-    const QStringView text = type == SQLITE_TEXT ? textOf(value) : QStringView();
-    const bool on = text.compare(u"true", Qt::CaseInsensitive) == 0;
-    if (!on && text.compare(u"false", Qt::CaseInsensitive) != 0)
-        throw basic::Error(basic::ErrorKind::TypeMismatch, place,
-                           u"%1 can only be set to 0 or -1."_s.arg(MarkColumnName));
-    return on;
-}
-
-int change(sqlite3_vtab *base, int count, sqlite3_value **arguments, sqlite3_int64 *)
-{
-    return guarded(base, [&] {
-        const auto &table = *static_cast<VirtualTable *>(base);
-        SqlRun &run = runOf(base);
-        const QString place = tablePlace(table.view->table()->image().file(), table.view->table()->name());
-        if (!run.updating || count == 1 || sqlite3_value_type(arguments[0]) == SQLITE_NULL)
-            throw basic::Error(basic::ErrorKind::Refused, place, u"Rows are never inserted or deleted."_s);
-        const sqlite3_int64 row = sqlite3_value_int64(arguments[0]);
-        if (sqlite3_value_int64(arguments[1]) != row || row < 0 || row >= table.view->table()->rowCount())
-            throw basic::Error(basic::ErrorKind::Refused, place, u"A row's number cannot be changed."_s);
-        for (int i = 2; i < count; ++i) {
-            if (i - 2 != table.markColumn && !sqlite3_value_nochange(arguments[i]))
-                throw basic::Error(basic::ErrorKind::Refused, place, u"Only %1 can be changed."_s.arg(MarkColumnName));
-        }
-        if (table.markColumn < 0 || table.view->typeOf(table.markColumn) != jet::ColumnType::Boolean)
-            throw basic::Error(basic::ErrorKind::NotMarkable, place,
-                               u"Marks cannot be set: the table has no Yes/No column %1."_s.arg(MarkColumnName));
-        run.update.view = table.view;
-        run.update.markColumn = table.markColumn;
-        run.update.marks.push_back({static_cast<std::uint32_t>(row), truthOf(arguments[2 + table.markColumn], place)});
-        return SQLITE_OK;
-    });
 }
 
 const sqlite3_module ModuleFunctions = [] {
@@ -441,7 +399,6 @@ const sqlite3_module ModuleFunctions = [] {
     functions.xEof = atEnd;
     functions.xColumn = column;
     functions.xRowid = rowid;
-    functions.xUpdate = change;
     return functions;
 }();
 

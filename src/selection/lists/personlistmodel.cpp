@@ -3,7 +3,6 @@
 #include "selection/lists/personlistmodel.h"
 
 #include "platform/jet/order/sortkey.h"
-#include "platform/jet/reader/table.h"
 #include <algorithm>
 #include <limits>
 #include <QCoreApplication>
@@ -72,21 +71,10 @@ PersonListModel::~PersonListModel() = default;
 
 void PersonListModel::show(std::shared_ptr<dao::Recordset> persons)
 {
-    std::shared_ptr<const jet::Table> table;
-    int counter = -1;
-    int listname = -1;
-    if (persons) {
-        table = persons->table();
-        counter = persons->fieldIndex(u"Counter"_s);
-        listname = persons->fieldIndex(u"Listname"_s);
-        if (table) {
-            counter = table->columnOf(u"Counter");
-            listname = table->columnOf(u"Listname");
-        }
-    }
+    const int counter = persons ? persons->fieldIndex(u"Counter"_s) : -1;
+    const int listname = persons ? persons->fieldIndex(u"Listname"_s) : -1;
     beginResetModel();
     const std::shared_ptr<dao::Recordset> before = std::exchange(m_persons, std::move(persons));
-    m_table = std::move(table);
     m_rows = m_persons ? m_persons->rows() : std::span<const quint32>();
     m_count =
         m_persons ? static_cast<int>(std::min<qint64>(m_persons->recordCount(), std::numeric_limits<int>::max())) : 0;
@@ -98,28 +86,14 @@ void PersonListModel::show(std::shared_ptr<dao::Recordset> persons)
         before->close();
 }
 
-std::shared_ptr<const jet::Table> PersonListModel::table() const
-{
-    return m_table;
-}
-
-std::span<const quint32> PersonListModel::tableRows() const
-{
-    return m_table ? m_rows : std::span<const quint32>();
-}
-
 qint32 PersonListModel::counterAt(int row) const
 {
-    if (m_table)
-        return m_table->integer(m_rows[static_cast<std::size_t>(row)], m_counter).value_or(0);
     m_persons->moveTo(row);
     return m_persons->integer(m_counter).value_or(0);
 }
 
 QString PersonListModel::nameAt(int row) const
 {
-    if (m_table)
-        return m_table->text(m_rows[static_cast<std::size_t>(row)], m_listname);
     m_persons->moveTo(row);
     return m_persons->text(m_listname);
 }

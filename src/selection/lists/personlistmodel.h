@@ -9,10 +9,6 @@
 #include <span>
 #include <vector>
 
-namespace kalvenor::jet {
-class Table;
-}
-
 namespace kalvenor::selection {
 
 /// The persons of one list, shown by `Listname`. A view on the rows that the list's query gave; nothing is copied per
@@ -31,9 +27,12 @@ public:
 
     PersonList list() const { return m_list; }
     const std::shared_ptr<dao::Recordset> &persons() const { return m_persons; }
-    /// The table that tableRows() count in; nothing for an empty list.
-    std::shared_ptr<const jet::Table> table() const;
-    std::span<const quint32> tableRows() const;
+    /// The rows of the person table, as dao::Recordset::rows() counts them; none where they were computed.
+    std::span<const quint32> tableRows() const { return m_rows; }
+    /// The other one counts in the same rows of the person table.
+    bool countsIn(const dao::Recordset &other) const { return m_persons && m_persons->countsIn(other); }
+    /// Persons in the table; 0 where nothing is shown.
+    qint64 personCount() const { return m_persons ? m_persons->tableRowCount() : 0; }
     qint32 counterAt(int row) const;
     QString nameAt(int row) const;
     /// The first person whose name begins with what was typed, without regard to case, accents and punctuation; -1
@@ -63,10 +62,9 @@ Q_SIGNALS:
 private:
     PersonList m_list;
     std::shared_ptr<dao::Recordset> m_persons;
-    std::shared_ptr<const jet::Table> m_table; ///< nothing where the engine had to compute the rows
     std::span<const quint32> m_rows;
     int m_count = 0;
-    int m_counter = -1; ///< column of m_table, or field of m_persons
+    int m_counter = -1; ///< fields of m_persons
     int m_listname = -1;
 };
 

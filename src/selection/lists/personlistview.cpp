@@ -315,7 +315,7 @@ void PersonListView::restore(const std::shared_ptr<dao::Recordset> &before)
         Q_EMIT selectionCountChanged();
         return;
     }
-    const RowTracking tracking(*before, m_persons);
+    RowTracking tracking(*before, m_persons);
     verticalScrollBar()->setValue(tracking.rowOrNext(m_state.top) * m_rowHeight + m_state.offset);
     QItemSelection selection = tracking.selection(m_state.selected);
     if (m_state.current >= 0) {

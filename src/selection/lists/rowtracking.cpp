@@ -2,36 +2,36 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/lists/rowtracking.h"
 
-#include "platform/jet/reader/table.h"
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace kalvenor::selection {
 
-RowTracking::RowTracking(const dao::Recordset &before, const PersonListModel &now)
-    : m_before(before), m_now(now), m_formerTable(before.table())
+RowTracking::RowTracking(dao::Recordset &before, const PersonListModel &now)
+    : m_before(before), m_now(now), m_sameRows(now.countsIn(before))
 {
-    if (!m_formerTable || !now.table())
+    if (before.tableRowCount() == 0 || now.personCount() == 0)
         return;
-    m_there.resize(now.table()->rowCount());
+    m_there.resize(static_cast<std::size_t>(now.personCount()));
     for (const quint32 row : now.tableRows())
         m_there[row] = true;
-    if (m_formerTable == now.table())
+    if (m_sameRows)
         return;
-    m_formerCounter = m_formerTable->columnOf(u"Counter");
-    const int counter = now.table()->columnOf(u"Counter");
+    m_formerCounter = before.fieldIndex(u"Counter"_s);
     m_rowsByCounter.reserve(now.tableRows().size());
-    for (const quint32 row : now.tableRows()) {
-        if (const auto key = now.table()->integer(row, counter))
-            m_rowsByCounter.emplace(*key, row);
-    }
+    for (std::size_t row = 0; row < now.tableRows().size(); ++row)
+        m_rowsByCounter.emplace(now.counterAt(static_cast<int>(row)), now.tableRows()[row]);
 }
 
 quint32 RowTracking::tableRow(int formerRow) const
 {
-    const quint32 row = m_before.rows()[static_cast<std::size_t>(formerRow)];
-    if (m_formerTable == m_now.table())
+    if (m_sameRows) {
+        const quint32 row = m_before.rows()[static_cast<std::size_t>(formerRow)];
         return m_there[row] ? row : Gone;
-    const auto key = m_formerTable->integer(row, m_formerCounter);
+    }
+    m_before.moveTo(formerRow);
+    const auto key = m_before.integer(m_formerCounter);
     const auto found = key ? m_rowsByCounter.find(*key) : m_rowsByCounter.end();
     return found == m_rowsByCounter.end() ? Gone : found->second;
 }
@@ -60,11 +60,10 @@ int RowTracking::rowOrNext(int formerRow) const
 
 bool RowTracking::hasMoved(int formerRow) const
 {
-    if (!m_formerTable || m_formerTable != m_now.table())
+    if (!m_sameRows)
         return false;
-    const int mark = m_formerTable->columnOf(u"Markierung");
-    const quint32 row = m_before.rows()[static_cast<std::size_t>(formerRow)];
-    return m_formerTable->boolean(row, mark) != (m_now.list() == PersonList::Marked);
+    m_before.moveTo(formerRow);
+    return m_before.boolean(m_before.fieldIndex(u"Markierung"_s)) != (m_now.list() == PersonList::Marked);
 }
 
 QItemSelection RowTracking::selection(const std::vector<std::pair<int, int>> &formerRanges) const
@@ -84,9 +83,9 @@ QItemSelection RowTracking::selection(const std::vector<std::pair<int, int>> &fo
 QItemSelection selectionOfTableRows(const PersonListModel &model, const std::vector<quint32> &tableRows)
 {
     QItemSelection selection;
-    if (tableRows.empty() || !model.table())
+    if (tableRows.empty() || model.personCount() == 0)
         return selection;
-    std::vector<bool> wanted(model.table()->rowCount());
+    std::vector<bool> wanted(static_cast<std::size_t>(model.personCount()));
     for (const quint32 row : tableRows)
         wanted[row] = true;
     const auto rows = model.tableRows();

@@ -15,7 +15,7 @@ namespace kalvenor::selection {
 /// meanwhile. To be used while the former result is open.
 class RowTracking {
 public:
-    RowTracking(const dao::Recordset &before, const PersonListModel &now);
+    RowTracking(dao::Recordset &before, const PersonListModel &now);
 
     /// The row of now for a row of before: the same person, else the next one that is still there, else the last row;
     /// -1 where the list is empty.
@@ -31,12 +31,12 @@ private:
     quint32 tableRow(int formerRow) const;
     int rowOf(quint32 tableRow) const;
 
-    const dao::Recordset &m_before;
+    dao::Recordset &m_before; ///< its current row moves
     const PersonListModel &m_now;
-    std::shared_ptr<const jet::Table> m_formerTable;
-    int m_formerCounter = -1;
-    std::vector<bool> m_there;                           ///< by row of the present table
-    std::unordered_map<qint32, quint32> m_rowsByCounter; ///< used where the table is another one
+    bool m_sameRows;             ///< before and now count in the same rows of the person table
+    std::vector<bool> m_there{}; ///< by row of the present table; empty where values were computed
+    int m_formerCounter = -1;    ///< field of before
+    std::unordered_map<qint32, quint32> m_rowsByCounter{}; ///< used where the rows are others
 };
 
 /// Rows of the list that show these rows of its table, as a selection.

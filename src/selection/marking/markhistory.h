@@ -8,11 +8,7 @@
 namespace kalvenor::selection {
 
 /// What one user action changed, by `Counter`.
-struct MarkStep {
-    std::vector<qint32> marked;
-    std::vector<qint32> unmarked;
-    bool isEmpty() const { return marked.empty() && unmarked.empty(); }
-};
+using MarkStep = dao::MarkDifference;
 
 /// All marks set since the program started, to be taken back and set again, exactly the rows that changed.
 class MarkHistory {

@@ -3,8 +3,6 @@
 #include "selection/panel/selectioncontroller.h"
 
 #include "language/progress/userwork.h"
-#include "platform/jet/reader/table.h"
-#include "selection/marking/marksnapshot.h"
 #include <QTimer>
 #include <utility>
 
@@ -42,8 +40,7 @@ QString SelectionController::numberText(qint64 number) const
 
 qint64 SelectionController::personCount() const
 {
-    const auto table = m_lists[0].model.table();
-    return table ? table->rowCount() : 0;
+    return m_lists[0].model.personCount();
 }
 
 /// False where the task was not begun or failed; a failure was told.
@@ -162,7 +159,8 @@ std::optional<MarkStep> SelectionController::changeMarks(const QString &what, co
 {
     std::optional<MarkStep> done;
     perform(what, [&](const basic::Progress &progress) {
-        const MarkSnapshot before(m_session.databases);
+        dao::Database &family = *m_session.databases.Familiendatenbank;
+        const dao::MarkSnapshot before = family.marks(u"Daten"_s);
         // The marks are set; lists that did not show them would be wrong.
         const basic::Progress toTheEnd = [&progress](qint64 steps, qint64 total) {
             progress(steps, total);
@@ -173,8 +171,8 @@ std::optional<MarkStep> SelectionController::changeMarks(const QString &what, co
         } catch (const basic::Error &) {
             const std::exception_ptr failure = std::current_exception();
             try {
-                m_session.databases.Familiendatenbank->refresh();
-                done = before.changesSince(m_session.databases);
+                family.refresh();
+                done = family.marks(u"Daten"_s).since(before);
                 load(queries(), true, toTheEnd);
             } catch (const basic::Error &) {
                 // The first failure is the one to tell.
@@ -217,7 +215,7 @@ void SelectionController::move(PersonList from, const std::vector<qint32> &count
         dao::Recordset &persons = *m_session.databases.Datentabelle;
         for (const qint32 counter : moved) {
             persons.seekEqual(counter);
-            if (!persons.noMatch() && persons.table() == model(to).table())
+            if (!persons.noMatch() && model(to).countsIn(persons))
                 tableRows.push_back(static_cast<quint32>(persons.position()));
         }
         Q_EMIT arrived(to, tableRows);

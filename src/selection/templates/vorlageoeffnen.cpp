@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/templates/vorlageoeffnen.h"
 
-#include "selection/marking/marksnapshot.h"
 #include <QFileInfo>
 #include <unordered_set>
 #include <utility>
@@ -81,13 +80,14 @@ MarkStep markExactly(data::Datenbankmodul &databases, const std::vector<qint32> 
             progress(done, total);
         return true;
     };
-    const MarkSnapshot before(databases);
+    const dao::MarkSnapshot before = family->marks(table);
     try {
         family->execute(u"Update Daten SET Markierung = 0 Where Markierung = -1 ;"_s, watch);
         family->setMarks(table, persons, true, watch);
     } catch (const basic::Error &error) {
         try {
-            const MarkStep step = before.changesSince(databases);
+            family->refresh(); // what was written, whether it could be confirmed or not
+            const MarkStep step = family->marks(table).since(before);
             family->setMarks(table, step.marked, false);
             family->setMarks(table, step.unmarked, true);
         } catch (const basic::Error &) {
@@ -95,7 +95,7 @@ MarkStep markExactly(data::Datenbankmodul &databases, const std::vector<qint32> 
         }
         throw;
     }
-    return before.changesSince(databases);
+    return family->marks(table).since(before);
 }
 
 } // namespace

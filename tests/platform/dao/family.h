@@ -61,7 +61,7 @@ protected:
         };
         file = folder.filePath(u"familie.mdb"_s);
         writeFamily(file, persons);
-        database = engine.workspace(0).openDatabase(file);
+        database = engine.openDatabase(file);
     }
 
     /// The first field of each row.

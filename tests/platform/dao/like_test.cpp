@@ -46,7 +46,7 @@ protected:
         const QString file = folder.filePath(u"namen.mdb"_s);
         creator.write(file);
         switchModes(file);
-        database = engine.workspace(0).openDatabase(file);
+        database = engine.openDatabase(file);
     }
 
     /// Puts text that changes between one and two bytes a character, which is never written so, in place of a

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "family.h"
+#include "platform/dao/sqlsession.h"
 #include "platform/jet/creator/creator.h"
 
 using namespace Qt::StringLiterals;
@@ -109,7 +110,7 @@ TEST_F(Family, KeepsRowNumbersUnlessItMustSort)
     };
     for (const auto &row : cases) {
         const auto result = database->openQuery(QString::fromUtf8(row.sql));
-        EXPECT_EQ(result->table() != nullptr, row.rows) << row.sql;
+        EXPECT_EQ(result->tableRowCount() > 0, row.rows) << row.sql;
         EXPECT_EQ(result->rows().size(), row.rows ? static_cast<std::size_t>(result->recordCount()) : 0) << row.sql;
     }
 }
@@ -145,7 +146,7 @@ TEST(Query, QuotesColumnsThatAreWordsOfSql)
     table.addRow({jet::NewValue(), jet::NewValue(6), jet::NewValue()});
     creator.write(file);
     dao::Engine engine;
-    const auto database = engine.workspace(0).openDatabase(file);
+    const auto database = engine.openDatabase(file);
     const Case cases[] = {
         {"SELECT * FROM Français ORDER BY Index;", {-1, 1, 3}},
         {"select * from FRANÇAIS where INDEX > 0 order by GRÖßE;", {3, 1}},
@@ -263,6 +264,25 @@ TEST_F(Family, StopsWhereTheWatcherWishes)
               }),
               basic::ErrorKind::Refused);
     EXPECT_EQ(numbers(u"SELECT count(*) FROM Daten"_s), QList<int>{20000});
+}
+
+TEST_F(Family, RefusesTooLargeCopies)
+{
+    const struct {
+        const char *sql;
+        bool refused; ///< with 8 cells and 100 bytes
+    } rows[] = {
+        {"SELECT Counter + 0 FROM Daten", false},
+        {"SELECT Counter + 0, 1 FROM Daten", true},
+        {"SELECT Geschlecht || '' FROM Daten", false},
+        {"SELECT Listname || '' FROM Daten", true},
+        {"SELECT * FROM Daten WHERE Markierung = 0 ORDER BY Listname;", false}, // nothing is copied
+    };
+    dao::SqlSession session(std::make_shared<dao::Snapshot>(jet::Database::open(file)), {.cells = 8, .bytes = 100});
+    for (const auto &row : rows) {
+        const auto error = errorOf([&] { (void)session.query(QString::fromUtf8(row.sql), {}); });
+        EXPECT_EQ(error, row.refused ? std::optional(basic::ErrorKind::Refused) : std::nullopt) << row.sql;
+    }
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <limits>
 #include <QFileInfo>
+#include <QScopeGuard>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -113,7 +114,8 @@ public:
     {
     }
 
-    const std::vector<std::uint32_t> &changed() const { return m_changed; }
+    /// Something was written, whether it could be confirmed or not.
+    bool hasWritten() const { return m_hasWritten; }
     std::vector<std::uint32_t> takeChanged() { return std::move(m_changed); }
 
     [[noreturn]] void fail(basic::ErrorKind kind, const QString &what) const
@@ -132,6 +134,9 @@ public:
                  u"Page %1 cannot be read again: %2."_s.arg(number).arg(m_file.errorText()));
         m_plain = m_raw;
         decode(number, m_plain);
+        Q_ASSERT(std::ranges::all_of(targets, [&](const MarkTarget &target) {
+            return target.place.recordPage == number && target.inPage < m_raw.size();
+        }));
         for (const MarkTarget &target : targets)
             verify(target);
 
@@ -140,6 +145,7 @@ public:
             if (((m_plain[target.inPage] & target.bit) != 0) == target.on)
                 continue;
             m_raw[target.inPage] ^= target.bit;
+            m_hasWritten = true;
             if (!m_file.writeAt(offsetOf(number) + static_cast<qint64>(target.inPage),
                                 std::span(&m_raw[target.inPage], 1))) {
                 const QString reason = m_file.errorText();
@@ -165,11 +171,17 @@ private:
             encodePage(page, m_image.encodingKey(), number);
     }
 
-    /// Reads the page again; rows whose byte is there as written count as changed, in the image too.
+    /// Reads the page again; rows whose byte is there as written count as changed, in the image too. Where it cannot
+    /// be read, they count as written, but the image keeps what it knows.
     bool confirm(std::uint32_t number, const std::vector<const MarkTarget *> &written)
     {
-        bool all = readPage(number, m_other);
-        for (const MarkTarget *target : all ? written : std::vector<const MarkTarget *>()) {
+        if (!readPage(number, m_other)) {
+            for (const MarkTarget *target : written)
+                m_changed.push_back(target->row);
+            return false;
+        }
+        bool all = true;
+        for (const MarkTarget *target : written) {
             if (m_other[target->inPage] != m_raw[target->inPage]) {
                 all = false;
                 continue;
@@ -241,6 +253,7 @@ private:
     std::vector<std::uint8_t> m_plain; ///< decoded, as it was before
     std::vector<std::uint8_t> m_other;
     std::vector<std::uint32_t> m_changed;
+    bool m_hasWritten = false;
 };
 
 } // namespace
@@ -342,24 +355,24 @@ std::vector<std::uint32_t> MarkWriter::write(std::span<const Mark> marks, const 
 
     const std::vector<MarkTarget> targets = plan(marks);
     const auto total = static_cast<qint64>(targets.size());
-    try {
-        std::size_t pages = 0;
-        for (auto first = targets.begin(); first != targets.end(); ++pages) {
-            if (pages % PagesPerReport == 0 && progress && !progress(first - targets.begin(), total))
-                run.fail(basic::ErrorKind::Cancelled, u"Setting the marks was stopped."_s);
-            const auto last =
-                std::find_if(first, targets.end(), [page = first->place.recordPage](const MarkTarget &target) {
-                    return target.place.recordPage != page;
-                });
-            run.writePage(std::span(first, last));
-            first = last;
-        }
-    } catch (const basic::Error &) {
-        if (!run.changed().empty())
-            file.sync();
-        throw;
+    auto afterFailure = qScopeGuard([&] { // whatever it was; it is the one to tell
+        if (!run.hasWritten())
+            return;
+        file.sync();
+        image.setStamp({}); // stale, also where the clock of the disk is too coarse to show it
+    });
+    std::size_t pages = 0;
+    for (auto first = targets.begin(); first != targets.end(); ++pages) {
+        if (pages % PagesPerReport == 0 && progress && !progress(first - targets.begin(), total))
+            run.fail(basic::ErrorKind::Cancelled, u"Setting the marks was stopped."_s);
+        const auto last =
+            std::find_if(first, targets.end(), [page = first->place.recordPage](const MarkTarget &target) {
+                return target.place.recordPage != page;
+            });
+        run.writePage(std::span(first, last));
+        first = last;
     }
-    if (!run.changed().empty()) {
+    if (run.hasWritten()) {
         if (!file.sync())
             run.fail(basic::ErrorKind::WriteFailed,
                      u"The disk did not confirm the changes: %1."_s.arg(file.errorText()));
@@ -367,6 +380,7 @@ std::vector<std::uint32_t> MarkWriter::write(std::span<const Mark> marks, const 
         if (after.size == before.size && after.counters == before.counters)
             image.setStamp(after);
     }
+    afterFailure.dismiss();
     if (progress)
         progress(total, total);
     return run.takeChanged();

@@ -36,8 +36,8 @@ public:
     /// Before the first write all rows are checked against the state in memory (NotMarkable: key not unique, row older
     /// than the column); each page is read again from the file and compared before its first byte is written. Throws
     /// FileNotFound, ReadOnly, NotMarkable, ChangedElsewhere, WriteFailed, Cancelled; the text says how many rows were
-    /// changed before. The image takes over every bit written, and the file's new stamp; after an error it keeps its
-    /// old stamp, so that the database is stale where anything was written. Progress counts rows.
+    /// changed before. The image takes over every bit written, and the file's new stamp; after an error it has none, so
+    /// that the database is stale where anything was written. Progress counts rows.
     std::vector<std::uint32_t> write(std::span<const Mark> marks, const basic::Progress &progress = {});
 
 private:

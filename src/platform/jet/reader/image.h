@@ -76,8 +76,8 @@ public:
     /// Takes over one byte that was written to the file. The plain byte, and its place in the file.
     void patch(std::size_t offset, std::uint8_t plain)
     {
-        if (offset < std::size_t{m_pageCount} * m_pageSize)
-            m_bytes[offset] = plain;
+        Q_ASSERT(offset < std::size_t{m_pageCount} * m_pageSize);
+        m_bytes[offset] = plain;
     }
 
 private:

@@ -6,7 +6,6 @@
 #include "platform/jet/reader/image.h"
 #include "platform/jet/reader/record.h"
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <QString>
 #include <QStringList>
@@ -26,7 +25,8 @@ struct RowPlace {
 };
 
 /// A read-only column view over the image; no row is copied. Rows count from 0 in page order, columns from 0 in the
-/// order of their numbers. Values that the damage of a file makes unreadable are null and noted in warnings().
+/// order of their numbers. Values that the damage of a file makes unreadable are null and noted in warnings(). For one
+/// thread.
 class Table {
 public:
     /// Reads the definition at `definitionPage` and locates all rows. Throws Error(Damaged).
@@ -44,10 +44,14 @@ public:
     int columnOf(QStringView name) const;
 
     std::uint32_t rowCount() const { return static_cast<std::uint32_t>(m_rows.size()); }
-    const RowPlace &place(std::uint32_t row) const { return m_rows[row]; }
+    const RowPlace &place(std::uint32_t row) const
+    {
+        Q_ASSERT(row < m_rows.size());
+        return m_rows[row];
+    }
     std::span<const std::uint8_t> record(std::uint32_t row) const
     {
-        const RowPlace &place = m_rows[row];
+        const RowPlace &place = this->place(row);
         return m_image->page(place.recordPage).subspan(place.recordStart, place.recordLength);
     }
     /// Lets the processor fetch a record that is needed a little later, from a place that it cannot foresee. For that
@@ -103,7 +107,10 @@ public:
 
     /// What damage was passed over while rows were located and values read, one line each naming the page (at most
     /// some dozens are kept).
-    QStringList warnings() const;
+    const QStringList &warnings() const
+    {
+        return m_warnings;
+    }
 
 private:
     friend class TableReader;
@@ -124,7 +131,6 @@ private:
     std::vector<std::uint16_t> m_indexedColumns;
     RecordLayout m_layout;
     std::vector<RowPlace> m_rows;
-    mutable std::mutex m_warningsGuard; ///< values may be read from several threads
     mutable QStringList m_warnings;
 };
 
