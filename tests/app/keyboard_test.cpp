@@ -44,21 +44,6 @@ struct Translated : OpenWindow {
 
 } // namespace
 
-TEST(Keyboard, TabWalksTheFilterInReadingOrder)
-{
-    OpenWindow open(smallFamily());
-    tabTo("Presse");
-    std::string order;
-    for (int i = 0; i < 11; ++i) {
-        order += focused() + " ";
-        press(Qt::Key_Tab);
-    }
-    EXPECT_EQ(order, "Presse Filtern Filteraufheben Geschlechtfilter_0 Geschlechtfilter_1 Datumfilter_0 Datumfilter_1 "
-                     "Datumfilter_2 Presse_Datum_0 Presse_Datum_1 Filterliste_0 ");
-    for (const char *name : {"liste_0", "Ladepersonenliste_0", "liste_1", "Ladepersonenliste_1"})
-        tabTo(name);
-}
-
 TEST(Keyboard, MnemonicsOfBothLanguages)
 {
     const struct {
@@ -148,9 +133,11 @@ TEST(Keyboard, Filters)
 TEST(Keyboard, TabGoesInReadingOrder)
 {
     OpenWindow open(smallFamily());
-    const QStringList wanted{
-        "Ladepersonenliste_0", "liste_0", "RM",    "RMA", "RM2", "RM2A", "quellenpincl_0", "quellenpincl_1",
-        "Ladepersonenliste_1", "liste_1", "Presse"};
+    const QStringList wanted =
+        QString("Ladepersonenliste_0 liste_0 RM RMA RM2 RM2A quellenpincl_0 quellenpincl_1 Ladepersonenliste_1 liste_1 "
+                "Presse Filtern Filteraufheben Geschlechtfilter_0 Geschlechtfilter_1 Datumfilter_0 Datumfilter_1 "
+                "Datumfilter_2 Presse_Datum_0 Presse_Datum_1 Filterliste_0")
+            .split(' ');
     QStringList found;
     QWidget *first = &open.control<QWidget>(wanted.front());
     for (QWidget *widget = first; found.isEmpty() || widget != first; widget = widget->nextInFocusChain()) {

@@ -23,6 +23,12 @@ void drop(OpenWindow &open, PersonList from, PersonList on)
     QCoreApplication::processEvents();
 }
 
+void withBox(OpenWindow &open, int relatives)
+{
+    open.click<QCheckBox>(QString("quellenpincl_%1").arg(relatives));
+    open.click<QToolButton>("RM");
+}
+
 } // namespace
 
 TEST(Moving, EachWayMovesAndWritesTheMark)
@@ -56,6 +62,8 @@ TEST(Moving, EachWayMovesAndWritesTheMark)
          [](OpenWindow &open) { QTest::keyClick(&open.view(PersonList::Marked), Qt::Key_Delete); },
          {5}},
         {"button", left, {3}, [](OpenWindow &open) { open.click<QToolButton>("RM"); }, {3, 4, 5}},
+        {"button, with children", left, {1}, [=](OpenWindow &open) { withBox(open, 0); }, {1, 3, 4, 5, 6}},
+        {"button, with parents", left, {3}, [=](OpenWindow &open) { withBox(open, 1); }, {1, 2, 3, 4, 5}},
         {"button back", right, {5}, [](OpenWindow &open) { open.click<QToolButton>("RM2"); }, {4}},
         {"all", left, {1}, [](OpenWindow &open) { open.click<QToolButton>("RMA"); }, {1, 2, 3, 4, 5, 6, 7}},
         {"all back", right, {4}, [](OpenWindow &open) { open.click<QToolButton>("RM2A"); }, {}},
@@ -84,26 +92,6 @@ TEST(Moving, EachWayMovesAndWritesTheMark)
         EXPECT_EQ(open.shown(right), row.markedAfter);
         EXPECT_EQ(open.shown(left), open.inFile(selection::plainListQuery(left)));
         EXPECT_TRUE(open.desktop.messages.empty());
-    }
-}
-
-TEST(Moving, TakesRelativesAlongByTheBoxes)
-{
-    const struct {
-        bool children, parents;
-        qint32 person;
-        Counters marked;
-    } rows[] = {{false, false, 3, {3}},
-                {true, false, 1, {1, 3, 4, 5, 6}},
-                {false, true, 5, {1, 2, 3, 5}},
-                {true, true, 3, {1, 2, 3, 5}}};
-    for (const auto &row : rows) {
-        OpenWindow open(smallFamily());
-        open.control<QCheckBox>("quellenpincl_0").setChecked(row.children);
-        open.control<QCheckBox>("quellenpincl_1").setChecked(row.parents);
-        open.select(PersonList::Unmarked, {row.person});
-        open.click<QToolButton>("RM");
-        EXPECT_EQ(open.marked(), row.marked) << row.person;
     }
 }
 

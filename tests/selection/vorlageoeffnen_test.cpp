@@ -52,12 +52,7 @@ struct Opening : testing::Test, test::StartedProgram {
     std::vector<qint32> marked() { return inFile(native(family)); }
     static std::vector<qint32> inFile(const QString &nativeFile)
     {
-        dao::Engine engine;
-        const auto rows = engine.openDatabase(nativeFile)->openQuery(plainListQuery(PersonList::Marked));
-        std::vector<qint32> counters;
-        for (; !rows->eof(); rows->moveNext())
-            counters.push_back(rows->integer(rows->fieldIndex("Counter")).value_or(0));
-        return counters;
+        return test::countersIn(nativeFile, plainListQuery(PersonList::Marked));
     }
     /// What opening says where it must fail; everything is then as before.
     QString refusal(const QString &path, const basic::Progress &progress = {})

@@ -63,17 +63,7 @@ struct OpenWindow : Installation {
             counters.push_back(model.counterAt(row));
         return counters;
     }
-    /// Counters that the SQL text gives when another program asks for them.
-    std::vector<qint32> inFile(const QString &query)
-    {
-        dao::Engine engine;
-        const auto persons = engine.openDatabase(family())->openQuery(query);
-        const int field = persons->fieldIndex(u"Counter"_s);
-        std::vector<qint32> counters;
-        for (; !persons->eof(); persons->moveNext())
-            counters.push_back(persons->integer(field).value_or(0));
-        return counters;
-    }
+    std::vector<qint32> inFile(const QString &query) const { return countersIn(family(), query); }
     std::vector<qint32> marked() { return inFile(selection::plainListQuery(PersonList::Marked)); }
     QString family() const { return hostFolder() + u"/Familie/familie.mdb"_s; }
 

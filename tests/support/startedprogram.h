@@ -28,4 +28,16 @@ struct StartedProgram : Installation {
     app::Program program{programFolder(), desktop};
 };
 
+/// Counters that the SQL text gives when another program asks for them.
+inline std::vector<qint32> countersIn(const QString &nativeFile, const QString &query)
+{
+    dao::Engine engine;
+    const auto persons = engine.openDatabase(nativeFile)->openQuery(query);
+    const int field = persons->fieldIndex(u"Counter"_s);
+    std::vector<qint32> counters;
+    for (; !persons->eof(); persons->moveNext())
+        counters.push_back(persons->integer(field).value_or(0));
+    return counters;
+}
+
 } // namespace kalvenor::test
