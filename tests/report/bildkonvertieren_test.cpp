@@ -34,6 +34,7 @@ struct BildumwandlungTest : testing::Test {
     {
         control.Image.fill(Qt::darkGreen);
         host.Hostverzeichnis = basic::windowsPath(folder.path());
+        host.Sprache = u"Deutsch"_s;
         desktop::registerImageComponent(Component, desktop::createJpegComponent);
     }
     QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
