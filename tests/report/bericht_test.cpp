@@ -320,6 +320,8 @@ TEST_F(BerichtTest, FailedRunsLeaveNothingAndKeepTheOld)
         fail(format, "missing/a.html");
         fail(format, "alt.html", [](qint64, qint64) { return false; });
     }
+    content.statistik.rtf = QByteArray(richtext::RtfLimits().characters + 1, 'a'); // it would lack its end
+    fail(print::ExportFormat::Html, "alt.html");
     EXPECT_EQ(read(old), "old");
 }
 

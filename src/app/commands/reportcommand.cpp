@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/commands/reportcommand.h"
 
+#include "app/commands/introductionfile.h"
 #include "app/start/startedprogram.h"
 #include "platform/print/pdfwriter.h"
 #include "report/composition/bericht.h"
@@ -9,7 +10,6 @@
 #include "statistics/figures/grafikbild.h"
 #include "statistics/options/statistik.h"
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -47,15 +47,6 @@ std::string typeComplaint(const std::string &word)
                                                         : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
 }
 
-QByteArray readFile(const QString &nativeFile)
-{
-    QFile file(nativeFile);
-    if (!file.open(QIODevice::ReadOnly))
-        throw basic::Error(basic::ErrorKind::FileUnreadable, nativeFile,
-                           u"The introduction cannot be read: %1."_s.arg(file.errorString()));
-    return file.readAll();
-}
-
 } // namespace
 
 void ReportCommand::addTo(CLI::App &app, const std::function<void(CLI::App *)> &addCommon)
@@ -78,12 +69,17 @@ void ReportCommand::addTo(CLI::App &app, const std::function<void(CLI::App *)> &
         ->type_name("F.pdf|F.rtf|F.html");
 }
 
+QString ReportCommand::introductionFile() const
+{
+    return absoluteNative(given("--intro") ? m_intro : m_template);
+}
+
 void ReportCommand::apply(statistics::Statistik &statistik, const statistics::GeschlechtAlter &sex) const
 {
     if (given("--title"))
         statistik.titel = toText(m_title);
     if (given("--intro"))
-        statistik.rtf = readFile(absoluteNative(m_intro));
+        statistik.rtf = readIntroduction(introductionFile());
     if (given("--type"))
         statistik.grafiktyp = *statistics::grafiktypAus(m_type);
     if (given("--by"))
@@ -125,9 +121,13 @@ int ReportCommand::run(const QString &programFolder, const statistics::Geschlech
     print::ExportTarget target;
     if (ending != u"pdf")
         target = {ending == u"rtf" ? print::ExportFormat::Rtf : print::ExportFormat::Html, basic::windowsPath(output)};
-    const QString written =
-        bericht.auswahldrucken({.statistik = statistik, .list = list, .figures = figures, .look = look, .criteria = {}},
-                               target, terminal.progress());
+    const QString written = bericht.auswahldrucken({.statistik = statistik,
+                                                    .introductionFile = introductionFile(),
+                                                    .list = list,
+                                                    .figures = figures,
+                                                    .look = look,
+                                                    .criteria = {}},
+                                                   target, terminal.progress());
     const QString persons = QString::number(list.size());
     if (ending == u"pdf") {
         print::writePdf(*print.layout(), print.document().title, output, terminal.progress(),

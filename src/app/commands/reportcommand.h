@@ -22,6 +22,8 @@ public:
 private:
     /// What was said on the command line goes before what a template says.
     void apply(statistics::Statistik &statistik, const statistics::GeschlechtAlter &sex) const;
+    /// Native: the file itself, else the template that holds the introduction.
+    QString introductionFile() const;
     bool given(const char *option) const { return m_report->count(option) > 0; }
 
     CLI::App *m_report = nullptr;

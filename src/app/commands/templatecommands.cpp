@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/commands/templatecommands.h"
 
+#include "app/commands/introductionfile.h"
 #include "app/start/startedprogram.h"
 #include "selection/templates/vorlageoeffnen.h"
 #include "selection/templates/vorlagespeichern.h"
 #include "statistics/options/statistik.h"
 #include <algorithm>
 #include <QDir>
-#include <QFile>
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
@@ -32,11 +32,7 @@ QString absoluteNative(const std::string &word)
 
 QByteArray readRtf(const QString &nativeFile)
 {
-    QFile file(nativeFile);
-    if (!file.open(QIODevice::ReadOnly))
-        throw basic::Error(basic::ErrorKind::FileUnreadable, nativeFile,
-                           u"The introduction cannot be read: %1."_s.arg(file.errorString()));
-    QByteArray rtf = file.readAll();
+    QByteArray rtf = readIntroduction(nativeFile);
     if (!rtf.startsWith("{\\rtf"))
         throw basic::Error(basic::ErrorKind::TypeMismatch, nativeFile,
                            u"The introduction must be an RTF text, which begins with {\\rtf."_s);

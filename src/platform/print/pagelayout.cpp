@@ -7,6 +7,8 @@
 #include "platform/print/pagegeometry.h"
 
 #include <algorithm>
+#include <map>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -54,8 +56,12 @@ void setRunningText(Page &page, const RunningText &running, const TextFace &face
 PageLayout::PageLayout(const PrintDocument &document, const basic::Progress &progress)
     : m_language(document.language), m_paper(print::paperSize(document.page))
 {
-    for (const TextStyle &style : document.styles())
-        m_faces.emplace_back(style);
+    std::map<std::tuple<QString, double, bool, bool>, std::size_t> fonts;
+    for (const TextStyle &style : document.styles()) {
+        const auto [font, isNew] =
+            fonts.try_emplace({style.family, style.pointSize, style.bold, style.italic}, m_faces.size());
+        m_faces.push_back(isNew ? TextFace(style) : TextFace(m_faces[font->second], style));
+    }
     const TextFace &headerFace = m_faces.at(static_cast<std::size_t>(document.header.style));
     const TextFace &footerFace = m_faces.at(static_cast<std::size_t>(document.footer.style));
     const QRectF area = textArea(document, headerFace.lineHeight(), footerFace.lineHeight());

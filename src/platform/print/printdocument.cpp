@@ -45,16 +45,23 @@ std::array<QString, 3> runningTextParts(QStringView text, int pageNumber)
     return parts;
 }
 
+std::size_t qHash(const TextStyle &style, std::size_t seed)
+{
+    return qHashMulti(seed, style.family, style.pointSize, style.bold, style.italic, style.underline, style.strikeOut,
+                      style.color.rgba(), style.background.rgba());
+}
+
 StyleId PrintDocument::addStyle(const TextStyle &style)
 {
-    const auto found = std::find(m_styles.begin(), m_styles.end(), style);
-    if (found != m_styles.end())
-        return static_cast<StyleId>(found - m_styles.begin());
+    if (const auto known = m_styleIds.constFind(style); known != m_styleIds.cend())
+        return *known;
     if (!(style.pointSize > 0 && style.pointSize <= LargestPointSize))
         refuse(u"A font size of %1 points cannot be printed; sizes go from above 0 to %2."_s.arg(style.pointSize)
                    .arg(LargestPointSize));
+    const auto id = static_cast<StyleId>(m_styles.size());
     m_styles.push_back(style);
-    return static_cast<StyleId>(m_styles.size() - 1);
+    m_styleIds.insert(style, id);
+    return id;
 }
 
 void PrintDocument::add(Block block)

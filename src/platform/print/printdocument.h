@@ -5,6 +5,7 @@
 #include <array>
 #include <optional>
 #include <QColor>
+#include <QHash>
 #include <QImage>
 #include <QString>
 #include <QStringView>
@@ -34,6 +35,8 @@ struct TextStyle {
 
     bool operator==(const TextStyle &) const = default;
 };
+
+std::size_t qHash(const TextStyle &style, std::size_t seed);
 
 /// Names a style of one document.
 using StyleId = int;
@@ -187,6 +190,7 @@ private:
     void checkStyle(StyleId style) const;
 
     std::vector<TextStyle> m_styles{TextStyle()};
+    QHash<TextStyle, StyleId> m_styleIds{{TextStyle(), 0}};
     std::vector<Block> m_blocks;
     std::size_t m_columns = 0; ///< of the open table, 0 outside
 };

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <QList>
 #include <QPainter>
 #include <QTextLayout>
 
@@ -71,7 +70,7 @@ TextFace::TextFace(const TextStyle &style)
       m_ruleWidth(std::max(1.0, m_metrics.lineWidth()))
 {
     m_run.setRawFont(m_rawFont);
-    const auto fill = [this](std::vector<Glyph> &table, char16_t begin, char16_t end) {
+    const auto fill = [this](QList<Glyph> &table, char16_t begin, char16_t end) {
         QString units;
         for (char16_t unit = begin; unit < end; ++unit)
             units += QChar(unit);
@@ -82,11 +81,16 @@ TextFace::TextFace(const TextStyle &style)
         const QList<QPointF> advances = m_rawFont.advancesForGlyphIndexes(indexes);
         for (qsizetype i = 0; i < indexes.size(); ++i) {
             if (standsAlone(units[i].unicode()))
-                table[static_cast<std::size_t>(i)] = {indexes[i], static_cast<float>(advances[i].x())};
+                table[i] = {indexes[i], static_cast<float>(advances[i].x())};
         }
     };
     fill(m_letters, 0, LetterEnd);
     fill(m_punctuation, PunctuationBegin, 0x20AD);
+}
+
+TextFace::TextFace(const TextFace &sameFont, const TextStyle &style) : TextFace(sameFont)
+{
+    m_style = style;
 }
 
 const TextFace::Glyph &TextFace::glyph(char16_t unit) const
@@ -94,8 +98,8 @@ const TextFace::Glyph &TextFace::glyph(char16_t unit) const
     static const Glyph none;
     if (unit < m_letters.size())
         return m_letters[unit];
-    const std::size_t place = static_cast<std::size_t>(unit) - PunctuationBegin; // wraps around below
-    return place < m_punctuation.size() ? m_punctuation[place] : none;
+    const qsizetype place = unit - PunctuationBegin;
+    return place >= 0 && place < m_punctuation.size() ? m_punctuation[place] : none;
 }
 
 bool TextFace::isPlain(QStringView text) const

@@ -7,6 +7,7 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QGlyphRun>
+#include <QList>
 #include <QPointF>
 #include <QRawFont>
 #include <QStringList>
@@ -23,6 +24,8 @@ namespace kalvenor::print {
 class TextFace {
 public:
     explicit TextFace(const TextStyle &style);
+    /// A style that differs from another face's in lines and colours alone; it shares all that was measured.
+    TextFace(const TextFace &sameFont, const TextStyle &style);
 
     const TextStyle &style() const { return m_style; }
     /// Its pixel is one twip.
@@ -62,8 +65,8 @@ private:
     double m_underlinePosition;
     double m_strikeOutPosition;
     double m_ruleWidth;
-    std::vector<Glyph> m_letters;     ///< U+0000 …
-    std::vector<Glyph> m_punctuation; ///< U+2010 …
+    QList<Glyph> m_letters;     ///< U+0000 …
+    QList<Glyph> m_punctuation; ///< U+2010 …
     QGlyphRun m_run;
     std::vector<quint32> m_runIndexes;
     std::vector<QPointF> m_runPositions;

@@ -9,10 +9,8 @@ namespace kalvenor::richtext {
 
 namespace {
 
-// What a document may grow to, some 100 MB at worst; an introduction is a page or two.
-constexpr qint64 MostCharacters = 4'000'000;
-constexpr int MostRuns = 200'000;
-constexpr int MostParagraphs = 100'000;
+/// Qt looks at all items of a list for each that comes; discs do not tell one list from the next.
+constexpr int MostItems = 500;
 
 } // namespace
 
@@ -29,7 +27,7 @@ void RtfBuilder::append(QStringView text, const QTextCharFormat &format)
 
 bool RtfBuilder::isFull() const
 {
-    return m_characters > MostCharacters || m_runs > MostRuns || m_paragraphs > MostParagraphs;
+    return m_characters > m_limits.characters || m_runs > m_limits.runs || m_paragraphs > m_limits.paragraphs;
 }
 
 void RtfBuilder::begin()
@@ -70,7 +68,7 @@ void RtfBuilder::joinList(int level)
         m_list = nullptr;
         return;
     }
-    if (m_list != nullptr && m_list->format().indent() == level) {
+    if (m_list != nullptr && m_list->format().indent() == level && m_list->count() < MostItems) {
         m_list->add(m_cursor.block());
         return;
     }

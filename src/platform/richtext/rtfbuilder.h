@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/richtext/rtfreader.h"
 #include <QPointer>
 #include <QString>
 #include <QTextBlockFormat>
@@ -17,7 +18,7 @@ namespace kalvenor::richtext {
 /// cannot show are left out. Once it is full nothing more is taken.
 class RtfBuilder {
 public:
-    explicit RtfBuilder(QTextDocument &document) : m_cursor(&document) {}
+    RtfBuilder(QTextDocument &document, const RtfLimits &limits) : m_cursor(&document), m_limits(limits) {}
 
     void append(QStringView text, const QTextCharFormat &format);
     /// `listLevel` from 1 makes it an item of a list, 0 none; the format is for what is typed into an empty one.
@@ -33,6 +34,7 @@ private:
     void joinList(int level);
 
     QTextCursor m_cursor;
+    RtfLimits m_limits;
     QString m_run;
     QTextCharFormat m_format;
     bool m_begun = false; ///< the open paragraph has text in the document

@@ -18,7 +18,7 @@ struct RtfOpenParagraph : RtfParagraph {
 /// Text, line breaks, cells and bullets on their way into paragraphs. Each call names the formats that hold there.
 class RtfFlow {
 public:
-    explicit RtfFlow(QTextDocument &document) : m_builder(document) {}
+    RtfFlow(QTextDocument &document, const RtfLimits &limits) : m_builder(document, limits) {}
 
     struct Formats {
         const RtfOpenParagraph &paragraph;

@@ -55,7 +55,8 @@ bool isOneOf(std::string_view word, std::initializer_list<std::string_view> word
 
 } // namespace
 
-RtfParser::RtfParser(QByteArrayView rtf, QTextDocument &document) : m_tokens(rtf), m_flow(document)
+RtfParser::RtfParser(QByteArrayView rtf, QTextDocument &document, const RtfLimits &limits)
+    : m_tokens(rtf), m_flow(document, limits)
 {
 }
 

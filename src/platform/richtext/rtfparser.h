@@ -14,7 +14,7 @@ namespace kalvenor::richtext {
 /// Reads one RTF text into an empty document; readRtf is what others call.
 class RtfParser {
 public:
-    RtfParser(QByteArrayView rtf, QTextDocument &document);
+    RtfParser(QByteArrayView rtf, QTextDocument &document, const RtfLimits &limits);
     RtfResult parse();
 
 private:

@@ -3,6 +3,7 @@
 #include "platform/richtext/rtfreader.h"
 
 #include "platform/basic/codepage.h"
+#include "platform/basic/error.h"
 #include "platform/richtext/rtfcharacters.h"
 #include "platform/richtext/rtfparser.h"
 #include "platform/richtext/rtfwords.h"
@@ -18,8 +19,6 @@ using namespace Qt::StringLiterals;
 namespace kalvenor::richtext {
 
 namespace {
-
-constexpr qsizetype LongestPlainText = 4'000'000;
 
 bool isBlank(char c)
 {
@@ -45,11 +44,11 @@ QString decodePlain(QByteArrayView text)
     return utf8.hasError() ? basic::decodeAnsi(text) : decoded;
 }
 
-RtfResult readPlain(QByteArrayView text, QTextDocument &document)
+RtfResult readPlain(QByteArrayView text, QTextDocument &document, qint64 most)
 {
     RtfResult result{.isRtf = false};
-    result.tooLarge = text.size() > LongestPlainText;
-    QString lines = decodePlain(text.first(std::min(text.size(), LongestPlainText)));
+    result.tooLarge = text.size() > most;
+    QString lines = decodePlain(text.first(std::min<qint64>(text.size(), most)));
     lines.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
     QStringList shown = lines.split(u'\n');
     for (QString &line : shown)
@@ -66,19 +65,30 @@ bool looksLikeRtf(QByteArrayView text)
     return text.startsWith("{\\rtf") || text.startsWith("{{\\colortbl");
 }
 
-RtfResult readRtf(QByteArrayView rtf, QTextDocument &document)
+RtfResult readRtf(QByteArrayView rtf, QTextDocument &document, const RtfLimits &limits)
 {
     const bool undo = document.isUndoRedoEnabled();
     document.setUndoRedoEnabled(false);
     const auto restore = qScopeGuard([&document, undo] { document.setUndoRedoEnabled(undo); });
     document.clear();
     if (!looksLikeRtf(rtf))
-        return readPlain(rtf, document);
+        return readPlain(rtf, document, limits.characters);
     QTextCursor batch(&document);
     batch.beginEditBlock();
-    const RtfResult result = RtfParser(fromItsBeginning(rtf), document).parse();
+    const RtfResult result = RtfParser(fromItsBeginning(rtf), document, limits).parse();
     batch.endEditBlock();
     return result;
+}
+
+void readWholeRtf(QByteArrayView rtf, QTextDocument &document, const QString &file, const RtfLimits &limits)
+{
+    if (readRtf(rtf, document, limits).tooLarge)
+        throw basic::Error(
+            basic::ErrorKind::Overflow, file,
+            u"The introduction is too long. It can have up to %1 characters, %2 changes of format and %3 "
+            "paragraphs."_s.arg(limits.characters)
+                .arg(limits.runs)
+                .arg(limits.paragraphs));
 }
 
 QByteArray rtfBytes(const QString &rtf)

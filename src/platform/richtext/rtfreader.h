@@ -18,6 +18,16 @@ constexpr int TwipsPerListLevel = 40 * TwipsPerPixel;
 /// Font sizes beyond are made smaller, in half points.
 constexpr int LargestHalfPoints = 1600;
 
+/// Bytes; pictures, which are left out, make the file of a text large.
+constexpr qint64 LargestRtfFile = 256LL * 1024 * 1024;
+
+/// What a document may grow to; far beyond what persons write.
+struct RtfLimits {
+    qint64 characters = 50'000'000;
+    int runs = 5'000'000; ///< texts of one format
+    int paragraphs = 5'000'000;
+};
+
 /// What a text held beside what the document now shows.
 struct RtfResult {
     bool isRtf = true;     ///< false: it was taken as plain text
@@ -36,7 +46,10 @@ bool looksLikeRtf(QByteArrayView text);
 /// Replaces the document's content; its default font stays and its undo history is cleared. Every character of RTF gets
 /// a size and, where the text names one, a font family; bullets become lists of discs. What is not RTF is read as plain
 /// text (UTF-8, UTF-16 with its mark, else Windows-1252). Never fails.
-RtfResult readRtf(QByteArrayView rtf, QTextDocument &document);
+RtfResult readRtf(QByteArrayView rtf, QTextDocument &document, const RtfLimits &limits = {});
+/// The same for what must not lack its end: throws Error(Overflow), which names the limits, where it is too large.
+/// `file` is where the text came from, empty where it came from none.
+void readWholeRtf(QByteArrayView rtf, QTextDocument &document, const QString &file, const RtfLimits &limits = {});
 
 /// The bytes for RTF that is kept in a string read as Windows-1252: what that lacks becomes `\uN?`. Plain text gives
 /// UTF-8. readRtf takes both.

@@ -26,12 +26,12 @@ int RtfFonts::place(const QString &family, std::string_view kind)
     const QString name = soundFontName(family);
     if (name.isEmpty())
         return -1;
-    for (int i = 0; i < static_cast<int>(m_fonts.size()); ++i) {
-        if (i != m_symbols && m_fonts[static_cast<std::size_t>(i)].family == name)
-            return i;
-    }
+    if (const auto known = m_places.constFind(name); known != m_places.cend())
+        return *known;
+    const auto place = static_cast<int>(m_fonts.size());
+    m_places.insert(name, place);
     m_fonts.push_back({name, kind});
-    return static_cast<int>(m_fonts.size()) - 1;
+    return place;
 }
 
 int RtfFonts::symbols()
@@ -62,10 +62,11 @@ QByteArray RtfFonts::table(std::u16string_view byCode) const
 
 int RtfColors::place(QRgb color)
 {
-    const auto found = std::ranges::find(m_colors, color);
-    const auto number = static_cast<int>(found - m_colors.begin()) + 1;
-    if (found == m_colors.end())
+    int &number = m_numbers[color];
+    if (number == 0) {
         m_colors.push_back(color);
+        number = static_cast<int>(m_colors.size());
+    }
     return number;
 }
 

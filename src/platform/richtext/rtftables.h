@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QRgb>
 #include <QString>
 #include <string_view>
@@ -27,6 +28,7 @@ private:
         std::string_view kind;
     };
     std::vector<Font> m_fonts;
+    QHash<QString, int> m_places; ///< by name, without the font Symbol
     int m_symbols = -1;
 };
 
@@ -40,6 +42,7 @@ public:
 
 private:
     std::vector<QRgb> m_colors;
+    QHash<QRgb, int> m_numbers;
 };
 
 } // namespace kalvenor::richtext

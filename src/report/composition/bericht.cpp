@@ -166,11 +166,11 @@ void Bericht::addRunningTexts(print::PrintDocument &document, const ReportConten
 void Bericht::addIntroduction(print::PrintDocument &document, const ReportContent &content) const
 {
     QTextDocument text;
-    richtext::readRtf(content.statistik.rtf, text);
+    richtext::readWholeRtf(content.statistik.rtf, text, content.introductionFile);
     if (text.toPlainText().trimmed().isEmpty())
         return;
     const QString rtf = rtfanpassen(text, IntroductionScale);
-    richtext::readRtf(richtext::rtfBytes(rtf), text);
+    richtext::readWholeRtf(richtext::rtfBytes(rtf), text, content.introductionFile);
     for (print::Block &block : print::richTextBlocks(text, document))
         document.add(std::move(block));
     document.add(print::Paragraph{.text = {}, .spaceAfter = Gap / 2});

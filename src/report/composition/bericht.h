@@ -17,6 +17,7 @@ namespace kalvenor::report {
 /// What one run of the report shows. List and figures must stay as they are until it ends.
 struct ReportContent {
     statistics::Statistik statistik;
+    QString introductionFile = {}; ///< native, where the introduction came from one: for messages
     const statistics::Altersliste &list;
     const statistics::Grafikzahlen &figures;
     chart::ChartLook look;

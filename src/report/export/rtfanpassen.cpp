@@ -24,23 +24,24 @@ bool holdsOnlyBlanks(const QTextDocument &document)
     return document.blockCount() == 1 && basic::trimBlanks(document.firstBlock().text()).isEmpty();
 }
 
-void scaleSizes(QString &rtf, double scale)
+QString withScaledSizes(QStringView rtf, double scale)
 {
-    const QString word = u"\\fs"_s;
-    for (qsizetype at = rtf.indexOf(word); at >= 0; at = rtf.indexOf(word, at)) {
-        const qsizetype begin = at + word.size();
-        const auto orEnd = [&rtf](qsizetype found) {
-            return found < 0 ? rtf.size() : found;
-        };
-        const qsizetype end = std::min(orEnd(rtf.indexOf(u'\\', begin)), orEnd(rtf.indexOf(u' ', begin)));
-        at = end;
-        const double size = basic::leadingNumber(QStringView(rtf).sliced(begin, end - begin));
-        if (size > 0) {
-            const QString scaled = basic::trimmedNumberText(size * scale);
-            rtf.replace(begin, end - begin, scaled);
-            at = begin + scaled.size();
-        }
+    constexpr QStringView Word = u"\\fs";
+    QString scaled;
+    scaled.reserve(rtf.size());
+    for (qsizetype found = rtf.indexOf(Word); found >= 0; found = rtf.indexOf(Word)) {
+        scaled += rtf.first(found + Word.size());
+        rtf = rtf.sliced(found + Word.size());
+        const auto *const end = std::ranges::find_if(rtf, [](QChar c) { return c == u'\\' || c == u' '; });
+        const QStringView number = rtf.first(end - rtf.begin());
+        const double size = basic::leadingNumber(number);
+        if (size > 0)
+            scaled += basic::trimmedNumberText(size * scale);
+        else
+            scaled += number;
+        rtf = rtf.sliced(number.size());
     }
+    return scaled += rtf;
 }
 
 } // namespace
@@ -48,15 +49,14 @@ void scaleSizes(QString &rtf, double scale)
 void rtfanpassen(int, QString &rtf, double scale)
 {
     QTextDocument control;
-    richtext::readRtf(richtext::rtfBytes(rtf), control);
+    richtext::readWholeRtf(richtext::rtfBytes(rtf), control, {});
     if (!holdsOnlyBlanks(control))
         rtf = rtfanpassen(control, scale);
 }
 
 QString rtfanpassen(const QTextDocument &control, double scale)
 {
-    QString rtf = QString::fromLatin1(richtext::writeRtf(control));
-    scaleSizes(rtf, basic::toCurrency(scale));
+    QString rtf = withScaledSizes(QString::fromLatin1(richtext::writeRtf(control)), basic::toCurrency(scale));
     rtf.replace(u'_', u' ');
     rtf.replace(u"\\par"_s, u"\\line"_s);
     if (!rtf.contains(u"\\colortbl"_s))

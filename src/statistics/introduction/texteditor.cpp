@@ -27,8 +27,6 @@ using language::Text;
 
 namespace {
 
-constexpr qint64 LargestFile = 64LL * 1024 * 1024;
-
 bool isText(const QByteArray &content)
 {
     return richtext::looksLikeRtf(content) || !content.contains('\0') ||
@@ -141,12 +139,12 @@ bool TextEditor::readFile(const QString &file, QByteArray &content)
         showError(m_texts.text(Text::TextNotRead).arg(shown, source.errorString()));
         return false;
     }
-    content = source.read(LargestFile + 1);
+    content = source.read(richtext::LargestRtfFile + 1);
     if (source.error() != QFileDevice::NoError) {
         showError(m_texts.text(Text::TextNotRead).arg(shown, source.errorString()));
         return false;
     }
-    if (content.size() > LargestFile) {
+    if (content.size() > richtext::LargestRtfFile) {
         showError(m_texts.text(Text::TextTooLarge).arg(shown));
         return false;
     }

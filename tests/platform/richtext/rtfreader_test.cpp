@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/richtext/rtfreader.h"
 
+#include "platform/basic/error.h"
 #include "platform/richtext/formats.h"
 #include <gtest/gtest.h>
 
@@ -166,14 +167,40 @@ TEST(RtfReader, ReadsTheRestOfWhatIsDamaged)
 
 TEST(RtfReader, SaysWhereItStops)
 {
-    const QByteArray rows[] = {"{\\rtf1 " + QByteArray(4'000'001, 'a') + "b}",
-                               "{\\rtf1 " + QByteArray("\\b a\\b0 b").repeated(101'000) + "}",
-                               "{\\rtf1 " + QByteArray("\\par").repeated(101'000) + "}", QByteArray(4'000'001, 'a')};
-    for (const QByteArray &text : rows) {
+    const RtfLimits limits{.characters = 40, .runs = 20, .paragraphs = 10};
+    const struct {
+        QByteArray text;
+        bool tooLarge;
+    } rows[] = {{"{\\rtf1 " + QByteArray(40, 'a') + "}", false},
+                {"{\\rtf1 " + QByteArray(41, 'a') + "b}", true},
+                {"{\\rtf1 " + QByteArray("\\b a\\b0 b").repeated(10) + "}", false},
+                {"{\\rtf1 " + QByteArray("\\b a\\b0 b").repeated(11) + "}", true},
+                {"{\\rtf1 " + QByteArray("\\par").repeated(10) + "}", false},
+                {"{\\rtf1 " + QByteArray("\\par").repeated(11) + "}", true},
+                {QByteArray(40, 'a'), false},
+                {QByteArray(41, 'a'), true}};
+    for (const auto &row : rows) {
         QTextDocument document;
-        const RtfResult result = readRtf(text, document);
-        EXPECT_TRUE(result.tooLarge && !result.damaged) << text.left(20).constData();
-        EXPECT_LE(document.characterCount(), 4'000'003);
+        const RtfResult result = readRtf(row.text, document, limits);
+        EXPECT_EQ(result.tooLarge, row.tooLarge) << row.text.constData();
+        EXPECT_FALSE(result.damaged) << row.text.constData();
+        QString message;
+        try {
+            readWholeRtf(row.text, document, u"/a/Vorwort.rtf"_s, limits);
+        } catch (const kalvenor::basic::Error &error) {
+            message = error.message();
+        }
+        EXPECT_EQ(message.contains("Vorwort.rtf") && message.contains("40"), row.tooLarge) << message.toStdString();
+    }
+}
+
+TEST(RtfReader, ReadsALongTextToItsEnd)
+{
+    const QByteArray bullet = "{\\pntext\\'B7\\tab}x\\par ";
+    for (const QByteArray &part : {QByteArray("\\b a\\b0 b"), bullet}) {
+        QTextDocument document;
+        EXPECT_TRUE(readRtf("{\\rtf1 " + part.repeated(3'000) + "ENDE}", document).everythingShown());
+        EXPECT_TRUE(document.toPlainText().endsWith("ENDE"));
     }
 }
 
