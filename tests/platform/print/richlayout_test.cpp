@@ -102,6 +102,38 @@ TEST(RichLayout, PutsDirectionsInTheirPlaces)
     EXPECT_EQ(order, (QStringList{u"a"_s, u"עולם"_s, u"שלום"_s, u"b"_s}));
 }
 
+TEST(RichLayout, LinesOfALongTextAreFull)
+{
+    Sheet sheet;
+    const QString word(10'010, u'x');
+    const QString words = (u"abcd "_s.repeated(9) + u"abc "_s).repeated(300);
+    const struct {
+        QString text;
+        QStringList lines;
+    } rows[] = {{word, QStringList(204, QString(49, u'x')) << QString(14, u'x')},
+                {words, QStringList(300, words.left(48))},
+                {words + u'\n' + words, QStringList(600, words.left(48))}};
+    for (const auto &row : rows) {
+        PrintDocument document = sheet;
+        RichParagraph paragraph;
+        for (qsizetype i = 0; i < row.text.size(); i += 7)
+            paragraph.runs.push_back({row.text.mid(i, 7), i % 2 == 0 ? sheet.plain : sheet.bold});
+        document.add(paragraph);
+        const PageLayout layout(document);
+        QStringList lines;
+        for (const Page &page : layout.pages()) {
+            float baseline = -1;
+            for (const PlacedText &placed : page.texts) {
+                if (placed.baseline != baseline)
+                    lines << QString();
+                lines.back() += placed.text;
+                baseline = placed.baseline;
+            }
+        }
+        EXPECT_TRUE(lines == row.lines) << lines.join('\n').left(3'000).toStdString();
+    }
+}
+
 TEST(RichLayout, SpreadsJustifiedLinesButTheLast)
 {
     Sheet sheet;
