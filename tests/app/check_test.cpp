@@ -61,7 +61,7 @@ TEST(Check, SaysEachThingInALineOfItsOwn)
         {"missing", {"ADD-IN-LANGUAGE.MDB"}},
         {"damaged", {"namen.mdb"}},
         {"missing", {"Baum_DS"}},
-        {"missing", {"\"Adressen_DS \""}},
+        {"missing", {"“Adressen_DS ”"}},
         {"missing", {"Daten", "Geburtsdatum"}},
         {"missing", {"Daten", "index", "Counter"}},
     };

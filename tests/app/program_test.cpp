@@ -81,8 +81,9 @@ TEST_F(Start, NamesTheSettingThatDoesNotFit)
         FAIL();
     } catch (const basic::Error &error) {
         EXPECT_EQ(error.kind(), basic::ErrorKind::Overflow);
-        EXPECT_TRUE(error.message().contains("programm.ini") && error.message().contains("Kurzhilfe=40000"))
-            << error.what();
+        EXPECT_EQ(error.fault(), basic::Fault::SettingOutOfRange);
+        EXPECT_TRUE(error.place().file.endsWith("programm.ini"));
+        EXPECT_EQ(error.arguments(), QStringList({"Kurzhilfe", "40000", "Ansicht"}));
     }
 }
 

@@ -36,7 +36,7 @@ QString refusal(const test::Installation &installation, basic::ErrorKind kind)
         program.Main();
     } catch (const basic::Error &error) {
         EXPECT_EQ(error.kind(), kind);
-        return error.message();
+        return error.what();
     }
     return {};
 }
@@ -62,7 +62,8 @@ TEST(Datenbankoeffnen, NamesTheTableThatIsMissing)
         const test::Installation installation;
         test::writeFamily(installation.hostFolder() + "/Familie/familie.mdb", {}, 0, table.name);
         const QString said = refusal(installation, basic::ErrorKind::TableNotFound);
-        EXPECT_TRUE(said.contains('"' + table.name + '"') && said.contains("familie.mdb")) << said.toStdString();
+        EXPECT_TRUE(said.contains("TableMissing (" + table.name + ")") && said.contains("familie.mdb"))
+            << said.toStdString();
     }
     EXPECT_EQ(needed, 21);
 

@@ -28,24 +28,29 @@ QString read(const QString &file)
     return QString::fromUtf8(source.readAll());
 }
 
-/// Every enumerator but None with its number.
+/// Every text and every fault with its number.
 std::map<int, QString> enumerators()
 {
-    static const QRegularExpression line(u"^    (\\w+) = (\\d+),"_s, QRegularExpression::MultilineOption);
+    static const QRegularExpression text(u"^    (\\w+) = (\\d+),"_s, QRegularExpression::MultilineOption);
+    static const QRegularExpression fault(u"^    F\\((\\w+), (\\d+),"_s, QRegularExpression::MultilineOption);
     std::map<int, QString> names;
-    const QString source = read(Sources + u"language/texts/text.h"_s);
-    for (auto it = line.globalMatch(source); it.hasNext();) {
-        const auto match = it.next();
-        const bool added = names.insert({match.captured(2).toInt(), match.captured(1)}).second;
-        EXPECT_TRUE(added) << match.captured(0).toStdString();
-    }
+    const auto add = [&](const QString &file, const QRegularExpression &line, const QString &prefix) {
+        const QString source = read(Sources + file);
+        for (auto it = line.globalMatch(source); it.hasNext();) {
+            const auto match = it.next();
+            const bool added = names.insert({match.captured(2).toInt(), prefix + match.captured(1)}).second;
+            EXPECT_TRUE(added) << match.captured(0).toStdString();
+        }
+    };
+    add(u"language/texts/text.h"_s, text, u"Text::"_s);
+    add(u"platform/basic/fault.h"_s, fault, u"Fault::"_s);
     names.erase(0);
     return names;
 }
 
 std::set<QString> usedNames()
 {
-    static const QRegularExpression use(u"\\bText::(\\w+)"_s);
+    static const QRegularExpression use(u"\\b(?:Text|Fault)::\\w+"_s);
     std::set<QString> used;
     for (QDirIterator files(Sources, {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
         const QString file = files.next();
@@ -53,7 +58,7 @@ std::set<QString> usedNames()
             continue;
         const QString source = read(file);
         for (auto it = use.globalMatch(source); it.hasNext();)
-            used.insert(it.next().captured(1));
+            used.insert(it.next().captured(0));
     }
     return used;
 }
@@ -114,7 +119,7 @@ TEST(Catalogue, SaysTheSameInBothLanguages)
         for (const QString &text : {german, english}) {
             EXPECT_FALSE(text.trimmed().isEmpty());
             EXPECT_LE(text.size(), 255);
-            EXPECT_FALSE(text.contains(u'#')) << "the lookup removes placeholders between such signs";
+            EXPECT_FALSE(text.contains(u"NAME#"_s)) << "the lookup removes such placeholders";
             EXPECT_EQ(basic::decodeAnsi(basic::encodeAnsi(text)), text);
         }
         EXPECT_FALSE(german[0].isDigit()) << "a form's caption is the number, directly followed by the German text";

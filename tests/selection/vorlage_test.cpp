@@ -48,13 +48,13 @@ struct VorlageFile : testing::Test {
         QFile in(file);
         return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray("nothing there");
     }
-    /// What reading says, or "" where it succeeds.
+    /// The fault that reading names, or "" where it succeeds.
     QString refusal() const
     {
         try {
             readVorlage(file);
         } catch (const basic::Error &error) {
-            return error.message();
+            return error.what();
         }
         return {};
     }
@@ -109,20 +109,20 @@ TEST_F(VorlageFile, RefusalsNameTheLineAndWhatIsWrong)
         QByteArray from, to;
         QString line, named;
     } rows[] = {
-        {"\"C:\\QV\\B\xE4r.mdb\"", "Standard Jet DB", "line 1:", "not a selection template"},
-        {"\"C:\\QV\\B\xE4r.mdb\"", "\"\"", "line 1:", "not a selection template"},
-        {"\"Der \"\"alte\"\" Stamm\"\r\n", "", "line 5:", "introduction"}, // everything moves up
-        {"\"\"B\"\"", "\"B\"", "line 3:", "closing quote"},
-        {"}\"", "}", "line 3:", "no closing quote"},
-        {"5\r\n", "12\r\n", "line 6:", "chart"},
-        {"5\r\n", "\"5\"\r\n", "line 6:", "\"5\""},
-        {"5\r\n", "\r\n", "line 6:", "\"\""},
-        {"5\r\n0", "5\r\n2", "line 7:", "legend"},
-        {"#FALSE#", "0", "line 12:", "#TRUE#"},
+        {"\"C:\\QV\\B\xE4r.mdb\"", "Standard Jet DB", "line 1:", "NoTemplate"},
+        {"\"C:\\QV\\B\xE4r.mdb\"", "\"\"", "line 1:", "NoTemplate"},
+        {"\"Der \"\"alte\"\" Stamm\"\r\n", "", "line 5:", "WordIntroduction"}, // everything moves up
+        {"\"\"B\"\"", "\"B\"", "line 3:", "TextGoesOn"},
+        {"}\"", "}", "line 3:", "TextNotClosed"},
+        {"5\r\n", "12\r\n", "line 6:", "WordChartType"},
+        {"5\r\n", "\"5\"\r\n", "line 6:", ", 5)"},
+        {"5\r\n", "\r\n", "line 6:", ", )"},
+        {"5\r\n0", "5\r\n2", "line 7:", "WordLegend"},
+        {"#FALSE#", "0", "line 12:", "TemplateTruthExpected (WordByBirth, 0)"},
         {"-3", "-3x", "line 14:", "-3x"},
         {"-3", "3.0", "line 14:", "3.0"},
         {"2147483647", "2147483648", "line 15:", "2147483648"},
-        {"2147483647", "99999999999999999999999", "line 15:", "person"},
+        {"2147483647", "99999999999999999999999", "line 15:", "WordCounter"},
         {"2147483647", QByteArray(3, '\0'), "line 15:", "???"},
     };
     for (const auto &row : rows) {
@@ -132,7 +132,7 @@ TEST_F(VorlageFile, RefusalsNameTheLineAndWhatIsWrong)
             << row.from.toStdString() << " -> " << row.to.toStdString() << ": " << said.toStdString();
     }
     ASSERT_TRUE(QFile::remove(file));
-    EXPECT_TRUE(refusal().contains("not found"));
+    EXPECT_TRUE(refusal().contains("TemplateMissing"));
     file = folder.path();
     EXPECT_TRUE(refusal().contains("folder"));
 }
@@ -144,20 +144,20 @@ TEST_F(VorlageFile, NothingIsLostWhereItCannotBeWritten)
         try {
             writeVorlage(file, vorlage);
         } catch (const basic::Error &error) {
-            return error.text();
+            return QString(error.what());
         }
         return QString();
     };
     Vorlage vorlage = wholeVorlage();
     vorlage.statistik.titel = u"Łódź ☺ 😀 Žďár"_s;
-    EXPECT_TRUE(refused(vorlage).contains("title holds characters that a template cannot keep (Ł ź ☺ 😀 ď)"))
+    EXPECT_TRUE(refused(vorlage).contains("TemplateCharacters (WordTitle, Ł ź ☺ 😀 ď); ChangeTitle"))
         << refused(vorlage).toStdString();
     vorlage = wholeVorlage();
     vorlage.familienpfad += u"Ж"_s;
-    EXPECT_TRUE(refused(vorlage).contains("path"));
+    EXPECT_TRUE(refused(vorlage).contains("WordFamily"));
     EXPECT_EQ(content(), "before");
     file = folder.filePath("no/such/folder.kvl");
-    EXPECT_TRUE(refused(wholeVorlage()).contains("not saved"));
+    EXPECT_TRUE(refused(wholeVorlage()).contains("TemplateNotSaved"));
 }
 
 TEST_F(VorlageFile, StaysWholeWhereSavingFails)

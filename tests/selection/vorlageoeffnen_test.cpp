@@ -61,7 +61,7 @@ struct Opening : testing::Test, test::StartedProgram {
         try {
             open(path, progress);
         } catch (const basic::Error &error) {
-            said = error.message();
+            said = error.what();
         }
         EXPECT_EQ(marked(), (std::vector<qint32>{2, 3}));
         EXPECT_EQ(program.host.Familienpfad, family);
@@ -134,7 +134,7 @@ TEST_F(Opening, GoesOverToTheTemplatesDatabase)
 TEST_F(Opening, AMissingDatabaseIsTheUsersChoice)
 {
     save(u"C:\\weg.mdb"_s, {1});
-    EXPECT_TRUE(refusal(file).contains("C:\\weg.mdb. No folder is known"));
+    EXPECT_TRUE(refusal(file).contains("TemplateFamilyMissing (C:\\weg.mdb); DriveUnknown"));
     QString asked;
     bool answer = false;
     useOpenDatabase = [&](const QString &familienpfad) {
@@ -192,7 +192,7 @@ TEST_F(Opening, AWriteThatFailsHalfWayIsTakenBack)
         open(file, failOnceCleared);
         ADD_FAILURE() << "opened";
     } catch (const basic::Error &error) {
-        EXPECT_TRUE(error.text().contains("could not be put back")) << error.what();
+        EXPECT_TRUE(QString(error.what()).contains("MarksNotPutBack")) << error.what();
     }
     QFile::setPermissions(native(family), QFile::ReadOwner | QFile::WriteOwner);
 }

@@ -254,7 +254,7 @@ TEST(Grafikermitteln, NamesThePersonWhoseDateIsNoneAndCanBeStopped)
         try {
             grafikermitteln(started.program.databases, {.nachGeburtsjahr = byBirth}, progress);
         } catch (const basic::Error &error) {
-            return QString("%1 %2").arg(int(error.kind())).arg(error.message());
+            return QString("%1 %2").arg(int(error.kind())).arg(error.what());
         }
         return QString();
     };

@@ -4,6 +4,7 @@
 
 #include "data/datenbankmodul.h"
 #include "host/host.h"
+#include "language/texts/errormessage.h"
 #include "platform/desktop/terminal.h"
 #include "platform/jet/marks/markwriter.h"
 #include "platform/jet/reader/database.h"
@@ -93,19 +94,20 @@ private:
     CheckResult m_result;
 };
 
+/// In English, as the lines around it.
 void Checker::report(const basic::Error &error)
 {
     switch (error.kind()) {
     case basic::ErrorKind::FileNotFound:
     case basic::ErrorKind::TableNotFound:
     case basic::ErrorKind::ColumnNotFound:
-        return missing(error.message());
+        return missing(language::errorMessage(language::CatalogueLanguage::English, error));
     case basic::ErrorKind::FileUnreadable:
     case basic::ErrorKind::ReadOnly:
     case basic::ErrorKind::NotMarkable:
-        return locked(error.message());
+        return locked(language::errorMessage(language::CatalogueLanguage::English, error));
     default:
-        return damaged(error.message());
+        return damaged(language::errorMessage(language::CatalogueLanguage::English, error));
     }
 }
 

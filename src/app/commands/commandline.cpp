@@ -8,7 +8,9 @@
 #include "app/commands/filteroptions.h"
 #include "app/commands/reportcommand.h"
 #include "app/commands/templatecommands.h"
+#include "app/start/hostlanguage.h"
 #include "app/window/windowprogram.h"
+#include "language/texts/errormessage.h"
 #include "platform/basic/path.h"
 #include "platform/desktop/terminal.h"
 #include <CLI/CLI.hpp>
@@ -206,6 +208,19 @@ Parser::Parser()
     templates.addTo(app, [this](CLI::App *to) { addProgram(to); });
 }
 
+/// In the host's language; where there is no host, in the system's.
+void tell(const basic::Error &error, const Words &words)
+{
+    desktop::TerminalDesktop terminal;
+    host::Host host(programFolder(words), terminal);
+    speakAsHost(host);
+    const QString message = language::errorMessage(language::catalogueLanguage(host), error);
+    if (error.kind() == basic::ErrorKind::Cancelled)
+        desktop::writeError(message);
+    else
+        terminal.runtimeError(error.number(), message);
+}
+
 int wrongUsage(const QString &line)
 {
     desktop::writeError(line);
@@ -325,12 +340,9 @@ int runCommandLine(int argc, char **argv)
     } catch (const CLI::ParseError &error) {
         return wrongUsage(error);
     } catch (const basic::Error &error) {
-        if (error.kind() == basic::ErrorKind::Cancelled)
-            desktop::writeError(error.message());
-        else
-            desktop::TerminalDesktop().runtimeError(error);
+        tell(error, parser.words);
     } catch (const std::bad_alloc &) {
-        desktop::writeError(u"there is not enough memory for this"_s);
+        tell(basic::Error(basic::Fault::OutOfMemory), parser.words);
     }
     return Failed;
 }

@@ -17,12 +17,10 @@ QByteArray readIntroduction(const QString &nativeFile)
     if (file.open(QIODevice::ReadOnly))
         rtf = file.read(richtext::LargestRtfFile + 1);
     if (file.error() != QFileDevice::NoError)
-        throw basic::Error(basic::ErrorKind::FileUnreadable, nativeFile,
-                           u"The introduction cannot be read: %1."_s.arg(file.errorString()));
+        throw basic::Error(basic::Fault::IntroductionNotRead, {.file = nativeFile}, {file.errorString()});
     if (rtf.size() > richtext::LargestRtfFile)
-        throw basic::Error(basic::ErrorKind::Overflow, nativeFile,
-                           u"The introduction is too large. Its file can have up to %1 MB."_s.arg(
-                               richtext::LargestRtfFile / (1024 * 1024)));
+        throw basic::Error(basic::Fault::IntroductionTooLarge, {.file = nativeFile},
+                           {richtext::LargestRtfFile / (1024 * 1024)});
     return rtf;
 }
 

@@ -34,8 +34,7 @@ QByteArray readRtf(const QString &nativeFile)
 {
     QByteArray rtf = readIntroduction(nativeFile);
     if (!rtf.startsWith("{\\rtf"))
-        throw basic::Error(basic::ErrorKind::TypeMismatch, nativeFile,
-                           u"The introduction must be an RTF text, which begins with {\\rtf."_s);
+        throw basic::Error(basic::Fault::IntroductionNotRtf, {.file = nativeFile});
     return rtf;
 }
 

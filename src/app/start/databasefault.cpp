@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/start/databasefault.h"
 
+#include "language/texts/errormessage.h"
 #include "language/texts/sprache.h"
 #include "platform/storage/file.h"
 #include <QFile>
@@ -33,7 +34,7 @@ bool isHeldElsewhere(const QString &nativeFile)
 QString databaseFault(data::Session &session, const basic::Error &error, const QString &familienpfad)
 {
     const host::Host &host = session.host;
-    const QString &file = error.place();
+    const QString &file = error.place().file;
     const bool isFamily = file == host.native(familienpfad);
     switch (error.kind()) {
     case basic::ErrorKind::FileNotFound:
@@ -59,12 +60,11 @@ QString databaseFault(data::Session &session, const basic::Error &error, const Q
     case basic::ErrorKind::TableNotFound:
         if (isFamily)
             return session.language.text(Text::NoFamilyDatabase).arg(file);
-        // The engine names the table in quotation marks.
-        return session.language.text(Text::HostTableMissing).arg(error.text().section(u'"', 1, 1), file);
+        return session.language.text(Text::HostTableMissing).arg(error.arguments().value(0), file);
     case basic::ErrorKind::Damaged:
         return session.language.text(Text::FileDamaged).arg(file);
     default:
-        return error.message();
+        return language::errorMessage(session.language, error);
     }
 }
 

@@ -26,9 +26,9 @@ qint16 shortHelp(const host::Host &host, const QString &settings, const QString 
     const QString text = host.inilesen(settings, view, u"Kurzhilfe"_s, u"1"_s);
     try {
         return basic::toInteger16(basic::leadingNumber(text));
-    } catch (const basic::Error &error) {
-        throw basic::Error(error.kind(), host.native(settings),
-                           u"The setting Kurzhilfe=%1 in section [%2] cannot be: %3."_s.arg(text, view, error.text()));
+    } catch (const basic::Error &) {
+        throw basic::Error(basic::Fault::SettingOutOfRange, {.file = host.native(settings)},
+                           {u"Kurzhilfe"_s, text, view});
     }
 }
 

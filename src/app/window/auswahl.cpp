@@ -8,6 +8,7 @@
 #include "language/about/infoform.h"
 #include "language/forms/widgetform.h"
 #include "language/progress/progresspanel.h"
+#include "language/texts/errormessage.h"
 #include "selection/filter/filterpanel.h"
 #include "selection/panel/personlistpanel.h"
 #include "selection/panel/selectionpanel.h"
@@ -255,7 +256,7 @@ void Auswahl::showMarkedPerson(qint32 counter)
         view.selectTableRows({static_cast<quint32>(persons.position())});
         view.setFocus();
     } catch (const basic::Error &error) {
-        m_session.host.desktop().messageBox(error.message(), desktop::MessageCritical,
+        m_session.host.desktop().messageBox(language::errorMessage(m_session.language, error), desktop::MessageCritical,
                                             m_session.language.text(Text::Error));
     }
 }
@@ -337,7 +338,7 @@ void Auswahl::closeEvent(QCloseEvent *event)
         try {
             m_session.close();
         } catch (const basic::Error &error) {
-            m_session.host.desktop().runtimeError(error);
+            m_session.host.desktop().runtimeError(error.number(), language::errorMessage(m_session.language, error));
         }
     }
     event->accept();

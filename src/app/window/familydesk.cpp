@@ -5,6 +5,7 @@
 #include "app/start/databasefault.h"
 #include "app/window/templatedesk.h"
 #include "language/progress/userwork.h"
+#include "language/texts/errormessage.h"
 #include "language/texts/sprache.h"
 #include <QFileInfo>
 #include <QWidget>
@@ -38,7 +39,8 @@ bool FamilyDesk::openFile(const QString &nativeFile)
     const QString familienpfad = m_session.host.windows(nativeFile);
     const auto inPlainWords = [&](const basic::Error &error) {
         const QString plain = databaseFault(m_session, error, familienpfad);
-        return plain == error.message() ? plain : plain + u"\n\n"_s + error.message();
+        const QString exact = language::errorMessage(m_session.language, error);
+        return plain == exact ? plain : plain + u"\n\n"_s + exact;
     };
     if (!language::runAndTell(m_work, m_session.host, m_session.language,
                               m_session.language.text(Text::ReadingDatabase),

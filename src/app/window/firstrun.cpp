@@ -3,10 +3,12 @@
 #include "app/window/firstrun.h"
 
 #include "app/start/databasefault.h"
+#include "app/start/hostlanguage.h"
 #include "app/start/lastfolder.h"
 #include "demo/host/demohost.h"
 #include "language/forms/widgetform.h"
 #include "language/progress/progresspanel.h"
+#include "language/texts/errormessage.h"
 #include "platform/desktop/appicon.h"
 #include "platform/desktop/terminal.h"
 #include <new>
@@ -48,19 +50,11 @@ QLabel *makeLabel(const char *name, QWidget *parent)
     return label;
 }
 
-const QString German = u"Deutsch"_s;
 const QString English = u"English"_s;
 
 bool isGerman(const host::Host &host)
 {
     return language::anzeigesprache(host).language() == QLocale::German;
-}
-
-/// Without a host nobody has said which language they read, but the system.
-void speakWithoutHost(host::Host &host)
-{
-    if (!hasHost(host.native(host.programFolder())))
-        host.Sprache = QLocale::system().language() == QLocale::German ? German : English;
 }
 
 } // namespace
@@ -75,9 +69,9 @@ StartProblem startProblem(Program &program, const std::optional<basic::Error> &e
     const QString &family = host.Familienpfad;
     const QString settings = host.native(host.hostSettingsFile());
     if (error) {
-        const bool inFamily = error->place() == host.native(family) && !family.isEmpty();
+        const bool inFamily = error->place().file == host.native(family) && !family.isEmpty();
         return {.text = databaseFault(program, *error, family),
-                .details = error->message(),
+                .details = language::errorMessage(program.language, *error),
                 .anotherFamilyHelps = inFamily};
     }
     if (family.isEmpty())
@@ -86,7 +80,7 @@ StartProblem startProblem(Program &program, const std::optional<basic::Error> &e
                             : program.language.text(Text::NoFamilyNamed).arg(settings),
                 .anotherFamilyHelps = true};
     return {.text =
-                databaseFault(program, basic::Error(basic::ErrorKind::FileNotFound, host.native(family), {}), family),
+                databaseFault(program, basic::Error(basic::Fault::FileMissing, {.file = host.native(family)}), family),
             .anotherFamilyHelps = true};
 }
 
@@ -215,10 +209,10 @@ void FirstRun::makeDemonstration()
                 {}, [&](const basic::Progress &progress) { made = demo::makeDemoHost({.folder = folder}, progress); }))
             return;
     } catch (const basic::Error &error) {
-        failure =
-            error.kind() == basic::ErrorKind::Cancelled ? m_program.language.text(Text::Cancelled) : error.message();
+        failure = error.kind() == basic::ErrorKind::Cancelled ? m_program.language.text(Text::Cancelled)
+                                                              : language::errorMessage(m_program.language, error);
     } catch (const std::bad_alloc &) {
-        failure = u"There is not enough memory for this."_s;
+        failure = language::errorMessage(m_program.language, basic::Error(basic::Fault::OutOfMemory));
     }
     if (!failure.isEmpty()) {
         showProblem(failure, {});
@@ -246,17 +240,18 @@ std::unique_ptr<Program> startProgram(desktop::Desktop &desktop, StartPlace plac
         } catch (const basic::Error &error) {
             failure = error;
         } catch (const std::bad_alloc &) {
-            failure = basic::Error(basic::ErrorKind::Overflow, {}, u"There is not enough memory for this."_s);
+            failure = basic::Error(basic::Fault::OutOfMemory);
         }
-        speakWithoutHost(program->host);
+        speakAsHost(program->host);
         if (beforeQuestion)
             beforeQuestion(program->host);
         const StartProblem problem = startProblem(*program, failure);
+        const QString message = failure ? language::errorMessage(program->language, *failure) : QString();
         // Who has no host yet is welcomed, not met with an error number.
         if (failure && problem.noHost)
-            desktop::writeError(failure->message());
+            desktop::writeError(message);
         else if (failure)
-            desktop.runtimeError(*failure);
+            desktop.runtimeError(failure->number(), message);
         FirstRun dialog(*program, problem);
         if (!desktop.runDialog(dialog))
             return nullptr;

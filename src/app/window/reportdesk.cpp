@@ -3,6 +3,7 @@
 #include "app/window/reportdesk.h"
 
 #include "language/progress/userwork.h"
+#include "language/texts/errormessage.h"
 #include "language/texts/sprache.h"
 #include "platform/chart/chartcontrol.h"
 #include "selection/filter/filterpanel.h"
@@ -68,7 +69,8 @@ std::optional<QString> ReportDesk::auswahldrucken(const print::ExportTarget &tar
         {.said = [this](const QString &end) { Q_EMIT said(end); },
          .inPlainWords =
              [this](const basic::Error &error) {
-                 return m_session.language.text(Text::ReportFailed).arg(error.message());
+                 return m_session.language.text(Text::ReportFailed)
+                     .arg(language::errorMessage(m_session.language, error));
              }});
     if (!done)
         return std::nullopt;

@@ -7,7 +7,6 @@
 #include "selection/templates/vorlageoeffnen.h"
 #include "selection/templates/vorlagespeichern.h"
 #include <QFileInfo>
-#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -23,20 +22,6 @@ const QString RecentSection = u"Vorlagen"_s;
 const QString DefaultTemplate = u"\\Standart.kvl"_s;
 const QString Suffix = u"kvl"_s;
 
-/// What is wrong with a template in the user's language, the technical reason behind it; any other error as it is.
-QString inPlainWords(language::Sprachmodul &texts, const basic::Error &error)
-{
-    static const QRegularExpression place(u"^(.+\\.kvl), line (\\d+)$"_s, QRegularExpression::CaseInsensitiveOption);
-    const QRegularExpressionMatch match = place.match(error.place());
-    if (error.kind() != basic::ErrorKind::Damaged || !match.hasMatch())
-        return error.message();
-    const QString file = match.captured(1);
-    const QString line = match.captured(2);
-    const QString plain =
-        line == u"1" ? texts.text(Text::NoTemplateFile).arg(file) : texts.text(Text::TemplateDamaged).arg(line, file);
-    return plain + u"\n\n"_s + error.message();
-}
-
 } // namespace
 
 TemplateDesk::TemplateDesk(data::Session &session, desktop::Work &work, selection::SelectionController &lists,
@@ -49,11 +34,9 @@ TemplateDesk::TemplateDesk(data::Session &session, desktop::Work &work, selectio
 bool TemplateDesk::perform(const QString &what, const desktop::Work::Task &task)
 {
     return language::runAndTell(m_work, m_session.host, m_session.language, what, task,
-                                {.said = [this](const QString &end) { Q_EMIT said(end); },
-                                 .inPlainWords =
-                                     [this](const basic::Error &error) {
-                                         return inPlainWords(m_session.language, error);
-                                     }});
+                                {.said = [this](const QString &end) {
+                                    Q_EMIT said(end);
+                                }});
 }
 
 void TemplateDesk::show(const statistics::Statistik &statistik)

@@ -5,7 +5,7 @@
 #include "app/start/lastfolder.h"
 #include "app/window/auswahl.h"
 #include "app/window/firstrun.h"
-#include "language/texts/sprache.h"
+#include "language/texts/errormessage.h"
 #include "platform/desktop/appicon.h"
 #include "platform/desktop/terminal.h"
 #include "platform/desktop/widgetdesktop.h"
@@ -110,7 +110,7 @@ int runWindow(int &argc, char **argv, const QString &programFolder, const QStrin
                 });
             } catch (const basic::Error &error) {
                 window.reset();
-                desktop->runtimeError(error);
+                desktop->runtimeError(error.number(), language::errorMessage(starting.language, error));
                 throw;
             }
             return window.get();

@@ -23,7 +23,7 @@ void Session::exchangeDatabase(const QString &familienpfad, const std::function<
     } catch (const basic::Error &error) {
         goBack(former, error);
     } catch (const std::bad_alloc &) {
-        goBack(former, basic::Error(basic::ErrorKind::Overflow, {}, u"There is not enough memory for this."_s));
+        goBack(former, basic::Error(basic::Fault::OutOfMemory));
     }
     Q_EMIT databaseExchanged(true);
 }
@@ -34,9 +34,7 @@ void Session::goBack(const QString &former, const basic::Error &why)
         open(former);
     } catch (const basic::Error &error) {
         Q_EMIT databaseExchanged(false); // nobody may go on showing what was
-        throw basic::Error(why.kind(), why.place(),
-                           why.text() + u" The former database could not be opened again either (%1). Quit the "
-                                        "program and start it again."_s.arg(error.message()));
+        throw why.with(basic::Fault::FormerNotReopened).with(error);
     }
     Q_EMIT databaseExchanged(false);
     throw why;

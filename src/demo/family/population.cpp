@@ -101,7 +101,7 @@ Population Simulation::run()
             }
         }
         if (m_progress && !m_progress(qint64(m_population.persons.size()), 2 * qint64(m_wanted)))
-            throw basic::Error(basic::ErrorKind::Cancelled, {}, u"The demonstration was not made: it was stopped."_s);
+            throw basic::Error(basic::Fault::StoppedDemo);
     }
     return std::move(m_population);
 }

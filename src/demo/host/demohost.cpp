@@ -24,15 +24,14 @@ constexpr qsizetype LongestSetting = 255; // what a profile read returns at most
 void makeFolder(const QString &folder)
 {
     if (!QDir().mkpath(folder))
-        throw basic::Error(basic::ErrorKind::WriteFailed, folder,
-                           u"The folder cannot be made. Choose a folder that you may write to."_s);
+        throw basic::Error(basic::Fault::FolderNotMade, {.file = folder});
 }
 
 void writeFile(const QString &path, const QByteArray &bytes)
 {
     QString reason;
     if (!storage::replaceFileSafely(path, bytes, &reason))
-        throw basic::Error(basic::ErrorKind::WriteFailed, path, u"Cannot be written: %1"_s.arg(reason));
+        throw basic::Error(basic::Fault::NotWritten, {.file = path}, {reason});
 }
 
 /// The path as the settings file holds it; refused where a profile read would not give it back.
@@ -41,13 +40,9 @@ QByteArray settingOf(const QString &nativePath)
     const QString path = basic::windowsPath(nativePath);
     QByteArray bytes = basic::encodeAnsi(path);
     if (basic::decodeAnsi(bytes) != path)
-        throw basic::Error(basic::ErrorKind::Refused, nativePath,
-                           u"The host's settings file cannot hold this path: it has characters outside "
-                           "Windows-1252. Choose another folder."_s);
+        throw basic::Error(basic::Fault::PathNotAnsi, {.file = nativePath});
     if (bytes.size() > LongestSetting)
-        throw basic::Error(basic::ErrorKind::Refused, nativePath,
-                           u"The host's settings file cannot hold this path: it is longer than 255 characters. "
-                           "Choose a folder with a shorter path."_s);
+        throw basic::Error(basic::Fault::PathTooLong, {.file = nativePath});
     return bytes;
 }
 
@@ -102,11 +97,9 @@ void fillHostFolder(const DemoHost &host, quint32 seed, const basic::Progress &p
 DemoHost makeDemoHost(const DemoOptions &options, const basic::Progress &progress)
 {
     if (options.persons < 1 || options.persons > MostPersons)
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, {},
-                           u"A demonstration has 1 to 2,000,000 persons, not %1."_s.arg(options.persons));
+        throw basic::Error(basic::Fault::DemoSize, {}, {options.persons});
     if (options.folder.isEmpty())
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, {},
-                           u"No folder is named in which to make the demonstration."_s);
+        throw basic::Error(basic::Fault::DemoNowhere);
 
     DemoHost host;
     host.hostFolder = QDir::cleanPath(QDir(options.folder).absoluteFilePath(u"QV"_s));
@@ -116,13 +109,10 @@ DemoHost makeDemoHost(const DemoOptions &options, const basic::Progress &progres
 
     const QFileInfo existing(host.hostFolder);
     if (existing.exists() && !existing.isDir())
-        throw basic::Error(basic::ErrorKind::Refused, host.hostFolder,
-                           u"There is a file of this name already. Choose another folder."_s);
+        throw basic::Error(basic::Fault::FileInTheWay, {.file = host.hostFolder});
     if (existing.exists() &&
         !QDir(host.hostFolder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
-        throw basic::Error(basic::ErrorKind::Refused, host.hostFolder,
-                           u"This folder exists already and is not empty. Nothing was changed; choose another "
-                           "folder or remove this one first."_s);
+        throw basic::Error(basic::Fault::FolderNotEmpty, {.file = host.hostFolder});
     makeFolder(host.hostFolder);
     try {
         fillHostFolder(host, options.seed, progress);

@@ -245,7 +245,7 @@ std::vector<PrintedPerson> writeFamilyDatabase(const QString &file, const Popula
     for (const std::int32_t index : order) {
         writer.add(index);
         if (++done % 4096 == 0 && progress && !progress(persons + done, 2 * persons))
-            throw basic::Error(basic::ErrorKind::Cancelled, file, u"The demonstration was not made: it was stopped."_s);
+            throw basic::Error(basic::Fault::StoppedDemo);
     }
     addFamilyTables(creator, population, counters, random);
     creator.write(file);

@@ -3,6 +3,7 @@
 #include "language/about/infoform.h"
 
 #include "language/forms/widgetform.h"
+#include "language/texts/errormessage.h"
 #include "language/texts/sprache.h"
 #include "platform/basic/version.h"
 #include "platform/desktop/appicon.h"
@@ -55,7 +56,7 @@ Infoform::Infoform(const host::Host &host, Sprachmodul &texts, Ereignisarten &ki
     auto *tabs = new QTabWidget(this);
     tabs->setObjectName(u"Tabs"_s);
     tabs->addTab(makeAbout(), basic::versionRecord().productName);
-    tabs->addTab(makeLegend(kinds), {});
+    tabs->addTab(makeLegend(kinds, texts), {});
     tabs->addTab(makeLibraries(), {});
     setDesignTab(tabs, 1, Text::EventSymbols);
     setDesignTab(tabs, 2, Text::LibrariesUsed);
@@ -110,14 +111,14 @@ QWidget *Infoform::makeAbout()
     return page;
 }
 
-QWidget *Infoform::makeLegend(Ereignisarten &kinds)
+QWidget *Infoform::makeLegend(Ereignisarten &kinds, Sprachmodul &texts)
 {
     QString reason;
     try {
         if (kinds.images().empty())
             kinds.ereignis_art_laden();
     } catch (const basic::Error &error) {
-        reason = error.message();
+        reason = errorMessage(texts, error);
     }
     if (!reason.isEmpty()) {
         auto *label = new QLabel(reason, this);

@@ -19,7 +19,7 @@ public:
 
 private:
     QWidget *makeAbout();
-    QWidget *makeLegend(Ereignisarten &kinds);
+    QWidget *makeLegend(Ereignisarten &kinds, Sprachmodul &texts);
     QWidget *makeLibraries();
 };
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/progress/userwork.h"
 
+#include "language/texts/errormessage.h"
 #include "language/texts/sprache.h"
 #include <new>
 
@@ -13,7 +14,7 @@ bool runAndTell(desktop::Work &work, const host::Host &host, Sprachmodul &texts,
                 const desktop::Work::Task &task, const WorkTold &told)
 {
     const auto tell = [&](const basic::Error &error) {
-        host.desktop().messageBox(told.inPlainWords ? told.inPlainWords(error) : error.message(),
+        host.desktop().messageBox(told.inPlainWords ? told.inPlainWords(error) : errorMessage(texts, error),
                                   desktop::MessageCritical,
                                   told.title.isEmpty() ? texts.text(Text::Error) : told.title);
     };
@@ -25,7 +26,7 @@ bool runAndTell(desktop::Work &work, const host::Host &host, Sprachmodul &texts,
         else
             tell(error);
     } catch (const std::bad_alloc &) {
-        tell(basic::Error(basic::ErrorKind::Overflow, {}, u"There is not enough memory for this."_s));
+        tell(basic::Error(basic::Fault::OutOfMemory));
     }
     return false;
 }

@@ -11,8 +11,10 @@ std::span<const CatalogueText> catalogue()
 {
     static const std::vector<CatalogueText> all = [] {
         std::vector<CatalogueText> texts;
-        for (const auto group : {hostTexts(), windowTexts(), statisticsTexts(), printTexts(), messageTexts()})
+        for (const auto group :
+             {hostTexts(), windowTexts(), statisticsTexts(), printTexts(), messageTexts(), faultTexts()})
             texts.insert(texts.end(), group.begin(), group.end());
+        std::ranges::sort(texts, {}, &CatalogueText::id);
         return texts;
     }();
     return all;
@@ -20,7 +22,6 @@ std::span<const CatalogueText> catalogue()
 
 QString wording(Text id, CatalogueLanguage language)
 {
-    // Each group is in the order of its numbers, and so are the groups.
     const auto texts = catalogue();
     const auto found = std::ranges::lower_bound(texts, id, {}, &CatalogueText::id);
     if (found == texts.end() || found->id != id)

@@ -21,8 +21,9 @@ std::span<const CatalogueText> windowTexts();     ///< 20000–20499: main windo
 std::span<const CatalogueText> statisticsTexts(); ///< 20500–20799: tabs, figures, chart, editor
 std::span<const CatalogueText> printTexts();      ///< 20800–20999: print settings, preview, report
 std::span<const CatalogueText> messageTexts();    ///< 21000 and up: messages, about, first run, help, templates
+std::span<const CatalogueText> faultTexts();      ///< 22000 and up: the sentences of errors, by basic::Fault
 
-/// All of them, a group after the other.
+/// All of them, in the order of their numbers.
 std::span<const CatalogueText> catalogue();
 
 enum class CatalogueLanguage { German, English };

@@ -21,6 +21,9 @@ constexpr CatalogueText Texts[] = {
      u"Another program is using the file. Close it there and try again."},
     {Text::HostTableMissing, u"Die Tabelle %1 fehlt in %2. Die Installation des Hauptprogramms ist nicht vollständig.",
      u"The table %1 is missing in %2. The installation of the main program is not complete."},
+    {Text::PlaceTable, u"Tabelle %1", u"table %1"},
+    {Text::PlacePage, u"Seite %1", u"page %1"},
+    {Text::PlaceLine, u"Zeile %1", u"line %1"},
     {Text::NoPictureConversion, u"Die Bildumwandlung steht nicht zur Verfügung; das Bild wird als BMP gespeichert.",
      u"Picture conversion is not available; the picture is saved as BMP."},
     {Text::ReportFailed, u"Der Bericht konnte nicht erstellt werden: %1", u"The report could not be made: %1"},
@@ -82,7 +85,6 @@ constexpr CatalogueText Texts[] = {
     {Text::OpenTemplate, u"Vorlage öffnen", u"Open template"},
     {Text::SaveTemplateAs, u"Vorlage speichern unter", u"Save template as"},
     {Text::Templates, u"Vorlagen (*.kvl)", u"Templates (*.kvl)"},
-    {Text::TemplateDamaged, u"Die Vorlage ist beschädigt (Zeile %1): %2", u"The template is damaged (line %1): %2"},
     {Text::TemplateDatabaseMissing, u"Die Vorlage gehört zu einer Datenbank, die nicht vorhanden ist: %1",
      u"The template belongs to a database that does not exist: %1"},
     {Text::OpenWithThisDatabase, u"Mit der geöffneten Datenbank öffnen", u"Open with the database at hand"},
@@ -93,7 +95,6 @@ constexpr CatalogueText Texts[] = {
     {Text::OpeningTemplate, u"Die Vorlage wird geöffnet ...", u"The template is being opened ..."},
     {Text::NoTemplate, u"Keine Vorlage", u"No template"},
     {Text::Untitled, u"Unbenannt", u"Untitled"},
-    {Text::NoTemplateFile, u"Das ist keine Vorlage: %1", u"This is not a template: %1"},
 };
 
 } // namespace

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/texts/sprache.h"
 
-#include "language/texts/catalogue.h"
-
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::language {
@@ -24,6 +22,11 @@ void Sprachmodul::spracheoeffnen(const QString &file)
     m_database = m_engine.openDatabase(m_host.native(file));
     m_languages = m_database->openTable(u"Languages"_s);
     m_languages->setIndex(u"Counter"_s);
+}
+
+CatalogueLanguage catalogueLanguage(const host::Host &host)
+{
+    return anzeigesprache(host).language() == QLocale::German ? CatalogueLanguage::German : CatalogueLanguage::English;
 }
 
 QVariant Sprachmodul::sprachtext(qint16 id)
@@ -48,8 +51,7 @@ QVariant Sprachmodul::shownText(qint16 id)
     const QVariant text = sprachtext(id);
     if (id < FirstOwnText || (!text.isNull() && text.toString() != Missing))
         return text;
-    const bool german = anzeigesprache(m_host).language() == QLocale::German;
-    const QString own = wording(static_cast<Text>(id), german ? CatalogueLanguage::German : CatalogueLanguage::English);
+    const QString own = wording(static_cast<Text>(id), catalogueLanguage(m_host));
     return own.isNull() ? text : own;
 }
 

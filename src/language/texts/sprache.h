@@ -3,7 +3,7 @@
 #pragma once
 
 #include "host/host.h"
-#include "language/texts/text.h"
+#include "language/texts/catalogue.h"
 #include "platform/dao/dao.h"
 #include <memory>
 #include <QLocale>
@@ -17,6 +17,8 @@ inline constexpr qint16 FirstOwnText = 20000;
 
 /// How numbers and dates are written for the host's language: German, else English.
 QLocale anzeigesprache(const host::Host &host);
+/// The same for the catalogue's wording.
+CatalogueLanguage catalogueLanguage(const host::Host &host);
 
 /// The texts of the program: the table `Languages` of a language database, one column a language, looked up by text
 /// identifier at the moment a text is shown. The table's current row moves with every lookup.

@@ -350,10 +350,7 @@ enum class Text : qint16 {
     PageSetupTip = 20933,
     PrintedPages = 20935,
     PrintingCancelled = 20936,
-    NoPrinter = 20937,
     Paper = 20939,
-    NoReportYet = 20940,
-    NoPagesInRange = 20941,
     FileNotOpened = 20942,
     WrongFileEnding = 20943,
     PrintingPages = 20945,
@@ -387,6 +384,9 @@ enum class Text : qint16 {
     FileDamaged = 21043,
     FileInUse = 21046,
     HostTableMissing = 21048,
+    PlaceTable = 21049,
+    PlacePage = 21050,
+    PlaceLine = 21051,
     NoPictureConversion = 21052,
     ReportFailed = 21053,
     ErrorPrefix = 21054,
@@ -433,7 +433,6 @@ enum class Text : qint16 {
     OpenTemplate = 21400,
     SaveTemplateAs = 21401,
     Templates = 21402,
-    TemplateDamaged = 21403,
     TemplateDatabaseMissing = 21404,
     OpenWithThisDatabase = 21405,
     TemplatePersonsMissing = 21406,
@@ -441,7 +440,6 @@ enum class Text : qint16 {
     OpeningTemplate = 21409,
     NoTemplate = 21410,
     Untitled = 21412,
-    NoTemplateFile = 21413,
 };
 
 } // namespace kalvenor::language

@@ -2,20 +2,96 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/basic/error.h"
 
+#include <QStringList>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::basic {
 
-Error::Error(ErrorKind kind, QString place, QString text)
-    : m_kind(kind), m_place(std::move(place)), m_text(std::move(text)), m_utf8(message().toUtf8())
+namespace {
+
+QString namesOf(const std::vector<Argument> &arguments)
 {
+    QStringList names;
+    for (const Argument &argument : arguments)
+        names << (argument.word == Fault::None ? argument.text : QString::fromLatin1(nameOf(argument.word)));
+    return names.join(u", "_s);
 }
 
-QString Error::message() const
+QString placeNames(const Place &place)
 {
-    return m_place.isEmpty() ? m_text : m_place + u": "_s + m_text;
+    QStringList names{place.file};
+    if (!place.table.isEmpty())
+        names << u"table "_s + place.table;
+    if (place.page >= 0)
+        names << u"page %1"_s.arg(place.page);
+    if (place.line >= 0)
+        names << u"line %1"_s.arg(place.line);
+    names << place.item;
+    names.removeAll(QString());
+    return names.join(u", "_s);
+}
+
+} // namespace
+
+Error::Error(Fault fault, Place place, std::vector<Argument> arguments)
+    : m_kind(kindOf(fault)), m_place(std::move(place)), m_parts{{fault, std::move(arguments)}}
+{
+    describe();
+}
+
+Error::Error(ErrorKind kind, const QString &place, const QString &text)
+    : m_kind(kind), m_place{.file = place}, m_parts{{Fault::None, {}}}, m_text(text)
+{
+    describe();
+}
+
+void Error::describe()
+{
+    QStringList parts;
+    for (const Part &part : m_parts) {
+        if (part.fault == Fault::None)
+            parts << m_text;
+        else if (part.arguments.empty())
+            parts << QString::fromLatin1(nameOf(part.fault));
+        else
+            parts << u"%1 (%2)"_s.arg(QLatin1StringView(nameOf(part.fault)), namesOf(part.arguments));
+    }
+    const QString place = placeNames(m_place);
+    m_what = ((place.isEmpty() ? QString() : place + u": "_s) + parts.join(u"; "_s)).toUtf8();
+}
+
+QStringList Error::arguments() const
+{
+    QStringList texts;
+    for (const Argument &argument : m_parts.front().arguments)
+        texts << (argument.word == Fault::None ? argument.text : QString::fromLatin1(nameOf(argument.word)));
+    return texts;
+}
+
+Error Error::with(Fault remark, std::vector<Argument> arguments) const
+{
+    Error error = *this;
+    error.m_parts.push_back({remark, std::move(arguments)});
+    error.describe();
+    return error;
+}
+
+Error Error::with(const Error &other) const
+{
+    Error error = *this;
+    error.m_parts.insert(error.m_parts.end(), other.m_parts.begin(), other.m_parts.end());
+    error.describe();
+    return error;
+}
+
+Error Error::at(Place place) const
+{
+    Error error = *this;
+    error.m_place = std::move(place);
+    error.describe();
+    return error;
 }
 
 int Error::number() const

@@ -2,57 +2,86 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/fault.h"
+#include <concepts>
 #include <exception>
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
+#include <utility>
+#include <vector>
 
 namespace kalvenor::basic {
 
-/// What went wrong, coarse enough to choose an answer by.
-enum class ErrorKind {
-    InvalidProcedureCall, ///< a length or argument that cannot be (5)
-    Overflow,             ///< a number does not fit its type (6)
-    Subscript,            ///< an index outside its array (9)
-    TypeMismatch,         ///< a text that is no number or no date (13)
-    FileNotFound,         ///< the file or folder is not there (3024)
-    FileUnreadable,       ///< there, but cannot be read
-    NotADatabase,         ///< not a Jet 3 or Jet 4 file (3343)
-    Damaged,              ///< a structure inside the file is damaged (3343)
-    TableNotFound,        ///< 3078
-    ColumnNotFound,       ///< 3265
-    IndexNotFound,        ///< 3015
-    ObjectClosed,         ///< used after it was closed (3420)
-    NoCurrentRow,         ///< 3021
-    InvalidSql,           ///< the statement cannot be understood (3075)
-    InvalidPattern,       ///< a LIKE pattern that is not one (93)
-    Refused,              ///< a statement or change that is never carried out
-    ReadOnly,             ///< the file cannot be written (3027)
-    NotMarkable,          ///< this column or row cannot take a mark
-    ChangedElsewhere,     ///< another program changed the data meanwhile (3197)
-    WriteFailed,          ///< writing was begun and failed
-    Cancelled,            ///< the person stopped it
+/// Where something went wrong; what is not known is left out.
+struct Place {
+    QString file = {};  ///< native path, or the name of a printer
+    QString table = {}; ///< its name
+    qint64 page = -1;   ///< of a database file
+    qint64 line = -1;   ///< of a text file, from 1
+    QString item = {};  ///< what else tells the place: a person, a row
+
+    bool operator==(const Place &) const = default;
 };
 
-/// The one error type of the program. `place` names the file (and table, page …), `text` says what is wrong
-/// and, where there is something to do, what. The top catches it once per user action.
+/// What stands for one of a sentence's places %1, %2, …: a text of the data, a number, or a word to be translated.
+struct Argument {
+    Argument(QString shown) : text(std::move(shown)) {}
+    Argument(QLatin1StringView shown) : text(shown) {}
+    Argument(std::integral auto number) : text(QString::number(number)) {}
+    Argument(double number) : text(QString::number(number)) {}
+    Argument(Fault translated) : word(translated) {}
+
+    QString text = {};
+    Fault word = Fault::None;
+
+    bool operator==(const Argument &) const = default;
+};
+
+/// The one error type of the program: data from which the message is made where it is shown, in the reader's language
+/// (language::errorMessage). The top catches it once per user action.
 class Error : public std::exception {
 public:
-    Error(ErrorKind kind, QString place, QString text);
+    /// One sentence and what fills it. More than one: the fault, then what else is to be said of it.
+    struct Part {
+        Fault fault;
+        std::vector<Argument> arguments;
+        bool operator==(const Part &) const = default;
+    };
+
+    explicit Error(Fault fault, Place place = {}, std::vector<Argument> arguments = {});
+    /// With a wording of its own, for what is not data yet.
+    Error(ErrorKind kind, const QString &place, const QString &text);
 
     ErrorKind kind() const { return m_kind; }
-    const QString &place() const { return m_place; }
+    Fault fault() const { return m_parts.front().fault; }
+    const std::vector<Part> &parts() const { return m_parts; }
+    /// The fault's arguments as texts; a word gives its enumerator's name.
+    QStringList arguments() const;
+    const Place &place() const { return m_place; }
     const QString &text() const { return m_text; }
-    /// "place: text", or the text alone where no place is known.
-    QString message() const;
+    QString message() const { return QString::fromUtf8(m_what); }
+
+    /// The same with a remark behind it.
+    Error with(Fault remark, std::vector<Argument> arguments = {}) const;
+    /// The same followed by what another error says, whose place is left out.
+    Error with(const Error &other) const;
+    /// The same at another place.
+    Error at(Place place) const;
+
     /// The number under which users of the classic runtime know this kind.
     int number() const;
-    const char *what() const noexcept override { return m_utf8.constData(); }
+    /// Technical, for logs: "/a/b.kvl, line 3: TemplateCut (WordTitle)".
+    const char *what() const noexcept override { return m_what.constData(); }
 
 private:
+    void describe();
+
     ErrorKind m_kind;
-    QString m_place;
+    Place m_place;
+    std::vector<Part> m_parts;
     QString m_text;
-    QByteArray m_utf8;
+    QByteArray m_what;
 };
 
 } // namespace kalvenor::basic

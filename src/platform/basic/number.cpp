@@ -135,10 +135,8 @@ Integer rounded(double value)
 {
     const double whole = std::nearbyint(value); // half to even in the default rounding mode
     if (!(whole >= std::numeric_limits<Integer>::min() && whole <= std::numeric_limits<Integer>::max()))
-        throw Error(ErrorKind::Overflow, {},
-                    u"the number %1 is outside %2 to %3"_s.arg(value)
-                        .arg(std::numeric_limits<Integer>::min())
-                        .arg(std::numeric_limits<Integer>::max()));
+        throw Error(Fault::NumberOutOfRange, {},
+                    {value, std::numeric_limits<Integer>::min(), std::numeric_limits<Integer>::max()});
     return static_cast<Integer>(whole);
 }
 
@@ -208,7 +206,7 @@ qint16 textToInteger16(QStringView text)
     Cursor at(whole);
     const ReadNumber number = readNumber(at);
     if (!number.complete || !at.atEnd())
-        throw Error(ErrorKind::TypeMismatch, {}, u"\"%1\" is not a number"_s.arg(text));
+        throw Error(Fault::NoNumber, {}, {text.toString()});
     return toInteger16(number.value);
 }
 
@@ -217,7 +215,7 @@ double toCurrency(double value)
     constexpr double Limit = 9223372036854775808.0; // 2^63 ten-thousandths
     const double scaled = std::nearbyint(value * 10000);
     if (!(scaled >= -Limit && scaled < Limit))
-        throw Error(ErrorKind::Overflow, {}, u"the amount %1 is too large"_s.arg(value));
+        throw Error(Fault::AmountTooLarge, {}, {value});
     return scaled / 10000;
 }
 

@@ -51,9 +51,9 @@ bool SequentialReader::atEnd() const
                        [](char c) { return isBlank(c) || c == '\r' || c == '\n'; });
 }
 
-QString SequentialReader::place() const
+Place SequentialReader::place() const
 {
-    return u"%1, line %2"_s.arg(m_file).arg(m_itemLine);
+    return {.file = m_file, .line = m_itemLine};
 }
 
 SequentialItem SequentialReader::next()
@@ -61,7 +61,7 @@ SequentialItem SequentialReader::next()
     skipBlanks();
     m_itemLine = m_line;
     if (m_position >= m_content.size())
-        throw Error(ErrorKind::Damaged, place(), u"The file ends here, but something is still missing."_s);
+        throw Error(Fault::FileEnds, place());
     SequentialItem item;
     if (at(m_position) == '"')
         readQuoted(item);
@@ -83,8 +83,7 @@ void SequentialReader::readQuoted(SequentialItem &item)
     for (qsizetype from = m_position + 1;;) {
         const qsizetype quote = m_content.indexOf('"', from);
         if (quote < 0)
-            throw Error(ErrorKind::Damaged, place(),
-                        u"The text that begins here has no closing quote; the file was probably cut."_s);
+            throw Error(Fault::TextNotClosed, place());
         item.bytes += QByteArrayView(m_content).sliced(from, quote - from);
         if (at(quote + 1) != '"') {
             countLines(m_position, quote);
@@ -96,8 +95,7 @@ void SequentialReader::readQuoted(SequentialItem &item)
     }
     skipBlanks();
     if (m_position < m_content.size() && at(m_position) != ',' && !isLineEnd(m_position))
-        throw Error(ErrorKind::Damaged, place(),
-                    u"Something stands behind the closing quote of the text that begins here."_s);
+        throw Error(Fault::TextGoesOn, place());
 }
 
 void SequentialReader::readPlain(SequentialItem &item)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/error.h"
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
@@ -41,7 +42,7 @@ public:
     /// Throws past the end, where a closing quote is missing, and where something else follows one.
     SequentialItem next();
     /// Where the last value began: the file and the line (from 1) as an editor counts it.
-    QString place() const;
+    Place place() const;
 
 private:
     char at(qsizetype position) const { return position < m_content.size() ? m_content[position] : '\0'; }

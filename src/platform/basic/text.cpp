@@ -13,14 +13,13 @@ namespace {
 void refuseNegative(qsizetype length)
 {
     if (length < 0)
-        throw Error(ErrorKind::InvalidProcedureCall, {}, u"a text cannot be cut to the length %1"_s.arg(length));
+        throw Error(Fault::LengthImpossible, {}, {length});
 }
 
 void refuseStart(qsizetype start)
 {
     if (start < 1)
-        throw Error(ErrorKind::InvalidProcedureCall, {},
-                    u"a text cannot be cut from the place %1; the first is 1"_s.arg(start));
+        throw Error(Fault::StartImpossible, {}, {start});
 }
 
 } // namespace

@@ -82,24 +82,18 @@ void writeChart(const ChartTable &table, const ChartLook &look, QSize pixels, co
     const QString ending = QFileInfo(nativeFile).suffix().toLower();
     const bool jpeg = ending == "jpg"_L1 || ending == "jpeg"_L1;
     if (!jpeg && ending != "png"_L1 && ending != "svg"_L1)
-        throw basic::Error(basic::ErrorKind::Refused, nativeFile,
-                           u"A chart can be saved as .png, .jpg, .jpeg or .svg. Choose one of these endings."_s);
+        throw basic::Error(basic::Fault::ChartEnding, {.file = nativeFile});
     if (!possible(pixels))
-        throw basic::Error(
-            basic::ErrorKind::Refused, nativeFile,
-            u"A picture cannot be %1 by %2 pixels large. Choose 1 to %3 for each side."_s.arg(pixels.width())
-                .arg(pixels.height())
-                .arg(LargestSide));
+        throw basic::Error(basic::Fault::PictureSize, {.file = nativeFile},
+                           {pixels.width(), pixels.height(), LargestSide});
     const QByteArray bytes = ending == "svg"_L1
                                  ? svgBytes(table, look, pixels, heldDpi(dpi))
                                  : pictureBytes(chartImage(table, look, pixels, dpi), jpeg ? "jpg" : "png", quality);
     if (bytes.isEmpty())
-        throw basic::Error(basic::ErrorKind::WriteFailed, nativeFile,
-                           u"There is not enough memory for a picture of this size. Choose a smaller one."_s);
+        throw basic::Error(basic::Fault::PictureTooLarge, {.file = nativeFile});
     QString reason;
     if (!storage::replaceFileSafely(nativeFile, bytes, &reason))
-        throw basic::Error(basic::ErrorKind::WriteFailed, nativeFile,
-                           u"The picture cannot be written: %1. Choose another folder or name."_s.arg(reason));
+        throw basic::Error(basic::Fault::PictureNotWritten, {.file = nativeFile}, {reason});
 }
 
 } // namespace kalvenor::chart

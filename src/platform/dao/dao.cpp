@@ -137,7 +137,7 @@ Execution Database::writeMarks(const std::function<UpdateResult(SqlSession &)> &
             if (error.kind() != basic::ErrorKind::ChangedElsewhere)
                 throw;
             if (again)
-                throw basic::Error(basic::ErrorKind::ChangedElsewhere, error.place(),
+                throw basic::Error(basic::ErrorKind::ChangedElsewhere, error.place().file,
                                    u"Another program changed the file again and again while it was written. Try again "
                                    u"when the other program has finished."_s);
             for (const jet::Mark &mark : update.marks) {

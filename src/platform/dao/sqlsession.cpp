@@ -67,7 +67,7 @@ void SqlRun::rethrow() const
         if (m_exception)
             std::rethrow_exception(m_exception);
     } catch (const basic::Error &error) {
-        throw basic::Error(error.kind(), error.place().isEmpty() ? m_place : error.place(), error.text());
+        throw error.place() == basic::Place() ? error.at({.file = m_place}) : error;
     }
     if (m_cancelled)
         throw basic::Error(basic::ErrorKind::Cancelled, m_place, u"The query was stopped. Nothing was changed."_s);
@@ -133,8 +133,7 @@ private:
         const QString complaint = QString::fromUtf8(sqlite3_errmsg(m_parts.handle));
         const QString missingTable = u"no such table: "_s;
         if (complaint.startsWith(missingTable))
-            throw basic::Error(basic::ErrorKind::TableNotFound, m_place,
-                               u"There is no table named \"%1\"."_s.arg(complaint.mid(missingTable.size())));
+            throw basic::Error(basic::Fault::TableMissing, {.file = m_place}, {complaint.mid(missingTable.size())});
         if (code == SQLITE_NOMEM)
             throw std::bad_alloc();
         throw basic::Error(

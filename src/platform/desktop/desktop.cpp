@@ -55,9 +55,9 @@ int TerminalDesktop::messageBox(const QString &text, int, const QString &title)
     return ResultOk;
 }
 
-void TerminalDesktop::runtimeError(const basic::Error &error)
+void TerminalDesktop::runtimeError(int number, const QString &message)
 {
-    writeError(u"run-time error %1: %2"_s.arg(error.number()).arg(error.message()));
+    writeError(u"run-time error %1: %2"_s.arg(QString::number(number), message));
 }
 
 } // namespace kalvenor::desktop

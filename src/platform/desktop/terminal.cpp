@@ -42,8 +42,7 @@ bool isTerminal(FILE *stream)
 
 [[noreturn]] void throwOutputFailed()
 {
-    throw basic::Error(basic::ErrorKind::WriteFailed, u"standard output"_s,
-                       u"the result could not be written completely (disk full, or the reader has gone)"_s);
+    throw basic::Error(basic::Fault::OutputIncomplete);
 }
 
 } // namespace
@@ -58,7 +57,7 @@ void writeError(const QString &line)
 void writeOutput(QByteArrayView utf8)
 {
     if (interrupted != 0)
-        throw basic::Error(basic::ErrorKind::Cancelled, {}, u"Stopped; the result is not complete."_s);
+        throw basic::Error(basic::Fault::StoppedIncomplete);
     const auto size = static_cast<std::size_t>(utf8.size());
     if (std::fwrite(utf8.data(), 1, size, stdout) != size)
         throwOutputFailed();

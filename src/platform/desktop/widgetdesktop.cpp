@@ -84,9 +84,9 @@ int WidgetDesktop::messageBox(const QString &text, int style, const QString &tit
     }
 }
 
-void WidgetDesktop::runtimeError(const basic::Error &error)
+void WidgetDesktop::runtimeError(int number, const QString &message)
 {
-    messageBox(error.message(), MessageCritical, u"Run-time error %1"_s.arg(error.number()));
+    messageBox(message, MessageCritical, u"Run-time error %1"_s.arg(number));
 }
 
 void WidgetDesktop::setPointer(Pointer pointer)

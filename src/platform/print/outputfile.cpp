@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/print/outputfile.h"
 
-#include "platform/basic/error.h"
-
 #include <QFileInfo>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -15,30 +14,28 @@ OutputFile::OutputFile(const QString &nativePath, const QString &kind)
 {
     const QFileInfo place(nativePath);
     if (place.exists() && !place.isFile()) // a device would be replaced, too
-        fail(u"this is a folder or a device, not a file. Choose another name."_s);
+        fail(basic::Fault::NoPlainFile, {m_kind});
     if (m_file.hasFailed())
-        fail(u"%1. Choose another folder or name, or allow writing there."_s.arg(m_file.errorText()));
+        fail(basic::Fault::PlaceNotWritable, {m_kind, m_file.errorText()});
     open(WriteOnly | Unbuffered);
 }
 
 void OutputFile::check() const
 {
     if (m_file.hasFailed())
-        fail(u"the disk may be full. Make room on it or choose another one; an older file of this name "
-             "is unchanged."_s);
+        fail(basic::Fault::DiskFull, {m_kind});
 }
 
 void OutputFile::cancel() const
 {
-    throw basic::Error(basic::ErrorKind::Cancelled, m_path, u"Stopped by the user; nothing was written."_s);
+    throw basic::Error(basic::Fault::StoppedUnwritten, {.file = m_path});
 }
 
 void OutputFile::commit()
 {
     check();
     if (!m_file.commit())
-        fail(u"%1. Close it where it is open in another program, or choose another name; the older file is unchanged."_s
-                 .arg(m_file.errorText()));
+        fail(basic::Fault::NotReplaced, {m_kind, m_file.errorText()});
     close();
 }
 
@@ -47,9 +44,9 @@ qint64 OutputFile::writeData(const char *data, qint64 size)
     return m_file.append({data, size}) ? size : -1;
 }
 
-void OutputFile::fail(const QString &text) const
+void OutputFile::fail(basic::Fault fault, std::vector<basic::Argument> arguments) const
 {
-    throw basic::Error(basic::ErrorKind::WriteFailed, m_path, u"The %1 file cannot be written: %2"_s.arg(m_kind, text));
+    throw basic::Error(fault, {.file = m_path}, std::move(arguments));
 }
 
 } // namespace kalvenor::print

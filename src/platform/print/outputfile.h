@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/error.h"
 #include "platform/storage/replacement.h"
 #include <QIODevice>
 #include <QString>
@@ -30,7 +31,7 @@ protected:
     qint64 writeData(const char *data, qint64 size) override;
 
 private:
-    [[noreturn]] void fail(const QString &text) const;
+    [[noreturn]] void fail(basic::Fault fault, std::vector<basic::Argument> arguments) const;
 
     QString m_kind;
     QString m_path;

@@ -18,9 +18,7 @@ PageFlow::PageFlow(double top, double bottom) : m_top(top), m_bottom(bottom), m_
 void PageFlow::add(Strip strip)
 {
     if (strip.height > m_bottom - m_top)
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, u"page layout"_s,
-                           u"A line of text is higher than the page between its margins. "
-                           "Choose a smaller font or smaller margins."_s);
+        throw basic::Error(basic::Fault::LineTooHigh);
     const bool complete = !strip.keepWithNext;
     m_group.push_back(std::move(strip));
     if (complete)

@@ -35,8 +35,7 @@ QRectF textArea(const PrintDocument &document, double headerLine, double footerL
     const double width = paper.width() - setup.left - setup.right;
     const bool offPaper = std::min({setup.left, setup.top, setup.right, setup.bottom}) < 0;
     if (offPaper || width < LeastRoom || bottom - top < LeastRoom)
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, u"page layout"_s,
-                           u"The margins leave no room for text on the paper. Choose smaller margins."_s);
+        throw basic::Error(basic::Fault::NoRoomOnPaper);
     return {QPointF(setup.left, top), QPointF(paper.width() - setup.right, bottom)};
 }
 

@@ -73,7 +73,7 @@ PageLayout::PageLayout(const PrintDocument &document, const basic::Progress &pro
     for (const Block &block : document.blocks()) {
         std::visit(setter, block);
         if (progress && (++done % BlocksAStep == 0 || done == total) && !progress(done, total))
-            throw basic::Error(basic::ErrorKind::Cancelled, u"page layout"_s, u"Stopped by the user."_s);
+            throw basic::Error(basic::Fault::Stopped);
     }
     m_pages = flow.take();
 

@@ -12,21 +12,21 @@ using namespace Qt::StringLiterals;
 namespace kalvenor::print {
 namespace {
 
-[[noreturn]] void refuse(const QString &text)
+[[noreturn]] void refuse(const QString &what)
 {
-    throw basic::Error(basic::ErrorKind::InvalidProcedureCall, u"print document"_s, text);
+    throw basic::Error(basic::Fault::Misuse, {}, {what});
 }
 
 void checkSpace(Twips before, Twips after)
 {
     if (before < 0 || after < 0)
-        refuse(u"The space around a paragraph or picture cannot be negative."_s);
+        refuse(u"negative space around a block"_s);
 }
 
 void checkLevel(int level)
 {
     if (level < 0 || level > DeepestOutlineLevel)
-        refuse(u"There is no outline level %1."_s.arg(level));
+        refuse(u"outline level %1"_s.arg(level));
 }
 
 } // namespace
@@ -56,8 +56,7 @@ StyleId PrintDocument::addStyle(const TextStyle &style)
     if (const auto known = m_styleIds.constFind(style); known != m_styleIds.cend())
         return *known;
     if (!(style.pointSize > 0 && style.pointSize <= LargestPointSize))
-        refuse(u"A font size of %1 points cannot be printed; sizes go from above 0 to %2."_s.arg(style.pointSize)
-                   .arg(LargestPointSize));
+        refuse(u"font size %1"_s.arg(style.pointSize));
     const auto id = static_cast<StyleId>(m_styles.size());
     m_styles.push_back(style);
     m_styleIds.insert(style, id);
@@ -89,23 +88,23 @@ void PrintDocument::check(const RichParagraph &paragraph) const
     checkSpace(paragraph.spaceBefore, paragraph.spaceAfter);
     checkLevel(paragraph.outlineLevel);
     if (paragraph.leftIndent < 0)
-        refuse(u"A paragraph cannot be indented by less than nothing."_s);
+        refuse(u"negative indent"_s);
 }
 
 void PrintDocument::check(const Picture &picture) const
 {
     checkSpace(picture.spaceBefore, picture.spaceAfter);
     if (picture.image.isNull() || picture.width <= 0 || picture.height <= 0)
-        refuse(u"A picture without content or size cannot be printed."_s);
+        refuse(u"empty picture"_s);
 }
 
 void PrintDocument::check(const TableStart &table) const
 {
     if (table.columns.empty())
-        refuse(u"A table needs at least one column."_s);
+        refuse(u"table without columns"_s);
     if (table.rowSpacing < 0 ||
         std::any_of(table.columns.begin(), table.columns.end(), [](const Column &column) { return column.width < 0; }))
-        refuse(u"Column widths and row spacing cannot be negative."_s);
+        refuse(u"negative column width or row spacing"_s);
     for (const auto &row : table.heading)
         checkCells(row, table.columns.size());
 }
@@ -113,14 +112,14 @@ void PrintDocument::check(const TableStart &table) const
 void PrintDocument::check(const TableRow &row) const
 {
     if (m_columns == 0)
-        refuse(u"A table row stands outside a table."_s);
+        refuse(u"table row outside a table"_s);
     checkCells(row.cells, m_columns);
 }
 
 void PrintDocument::checkCells(const std::vector<Cell> &cells, std::size_t columns) const
 {
     if (cells.size() > columns)
-        refuse(u"A row of %1 cells does not fit a table of %2 columns."_s.arg(cells.size()).arg(columns));
+        refuse(u"%1 cells in a table of %2 columns"_s.arg(cells.size()).arg(columns));
     for (const Cell &cell : cells) {
         checkStyle(cell.style);
         checkLevel(cell.outlineLevel);
@@ -130,7 +129,7 @@ void PrintDocument::checkCells(const std::vector<Cell> &cells, std::size_t colum
 void PrintDocument::checkStyle(StyleId style) const
 {
     if (style < 0 || static_cast<std::size_t>(style) >= m_styles.size())
-        refuse(u"There is no text style %1."_s.arg(style));
+        refuse(u"text style %1"_s.arg(style));
 }
 
 } // namespace kalvenor::print

@@ -83,12 +83,8 @@ RtfResult readRtf(QByteArrayView rtf, QTextDocument &document, const RtfLimits &
 void readWholeRtf(QByteArrayView rtf, QTextDocument &document, const QString &file, const RtfLimits &limits)
 {
     if (readRtf(rtf, document, limits).tooLarge)
-        throw basic::Error(
-            basic::ErrorKind::Overflow, file,
-            u"The introduction is too long. It can have up to %1 characters, %2 changes of format and %3 "
-            "paragraphs."_s.arg(limits.characters)
-                .arg(limits.runs)
-                .arg(limits.paragraphs));
+        throw basic::Error(basic::Fault::IntroductionTooLong, {.file = file},
+                           {limits.characters, limits.runs, limits.paragraphs});
 }
 
 QByteArray rtfBytes(const QString &rtf)

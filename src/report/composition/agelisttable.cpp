@@ -96,7 +96,7 @@ void AgeListTable::write(print::PrintDocument &document, const statistics::Alter
     qint64 row = 0;
     for (const statistics::Alterszeile &line : list) {
         if (progress && row % RowsBetweenReports == 0 && !progress(row, static_cast<qint64>(list.size())))
-            throw basic::Error(basic::ErrorKind::Cancelled, {}, u"The report was stopped."_s);
+            throw basic::Error(basic::Fault::StoppedReport);
         ++row;
         const bool isWoman = line.geschlecht == statistics::Geschlecht::Frau;
         print::TableRow cells{{{.text = basic::trimBlanks(statistics::alterstext(line.tage)), .style = style},

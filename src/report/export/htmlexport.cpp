@@ -19,8 +19,7 @@ constexpr QChar Quote(34);
 
 [[noreturn]] void failed(const QString &file, const QString &why)
 {
-    throw basic::Error(basic::ErrorKind::WriteFailed, file,
-                       u"The page could not be finished: %1. Save it in a folder that can be written."_s.arg(why));
+    throw basic::Error(basic::Fault::PageUnfinished, {.file = file}, {why});
 }
 
 QByteArray withTags(const QByteArray &page)
@@ -46,8 +45,7 @@ QByteArray withTags(const QByteArray &page)
 QString exportName(const QString &chosen, const QString &reportName, const QString &text, const QString &extension)
 {
     if (chosen.contains(u'*') || chosen.contains(u'?'))
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, chosen,
-                           u"The file name must not hold * or ?. Choose another one."_s);
+        throw basic::Error(basic::Fault::WildcardInName, {.file = chosen});
     return basic::leftPart(chosen, chosen.lastIndexOf(u'.')) + u'-' + reportName + text + extension;
 }
 
@@ -112,7 +110,7 @@ void htmlnachbearbeiten(const host::Host &host, const QString &exportFile)
     const QStringList copies = folder.entryList({u"*.htmlx"_s}, QDir::Files);
     for (const QString &name : copies) {
         if (!folder.remove(name))
-            failed(folderOf(exportFile) + name, u"the file cannot be deleted"_s);
+            throw basic::Error(basic::Fault::CopyNotDeleted, {.file = folderOf(exportFile) + name});
     }
 }
 

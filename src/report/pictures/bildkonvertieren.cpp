@@ -30,7 +30,7 @@ constexpr qint16 DefaultLeastHeight = 2000;
 
 [[noreturn]] void cannotWrite(const QString &file, const QString &reason)
 {
-    throw basic::Error(basic::ErrorKind::WriteFailed, file, reason);
+    throw basic::Error(basic::Fault::NotWritten, {.file = file}, {reason});
 }
 
 /// A BMP has no transparency: the paper shows through it.
@@ -81,10 +81,9 @@ void Bildumwandlung::bildkonvertieren(const PictureControl &control, QString &fi
     if (file.isEmpty())
         return;
     if (nameOf(file).lastIndexOf(u'.') < 0)
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, file,
-                           u"The name of the picture has no extension."_s);
+        throw basic::Error(basic::Fault::PictureWithoutEnding, {.file = file});
     if (control.Image.isNull())
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, file, u"There is no picture to write."_s);
+        throw basic::Error(basic::Fault::NoPicture, {.file = file});
     type = basic::rightPart(file, 3).toUpper();
     if (type == u"BMP")
         type = u"JPG"_s;
@@ -102,7 +101,7 @@ void Bildumwandlung::bildkonvertieren(const PictureControl &control, QString &fi
                                     m_texts.text(Text::Error));
         file = base + u"BMP"_s;
         if (!renameTo(nativeBmp, nameOf(file)))
-            cannotWrite(nativeBmp, u"The file cannot be renamed."_s);
+            throw basic::Error(basic::Fault::NotRenamed, {.file = nativeBmp});
         return;
     }
 
@@ -147,7 +146,7 @@ qint16 dllregistrieren(const host::Host &host, const QString &library, bool regi
 void bildgroesse(const host::Host &host, PictureControl &chart, PictureControl &print, qint16 width, qint16 &height)
 {
     if (width <= 0 || chart.Image.isNull())
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, {}, u"There is no picture or no room for it."_s);
+        throw basic::Error(basic::Fault::NoPictureRoom);
     const double least = basic::leadingNumber(
         host.inilesen(host.hostSettingsFile(), u"Ansicht"_s, u"Bildminhoehe"_s, QString::number(DefaultLeastHeight)));
     if (height < least || height <= 0) {

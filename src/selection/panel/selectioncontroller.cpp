@@ -3,6 +3,7 @@
 #include "selection/panel/selectioncontroller.h"
 
 #include "language/progress/userwork.h"
+#include "language/texts/errormessage.h"
 #include <QTimer>
 #include <utility>
 
@@ -131,11 +132,13 @@ void SelectionController::runFilters()
                 } catch (const basic::Error &error) {
                     if (error.kind() == basic::ErrorKind::InvalidSql ||
                         error.kind() == basic::ErrorKind::InvalidPattern || error.kind() == basic::ErrorKind::Refused)
-                        Q_EMIT filterRefused(m_session.language.text(Text::FilterNotUnderstood).arg(error.text()));
+                        Q_EMIT filterRefused(m_session.language.text(Text::FilterNotUnderstood)
+                                                 .arg(language::errorSentence(m_session.language, error)));
                     else if (error.kind() == basic::ErrorKind::Cancelled ? !m_wanted : !wanted.typed)
                         throw;
                     else if (error.kind() != basic::ErrorKind::Cancelled)
-                        Q_EMIT filterRefused(error.message()); // nobody wants a box while typing
+                        Q_EMIT filterRefused(
+                            language::errorMessage(m_session.language, error)); // nobody wants a box while typing
                 }
             },
             desktop::Work::Input::Typing);

@@ -9,10 +9,13 @@
 #include <limits>
 #include <QList>
 #include <QStringList>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::selection {
+
+using basic::Fault;
 
 namespace {
 
@@ -24,30 +27,28 @@ QByteArray readWhole(const QString &nativeFile)
     QString reason;
     const storage::File file = storage::File::open(nativeFile, storage::File::Mode::Read, &reason);
     if (!file.isOpen())
-        throw basic::Error(file.fault() == storage::FileFault::NotFound ? basic::ErrorKind::FileNotFound
-                                                                        : basic::ErrorKind::FileUnreadable,
-                           nativeFile, u"The template cannot be opened: %1."_s.arg(reason));
+        throw basic::Error(file.fault() == storage::FileFault::NotFound ? Fault::TemplateMissing
+                                                                        : Fault::TemplateUnreadable,
+                           {.file = nativeFile}, {reason});
     const qint64 size = file.size();
     if (size > LargestFile)
-        throw basic::Error(basic::ErrorKind::Damaged, nativeFile,
-                           u"This is not a selection template: it is %1 MB large."_s.arg(size / 1024 / 1024));
+        throw basic::Error(Fault::TemplateTooLarge, {.file = nativeFile}, {size / 1024 / 1024});
     QByteArray content(size > 0 ? size : 0, Qt::Uninitialized);
     if (size < 0 || !file.readAt(0, {reinterpret_cast<std::uint8_t *>(content.data()), std::size_t(size)}))
-        throw basic::Error(basic::ErrorKind::FileUnreadable, nativeFile,
-                           u"The template cannot be read: %1."_s.arg(file.errorText()));
+        throw basic::Error(Fault::TemplateUnreadable, {.file = nativeFile}, {file.errorText()});
     return content;
 }
 
 /// A value as an error quotes it.
-QString quoted(const basic::SequentialItem &item)
+QString shown(const basic::SequentialItem &item)
 {
-    constexpr qsizetype Shown = 30;
-    QString text = basic::decodeAnsi(item.bytes.left(Shown));
+    constexpr qsizetype Longest = 30;
+    QString text = basic::decodeAnsi(item.bytes.left(Longest));
     for (QChar &c : text) {
         if (!c.isPrint())
             c = u'?';
     }
-    return u"\"%1%2\""_s.arg(text, item.bytes.size() > Shown ? u"..."_s : QString());
+    return item.bytes.size() > Longest ? text + u"..."_s : text;
 }
 
 /// The values of a template one by one, each checked. `what` names the value in errors.
@@ -57,75 +58,67 @@ public:
 
     bool atEnd() const { return m_reader.atEnd(); }
     QString databasePath();
-    QByteArray text(const char *what);
-    qint32 number(const char *what, qint32 from, qint32 to);
-    bool truth(const char *what);
+    QByteArray text(Fault what);
+    qint32 number(Fault what, qint32 from, qint32 to);
+    bool truth(Fault what);
 
 private:
-    basic::SequentialItem next(const char *what);
-    [[noreturn]] void refuse(const QString &text) const
+    basic::SequentialItem next(Fault what);
+    [[noreturn]] void refuse(Fault fault, std::vector<basic::Argument> arguments = {}) const
     {
-        throw basic::Error(basic::ErrorKind::Damaged, m_reader.place(), text);
+        throw basic::Error(fault, m_reader.place(), std::move(arguments));
     }
 
     basic::SequentialReader m_reader;
 };
 
-basic::SequentialItem VorlageReader::next(const char *what)
+basic::SequentialItem VorlageReader::next(Fault what)
 {
     basic::SequentialItem item = m_reader.next();
     if (!item.ended)
-        refuse(u"The file ends in the middle of this line (%1); it was cut, and cannot be opened. Use "
-               "another copy of the template or save it again."_s.arg(QLatin1String(what)));
+        refuse(Fault::TemplateCut, {what});
     return item;
 }
 
 QString VorlageReader::databasePath()
 {
     if (!m_reader.atEnd()) {
-        const basic::SequentialItem item = next("family database");
+        const basic::SequentialItem item = next(Fault::WordFamily);
         if (item.quoted && !item.bytes.isEmpty())
             return basic::decodeAnsi(item.bytes);
     }
-    refuse(u"This is not a selection template: its first line must be the path of a family database in "
-           "double quotes."_s);
+    refuse(Fault::NoTemplate);
 }
 
-QByteArray VorlageReader::text(const char *what)
+QByteArray VorlageReader::text(Fault what)
 {
     const basic::SequentialItem item = next(what);
     if (!item.quoted)
-        refuse(u"Here should be the %1, a text in double quotes, but there is %2. The template is "
-               "damaged; use another copy of it or save it again."_s.arg(QLatin1String(what), quoted(item)));
+        refuse(Fault::TemplateTextExpected, {what, shown(item)});
     return item.bytes;
 }
 
-qint32 VorlageReader::number(const char *what, qint32 from, qint32 to)
+qint32 VorlageReader::number(Fault what, qint32 from, qint32 to)
 {
     const basic::SequentialItem item = next(what);
     bool isNumber = false;
     const qint64 number = item.bytes.toLongLong(&isNumber, 10);
     if (item.quoted || !isNumber || number < from || number > to)
-        refuse(u"Here should be the %1, a number from %2 to %3, but there is %4. The template is "
-               "damaged; use another copy of it or save it again."_s.arg(QLatin1String(what))
-                   .arg(from)
-                   .arg(to)
-                   .arg(quoted(item)));
+        refuse(Fault::TemplateNumberExpected, {what, from, to, shown(item)});
     return static_cast<qint32>(number);
 }
 
-bool VorlageReader::truth(const char *what)
+bool VorlageReader::truth(Fault what)
 {
     const basic::SequentialItem item = next(what);
     const bool isTrue = item.bytes == "#TRUE#";
     if (item.quoted || (!isTrue && item.bytes != "#FALSE#"))
-        refuse(u"Here should be the %1, #TRUE# or #FALSE#, but there is %2. The template is damaged; "
-               "use another copy of it or save it again."_s.arg(QLatin1String(what), quoted(item)));
+        refuse(Fault::TemplateTruthExpected, {what, shown(item)});
     return isTrue;
 }
 
 /// The text in Windows-1252. Throws Error(Refused) where characters would be lost.
-QByteArray ansi(const QString &file, const QString &text, const char *what, const char *advice)
+QByteArray ansi(const QString &file, const QString &text, Fault what, Fault advice)
 {
     QByteArray bytes = basic::encodeAnsi(text);
     if (basic::decodeAnsi(bytes) == text)
@@ -136,9 +129,7 @@ QByteArray ansi(const QString &file, const QString &text, const char *what, cons
         if (basic::decodeAnsi(basic::encodeAnsi(character)) != character && !lost.contains(character))
             lost << character;
     }
-    throw basic::Error(basic::ErrorKind::Refused, file,
-                       u"The template was not saved: the %1 holds characters that a template cannot keep (%2). "
-                       "%3"_s.arg(QLatin1String(what), lost.join(u' '), QLatin1String(advice)));
+    throw basic::Error(Fault::TemplateCharacters, {.file = file}, {what, lost.join(u' ')}).with(advice);
 }
 
 } // namespace
@@ -149,27 +140,26 @@ Vorlage readVorlage(const QString &nativeFile)
     Vorlage vorlage;
     vorlage.familienpfad = reader.databasePath();
     statistics::Statistik &statistik = vorlage.statistik;
-    statistik.titel = basic::decodeAnsi(reader.text("title"));
-    statistik.rtf = reader.text("introduction");
+    statistik.titel = basic::decodeAnsi(reader.text(Fault::WordTitle));
+    statistik.rtf = reader.text(Fault::WordIntroduction);
     statistik.grafiktyp =
-        reader.number("type of the chart", 0, static_cast<qint32>(statistics::chartTypeEntries().size()) - 1);
-    statistik.legende = reader.number("switch of the legend", 0, 1) == 1;
+        reader.number(Fault::WordChartType, 0, static_cast<qint32>(statistics::chartTypeEntries().size()) - 1);
+    statistik.legende = reader.number(Fault::WordLegend, 0, 1) == 1;
     for (qint16 &box : statistik.geschlechtalter)
-        box = static_cast<qint16>(reader.number("choice of men or women", 0, 1));
-    statistik.nachGeburtsjahr = reader.truth("choice of the year of birth");
+        box = static_cast<qint16>(reader.number(Fault::WordSexes, 0, 1));
+    statistik.nachGeburtsjahr = reader.truth(Fault::WordByBirth);
     while (!reader.atEnd())
-        vorlage.counters.push_back(reader.number("number of a person", std::numeric_limits<qint32>::min(),
-                                                 std::numeric_limits<qint32>::max()));
+        vorlage.counters.push_back(
+            reader.number(Fault::WordCounter, std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max()));
     return vorlage;
 }
 
 void writeVorlage(const QString &nativeFile, const Vorlage &vorlage)
 {
     basic::SequentialWriter writer;
-    writer.writeText(
-        ansi(nativeFile, vorlage.familienpfad, "path of the family database", "Rename the database or its folder."));
+    writer.writeText(ansi(nativeFile, vorlage.familienpfad, Fault::WordFamily, Fault::RenameFamily));
     const statistics::Statistik &statistik = vorlage.statistik;
-    writer.writeText(ansi(nativeFile, statistik.titel, "title", "Change the title."));
+    writer.writeText(ansi(nativeFile, statistik.titel, Fault::WordTitle, Fault::ChangeTitle));
     writer.writeText(statistik.rtf);
     writer.writeNumber(statistik.grafiktyp);
     writer.writeNumber(statistik.legende ? 1 : 0);
@@ -180,7 +170,7 @@ void writeVorlage(const QString &nativeFile, const Vorlage &vorlage)
         writer.writeNumber(counter);
     QString reason;
     if (!storage::replaceFileSafely(nativeFile, writer.content(), &reason))
-        throw basic::Error(basic::ErrorKind::WriteFailed, nativeFile, u"The template was not saved: %1."_s.arg(reason));
+        throw basic::Error(Fault::TemplateNotSaved, {.file = nativeFile}, {reason});
 }
 
 } // namespace kalvenor::selection

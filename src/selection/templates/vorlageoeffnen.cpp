@@ -14,11 +14,6 @@ namespace {
 
 constexpr qint64 PersonsBetweenReports = 1024;
 
-basic::Error withRemark(const basic::Error &error, const QString &remark)
-{
-    return basic::Error(error.kind(), error.place(), error.text() + u' ' + remark);
-}
-
 bool isOpen(const data::Session &session, const QString &familienpfad)
 {
     const QString open = QFileInfo(session.databases.Familiendatenbank->file()).canonicalFilePath();
@@ -33,15 +28,13 @@ bool needsOtherDatabase(const data::Session &session, const QString &File, const
         return false;
     if (!session.host.dir(familienpfad).isEmpty())
         return true;
-    if (!useOpenDatabase)
-        throw basic::Error(basic::ErrorKind::FileNotFound, session.host.native(File),
-                           u"The template belongs to a family database that does not exist: %1.%2"_s.arg(
-                               familienpfad, session.host.hasUnmappedDrive(familienpfad)
-                                                 ? u" No folder is known for its drive letter; name it in "
-                                                   "Kalvenor.ini, section [Laufwerke]."_s
-                                                 : QString()));
+    if (!useOpenDatabase) {
+        const basic::Error missing(basic::Fault::TemplateFamilyMissing, {.file = session.host.native(File)},
+                                   {familienpfad});
+        throw session.host.hasUnmappedDrive(familienpfad) ? missing.with(basic::Fault::DriveUnknown) : missing;
+    }
     if (!useOpenDatabase(familienpfad))
-        throw basic::Error(basic::ErrorKind::Cancelled, {}, u"Stopped; the template was not opened."_s);
+        throw basic::Error(basic::Fault::StoppedOpening);
     return false;
 }
 
@@ -54,7 +47,7 @@ std::vector<qint32> findPersons(data::Datenbankmodul &databases, OpenedVorlage &
     const auto count = static_cast<qint64>(opened.vorlage.counters.size());
     const auto look = [&](qint64 done) {
         if (progress && !progress(done, count))
-            throw basic::Error(basic::ErrorKind::Cancelled, {}, u"Stopped; no mark was changed."_s);
+            throw basic::Error(basic::Fault::StoppedUnchanged);
     };
     for (qint64 i = 0; i < count; ++i) {
         if (i % PersonsBetweenReports == 0)
@@ -91,7 +84,7 @@ MarkStep markExactly(data::Datenbankmodul &databases, const std::vector<qint32> 
             family->setMarks(table, step.marked, false);
             family->setMarks(table, step.unmarked, true);
         } catch (const basic::Error &) {
-            throw withRemark(error, u"Some marks were changed and could not be put back."_s);
+            throw error.with(basic::Fault::MarksNotPutBack);
         }
         throw;
     }

@@ -27,7 +27,7 @@ qsizetype vorlagespeichern(const host::Host &host, const data::Datenbankmodul &d
     vorlage.counters.reserve(static_cast<std::size_t>(count));
     for (; !persons->eof(); persons->moveNext()) {
         if (progress && persons->position() % PersonsBetweenReports == 0 && !progress(persons->position(), count))
-            throw basic::Error(basic::ErrorKind::Cancelled, {}, u"Stopped; the template was not saved."_s);
+            throw basic::Error(basic::Fault::StoppedSaving);
         if (const auto counter = persons->integer(field))
             vorlage.counters.push_back(*counter);
     }

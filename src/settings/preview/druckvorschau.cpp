@@ -5,6 +5,7 @@
 #include "host/hauptform.h"
 #include "language/forms/widgetform.h"
 #include "language/progress/progresspanel.h"
+#include "language/texts/errormessage.h"
 #include "language/texts/sprache.h"
 #include "platform/desktop/lineicon.h"
 #include "settings/preview/pageview.h"
@@ -180,9 +181,10 @@ void Druckvorschau::toolbarbuttonclick(const QString &key)
         if (error.kind() == basic::ErrorKind::Cancelled)
             say(key == u"drucker" ? text(Text::PrintingCancelled) : text(Text::SavingCancelled));
         else
-            m_host.desktop().messageBox(error.message(), desktop::MessageCritical, m_title);
+            m_host.desktop().messageBox(language::errorMessage(m_texts, error), desktop::MessageCritical, m_title);
     } catch (const std::bad_alloc &) {
-        m_host.desktop().messageBox(u"There is not enough memory for this."_s, desktop::MessageCritical, m_title);
+        m_host.desktop().messageBox(language::errorMessage(m_texts, basic::Error(basic::Fault::OutOfMemory)),
+                                    desktop::MessageCritical, m_title);
     }
 }
 

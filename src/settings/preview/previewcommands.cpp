@@ -73,7 +73,7 @@ QString PreviewCommands::text(Text id, const QString &what) const
 std::shared_ptr<const print::PageLayout> PreviewCommands::pagesAtHand() const
 {
     if (!m_control.hasDocument())
-        throw basic::Error(basic::ErrorKind::Refused, {}, text(Text::NoReportYet));
+        throw basic::Error(basic::Fault::NoReport);
     return m_control.layout();
 }
 
@@ -96,10 +96,10 @@ void PreviewCommands::print()
 
     const bool toFile = !printer.outputFileName().isEmpty();
     if (!toFile && printer.printerName().isEmpty())
-        throw basic::Error(basic::ErrorKind::Refused, {}, text(Text::NoPrinter));
+        throw basic::Error(basic::Fault::NoPrinter);
     const std::vector<int> pages = pagesToPrint(pageCount, printChoice(printer, m_view.currentPage()));
     if (pages.empty())
-        throw basic::Error(basic::ErrorKind::Refused, {}, text(Text::NoPagesInRange));
+        throw basic::Error(basic::Fault::NoPagesInRange);
     const QPrinterInfo device(printer);
     m_printing->begin(toFile ? u"PDF"_s : printer.printerName(),
                       toFile                        ? QDir::toNativeSeparators(printer.outputFileName())

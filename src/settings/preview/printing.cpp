@@ -20,11 +20,8 @@ constexpr double SameSize = 0.98; ///< paper sizes are rounded to points or tent
 [[noreturn]] void fail(const QPrinter &printer)
 {
     const bool toFile = !printer.outputFileName().isEmpty();
-    throw basic::Error(basic::ErrorKind::WriteFailed, toFile ? printer.outputFileName() : printer.printerName(),
-                       toFile ? u"The file cannot be written. Choose another folder or name, or make room on the "
-                                "disk."_s
-                              : u"The printer does not take the pages. See whether it is switched on and "
-                                "connected."_s);
+    throw toFile ? basic::Error(basic::Fault::PrintFileNotWritten, {.file = printer.outputFileName()})
+                 : basic::Error(basic::Fault::PrinterRefused, {.file = printer.printerName()});
 }
 
 /// The PDF engine does not look at what its file answers; a whole file ends with this mark (ISO 32000-1, 7.5.5).
@@ -127,7 +124,7 @@ void printPages(const print::PageLayout &layout, QPrinter &printer, const std::v
         ++done;
         if (progress && !progress(done, static_cast<qint64>(pages.size()))) {
             discard();
-            throw basic::Error(basic::ErrorKind::Cancelled, {}, u"Printing was cancelled."_s);
+            throw basic::Error(basic::Fault::Stopped);
         }
     }
     if (!painter.end() || (printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty() &&

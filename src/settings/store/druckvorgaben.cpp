@@ -61,8 +61,7 @@ const FontTexts &defaultFont(int element)
 std::size_t Druckvorgaben::slot(int element)
 {
     if (element < 1 || element > 20)
-        throw basic::Error(basic::ErrorKind::Subscript, {},
-                           u"There is no element %1 in the print settings."_s.arg(element));
+        throw basic::Error(basic::Fault::NoPrintElement, {}, {element});
     return static_cast<std::size_t>(element - 1);
 }
 

@@ -24,12 +24,11 @@ qint64 alterslistenausgabe(data::Datenbankmodul &databases, const GeschlechtAlte
     list.clear();
     if (geschlechtalter[0] == 0 && geschlechtalter[1] == 0)
         return 0;
-    return jedenMarkierten(
-        databases, u"The age list was stopped; it is not complete."_s, progress, [&](const Markierter &person) {
-            const auto days = lebenstage(person.Geburtsdatum, person.Sterbedatum);
-            if (days && isSexSelected(person.geschlecht, geschlechtalter))
-                list.push_back({person.Counter, person.geschlecht, *days, person.listname().toString()});
-        });
+    return jedenMarkierten(databases, basic::Fault::StoppedAgeList, progress, [&](const Markierter &person) {
+        const auto days = lebenstage(person.Geburtsdatum, person.Sterbedatum);
+        if (days && isSexSelected(person.geschlecht, geschlechtalter))
+            list.push_back({person.Counter, person.geschlecht, *days, person.listname().toString()});
+    });
 }
 
 } // namespace kalvenor::statistics

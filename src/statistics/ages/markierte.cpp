@@ -14,7 +14,7 @@ constexpr qint64 RowsBetweenReports = 256;
 
 } // namespace
 
-qint64 jedenMarkierten(data::Datenbankmodul &databases, const QString &stopped, const basic::Progress &progress,
+qint64 jedenMarkierten(data::Datenbankmodul &databases, basic::Fault stopped, const basic::Progress &progress,
                        const std::function<void(const Markierter &)> &visit)
 {
     const auto marked = databases.Familiendatenbank->openQuery(
@@ -31,7 +31,7 @@ qint64 jedenMarkierten(data::Datenbankmodul &databases, const QString &stopped, 
     QString sex;
     for (qint64 processed = 0; !marked->eof(); marked->moveNext(), ++processed) {
         if (progress && processed % RowsBetweenReports == 0 && !progress(processed, count))
-            throw basic::Error(basic::ErrorKind::Cancelled, {}, stopped);
+            throw basic::Error(stopped);
         const auto counter = marked->integer(counterField);
         if (!counter)
             continue;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "data/datenbankmodul.h"
+#include "platform/basic/error.h"
 #include "platform/basic/progress.h"
 #include "statistics/ages/alter.h"
 #include <functional>
@@ -31,7 +32,7 @@ private:
 /// Calls the visitor for each marked person in `Listname` order; one that the index "Counter" does not find is passed
 /// over. Returns how many are marked, found or not. Progress counts them; asked to end, it throws
 /// Error(Cancelled) with the text `stopped`.
-qint64 jedenMarkierten(data::Datenbankmodul &databases, const QString &stopped, const basic::Progress &progress,
+qint64 jedenMarkierten(data::Datenbankmodul &databases, basic::Fault stopped, const basic::Progress &progress,
                        const std::function<void(const Markierter &)> &visit);
 
 } // namespace kalvenor::statistics

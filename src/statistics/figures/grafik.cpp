@@ -58,9 +58,7 @@ int jahrhundert(double tag)
         century = static_cast<int>(next - starts.begin()); // 0 before the first
     }
     if (century < FirstCentury)
-        throw basic::Error(basic::ErrorKind::Overflow, {},
-                           u"The day number %1 lies outside the years 100 to 9999; correct the date or unmark "
-                           "the person."_s.arg(basic::trimmedNumberText(tag)));
+        throw basic::Error(basic::Fault::DayOutOfRange, {}, {basic::trimmedNumberText(tag)});
     return century;
 }
 
@@ -181,10 +179,10 @@ Grafikzahlen grafikermitteln(data::Datenbankmodul &databases, const Statistik &s
         try {
             figures.add(person.Geburtsdatum, person.Sterbedatum, person.geschlecht);
         } catch (const basic::Error &error) {
-            throw basic::Error(error.kind(), u"%1 (%2)"_s.arg(person.listname()).arg(person.Counter), error.text());
+            throw error.at({.item = u"%1 (%2)"_s.arg(person.listname()).arg(person.Counter)});
         }
     };
-    const qint64 marked = jedenMarkierten(databases, u"The chart was stopped; it was not computed."_s, progress, add);
+    const qint64 marked = jedenMarkierten(databases, basic::Fault::StoppedChart, progress, add);
     Grafikzahlen result = figures.zahlen();
     result.zahlen.markiert = marked;
     return result;

@@ -3,6 +3,7 @@
 #include "statistics/panel/chartpanel.h"
 
 #include "language/forms/widgetform.h"
+#include "language/texts/errormessage.h"
 #include "language/texts/sprache.h"
 #include "platform/chart/chartcontrol.h"
 #include "platform/chart/chartpicture.h"
@@ -219,7 +220,7 @@ void ChartPanel::savePicture()
         chart::writeChart(m_chart->table(), m_chart->look(), SavedSize, file, 92, SavedDpi);
         Q_EMIT said(m_controller.session().language.text(Text::Saved).arg(file));
     } catch (const basic::Error &error) {
-        desktop.messageBox(error.message(), desktop::MessageCritical,
+        desktop.messageBox(language::errorMessage(m_controller.session().language, error), desktop::MessageCritical,
                            m_controller.session().language.text(Text::Error));
     }
 }

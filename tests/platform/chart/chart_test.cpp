@@ -321,7 +321,7 @@ TEST(Chart, FailedWriteIsAnErrorAndLeavesTheOldFile)
             ADD_FAILURE() << name.toStdString();
         } catch (const basic::Error &error) {
             EXPECT_EQ(error.kind(), kind) << error.what();
-            EXPECT_EQ(error.place(), folder.filePath(name));
+            EXPECT_EQ(error.place().file, folder.filePath(name));
         }
     }
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{u"taken.png"_s});

@@ -175,7 +175,7 @@ TEST(CreatedIndex, refusesWhatItsKindForbids)
         ADD_FAILURE();
     } catch (const basic::Error &error) {
         EXPECT_TRUE(error.text().contains("-5")) << error.what();
-        EXPECT_EQ(error.place(), "Daten");
+        EXPECT_EQ(error.place().file, "Daten");
     }
 }
 

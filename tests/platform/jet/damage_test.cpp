@@ -255,7 +255,7 @@ TEST(Damage, OtherFilesAreRefusedByName)
             ADD_FAILURE() << "was opened";
         } catch (const basic::Error &found) {
             EXPECT_EQ(found.number(), error);
-            EXPECT_EQ(found.place(), file);
+            EXPECT_EQ(found.place().file, file);
             EXPECT_TRUE(found.text().contains(QLatin1String(part))) << found.text().toStdString();
         }
     }

@@ -210,7 +210,7 @@ TEST_F(MarkWriterTest, RefusesWhatItMustNotWrite)
         EXPECT_EQ(error.number(), words[0].toInt());
         for (const QString &word : words.mid(1))
             EXPECT_TRUE(error.text().contains(word)) << error.text().toStdString();
-        EXPECT_TRUE(error.place().startsWith(m_file));
+        EXPECT_TRUE(error.place().file.startsWith(m_file));
         EXPECT_FALSE(Opened(m_file).marks()[0]);
     }
 }

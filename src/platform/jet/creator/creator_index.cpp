@@ -170,7 +170,7 @@ void IndexEntries::appendKey(const Column &column, const NewValue &value, const 
         try {
             appendGeneralKey(std::get<QString>(value), m_prepared, Unlisted::Refused);
         } catch (const basic::Error &error) {
-            throw basic::Error(error.kind(), m_table->name, error.text());
+            throw error.at({.table = m_table->name});
         }
         break;
     default:

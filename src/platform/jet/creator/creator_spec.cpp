@@ -172,7 +172,7 @@ TableSpec userTable(const QString &name, const std::vector<NewColumn> &columns, 
     try {
         generalKey(name, Unlisted::Refused);
     } catch (const basic::Error &error) {
-        refuse(name, error.text());
+        throw error.at({.table = name});
     }
     if (columns.empty() || columns.size() > MaximumColumns || indexes.size() > MaximumIndexes) {
         refuse(name,

@@ -135,10 +135,9 @@ std::shared_ptr<const Table> Database::table(const QString &name)
 {
     const CatalogueEntry *const found = entry(name);
     if (found == nullptr)
-        throw basic::Error(basic::ErrorKind::TableNotFound, file(), u"There is no table named \"%1\"."_s.arg(name));
+        throw basic::Error(basic::Fault::TableMissing, {.file = file()}, {name});
     if (!found->linkedTo.isEmpty())
-        throw basic::Error(basic::ErrorKind::TableNotFound, file(),
-                           u"Table \"%1\" is not in this file; it is linked to %2."_s.arg(name, found->linkedTo));
+        throw basic::Error(basic::Fault::TableLinked, {.file = file()}, {name, found->linkedTo});
     std::shared_ptr<const Table> &table = m_tables[found->name];
     if (!table)
         table = Table::read(m_image, found->name, found->definitionPage);

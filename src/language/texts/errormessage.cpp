@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "language/texts/errormessage.h"
+
+#include <functional>
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace kalvenor::language {
+
+namespace {
+
+/// What a text is in the reader's language.
+using Lookup = std::function<QString(Text)>;
+
+Lookup lookupIn(Sprachmodul &texts)
+{
+    return [&texts](Text id) {
+        return texts.text(id);
+    };
+}
+
+QString sentenceOf(const Lookup &texts, basic::Fault fault)
+{
+    return texts(static_cast<Text>(fault));
+}
+
+/// Each place %1 to %9 becomes its argument, whatever signs that holds.
+QString filled(const Lookup &texts, const basic::Error::Part &part)
+{
+    const QString sentence = sentenceOf(texts, part.fault);
+    QString result;
+    for (qsizetype i = 0; i < sentence.size(); ++i) {
+        const int digit = sentence[i] == u'%' && i + 1 < sentence.size() ? sentence[i + 1].digitValue() : 0;
+        if (digit < 1 || digit > static_cast<int>(part.arguments.size())) {
+            result += sentence[i];
+            continue;
+        }
+        const basic::Argument &argument = part.arguments[static_cast<std::size_t>(digit - 1)];
+        result += argument.word == basic::Fault::None ? argument.text : sentenceOf(texts, argument.word);
+        ++i;
+    }
+    return result;
+}
+
+QString placeInWords(const Lookup &texts, const basic::Place &place)
+{
+    QStringList words{place.file};
+    if (!place.table.isEmpty())
+        words << texts(Text::PlaceTable).arg(place.table);
+    if (place.page >= 0)
+        words << texts(Text::PlacePage).arg(place.page);
+    if (place.line >= 0)
+        words << texts(Text::PlaceLine).arg(place.line);
+    words << place.item;
+    words.removeAll(QString());
+    return words.join(u", "_s);
+}
+
+QString sentences(const Lookup &texts, const basic::Error &error)
+{
+    QStringList all;
+    for (const basic::Error::Part &part : error.parts())
+        all << (part.fault == basic::Fault::None ? error.text() : filled(texts, part));
+    return all.join(u' ');
+}
+
+QString message(const Lookup &texts, const basic::Error &error)
+{
+    const QString place = placeInWords(texts, error.place());
+    return (place.isEmpty() ? QString() : place + u": "_s) + sentences(texts, error);
+}
+
+} // namespace
+
+QString errorSentence(Sprachmodul &texts, const basic::Error &error)
+{
+    return sentences(lookupIn(texts), error);
+}
+
+QString errorMessage(Sprachmodul &texts, const basic::Error &error)
+{
+    return message(lookupIn(texts), error);
+}
+
+QString errorMessage(CatalogueLanguage language, const basic::Error &error)
+{
+    return message([language](Text id) { return wording(id, language); }, error);
+}
+
+} // namespace kalvenor::language

@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "language/texts/catalogue.h"
+#include "language/texts/sprache.h"
+#include "platform/basic/error.h"
+
+namespace kalvenor::language {
+
+/// What is said of an error in the host's language, without its place.
+QString errorSentence(Sprachmodul &texts, const basic::Error &error);
+/// The same behind the place in words: "C:/QV/a.kvl, line 3: …".
+QString errorMessage(Sprachmodul &texts, const basic::Error &error);
+/// The same in the catalogue's words, where no host's database is at hand.
+QString errorMessage(CatalogueLanguage language, const basic::Error &error);
+
+} // namespace kalvenor::language
