@@ -27,6 +27,8 @@ struct Place {
 /// What stands for one of a sentence's places %1, %2, …: a text of the data, a number, or a word to be translated.
 struct Argument {
     Argument(QString shown) : text(std::move(shown)) {}
+    Argument(QStringView shown) : text(shown.toString()) {}
+    Argument(QChar shown) : text(shown) {}
     Argument(QLatin1StringView shown) : text(shown) {}
     Argument(std::integral auto number) : text(QString::number(number)) {}
     Argument(double number) : text(QString::number(number)) {}

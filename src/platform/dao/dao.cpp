@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 SqlSession &Database::Private::open() const
 {
     if (!session)
-        throw basic::Error(basic::ErrorKind::ObjectClosed, file, u"The database was closed."_s);
+        throw basic::Error(basic::Fault::DatabaseClosed, {.file = file});
     return *session;
 }
 
@@ -74,7 +74,7 @@ std::shared_ptr<Recordset> Database::openQuery(const QString &sql, const basic::
     auto priv = std::make_unique<Recordset::Private>();
     priv->database = weak_from_this();
     priv->snapshot = session->snapshot();
-    priv->place = d->file;
+    priv->place = {.file = d->file};
     priv->setResult(session->query(sql, progress));
     d->open(); // whoever watches the progress may have closed it
     std::erase_if(d->recordsets, [](const std::shared_ptr<Recordset> &recordset) {
@@ -137,9 +137,7 @@ Execution Database::writeMarks(const std::function<UpdateResult(SqlSession &)> &
             if (error.kind() != basic::ErrorKind::ChangedElsewhere)
                 throw;
             if (again)
-                throw basic::Error(basic::ErrorKind::ChangedElsewhere, error.place().file,
-                                   u"Another program changed the file again and again while it was written. Try again "
-                                   u"when the other program has finished."_s);
+                throw basic::Error(basic::Fault::ChangedAgain, error.place());
             for (const jet::Mark &mark : update.marks) {
                 const auto key = table.integer(mark.row, keyColumn);
                 if (key && old.test(mark.row) != table.boolean(mark.row, markColumn) && before.insert(*key).second)

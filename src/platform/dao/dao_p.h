@@ -25,7 +25,7 @@ struct Database::Private {
 struct Recordset::Private {
     std::weak_ptr<Database> database;
     bool isTable = false;
-    QString place;
+    basic::Place place;
     std::shared_ptr<Snapshot> snapshot; ///< none once closed
     QueryResult result;                 ///< of a table recordset: the view and all its columns, no rows
     qint64 count = 0;

@@ -14,28 +14,28 @@ using namespace Qt::StringLiterals;
 void Recordset::Private::requireOpen() const
 {
     if (!snapshot)
-        throw basic::Error(basic::ErrorKind::ObjectClosed, place, u"The recordset was closed."_s);
+        throw basic::Error(basic::Fault::RecordsetClosed, place);
 }
 
 void Recordset::Private::requireRow() const
 {
     requireOpen();
     if (!valid)
-        throw basic::Error(basic::ErrorKind::NoCurrentRow, place, u"There is no current row."_s);
+        throw basic::Error(basic::Fault::NoRow, place);
 }
 
 void Recordset::Private::requireTable() const
 {
     requireOpen();
     if (!isTable)
-        throw basic::Error(basic::ErrorKind::Refused, place, u"Only a table recordset can be searched and changed."_s);
+        throw basic::Error(basic::Fault::NotATable, place);
 }
 
 void Recordset::Private::requireField(int field) const
 {
     requireRow();
     if (field < 0 || field >= result.names.size())
-        throw basic::Error(basic::ErrorKind::ColumnNotFound, place, u"There is no field %1."_s.arg(field));
+        throw basic::Error(basic::Fault::FieldMissing, place, {field});
 }
 
 void Recordset::Private::stand(qint64 where)
@@ -143,7 +143,7 @@ void Recordset::moveNext()
 {
     d->requireOpen();
     if (eof())
-        throw basic::Error(basic::ErrorKind::NoCurrentRow, d->place, u"There is no row behind the last one."_s);
+        throw basic::Error(basic::Fault::BehindLastRow, d->place);
     d->stand(d->position + 1);
     d->fetchAhead();
 }
@@ -172,12 +172,11 @@ void Recordset::setIndex(const QString &name)
             return index.columns.size() == 1 && candidate.number == index.columns.front().columnNumber;
         });
         if (column == columns.end() || !d->result.view->isWhole(static_cast<int>(column - columns.begin())))
-            throw basic::Error(basic::ErrorKind::IndexNotFound, d->place,
-                               u"The index \"%1\" is not over one column of whole numbers."_s.arg(name));
+            throw basic::Error(basic::Fault::IndexUnsuited, d->place, {name});
         d->indexColumn = static_cast<int>(column - columns.begin());
         return;
     }
-    throw basic::Error(basic::ErrorKind::IndexNotFound, d->place, u"There is no index named \"%1\"."_s.arg(name));
+    throw basic::Error(basic::Fault::IndexMissing, d->place, {name});
 }
 
 void Recordset::seekEqual(qint32 key)
@@ -187,7 +186,7 @@ void Recordset::seekEqual(qint32 key)
     if (database && database->isOpen())
         d->adopt(database->d->session->snapshot());
     if (d->indexColumn < 0)
-        throw basic::Error(basic::ErrorKind::IndexNotFound, d->place, u"No index was chosen to seek by."_s);
+        throw basic::Error(basic::Fault::NoIndexChosen, d->place);
     const auto rows = d->result.view->index(d->indexColumn).rows(key);
     d->noMatch = rows.empty();
     if (rows.empty()) {
@@ -217,11 +216,10 @@ void Recordset::setValue(const QString &field, bool value)
     d->requireTable();
     d->requireRow();
     if (!d->editing)
-        throw basic::Error(basic::ErrorKind::Refused, d->place, u"The row must be put into edit mode first."_s);
+        throw basic::Error(basic::Fault::NotInEdit, d->place);
     const int index = fieldIndex(field);
     if (d->result.names[index].compare(MarkColumnName, Qt::CaseInsensitive) != 0)
-        throw basic::Error(basic::ErrorKind::Refused, d->place,
-                           u"Only %1 can be changed, not \"%2\"."_s.arg(MarkColumnName).arg(field));
+        throw basic::Error(basic::Fault::OnlyMark, d->place, {MarkColumnName, field});
     d->edited = value;
 }
 
@@ -230,7 +228,7 @@ bool Recordset::update()
     d->requireTable();
     d->requireRow();
     if (!d->editing)
-        throw basic::Error(basic::ErrorKind::Refused, d->place, u"The row must be put into edit mode first."_s);
+        throw basic::Error(basic::Fault::NotInEdit, d->place);
     const std::shared_ptr<Database> database = d->database.lock();
     const std::optional<bool> value = d->edited;
     d->editing = false;
@@ -238,21 +236,19 @@ bool Recordset::update()
     if (!value)
         return false;
     if (!database || !database->isOpen())
-        throw basic::Error(basic::ErrorKind::ObjectClosed, d->place, u"The database was closed."_s);
+        throw basic::Error(basic::Fault::DatabaseClosed, d->place);
 
     const jet::Table &table = *d->result.view->table();
     const int keyColumn = keyColumnOf(table);
     const auto key = table.integer(d->row(), keyColumn);
     if (!key)
-        throw basic::Error(basic::ErrorKind::NotMarkable, d->place,
-                           u"Marks cannot be set: row %1 has no key."_s.arg(d->row()));
+        throw basic::Error(basic::Fault::RowWithoutKey, d->place, {d->row()});
     const Execution done = database->setMarks(table.name(), {&*key, 1}, *value);
     // The row may be another one in a newer state of the file; its key says which.
     d->adopt(database->d->open().snapshot());
     const auto rows = d->result.view->index(keyColumnOf(*d->result.view->table())).rows(*key);
     if (rows.empty())
-        throw basic::Error(basic::ErrorKind::ChangedElsewhere, d->place,
-                           u"Another program deleted the row. Load the list anew."_s);
+        throw basic::Error(basic::Fault::RowDeleted, d->place);
     d->stand(rows.front());
     return !done.changedKeys.empty();
 }
@@ -284,7 +280,7 @@ int Recordset::fieldIndex(const QString &name) const
         if (names[i].compare(name, Qt::CaseInsensitive) == 0)
             return i;
     }
-    throw basic::Error(basic::ErrorKind::ColumnNotFound, d->place, u"There is no column named \"%1\"."_s.arg(name));
+    throw basic::Error(basic::Fault::ColumnMissing, d->place, {name});
 }
 
 QVariant Recordset::value(int field) const

@@ -6,54 +6,55 @@
 
 namespace kalvenor::dao {
 
+using basic::Fault;
+
 using namespace Qt::StringLiterals;
 
 namespace {
 
 struct Complaint {
-    const char *pattern;
-    QStringView words; ///< %1: what the pattern's group holds
+    const char *pattern; ///< its group, where there is one, is the fault's argument
+    Fault fault;
 };
 constexpr Complaint Complaints[] = {
-    {"^no such column: (.*)$", u"There is no column \"%1\""},
-    {"^ambiguous column name: (.*)$", u"The column \"%1\" stands in more than one table"},
-    {"^near \"(.*)\": syntax error$", u"The statement is not understood at \"%1\""},
-    {"^unrecognized token: \"(.*)\"$", u"The statement is not understood at \"%1\""},
-    {"^incomplete input$", u"The statement ends too early"},
-    {"^no such function: (.*)$", u"There is no function \"%1\""},
-    {"^wrong number of arguments to function (.*)$", u"The function %1 has too many or too few values"},
-    {"^misuse of aggregate:? ?(.*)$", u"The function %1 cannot stand there"},
-    {"^Expression tree is too large.*$", u"The statement is nested too deeply"},
-    {"^parser stack overflow$", u"The statement is nested too deeply"},
-    {"^too many terms in compound SELECT$", u"The statement combines too many queries"},
-    {"^(?:statement|string or blob) too (?:long|big)$", u"The statement or a value in it is too long"},
+    {"^no such column: (.*)$", Fault::SqlColumn},
+    {"^ambiguous column name: (.*)$", Fault::SqlAmbiguous},
+    {"^near \"(.*)\": syntax error$", Fault::SqlSyntax},
+    {"^unrecognized token: \"(.*)\"$", Fault::SqlSyntax},
+    {"^incomplete input$", Fault::SqlTooShort},
+    {"^no such function: (.*)$", Fault::SqlFunction},
+    {"^wrong number of arguments to function (.*)$", Fault::SqlFunctionValues},
+    {"^misuse of aggregate:? ?(.*)$", Fault::SqlFunctionPlace},
+    {"^Expression tree is too large.*$", Fault::SqlTooDeep},
+    {"^parser stack overflow$", Fault::SqlTooDeep},
+    {"^too many terms in compound SELECT$", Fault::SqlTooManyQueries},
+    {"^(?:statement|string or blob) too (?:long|big)$", Fault::SqlTooLong},
 };
 
-} // namespace
-
-QString plainComplaint(const QString &complaint, const QString &sql, int offset, bool hasQuotes)
+basic::Error faultOf(const QString &complaint)
 {
-    QString words = complaint;
     for (const Complaint &known : Complaints) {
         const auto match =
             QRegularExpression(QString::fromLatin1(known.pattern), QRegularExpression::DotMatchesEverythingOption)
                 .match(complaint);
-        if (!match.hasMatch())
-            continue;
-        words = known.words.toString();
-        if (words.contains(u"%1"))
-            words = words.arg(match.captured(1));
-        break;
+        if (match.hasMatch())
+            return basic::Error(known.fault, {}, {match.captured(1)});
     }
+    return basic::Error(Fault::SqlOther, {}, {complaint});
+}
+
+} // namespace
+
+basic::Error sqlError(const QString &complaint, const QString &sql, int offset, bool hasQuotes)
+{
     constexpr qsizetype most = 60;
+    basic::Error error = faultOf(complaint);
+    if (hasQuotes && error.fault() == Fault::SqlSyntax)
+        error = error.with(Fault::DoubleApostrophe);
     const QByteArray utf8 = sql.toUtf8();
     const QString rest = QString::fromUtf8(offset > 0 ? utf8.mid(offset) : utf8);
-    if (hasQuotes && complaint.contains(u"syntax error"))
-        words += u". Write an apostrophe within a text twice ('')"_s;
-    words += (offset > 0 ? u". The place begins with: "_s : u". The statement: "_s) + rest.left(most);
-    if (rest.size() > most)
-        words += u'…';
-    return words;
+    const QString shown = rest.size() > most ? rest.left(most) + u'…' : rest;
+    return error.with(offset > 0 ? Fault::SqlPlace : Fault::SqlStatement, {shown});
 }
 
 } // namespace kalvenor::dao

@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/error.h"
 #include <QString>
 
 namespace kalvenor::dao {
 
-/// The complaint of SQLite in plain words. `offset` counts UTF-8 bytes of the statement; negative where unknown.
-QString plainComplaint(const QString &complaint, const QString &sql, int offset, bool hasQuotes);
+/// What SQLite complains of, without a place. `offset` counts UTF-8 bytes of the statement; negative where unknown.
+basic::Error sqlError(const QString &complaint, const QString &sql, int offset, bool hasQuotes);
 
 } // namespace kalvenor::dao

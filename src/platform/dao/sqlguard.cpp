@@ -55,11 +55,6 @@ void forgetPattern(void *pattern)
     delete static_cast<jet::LikePattern *>(pattern);
 }
 
-QString statementsAllowed()
-{
-    return u"Only SELECT and UPDATE … SET %1 are carried out."_s.arg(MarkColumnName);
-}
-
 void refuseEscape(sqlite3_context *context, int, sqlite3_value **)
 {
     sqlite3_result_error(context, "LIKE knows no ESCAPE; put the character in brackets instead", -1);
@@ -117,24 +112,24 @@ void SqlGuard::watch(sqlite3 *handle, bool on)
     sqlite3_set_authorizer(handle, on ? authorize : nullptr, on ? this : nullptr);
 }
 
-QString SqlGuard::objection(int action, const QString &first, const QString &second) const
+std::optional<basic::Error> SqlGuard::objection(int action, const QString &first, const QString &second) const
 {
+    using basic::Fault;
     switch (action) {
     case SQLITE_SELECT:
-        return {};
+        return std::nullopt;
     case SQLITE_READ:
-        return m_isDeclared(first) ? QString() : u"There is no table \"%1\" in the file."_s.arg(first);
+        return m_isDeclared(first) ? std::nullopt : std::optional(basic::Error(Fault::TableNotInFile, {}, {first}));
     case SQLITE_FUNCTION:
-        return std::any_of(AllowedFunctions.begin(), AllowedFunctions.end(),
-                           [&second](const char16_t *name) {
-                               return second.compare(QStringView(name), Qt::CaseInsensitive) == 0;
-                           })
-                   ? QString()
-                   : u"The function \"%1\" is not available."_s.arg(second);
+        if (std::ranges::any_of(AllowedFunctions, [&second](const char16_t *name) {
+                return second.compare(QStringView(name), Qt::CaseInsensitive) == 0;
+            }))
+            return std::nullopt;
+        return basic::Error(Fault::FunctionNotAvailable, {}, {second});
     case SQLITE_RECURSIVE:
-        return u"A query that calls itself is not carried out."_s;
+        return basic::Error(Fault::NoRecursion);
     default:
-        return statementsAllowed();
+        return basic::Error(Fault::OnlySelectAndUpdate, {}, {MarkColumnName});
     }
 }
 
@@ -142,10 +137,11 @@ int SqlGuard::authorize(void *self, int action, const char *first, const char *s
 {
     const auto *guard = static_cast<const SqlGuard *>(self);
     try {
-        const QString refusal = guard->objection(action, QString::fromUtf8(first), QString::fromUtf8(second));
-        if (refusal.isEmpty())
+        const std::optional<basic::Error> refusal =
+            guard->objection(action, QString::fromUtf8(first), QString::fromUtf8(second));
+        if (!refusal)
             return SQLITE_OK;
-        if (SqlRun *run = *guard->m_current; run != nullptr && run->refusal.isEmpty())
+        if (SqlRun *run = *guard->m_current; run != nullptr && !run->refusal)
             run->refusal = refusal;
     } catch (...) {
         if (SqlRun *run = *guard->m_current; run != nullptr)

@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/error.h"
 #include <functional>
+#include <optional>
 #include <QString>
 #include <sqlite3.h>
 
@@ -29,8 +31,8 @@ private:
     static int authorize(void *self, int action, const char *first, const char *second, const char *, const char *);
     static int tick(void *self);
     static void like(sqlite3_context *context, int count, sqlite3_value **arguments);
-    /// The refusal in words; empty where the action is allowed.
-    QString objection(int action, const QString &first, const QString &second) const;
+    /// The refusal, without a place; nothing where the action is allowed.
+    std::optional<basic::Error> objection(int action, const QString &first, const QString &second) const;
 
     SqlRun **m_current;
     std::function<bool(const QString &)> m_isDeclared;

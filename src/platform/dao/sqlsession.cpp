@@ -27,8 +27,7 @@ QString rowNumberName(const jet::Table &table)
         if (table.columnOf(name) < 0)
             return name;
     }
-    throw basic::Error(basic::ErrorKind::NotMarkable, tablePlace(table.image().file(), table.name()),
-                       u"Marks cannot be set: its columns hide the numbers of the rows."_s);
+    throw basic::Error(basic::Fault::RowNumbersHidden, tablePlace(table.image().file(), table.name()));
 }
 
 } // namespace
@@ -37,8 +36,7 @@ SqlRun::SqlRun(SqlRun *&current, const QString &place, const basic::Progress &pr
     : m_current(current), m_place(place), m_progress(progress)
 {
     if (current != nullptr)
-        throw basic::Error(basic::ErrorKind::Refused, place,
-                           u"Another query of this file is still running. Wait for its end."_s);
+        throw basic::Error(basic::Fault::QueryRunning, {.file = place});
     current = this;
 }
 
@@ -70,9 +68,9 @@ void SqlRun::rethrow() const
         throw error.place() == basic::Place() ? error.at({.file = m_place}) : error;
     }
     if (m_cancelled)
-        throw basic::Error(basic::ErrorKind::Cancelled, m_place, u"The query was stopped. Nothing was changed."_s);
-    if (!refusal.isEmpty())
-        throw basic::Error(basic::ErrorKind::Refused, m_place, refusal);
+        throw basic::Error(basic::Fault::StoppedQuery, {.file = m_place});
+    if (refusal)
+        throw refusal->at({.file = m_place});
 }
 
 struct SqlSession::Parts {
@@ -112,7 +110,7 @@ public:
         if (code != SQLITE_OK)
             fail(code);
         if (statement == nullptr || tail != utf8.constData() + utf8.size())
-            throw basic::Error(basic::ErrorKind::Refused, m_place, u"Only one statement can be carried out."_s);
+            throw basic::Error(basic::Fault::OneStatement, {.file = m_place});
     }
 
     operator sqlite3_stmt *() const { return m_statement.get(); }
@@ -136,9 +134,8 @@ private:
             throw basic::Error(basic::Fault::TableMissing, {.file = m_place}, {complaint.mid(missingTable.size())});
         if (code == SQLITE_NOMEM)
             throw std::bad_alloc();
-        throw basic::Error(
-            basic::ErrorKind::InvalidSql, m_place,
-            plainComplaint(complaint, m_adapted, sqlite3_error_offset(m_parts.handle), m_adapted.contains(u'\'')));
+        throw sqlError(complaint, m_adapted, sqlite3_error_offset(m_parts.handle), m_adapted.contains(u'\''))
+            .at({.file = m_place});
     }
 
     Parts &m_parts;
@@ -160,8 +157,7 @@ SqlSession::SqlSession(std::shared_ptr<Snapshot> snapshot, CopyLimits limits)
     if (code == SQLITE_OK)
         code = registerTableModule(m_parts->handle, &m_parts->module);
     if (code != SQLITE_OK)
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, place(),
-                           u"The query engine cannot be set up: %1."_s.arg(QString::fromUtf8(sqlite3_errstr(code))));
+        throw basic::Error(basic::Fault::EngineNotSetUp, {.file = place()}, {QString::fromUtf8(sqlite3_errstr(code))});
 }
 
 SqlSession::~SqlSession() = default;
@@ -185,8 +181,8 @@ void SqlSession::declare(const QString &name)
                      nullptr, nullptr, nullptr);
     parts.guard.watch(parts.handle, true);
     if (code != SQLITE_OK)
-        throw basic::Error(basic::ErrorKind::Damaged, tablePlace(place(), name),
-                           u"The table cannot be queried: %1."_s.arg(QString::fromUtf8(sqlite3_errmsg(parts.handle))));
+        throw basic::Error(basic::Fault::TableNotQueried, tablePlace(place(), name),
+                           {QString::fromUtf8(sqlite3_errmsg(parts.handle))});
     parts.declared.emplace(name, std::exchange(parts.module.next, nullptr));
 }
 
@@ -291,7 +287,7 @@ QueryResult SqlSession::query(const QString &text, const basic::Progress &progre
 {
     const SqlText sql(text, place());
     if (!sql.beginsWith(u"SELECT"))
-        throw basic::Error(basic::ErrorKind::Refused, place(), u"A query must begin with SELECT."_s);
+        throw basic::Error(basic::Fault::NoSelect, {.file = place()});
     SqlRun run(m_parts->run, place(), progress);
     declareTables(sql);
     Statement statement(*m_parts, sql.adapted(knownNames()), place());
@@ -321,8 +317,7 @@ QueryResult SqlSession::query(const QString &text, const basic::Progress &progre
         for (int i = 0; i < fields; ++i)
             result.cells.push_back(cellOf(statement, i, yesNo[static_cast<std::size_t>(i)], bytes));
         if (static_cast<qint64>(result.cells.size()) > m_limits.cells || bytes > m_limits.bytes)
-            throw basic::Error(basic::ErrorKind::Refused, place(),
-                               u"The result is too large to be sorted or computed. Select fewer rows or columns."_s);
+            throw basic::Error(basic::Fault::ResultTooLarge, {.file = place()});
     }
     return result;
 }
@@ -335,11 +330,9 @@ UpdateResult SqlSession::update(const QString &text, const basic::Progress &prog
     declareTables(sql);
     const auto wanted = sql.constantUpdate(knownNames());
     if (!wanted)
-        throw basic::Error(basic::ErrorKind::Refused, place(),
-                           u"Only UPDATE … SET %1 is carried out."_s.arg(MarkColumnName));
+        throw basic::Error(basic::Fault::OnlyUpdate, {.file = place()}, {MarkColumnName});
     if (wanted->column.compare(MarkColumnName, Qt::CaseInsensitive) != 0)
-        throw basic::Error(basic::ErrorKind::Refused, place(),
-                           u"Only %1 can be changed, not \"%2\"."_s.arg(MarkColumnName).arg(wanted->column));
+        throw basic::Error(basic::Fault::OnlyMark, {.file = place()}, {MarkColumnName, wanted->column});
     UpdateResult update{m_snapshot->view(wanted->table)};
     QString select = u"SELECT %1 FROM %2"_s.arg(rowNumberName(*update.view->table()), quoted(wanted->table));
     if (!wanted->condition.isEmpty())

@@ -8,6 +8,7 @@
 #include "platform/jet/marks/markwriter.h"
 #include <exception>
 #include <memory>
+#include <optional>
 #include <QVariant>
 #include <vector>
 
@@ -56,7 +57,7 @@ public:
     /// Throws what was kept, Cancelled, or Refused.
     void rethrow() const;
 
-    QString refusal{};                    ///< what the authorizer objected to
+    std::optional<basic::Error> refusal;  ///< what the authorizer objected to
     std::vector<TableCursor *> cursors{}; ///< the open ones
 
 private:

@@ -110,11 +110,10 @@ SqlText::SqlText(const QString &sql, const QString &place) : m_text(sql)
         m_tokens.pop_back();
     const auto seam = std::find_if(m_tokens.begin(), m_tokens.end(), isSemicolon);
     if (seam != m_tokens.end())
-        throw basic::Error(basic::ErrorKind::Refused, place,
-                           u"Only one statement can be carried out; a second one begins at %1"_s.arg(
-                               excerpt(m_text, seam->start + 1).trimmed()));
+        throw basic::Error(basic::Fault::SecondStatement, {.file = place},
+                           {excerpt(m_text, seam->start + 1).trimmed()});
     if (m_tokens.empty())
-        throw basic::Error(basic::ErrorKind::InvalidSql, place, u"The statement is empty."_s);
+        throw basic::Error(basic::Fault::StatementEmpty, {.file = place});
 }
 
 void SqlText::cut(const QString &place)
@@ -142,13 +141,10 @@ void SqlText::cut(const QString &place)
             kind = Token::Kind::Number;
             end = endOfNumber(text, at);
         } else if ((c == u'-' && next == u'-') || (c == u'/' && next == u'*')) {
-            throw basic::Error(
-                basic::ErrorKind::InvalidSql, place,
-                u"The signs %1%2 are not understood; there are no comments in a statement."_s.arg(c).arg(next));
+            throw basic::Error(basic::Fault::NoComments, {.file = place}, {c, next});
         } else if (!QStringView(u"+-*/%&|~<>=!(),.;").contains(c)) {
-            throw basic::Error(basic::ErrorKind::InvalidSql, place,
-                               c.isPrint() ? u"The sign %1 is not understood at %2"_s.arg(c).arg(excerpt(text, at))
-                                           : u"The statement holds a control character."_s);
+            throw c.isPrint() ? basic::Error(basic::Fault::SignUnknown, {.file = place}, {c, excerpt(text, at)})
+                              : basic::Error(basic::Fault::ControlCharacter, {.file = place});
         }
         m_tokens.push_back({kind, at, end - at});
         at = end;
@@ -158,8 +154,7 @@ void SqlText::cut(const QString &place)
 void SqlText::failUnclosed(qsizetype at, bool isText, const QString &place) const
 {
     if (!isText)
-        throw basic::Error(basic::ErrorKind::InvalidSql, place,
-                           u"The name that begins at %1 is not closed."_s.arg(excerpt(m_text, at)));
+        throw basic::Error(basic::Fault::NameNotClosed, {.file = place}, {excerpt(m_text, at)});
     // An apostrophe within a text ended it; what is left of it stands directly behind.
     for (std::size_t i = 1; i < m_tokens.size(); ++i) {
         const Token &before = m_tokens[i - 1];
@@ -168,10 +163,7 @@ void SqlText::failUnclosed(qsizetype at, bool isText, const QString &place) cons
             break;
         }
     }
-    throw basic::Error(
-        basic::ErrorKind::InvalidSql, place,
-        u"The search text that begins at %1 is not closed. Write an apostrophe within a text twice ('')."_s.arg(
-            excerpt(m_text, at)));
+    throw basic::Error(basic::Fault::SearchTextNotClosed, {.file = place}, {excerpt(m_text, at)});
 }
 
 bool SqlText::isWord(std::size_t token, QStringView word) const

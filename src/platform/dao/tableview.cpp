@@ -10,32 +10,28 @@ namespace kalvenor::dao {
 
 using namespace Qt::StringLiterals;
 
-QString tablePlace(const QString &file, const QString &table)
+basic::Place tablePlace(const QString &file, const QString &table)
 {
-    return u"%1, table %2"_s.arg(file, table);
+    return {.file = file, .table = table};
 }
 
 int markColumnOf(const jet::Table &table)
 {
     const int column = table.columnOf(MarkColumnName);
     if (column < 0)
-        throw basic::Error(basic::ErrorKind::ColumnNotFound, tablePlace(table.image().file(), table.name()),
-                           u"There is no column %1."_s.arg(MarkColumnName));
+        throw basic::Error(basic::Fault::ColumnMissing, tablePlace(table.image().file(), table.name()),
+                           {MarkColumnName});
     return column;
 }
 
 int keyColumnOf(const jet::Table &table)
 {
-    const QString place = tablePlace(table.image().file(), table.name());
+    const basic::Place place = tablePlace(table.image().file(), table.name());
     const int column = table.columnOf(KeyColumnName);
     if (column < 0)
-        throw basic::Error(
-            basic::ErrorKind::NotMarkable, place,
-            u"Marks cannot be set: the table has no column %1 that tells its rows apart."_s.arg(KeyColumnName));
+        throw basic::Error(basic::Fault::NoKeyColumn, place, {KeyColumnName});
     if (table.columns()[static_cast<std::size_t>(column)].type != jet::ColumnType::Long)
-        throw basic::Error(
-            basic::ErrorKind::NotMarkable, place,
-            u"Marks cannot be set: the column %1 does not hold whole numbers (Long)."_s.arg(KeyColumnName));
+        throw basic::Error(basic::Fault::KeyNotLong, place, {KeyColumnName});
     return column;
 }
 
@@ -116,7 +112,7 @@ QStringList Snapshot::warnings() const
     QStringList lines = m_database->warnings();
     for (const auto &[name, view] : m_views) {
         for (const QString &line : view->table()->warnings())
-            lines << tablePlace(m_database->file(), name) + u": "_s + line;
+            lines << u"%1, table %2: "_s.arg(m_database->file(), name) + line;
     }
     return lines;
 }

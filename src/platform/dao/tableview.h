@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/error.h"
 #include "platform/dao/bits.h"
 #include "platform/dao/longindex.h"
 #include "platform/jet/marks/markwriter.h"
@@ -17,7 +18,7 @@ inline constexpr QStringView MarkColumnName = u"Markierung";
 inline constexpr QStringView KeyColumnName = u"Counter";
 
 /// "file, table name", as errors name their place.
-QString tablePlace(const QString &file, const QString &table);
+basic::Place tablePlace(const QString &file, const QString &table);
 
 /// The mark column of a table. Throws ColumnNotFound.
 int markColumnOf(const jet::Table &table);

@@ -63,7 +63,7 @@ bool RelativesWalk::add(Kin kin)
     for (qint64 seen = 0; !waiting.empty(); ++seen) {
         if (m_progress && seen % PersonsBetweenReports == 0 &&
             !m_progress(seen, seen + static_cast<qint64>(waiting.size())))
-            throw basic::Error(basic::ErrorKind::Cancelled, {}, u"Stopped; nobody was marked."_s);
+            throw basic::Error(basic::Fault::StoppedUnmarked);
         const qint32 person = waiting.front();
         waiting.pop_front();
         for (const qint32 relative : (this->*kin)(person)) {

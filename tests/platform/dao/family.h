@@ -24,7 +24,7 @@ inline void PrintTo(basic::ErrorKind kind, std::ostream *out)
 
 namespace kalvenor::test {
 
-/// The kind of error that the work ends with, and its text for those who ask.
+/// The kind of error that the work ends with, and what it says in logs for those who ask.
 template <class Work>
 std::optional<basic::ErrorKind> errorOf(Work work, QString *message = nullptr)
 {
@@ -33,7 +33,7 @@ std::optional<basic::ErrorKind> errorOf(Work work, QString *message = nullptr)
         return {};
     } catch (const basic::Error &error) {
         if (message != nullptr)
-            *message = error.message();
+            *message = QString::fromUtf8(error.what());
         return error.kind();
     }
 }

@@ -51,22 +51,21 @@ bool isFolderReadOnly(const QString &file)
 
 storage::File openForWriting(const QString &name)
 {
-    const auto readOnly = [&name](const QString &why) {
-        return basic::Error(basic::ErrorKind::ReadOnly, name,
-                            u"The file cannot be written: %1. Nothing was changed."_s.arg(why));
+    const auto readOnly = [&name](basic::Fault fault, std::vector<basic::Argument> arguments = {}) {
+        return basic::Error(fault, {.file = name}, std::move(arguments)).with(basic::Fault::NothingChanged);
     };
     const QFileInfo info(name);
     if (info.exists() && !hasWriteBit(info))
-        throw readOnly(u"it is write-protected"_s);
+        throw readOnly(basic::Fault::ReadOnlyFile);
     if (info.exists() && isFolderReadOnly(name))
-        throw readOnly(u"its folder is write-protected"_s);
+        throw readOnly(basic::Fault::ReadOnlyFolder);
     QString reason;
     storage::File file = storage::File::open(name, storage::File::Mode::ReadWrite, &reason);
     if (file.isOpen())
         return file;
     if (file.fault() == storage::FileFault::NotFound)
-        throw basic::Error(basic::ErrorKind::FileNotFound, name, u"The file is no longer there."_s);
-    throw readOnly(reason);
+        throw basic::Error(basic::Fault::FileGone, {.file = name});
+    throw readOnly(basic::Fault::NotOpenedForWriting, {reason});
 }
 
 /// The keys that occur more than once, ascending.
@@ -108,7 +107,7 @@ std::vector<std::int32_t> repeatedKeys(const Table &table, int keyColumn)
 /// The writes of one call: page by page, verified before and after.
 class Run {
 public:
-    Run(Image &image, const Table &table, const Column &key, const QString &place, storage::File &file)
+    Run(Image &image, const Table &table, const Column &key, const basic::Place &place, storage::File &file)
         : m_image(image), m_table(table), m_key(key), m_place(place), m_file(file), m_raw(image.pageSize()),
           m_plain(image.pageSize()), m_other(image.pageSize())
     {
@@ -118,11 +117,11 @@ public:
     bool hasWritten() const { return m_hasWritten; }
     std::vector<std::uint32_t> takeChanged() { return std::move(m_changed); }
 
-    [[noreturn]] void fail(basic::ErrorKind kind, const QString &what) const
+    [[noreturn]] void fail(basic::Fault fault, std::vector<basic::Argument> arguments = {}) const
     {
-        throw basic::Error(kind, m_place,
-                           m_changed.empty() ? what + u" Nothing was changed."_s
-                                             : what + u" %1 rows were changed before."_s.arg(m_changed.size()));
+        const basic::Error error(fault, m_place, std::move(arguments));
+        throw m_changed.empty() ? error.with(basic::Fault::NothingChanged)
+                                : error.with(basic::Fault::RowsChangedBefore, {m_changed.size()});
     }
 
     /// All targets have their records on the same page.
@@ -130,8 +129,7 @@ public:
     {
         const std::uint32_t number = targets.front().place.recordPage;
         if (!readPage(number, m_raw))
-            fail(basic::ErrorKind::WriteFailed,
-                 u"Page %1 cannot be read again: %2."_s.arg(number).arg(m_file.errorText()));
+            fail(basic::Fault::PageNotRead, {number, m_file.errorText()});
         m_plain = m_raw;
         decode(number, m_plain);
         Q_ASSERT(std::ranges::all_of(targets, [&](const MarkTarget &target) {
@@ -150,12 +148,12 @@ public:
                                 std::span(&m_raw[target.inPage], 1))) {
                 const QString reason = m_file.errorText();
                 confirm(number, written);
-                fail(basic::ErrorKind::WriteFailed, u"Writing page %1 failed: %2."_s.arg(number).arg(reason));
+                fail(basic::Fault::PageNotWritten, {number, reason});
             }
             written.push_back(&target);
         }
         if (!written.empty() && !confirm(number, written))
-            fail(basic::ErrorKind::WriteFailed, u"Page %1 does not hold what was written to it."_s.arg(number));
+            fail(basic::Fault::PageNotConfirmed, {number});
     }
 
 private:
@@ -203,15 +201,15 @@ private:
             now.isDataOf(m_table.definitionPage()) ? now.slot(place.recordSlot) : std::nullopt;
         if (!slot || slot != before.slot(place.recordSlot) || slot->start != place.recordStart ||
             slot->length != place.recordLength)
-            changedElsewhere(target, u"is no longer where it was"_s);
+            changedElsewhere(target);
         const Record record(m_table.layout(), now.bytes(*slot));
         const Record known(m_table.layout(), m_table.record(target.row));
         const auto key = record.field(m_key);
         const auto knownKey = known.field(m_key);
         if (record.columnCount() != known.columnCount() || !key || !knownKey || !std::ranges::equal(*key, *knownKey))
-            changedElsewhere(target, u"is no longer the same"_s);
+            changedElsewhere(target);
         if (m_plain[target.inPage] != before.bytes(*slot)[target.inPage - place.recordStart])
-            changedElsewhere(target, u"has another mark"_s);
+            changedElsewhere(target);
         if (place.firstPage != place.recordPage || place.firstSlot != place.recordSlot)
             verifyFirstPlace(target);
     }
@@ -233,21 +231,18 @@ private:
             if (record && record->page == place.recordPage && record->index == place.recordSlot)
                 return;
         }
-        changedElsewhere(target, u"was moved"_s);
+        changedElsewhere(target);
     }
 
-    [[noreturn]] void changedElsewhere(const MarkTarget &target, const QString &what) const
+    [[noreturn]] void changedElsewhere(const MarkTarget &target) const
     {
-        fail(basic::ErrorKind::ChangedElsewhere,
-             u"Another program changed the file: row %1 of page %2 %3."_s.arg(target.place.firstSlot)
-                 .arg(target.place.firstPage)
-                 .arg(what));
+        fail(basic::Fault::RowChanged, {target.place.firstSlot, target.place.firstPage});
     }
 
     Image &m_image;
     const Table &m_table;
     const Column &m_key;
-    const QString &m_place;
+    const basic::Place &m_place;
     storage::File &m_file;
     std::vector<std::uint8_t> m_raw;   ///< the page as the file has it, with the bits set as they are written
     std::vector<std::uint8_t> m_plain; ///< decoded, as it was before
@@ -275,21 +270,19 @@ MarkWriter::MarkWriter(std::shared_ptr<Database> database, std::shared_ptr<const
     const std::vector<Column> &columns = m_table->columns();
     const auto count = static_cast<int>(columns.size());
     if (markColumn < 0 || markColumn >= count || keyColumn < 0 || keyColumn >= count)
-        throw basic::Error(basic::ErrorKind::ColumnNotFound, place(),
-                           u"The table lacks the column for marks or its key."_s);
+        throw basic::Error(basic::Fault::MarkColumnMissing, place());
     const Column &mark = columns[static_cast<std::size_t>(markColumn)];
     const Column &key = columns[static_cast<std::size_t>(keyColumn)];
     if (&m_table->image() != m_database->image().get())
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, place(),
-                           u"The table is of an older state of the file."_s);
+        throw basic::Error(basic::Fault::TableOutdated, place());
     if (mark.type != ColumnType::Boolean)
-        notMarkable(u"column %1 is not a Yes/No column"_s.arg(mark.name));
+        throw basic::Error(basic::Fault::NoYesNoColumn, place(), {mark.name});
     if (m_table->isIndexed(mark.number))
-        notMarkable(u"an index holds column %1 and would no longer be right; remove the index"_s.arg(mark.name));
+        throw basic::Error(basic::Fault::MarkIndexed, place(), {mark.name});
     if (key.type != ColumnType::Long)
-        notMarkable(u"the key column %1 is not a Long column"_s.arg(key.name));
+        throw basic::Error(basic::Fault::KeyNotLong, place(), {key.name});
     if (mark.isCalculated())
-        notMarkable(u"column %1 is calculated"_s.arg(mark.name));
+        throw basic::Error(basic::Fault::MarkCalculated, place(), {mark.name});
 }
 
 std::vector<MarkTarget> MarkWriter::plan(std::span<const Mark> marks)
@@ -302,18 +295,16 @@ std::vector<MarkTarget> MarkWriter::plan(std::span<const Mark> marks)
     bool inOrder = true; // as statements give them
     for (const Mark &wish : marks) {
         if (wish.row >= m_table->rowCount())
-            throw basic::Error(basic::ErrorKind::NoCurrentRow, place(), u"There is no row %1."_s.arg(wish.row));
+            throw basic::Error(basic::Fault::RowMissing, place(), {wish.row});
         m_table->fetchAhead(wish.row);
         const std::optional<std::int32_t> key = m_table->integer(wish.row, m_keyColumn);
         if (!key)
-            notMarkable(u"row %1 has no key"_s.arg(wish.row));
+            throw basic::Error(basic::Fault::RowWithoutKey, place(), {wish.row});
         if (std::ranges::binary_search(*m_repeatedKeys, *key))
-            notMarkable(u"the key %1 occurs more than once"_s.arg(*key));
+            throw basic::Error(basic::Fault::KeyRepeated, place(), {*key});
         const Record record(m_table->layout(), m_table->record(wish.row));
         if (!record.has(mark.number))
-            notMarkable(u"the record with key %1 is older than column %2; change and save it once in the "
-                        "program it comes from"_s.arg(*key)
-                            .arg(mark.name));
+            throw basic::Error(basic::Fault::RecordTooOld, place(), {*key, mark.name});
         const RowPlace &at = m_table->place(wish.row);
         if (!targets.empty())
             inOrder &= targets.back().row < wish.row && targets.back().place.recordPage <= at.recordPage;
@@ -331,14 +322,9 @@ std::vector<MarkTarget> MarkWriter::plan(std::span<const Mark> marks)
     return targets;
 }
 
-QString MarkWriter::place() const
+basic::Place MarkWriter::place() const
 {
-    return u"%1, table %2"_s.arg(m_database->file(), m_table->name());
-}
-
-void MarkWriter::notMarkable(const QString &why) const
-{
-    throw basic::Error(basic::ErrorKind::NotMarkable, place(), u"Marks cannot be set: %1."_s.arg(why));
+    return {.file = m_database->file(), .table = m_table->name()};
 }
 
 std::vector<std::uint32_t> MarkWriter::write(std::span<const Mark> marks, const basic::Progress &progress)
@@ -347,11 +333,11 @@ std::vector<std::uint32_t> MarkWriter::write(std::span<const Mark> marks, const 
     Image &image = *m_database->image();
     const std::vector<Column> &columns = m_table->columns();
     const Column &key = columns[static_cast<std::size_t>(m_keyColumn)];
-    const QString where = place();
+    const basic::Place where = place();
     Run run(image, *m_table, key, where, file);
     const Stamp before = Image::stampOf(m_database->file(), file);
     if (before != image.stamp())
-        run.fail(basic::ErrorKind::ChangedElsewhere, u"Another program changed the file since it was read."_s);
+        run.fail(basic::Fault::FileChanged);
 
     const std::vector<MarkTarget> targets = plan(marks);
     const auto total = static_cast<qint64>(targets.size());
@@ -364,7 +350,7 @@ std::vector<std::uint32_t> MarkWriter::write(std::span<const Mark> marks, const 
     std::size_t pages = 0;
     for (auto first = targets.begin(); first != targets.end(); ++pages) {
         if (pages % PagesPerReport == 0 && progress && !progress(first - targets.begin(), total))
-            run.fail(basic::ErrorKind::Cancelled, u"Setting the marks was stopped."_s);
+            run.fail(basic::Fault::StoppedMarking);
         const auto last =
             std::find_if(first, targets.end(), [page = first->place.recordPage](const MarkTarget &target) {
                 return target.place.recordPage != page;
@@ -374,8 +360,7 @@ std::vector<std::uint32_t> MarkWriter::write(std::span<const Mark> marks, const 
     }
     if (run.hasWritten()) {
         if (!file.sync())
-            run.fail(basic::ErrorKind::WriteFailed,
-                     u"The disk did not confirm the changes: %1."_s.arg(file.errorText()));
+            run.fail(basic::Fault::NotSynced, {file.errorText()});
         const Stamp after = Image::stampOf(m_database->file(), file);
         if (after.size == before.size && after.counters == before.counters)
             image.setStamp(after);

@@ -43,8 +43,7 @@ public:
 private:
     /// What is to be written, page by page in the file's order, each row once. Throws NotMarkable.
     std::vector<MarkTarget> plan(std::span<const Mark> marks);
-    QString place() const;
-    [[noreturn]] void notMarkable(const QString &why) const;
+    basic::Place place() const;
 
     std::shared_ptr<Database> m_database;
     std::shared_ptr<const Table> m_table;

@@ -12,12 +12,6 @@ namespace kalvenor::jet {
 
 namespace {
 
-[[noreturn]] void refuse(QStringView pattern, const QString &reason)
-{
-    throw basic::Error(basic::ErrorKind::InvalidPattern, {},
-                       u"The name pattern \"%1\" cannot be used: %2"_s.arg(pattern, reason));
-}
-
 } // namespace
 
 LikePattern::LikePattern(QStringView pattern)
@@ -39,8 +33,7 @@ LikePattern::LikePattern(QStringView pattern)
         case u'[': {
             const qsizetype end = pattern.indexOf(u']', at);
             if (end < 0) {
-                refuse(pattern, u"the list that begins with \"[\" has no \"]\". Close it, or write [[] "
-                                "for the character itself."_s);
+                throw basic::Error(basic::Fault::PatternNotClosed, {}, {pattern});
             }
             addList(pattern, pattern.mid(at + 1, end - at - 1));
             at = end;
@@ -71,7 +64,7 @@ void LikePattern::addList(QStringView pattern, QStringView list)
         }
         const std::uint32_t last = generalRank(list[at + 2].unicode());
         if (last < first) {
-            refuse(pattern, u"the range %1-%2 runs backwards. Write %2-%1."_s.arg(list[at]).arg(list[at + 2]));
+            throw basic::Error(basic::Fault::PatternBackwards, {}, {pattern, list[at], list[at + 2]});
         }
         m_ranges.push_back({first, last});
         at += 2;

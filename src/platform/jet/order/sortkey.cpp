@@ -145,11 +145,8 @@ void appendGeneralKey(QStringView text, std::vector<std::uint8_t> &key, Unlisted
     const QStringView part = keyedPart(text);
     for (const QChar character : part) {
         if (unlisted == Unlisted::Refused && !isListed(character.unicode())) {
-            throw basic::Error(basic::ErrorKind::InvalidProcedureCall, {},
-                               u"The character U+%1 in \"%2\" has no place in the General sort order; an index "
-                               "cannot hold it. Use only Latin letters there."_s
-                                   .arg(static_cast<uint>(character.unicode()), 4, 16, QLatin1Char('0'))
-                                   .arg(part));
+            throw basic::Error(basic::Fault::CharacterNotOrdered, {},
+                               {u"%1"_s.arg(static_cast<uint>(character.unicode()), 4, 16, QLatin1Char('0')), part});
         }
     }
     std::array<std::uint8_t, 3 * KeyedUnits> primary;

@@ -35,8 +35,7 @@ struct CatalogueColumns {
           foreignName(table.columnOf(u"ForeignName"))
     {
         if (id < 0 || name < 0 || type < 0 || flags < 0)
-            throw basic::Error(basic::ErrorKind::Damaged, u"%1, page %2"_s.arg(table.image().file()).arg(CataloguePage),
-                               u"The catalogue of tables lacks one of its columns Id, Name, Type and Flags."_s);
+            throw basic::Error(basic::Fault::CatalogueDamaged, {.file = table.image().file(), .page = CataloguePage});
     }
 };
 

@@ -56,13 +56,12 @@ private:
 
     const Sizes &sizes() const { return m_jet4 ? Sizes4 : Sizes3; }
 
-    [[noreturn]] void damaged(const QString &what, std::uint32_t page) const
+    [[noreturn]] void damaged(basic::Fault what, std::uint32_t page) const
     {
-        throw basic::Error(
-            basic::ErrorKind::Damaged, u"%1, table %2, page %3"_s.arg(m_image.file(), m_table).arg(page),
-            u"The definition of the table is damaged: %1. Repair the database or take a backup."_s.arg(what));
+        throw basic::Error(basic::Fault::DefinitionDamaged, {.file = m_image.file(), .table = m_table, .page = page},
+                           {what});
     }
-    void require(bool sound, const QString &what) const
+    void require(bool sound, basic::Fault what) const
     {
         if (!sound)
             damaged(what, m_firstPage);
@@ -76,18 +75,18 @@ private:
         for (std::size_t pages = 0; number != 0; ++pages) {
             const std::span<const std::uint8_t> page = m_image.page(number);
             if (page.empty())
-                damaged(u"its page is beyond the end of the file"_s, number);
+                damaged(basic::Fault::WordPageBeyondEnd, number);
             if (page[0] != static_cast<std::uint8_t>(PageType::Definition))
-                damaged(u"its page is of another kind"_s, number);
+                damaged(basic::Fault::WordOtherPage, number);
             if (pages == MaxPages)
-                damaged(u"its pages run in a circle"_s, number);
+                damaged(basic::Fault::WordPageCircle, number);
             const auto part = pages == 0 ? page : page.subspan(8);
             joined.insert(joined.end(), part.begin(), part.end());
             number = load32(&page[4]);
         }
-        require(!joined.empty(), u"it names no page"_s);
+        require(!joined.empty(), basic::Fault::WordNoPage);
         const std::size_t content = load32(&joined[8]);
-        require(content != 0 && content <= joined.size() - 8, u"its stated length cannot be"_s);
+        require(content != 0 && content <= joined.size() - 8, basic::Fault::WordLength);
         joined.resize(8 + content);
         return joined;
     }
@@ -106,19 +105,19 @@ private:
         m_physicalCount = c.u32();
         m_result.ownedPages = c.u32();
         c.moveTo(sizes().headEnd);
-        require(!c.failed(), u"it is cut short"_s);
+        require(!c.failed(), basic::Fault::WordCutShort);
         require(m_columnCount <= MaxColumns && m_columnCount <= m_result.greatestColumns,
-                u"its number of columns cannot be"_s);
-        require(m_result.variableColumns <= m_result.greatestColumns, u"its number of variable columns cannot be"_s);
-        require(m_logicalCount <= MaxIndexes && m_physicalCount <= MaxIndexes, u"its number of indexes cannot be"_s);
+                basic::Fault::WordColumnCount);
+        require(m_result.variableColumns <= m_result.greatestColumns, basic::Fault::WordVariableColumns);
+        require(m_logicalCount <= MaxIndexes && m_physicalCount <= MaxIndexes, basic::Fault::WordIndexCount);
     }
 
     QString readName()
     {
         const std::size_t length = m_jet4 ? m_cursor.u16() : m_cursor.u8();
-        require(!m_jet4 || length % 2 == 0, u"a name has half a character"_s);
+        require(!m_jet4 || length % 2 == 0, basic::Fault::WordHalfCharacter);
         const std::span<const std::uint8_t> bytes = m_cursor.bytes(length);
-        require(!m_cursor.failed(), u"a name is longer than the definition"_s);
+        require(!m_cursor.failed(), basic::Fault::WordNameTooLong);
         QString name;
         m_image.decodeText(bytes, name);
         return name;
@@ -142,7 +141,7 @@ private:
         }
         column.fixedOffset = c.u16();
         column.length = c.u16();
-        require(!c.failed(), u"its columns are cut short"_s);
+        require(!c.failed(), basic::Fault::WordColumnsCut);
         if ((type >= 1 && type <= 12) || type == 15 || type == 16)
             column.type = static_cast<ColumnType>(type);
         else if (type == 17)
@@ -188,7 +187,7 @@ private:
                 if (number == NoColumn || c.failed())
                     continue;
                 require(std::ranges::binary_search(m_result.columns, number, {}, &Column::number),
-                        u"an index names a column that is not there"_s);
+                        basic::Fault::WordIndexColumn);
                 index.columns.push_back({number, ascending});
                 indexed.insert(number);
             }
@@ -197,7 +196,7 @@ private:
             c.skip(m_jet4 ? 4 : 0);
             index.flags = c.u8();
             c.skip(m_jet4 ? 5 : 0);
-            require(!c.failed(), u"its indexes are cut short"_s);
+            require(!c.failed(), basic::Fault::WordIndexesCut);
             m_physical.push_back(std::move(index));
         }
         m_result.indexedColumns.assign(indexed.begin(), indexed.end());
@@ -212,8 +211,8 @@ private:
             c.skip(11);
             const std::uint8_t kind = c.u8();
             c.skip(m_jet4 ? 4 : 0);
-            require(!c.failed(), u"its indexes are cut short"_s);
-            require(physical < m_physical.size(), u"an index has no pages"_s);
+            require(!c.failed(), basic::Fault::WordIndexesCut);
+            require(physical < m_physical.size(), basic::Fault::WordIndexPages);
             const Physical &behind = m_physical[physical];
             m_result.indexes.push_back({QString(), behind.columns, (behind.flags & 0x01) != 0,
                                         (behind.flags & 0x02) != 0, kind == 1, behind.rootPage});

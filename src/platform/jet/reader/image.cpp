@@ -39,34 +39,28 @@ storage::File openForReading(const QString &file)
     if (opened.isOpen())
         return opened;
     if (opened.fault() == storage::FileFault::NotFound)
-        throw basic::Error(basic::ErrorKind::FileNotFound, file, u"The file is not there."_s);
-    throw basic::Error(basic::ErrorKind::FileUnreadable, file, u"The file cannot be read: %1."_s.arg(reason));
+        throw basic::Error(basic::Fault::FileMissing, {.file = file});
+    throw basic::Error(basic::Fault::NotRead, {.file = file}, {reason});
 }
 
 [[noreturn]] void notReadable(const QString &name, const storage::File &file)
 {
-    throw basic::Error(basic::ErrorKind::FileUnreadable, name, u"The file cannot be read: %1."_s.arg(file.errorText()));
-}
-
-[[noreturn]] void notADatabase(const QString &name, const QString &why)
-{
-    throw basic::Error(basic::ErrorKind::NotADatabase, name, u"This is not a Jet 3 or Jet 4 database: %1."_s.arg(why));
+    throw basic::Error(basic::Fault::NotRead, {.file = name}, {file.errorText()});
 }
 
 void checkHeader(const QString &name, std::span<const std::uint8_t> head)
 {
     if (head.size() < HeaderRoom)
-        notADatabase(name, u"it has only %1 bytes"_s.arg(head.size()));
+        throw basic::Error(basic::Fault::FileTooShort, {.file = name}, {head.size()});
     const auto startsWith = [head](std::size_t at, const char *text) {
         return std::memcmp(&head[at], text, std::strlen(text) + 1) == 0;
     };
     const bool newerName = startsWith(4, "Standard ACE DB");
     if (head[0] != 0 || head[1] != 1 || head[2] != 0 || head[3] != 0 ||
         (!newerName && !startsWith(4, "Standard Jet DB")))
-        notADatabase(name, u"its first bytes are those of another kind of file"_s);
+        throw basic::Error(basic::Fault::OtherKindOfFile, {.file = name});
     if (newerName || head[0x14] >= 2)
-        notADatabase(name, u"it is of the newer ACE format (.accdb, Access 2007 and later, version byte %1);"
-                           " save it in the format of Access 2000 or 2002-2003"_s.arg(head[0x14]));
+        throw basic::Error(basic::Fault::AceFormat, {.file = name}, {head[0x14]});
 }
 
 } // namespace
@@ -102,7 +96,7 @@ std::shared_ptr<Image> Image::load(const QString &name)
         const storage::File file = openForReading(name);
         const Stamp before = stampOf(name, file);
         if (before.size > LargestFile)
-            notADatabase(name, u"it is larger than the 2 GiB such a file can have"_s);
+            throw basic::Error(basic::Fault::LargerThanJet, {.file = name});
         std::array<std::uint8_t, HeaderRoom> head{};
         const auto there = std::span(head).first(static_cast<std::size_t>(std::min<qint64>(before.size, HeaderRoom)));
         if (!file.readAt(0, there))
@@ -111,8 +105,7 @@ std::shared_ptr<Image> Image::load(const QString &name)
         const auto size = static_cast<std::size_t>(before.size);
         std::unique_ptr<std::uint8_t[]> bytes(new (std::nothrow) std::uint8_t[size]);
         if (!bytes)
-            throw basic::Error(basic::ErrorKind::FileUnreadable, name,
-                               u"There is not enough memory for %1 MB."_s.arg(size >> 20));
+            throw basic::Error(basic::Fault::FileTooLarge, {.file = name}, {size >> 20});
         const bool complete = file.readAt(0, {bytes.get(), size});
         const Stamp after = stampOf(name, file);
         if (after != before)
@@ -125,8 +118,7 @@ std::shared_ptr<Image> Image::load(const QString &name)
         image->takeBytes(std::move(bytes), size);
         return image;
     }
-    throw basic::Error(basic::ErrorKind::ChangedElsewhere, name,
-                       u"Another program keeps writing to the file. Try again when it has finished."_s);
+    throw basic::Error(basic::Fault::StillWritten, {.file = name});
 }
 
 std::shared_ptr<Image> Image::fromBytes(const QString &name, std::span<const std::uint8_t> bytes)
@@ -148,7 +140,7 @@ void Image::takeBytes(std::unique_ptr<std::uint8_t[]> bytes, std::size_t size)
     m_version = m_pageSize == 2048 ? Version::Jet3 : Version::Jet4;
     m_pageCount = static_cast<std::uint32_t>(size / m_pageSize);
     if (m_pageCount < 3)
-        notADatabase(m_file, u"it has only %1 bytes"_s.arg(size));
+        throw basic::Error(basic::Fault::FileTooShort, {.file = m_file}, {size});
 
     std::uint8_t *const raw = m_bytes.get();
     std::array<std::uint8_t, HeaderRoom> header{};
@@ -165,8 +157,7 @@ void Image::takeBytes(std::unique_ptr<std::uint8_t[]> bytes, std::size_t size)
     for (std::uint32_t number = 1; number < m_pageCount; ++number)
         encodePage({raw + std::size_t{number} * m_pageSize, m_pageSize}, m_encodingKey, number);
     if (page(2)[0] != static_cast<std::uint8_t>(PageType::Definition))
-        throw basic::Error(basic::ErrorKind::Damaged, m_file,
-                           u"The file is encoded and its pages cannot be decoded."_s);
+        throw basic::Error(basic::Fault::NotDecoded, {.file = m_file});
 }
 
 } // namespace kalvenor::jet

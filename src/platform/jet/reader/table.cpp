@@ -117,12 +117,11 @@ private:
     void locateRows(const Definition &definition)
     {
         const UsageMap map = readUsageMap(m_image, definition.ownedPages);
-        if (!map.problem.isEmpty()) {
-            throw basic::Error(
-                basic::ErrorKind::Damaged,
-                u"%1, table %2, page %3"_s.arg(m_image.file(), m_table->m_name).arg(m_table->m_definitionPage),
-                u"The pages of the table cannot be found: %1. Repair the database or take a backup."_s.arg(
-                    map.problem));
+        if (!map.isThere) {
+            const RowPointer missing(definition.ownedPages);
+            throw basic::Error(basic::Fault::UsageMapMissing,
+                               {.file = m_image.file(), .table = m_table->m_name, .page = m_table->m_definitionPage},
+                               {missing.page, missing.slot});
         }
         m_table->m_rows.reserve(std::min<std::size_t>(definition.rowCount, map.pages.size() * MaxSlots));
         for (const std::uint32_t page : map.pages)

@@ -49,8 +49,7 @@ UsageMap readUsageMap(const Image &image, std::uint32_t rowPointer)
     UsageMap result;
     const std::optional<Bytes> map = mapRow(image, rowPointer);
     if (!map) {
-        const RowPointer pointer(rowPointer);
-        result.problem = u"there is no usage map at page %1 row %2"_s.arg(pointer.page).arg(pointer.slot);
+        result.isThere = false;
         return result;
     }
     visitBitmaps(image, *map, [&](Bytes bitmap, std::uint64_t firstPage) {

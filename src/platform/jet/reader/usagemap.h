@@ -13,7 +13,7 @@ namespace kalvenor::jet {
 struct UsageMap {
     std::vector<std::uint32_t> pages; ///< ascending, each once; only pages the file has
     bool goesBeyondEnd = false;       ///< it also names pages the file does not have, as maps of sound files may
-    QString problem;                  ///< why the map cannot be read; there are no pages then
+    bool isThere = true;              ///< else there are no pages
 };
 
 UsageMap readUsageMap(const Image &image, std::uint32_t rowPointer);
