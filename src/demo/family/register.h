@@ -14,7 +14,6 @@ namespace kalvenor::demo {
 struct KnownDate {
     int day = 0;
     QString companion;
-    bool isUnknown() const;
 };
 
 struct Entry {

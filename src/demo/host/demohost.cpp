@@ -54,7 +54,7 @@ QByteArray hostSettings(const QString &familyDatabase, const QString &prints)
            "\r\n[Grafik]\r\nJPG-Faktor=70\r\n";
 }
 
-QByteArray personPage(const demo::PrintedPerson &person)
+QByteArray personPage(const PrintedPerson &person)
 {
     const QString page = u"<!DOCTYPE html>\r\n<html lang=\"de\">\r\n<head>\r\n<meta charset=\"utf-8\">\r\n"
                          "<title>%1</title>\r\n</head>\r\n<body>\r\n<h1>%1</h1>\r\n<table>\r\n"
@@ -76,18 +76,16 @@ void fillHostFolder(const DemoHost &host, quint32 seed, const basic::Progress &p
     makeFolder(prints);
     makeFolder(QFileInfo(host.familyDatabase).path());
 
-    demo::Random random(seed);
-    const demo::Population population = demo::makePopulation(host.persons, random, progress);
-    for (const demo::PrintedPerson &person :
-         demo::writeFamilyDatabase(host.familyDatabase, population, random, progress))
+    Random random(seed);
+    const Population population = makePopulation(host.persons, random, progress);
+    for (const PrintedPerson &person : writeFamilyDatabase(host.familyDatabase, population, random, progress))
         writeFile(QDir(prints).filePath(u"%1-D.html"_s.arg(person.counter)), personPage(person));
 
-    demo::writeEventDatabase(folder.filePath(u"Ereignis.mdb"_s));
-    demo::writeHistoryDatabase(folder.filePath(u"Geschichte.mdb"_s));
-    demo::writeNameDatabase(folder.filePath(u"namen.mdb"_s));
-    demo::writePlaceDatabase(folder.filePath(u"orte.mdb"_s));
-    demo::writeLanguageDatabase(folder.filePath(u"ADD-IN-LANGUAGE.MDB"_s));
-    demo::writeLanguageDatabase(folder.filePath(u"language.mdb"_s));
+    writeEventDatabase(folder.filePath(u"Ereignis.mdb"_s));
+    for (const QString &name : {u"Geschichte.mdb"_s, u"namen.mdb"_s, u"orte.mdb"_s})
+        writeUnreadDatabase(host.hostFolder, name);
+    writeLanguageDatabase(folder.filePath(u"ADD-IN-LANGUAGE.MDB"_s));
+    writeLanguageDatabase(folder.filePath(u"language.mdb"_s));
     // Last, so that an installation with settings is a whole one.
     writeFile(folder.filePath(u"programm.ini"_s), settings);
 }

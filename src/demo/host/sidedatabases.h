@@ -8,9 +8,8 @@
 namespace kalvenor::demo {
 
 void writeEventDatabase(const QString &file);
-void writeHistoryDatabase(const QString &file);
-void writeNameDatabase(const QString &file);
-void writePlaceDatabase(const QString &file);
+/// One that the program opens and does not read: Geschichte.mdb, namen.mdb or orte.mdb in the (native) folder.
+void writeUnreadDatabase(const QString &folder, const QString &fileName);
 void writeLanguageDatabase(const QString &file);
 
 } // namespace kalvenor::demo

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "demo/family/population.h"
+#include "demo/family/random.h"
 #include "platform/jet/creator/creator.h"
+#include <cstdint>
 #include <vector>
 
 namespace kalvenor::demo {
@@ -14,8 +15,9 @@ jet::NewColumn column(const char16_t *name, jet::ColumnType type);
 /// The unique index "Counter" over the column of that name.
 std::vector<jet::NewIndex> counterIndex();
 
-/// Adds the host's tables beside the person table. `counters` holds the persons' numbers by index.
-void addFamilyTables(jet::Creator &creator, const Population &population, const std::vector<std::int32_t> &counters,
-                     Random &random);
+/// Adds the tables of that file that this program does not read but wants to see; enough rows to look at. `counters`
+/// holds the persons' numbers.
+void addHostTables(jet::Creator &creator, const QString &fileName, const std::vector<std::int32_t> &counters,
+                   Random &random);
 
 } // namespace kalvenor::demo
