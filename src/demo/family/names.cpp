@@ -37,7 +37,7 @@ constexpr Epoch Epochs[] = {
      u"Ingrid Helga Brigitte Angelika Anja Katrin Nicole Julia Laura Lena Sophie Anne-Marie Eva-Maria Dörte Chloé"}};
 
 constexpr const char16_t *CommonSurnames =
-    u"Müller Schmidt Schneider Fischer Busch Weber Meyer Wagner Becker Schulz Hoffmann Schäfer Koch Bauer Richter "
+    u"Müller Schmidt Schneider Fischer Meyer Weber Busch Wagner Becker Schulz Hoffmann Schäfer Koch Bauer Richter "
     u"Klein Wolf "
     u"Schröder Neumann Schwarz Zimmermann Braun Krüger Hofmann Hartmann Lange Werner Krause Lehmann Maier Köhler König "
     u"Walter Huber Kaiser Fuchs Peters Lang Scholz Möller Weiß Jung Hahn Vogel Friedrich Keller Günther Frank Berger "
