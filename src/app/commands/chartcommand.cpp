@@ -7,8 +7,6 @@
 #include "platform/chart/chartpicture.h"
 #include "statistics/figures/grafikbild.h"
 #include <algorithm>
-#include <QDir>
-#include <QFileInfo>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -113,35 +111,6 @@ QByteArray json(const Grafikzahlen &figures)
            ",\"without_date\":" + jsonText(figures.ohneDatum) + "}\n";
 }
 
-QSize sizeOf(const std::string &word)
-{
-    static const QRegularExpression Shape(u"^([1-9][0-9]{0,4})x([1-9][0-9]{0,4})$"_s);
-    const auto match = Shape.match(QString::fromStdString(word));
-    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
-    return match.hasMatch() && std::max(size.width(), size.height()) <= LargestSide ? size : QSize();
-}
-
-std::string sizeComplaint(const std::string &word)
-{
-    return sizeOf(word).isValid() ? std::string()
-                                  : "\"" + word + "\" is no size like 900x540, each side 1 to 20000 pixels";
-}
-
-std::string typeComplaint(const std::string &word)
-{
-    bool isNumber = false;
-    const int number = QString::fromStdString(word).toInt(&isNumber);
-    return isNumber && statistics::grafiktypAus(number) ? std::string()
-                                                        : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
-}
-
-std::string fileComplaint(const std::string &word)
-{
-    const QString ending = QFileInfo(QString::fromLocal8Bit(word.data())).suffix().toLower();
-    const bool known = QStringList{"png", "jpg", "jpeg", "svg"}.contains(ending);
-    return known ? std::string() : "the picture's file name must end in .png, .jpg or .svg: " + word;
-}
-
 } // namespace
 
 QByteArray chartOutput(const Grafikzahlen &figures, Format format)
@@ -157,49 +126,35 @@ QByteArray chartOutput(const Grafikzahlen &figures, Format format)
     return readableText(figures).toUtf8();
 }
 
-void ChartCommand::addTo(CLI::App &app, const std::function<void(CLI::App *)> &addCommon)
-{
-    m_chart = app.add_subcommand("chart", "Writes the average ages of the marked persons per century, with a picture "
-                                          "where one is wanted");
-    addCommon(m_chart);
-    m_chart->add_option("--by", m_by, "Century of birth or of death")
-        ->check(CLI::IsMember({"birth", "death"}).description(""))
-        ->type_name("birth|death");
-    m_chart->add_option("--output", m_output, "The picture to write")
-        ->check(fileComplaint)
-        ->type_name("F.png|F.jpg|F.svg");
-    m_chart->add_option("--type", m_type, "Type of the picture's chart: 0-9, 14 or 16")
-        ->check(typeComplaint)
-        ->type_name("N");
-    m_chart->add_option("--size", m_size, "Size of the picture in pixels")->check(sizeComplaint)->type_name("WxH");
-    m_chart->add_flag("--no-legend", m_noLegend, "The picture has no legend");
-}
-
-int ChartCommand::run(const QString &programFolder, const statistics::GeschlechtAlter &sex, Format format) const
+int runChart(const QString &programFolder, const ChartCommand &command)
 {
     StartedProgram started(programFolder);
     if (!started.ready)
         return Failed;
     Program &program = started.program;
-    const statistics::Statistik statistik{.grafiktyp = *statistics::grafiktypAus(m_type),
-                                          .legende = !m_noLegend,
-                                          .geschlechtalter = sex,
-                                          .nachGeburtsjahr = m_by == "birth"};
+    statistics::Statistik statistik{.grafiktyp = *statistics::grafiktypAus(static_cast<int>(chart::ChartType::Bar))};
+    command.statistik.applyTo(statistik);
     Grafikzahlen figures;
     {
         desktop::TerminalProgress terminal(u"computing the chart"_s);
         figures = statistics::grafikermitteln(program.databases, statistik, terminal.progress());
     }
-    if (draws()) {
+    if (!command.output.isEmpty()) {
         chart::ChartLook look = statistics::grafiklook(program.language, program.host, statistik);
         look.emptyText = statistics::leererText(program.language, figures.zahlen);
-        const QString file = QString::fromLocal8Bit(m_output.data(), static_cast<qsizetype>(m_output.size()));
-        chart::writeChart(figures.tabelle, look, sizeOf(m_size),
-                          QDir::cleanPath(QDir::current().absoluteFilePath(file)));
+        chart::writeChart(figures.tabelle, look, command.size, command.output);
     }
-    desktop::writeOutput(chartOutput(figures, format));
+    desktop::writeOutput(chartOutput(figures, command.format));
     desktop::flushOutput();
     return started.done();
+}
+
+QSize pictureSize(const QString &word)
+{
+    static const QRegularExpression Shape(u"^([1-9][0-9]{0,4})x([1-9][0-9]{0,4})$"_s);
+    const auto match = Shape.match(word);
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    return match.hasMatch() && std::max(size.width(), size.height()) <= LargestSide ? size : QSize();
 }
 
 } // namespace kalvenor::app

@@ -3,12 +3,10 @@
 #pragma once
 
 #include "app/commands/listoutput.h"
+#include "app/commands/statistikwords.h"
 #include "statistics/figures/grafik.h"
-#include <CLI/CLI.hpp>
-#include <functional>
 #include <QSize>
 #include <QString>
-#include <string>
 
 namespace kalvenor::app {
 
@@ -17,23 +15,18 @@ namespace kalvenor::app {
 /// or chart holds it.
 QByteArray chartOutput(const statistics::Grafikzahlen &figures, Format format);
 
-/// The command `chart`.
-class ChartCommand {
-public:
-    /// `addCommon` adds the options that several commands share: --program, --sex, --format.
-    void addTo(CLI::App &app, const std::function<void(CLI::App *)> &addCommon);
-    bool parsed() const { return m_chart->parsed(); }
-    /// Whether a picture is wanted, which needs a QApplication.
-    bool draws() const { return parsed() && !m_output.empty(); }
-    /// Prints the figures and writes the picture where one is wanted. Returns the exit code; errors of the
-    /// engine go to the caller.
-    int run(const QString &programFolder, const statistics::GeschlechtAlter &sex, Format format) const;
-
-private:
-    CLI::App *m_chart = nullptr;
-    std::string m_by = "birth", m_output, m_size = "900x540";
-    int m_type = static_cast<int>(chart::ChartType::Bar);
-    bool m_noLegend = false;
+struct ChartCommand {
+    StatistikWords statistik;
+    Format format = Format::Text;
+    QString output; ///< the picture to write, native path; empty for none
+    QSize size;     ///< of it, pixels
 };
+
+/// Prints the figures and writes the picture where one is wanted, which needs a QGuiApplication. Returns the exit code;
+/// errors of the engine go to the caller.
+int runChart(const QString &programFolder, const ChartCommand &command);
+
+/// "900x540", each side 1 to 20000; invalid for anything else.
+QSize pictureSize(const QString &word);
 
 } // namespace kalvenor::app

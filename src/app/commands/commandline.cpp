@@ -6,6 +6,7 @@
 #include "app/commands/check.h"
 #include "app/commands/commands.h"
 #include "app/commands/filteroptions.h"
+#include "app/commands/introductionfile.h"
 #include "app/commands/reportcommand.h"
 #include "app/commands/templatecommands.h"
 #include "app/start/hostlanguage.h"
@@ -19,7 +20,7 @@
 #include <memory>
 #include <QApplication>
 #include <QCoreApplication>
-#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
 
@@ -31,7 +32,7 @@ namespace {
 
 constexpr int Done = 0;
 constexpr int Failed = 1;
-constexpr int WrongUsage = 2;
+constexpr int Misused = 2;
 
 /// The words of the command line as CLI11 leaves them.
 struct Words {
@@ -42,6 +43,11 @@ struct Words {
     std::string list = "unmarked";
     std::string folder;
     std::vector<std::string> counters;
+    std::string name, from, to;
+    std::vector<std::string> dates;
+    std::string title, intro, openedFirst, by, output, size = "900x540", file;
+    int type = 0;
+    bool legend = false, noLegend = false, archive = false, here = false;
     bool all = false;
     bool children = false;
     bool parents = false;
@@ -56,15 +62,14 @@ QString toText(const std::string &word)
     return QString::fromLocal8Bit(word.data(), static_cast<qsizetype>(word.size()));
 }
 
-QString absoluteNative(const std::string &word)
+QString pathOf(const std::string &word)
 {
-    return QDir::cleanPath(QDir::current().absoluteFilePath(toText(word)));
+    return absoluteNative(toText(word));
 }
 
 QString programFolder(const Words &words)
 {
-    return basic::windowsPath(words.program.empty() ? QCoreApplication::applicationDirPath()
-                                                    : absoluteNative(words.program));
+    return basic::windowsPath(words.program.empty() ? QCoreApplication::applicationDirPath() : pathOf(words.program));
 }
 
 Format formatOf(const Words &words)
@@ -90,6 +95,39 @@ std::string isTemplate(const std::string &word)
                : "there is no command " + word + ", and a template ends in .kvl";
 }
 
+std::string sizeComplaint(const std::string &word)
+{
+    return pictureSize(toText(word)).isValid()
+               ? std::string()
+               : "\"" + word + "\" is no size like 900x540, each side 1 to 20000 pixels";
+}
+
+std::string typeComplaint(const std::string &word)
+{
+    bool isNumber = false;
+    const int number = toText(word).toInt(&isNumber);
+    return isNumber && statistics::grafiktypAus(number) ? std::string()
+                                                        : "\"" + word + "\" is no chart type; there are 0-9, 14 and 16";
+}
+
+/// Refuses names of files that end otherwise.
+auto endingIn(const QStringList &endings, const char *complaint)
+{
+    return [endings, complaint](const std::string &word) {
+        const bool known = endings.contains(QFileInfo(toText(word)).suffix().toLower());
+        return known ? std::string() : complaint + word;
+    };
+}
+
+/// The introduction that a template keeps.
+QByteArray readRtf(const QString &nativeFile)
+{
+    QByteArray rtf = readIntroduction(nativeFile);
+    if (!rtf.startsWith("{\\rtf"))
+        throw basic::Error(basic::Fault::IntroductionNotRtf, {.file = nativeFile});
+    return rtf;
+}
+
 /// Decimal digits only: a leading zero or 0x must not mean another person.
 std::optional<qint32> counterOf(const std::string &word)
 {
@@ -99,24 +137,30 @@ std::optional<qint32> counterOf(const std::string &word)
     return isNumber && text == QString::number(counter) ? std::optional(counter) : std::nullopt;
 }
 
+constexpr const char *WhomToList = "Whom to list: m men, w women, mw both";
+
 /// The commands and their options. Everything lives as long as the parser.
 class Parser {
 public:
     Parser();
     CLI::App app{"Age statistics for a family database; without a command, in a window", "kalvenor"};
     Words words;
-    CLI::App *demo, *check, *list, *mark, *unmark, *ages;
-    FilterOptions listFilter, markFilter, unmarkFilter;
-    ChartCommand chart;
-    ReportCommand report;
-    TemplateCommands templates;
+    CLI::App *demo, *check, *list, *mark, *unmark, *ages, *chart, *report, *save, *open, *reset;
+
+    bool draws() const { return report->parsed() || (chart->parsed() && !words.output.empty()); }
 
 private:
     void addProgram(CLI::App *to);
     CLI::App *command(const char *name, const char *what);
-    void addSex(CLI::App *to);
+    void addSex(CLI::App *to, const char *what);
     void addFormat(CLI::App *to);
-    CLI::App *addMarkCommand(const char *name, const char *what, FilterOptions &filter);
+    void addFilter(CLI::App *to);
+    CLI::App *addMarkCommand(const char *name, const char *what);
+    void addBy(CLI::App *to, const char *what);
+    void addType(CLI::App *to, const char *what);
+    void addChart();
+    void addReport();
+    void addTemplates();
 };
 
 void Parser::addProgram(CLI::App *to)
@@ -133,9 +177,9 @@ CLI::App *Parser::command(const char *name, const char *what)
     return sub;
 }
 
-void Parser::addSex(CLI::App *to)
+void Parser::addSex(CLI::App *to, const char *what)
 {
-    to->add_option("--sex", words.sex, "Whom to list: m men, w women, mw both")
+    to->add_option("--sex", words.sex, what)
         ->check(CLI::IsMember({"m", "w", "mw"}).description(""))
         ->type_name("m|w|mw");
 }
@@ -147,7 +191,19 @@ void Parser::addFormat(CLI::App *to)
         ->type_name("text|tsv|json");
 }
 
-CLI::App *Parser::addMarkCommand(const char *name, const char *what, FilterOptions &filter)
+void Parser::addFilter(CLI::App *to)
+{
+    CLI::Option *dates = to->add_option("--dates", words.dates, "Which dates lie between --from and --to")
+                             ->delimiter(',')
+                             ->check(CLI::IsMember({"birth", "death", "change"}).description(""))
+                             ->type_name("birth,death,change");
+    to->add_option("--name", words.name, "Whose list name matches; * any text, ? one character")->type_name("PATTERN");
+    addSex(to, "m men, w women, mw whoever");
+    to->add_option("--from", words.from, "Not before")->needs(dates)->type_name("DATE");
+    to->add_option("--to", words.to, "Not after")->needs(dates)->type_name("DATE");
+}
+
+CLI::App *Parser::addMarkCommand(const char *name, const char *what)
 {
     CLI::App *sub = command(name, what);
     CLI::Option *all = sub->add_flag("--all", words.all, "All persons of the list, or those that the filter leaves");
@@ -157,7 +213,7 @@ CLI::App *Parser::addMarkCommand(const char *name, const char *what, FilterOptio
                                ->excludes(all);
     sub->add_flag("--children", words.children, "With all descendants")->needs(counter);
     sub->add_flag("--parents", words.parents, "With all ancestors")->needs(counter);
-    filter.addTo(*sub);
+    addFilter(sub);
     return sub;
 }
 
@@ -189,23 +245,86 @@ Parser::Parser()
         ->check(CLI::Range(qint64{0}, std::numeric_limits<qint64>::max()).description(""))
         ->type_name("N");
     addFormat(list);
-    listFilter.addTo(*list);
+    addFilter(list);
     list->add_flag("--show-query", words.showQuery, "Prints the list's query instead");
-    mark = addMarkCommand("mark", "Marks persons and prints how many rows changed", markFilter);
-    unmark = addMarkCommand("unmark", "Takes marks away and prints how many rows changed", unmarkFilter);
+    mark = addMarkCommand("mark", "Marks persons and prints how many rows changed");
+    unmark = addMarkCommand("unmark", "Takes marks away and prints how many rows changed");
     ages = command("ages", "Writes the age list of the marked persons");
-    addSex(ages);
+    addSex(ages, WhomToList);
     addFormat(ages);
-    chart.addTo(app, [this](CLI::App *to) {
-        addProgram(to);
-        addSex(to);
-        addFormat(to);
-    });
-    report.addTo(app, [this](CLI::App *to) {
-        addProgram(to);
-        addSex(to);
-    });
-    templates.addTo(app, [this](CLI::App *to) { addProgram(to); });
+    addChart();
+    addReport();
+    addTemplates();
+}
+
+void Parser::addBy(CLI::App *to, const char *what)
+{
+    to->add_option("--by", words.by, what)
+        ->check(CLI::IsMember({"birth", "death"}).description(""))
+        ->type_name("birth|death");
+}
+
+void Parser::addType(CLI::App *to, const char *what)
+{
+    to->add_option("--type", words.type, what)->check(typeComplaint)->type_name("N");
+}
+
+void Parser::addChart()
+{
+    chart = command("chart", "Writes the average ages of the marked persons per century, with a picture where one is "
+                             "wanted");
+    addSex(chart, WhomToList);
+    addFormat(chart);
+    addBy(chart, "Century of birth or of death");
+    chart->add_option("--output", words.output, "The picture to write")
+        ->check(endingIn({"png", "jpg", "jpeg", "svg"}, "the picture's file name must end in .png, .jpg or .svg: "))
+        ->type_name("F.png|F.jpg|F.svg");
+    addType(chart, "Type of the picture's chart: 0-9, 14 or 16");
+    chart->add_option("--size", words.size, "Size of the picture in pixels")->check(sizeComplaint)->type_name("WxH");
+    chart->add_flag("--no-legend", words.noLegend, "The picture has no legend");
+}
+
+void Parser::addReport()
+{
+    report = command("report", "Writes the report of the marked persons");
+    addSex(report, WhomToList);
+    report->add_option("--title", words.title, "The report's title")->type_name("T");
+    report->add_option("--intro", words.intro, "The introductory text, a file")->type_name("F.rtf");
+    report->add_option("--template", words.openedFirst, "Opens this template first, as `template open` does")
+        ->type_name("F.kvl");
+    addBy(report, "Century of birth or of death");
+    addType(report, "Type of the chart: 0-9, 14 or 16");
+    report->add_flag("--no-legend", words.noLegend, "The chart has no legend");
+    report->add_flag("--archive", words.archive, "Writes the PDF as PDF/A-1b, for keeping");
+    report->add_option("--output", words.output, "The file to write")
+        ->required()
+        ->check(endingIn({"pdf", "rtf", "html"}, "the report's file name must end in .pdf, .rtf or .html: "))
+        ->type_name("F.pdf|F.rtf|F.html");
+}
+
+void Parser::addTemplates()
+{
+    CLI::App *templates = app.add_subcommand("template", "Saves the marked persons as a template, opens or resets one");
+    templates->require_subcommand(1);
+    save = templates->add_subcommand("save", "Saves the marked persons and the options of the statistic");
+    open = templates->add_subcommand("open", "Marks exactly the persons of a template, in its database");
+    reset = templates->add_subcommand("reset", "Clears title and introduction and resets the options of a template, or "
+                                               "prints what they would be");
+    for (CLI::App *sub : {save, open, reset}) {
+        addProgram(sub);
+        sub->add_option("FILE", words.file, "The template, ending in .kvl")
+            ->type_name("")
+            ->check(NotEmpty)
+            ->required(sub != reset);
+    }
+    save->add_option("--title", words.title, "The statistic's title")->type_name("T");
+    save->add_option("--intro", words.intro, "The introduction, a file")->type_name("F.rtf");
+    addType(save, "Type of the chart: 0-9, 14 or 16");
+    addSex(save, "Whom to show: m men, w women, mw both");
+    addBy(save, "The chart goes by year of birth or of death");
+    CLI::Option *legend = save->add_flag("--legend", words.legend, "The chart has a legend");
+    save->add_flag("--no-legend", words.noLegend, "The chart has none")->excludes(legend);
+    open->add_flag("--here", words.here, "Where the template's database does not exist, use the host's");
 }
 
 /// In the host's language; where there is no host, in the system's.
@@ -224,29 +343,36 @@ void tell(const basic::Error &error, const Words &words)
 int wrongUsage(const QString &line)
 {
     desktop::writeError(line);
-    return WrongUsage;
+    return Misused;
 }
 
-int wrongUsage(const CLI::ParseError &error)
+QString withHelp(const QString &complaint)
 {
-    // CLI11 may break a complaint over lines; here it is one line that helps.
-    const QString complaint = QString::fromStdString(error.what()).simplified();
-    return wrongUsage(complaint + u" (kalvenor --help lists commands and options)"_s);
+    return complaint + u" (kalvenor --help lists commands and options)"_s;
 }
 
 /// The list's query, narrowed where words of FILTER were given.
-QString listQuery(selection::PersonList list, const FilterOptions &options)
+QString listQuery(selection::PersonList list, const CLI::App &command, const Words &words)
 {
+    const auto given = [&command](const char *option) {
+        return command.count(option) > 0;
+    };
+    if (!given("--name") && !given("--sex") && !given("--dates") && !given("--from") && !given("--to"))
+        return selection::plainListQuery(list);
+    FilterOptions options{
+        .name = toText(words.name), .sex = {}, .dates = {}, .from = toText(words.from), .to = toText(words.to)};
+    if (given("--sex"))
+        options.sex = toText(words.sex);
+    for (const std::string &date : words.dates)
+        options.dates << toText(date);
     const basic::DateOrder order = basic::systemDateOrder();
-    const auto filter = options.filter(list, order);
-    return filter ? selection::filtern(*filter, order).queries[static_cast<std::size_t>(list)]
-                  : selection::plainListQuery(list);
+    return selection::filtern(filterOf(options, list, order), order).queries[static_cast<std::size_t>(list)];
 }
 
-int runListWords(const Words &words, const FilterOptions &filter)
+int runListWords(const Words &words, const CLI::App &command)
 {
     const auto list = words.list == "marked" ? selection::PersonList::Marked : selection::PersonList::Unmarked;
-    const QString query = listQuery(list, filter);
+    const QString query = listQuery(list, command, words);
     if (!words.showQuery)
         return runList(programFolder(words), {query, formatOf(words), words.limit});
     desktop::writeOutput((query + u'\n').toUtf8());
@@ -254,13 +380,13 @@ int runListWords(const Words &words, const FilterOptions &filter)
     return Done;
 }
 
-int runMarkWords(const Words &words, bool mark, const FilterOptions &filter)
+int runMarkWords(const Words &words, bool mark, const CLI::App &command)
 {
     const bool named = !words.counters.empty();
     if (words.all == named)
         return wrongUsage(u"say whom: --all, or --counter N[,N…]"_s);
     const auto from = mark ? selection::PersonList::Unmarked : selection::PersonList::Marked;
-    const QString query = listQuery(from, filter);
+    const QString query = listQuery(from, command, words);
     if (named && query != selection::plainListQuery(from))
         return wrongUsage(u"a filter goes with --all, not with --counter"_s);
     std::vector<qint32> counters;
@@ -274,26 +400,59 @@ int runMarkWords(const Words &words, bool mark, const FilterOptions &filter)
                    {mark, named ? std::nullopt : std::optional(query), counters, {words.children, words.parents}});
 }
 
+StatistikWords statistikWords(const CLI::App &command, const Words &words)
+{
+    const auto given = [&command](const char *option) {
+        const CLI::Option *known = command.get_option_no_throw(option);
+        return known != nullptr && known->count() > 0;
+    };
+    StatistikWords said;
+    if (given("--title"))
+        said.titel = toText(words.title);
+    if (given("--intro")) {
+        said.introductionFile = pathOf(words.intro);
+        said.rtf =
+            command.get_name() == "report" ? readIntroduction(said.introductionFile) : readRtf(said.introductionFile);
+    }
+    if (given("--type"))
+        said.grafiktyp = statistics::grafiktypAus(words.type);
+    if (given("--by"))
+        said.nachGeburtsjahr = words.by == "birth";
+    if (given("--sex"))
+        said.geschlechtalter = sexOf(words);
+    if (given("--legend") || given("--no-legend"))
+        said.legende = words.legend;
+    return said;
+}
+
 int dispatch(const Parser &parser)
 {
     const Words &words = parser.words;
     if (parser.demo->parsed())
-        return runDemo({absoluteNative(words.folder), words.persons, words.seed});
+        return runDemo({pathOf(words.folder), words.persons, words.seed});
     if (parser.check->parsed())
         return runCheck(programFolder(words));
     if (parser.list->parsed())
-        return runListWords(words, parser.listFilter);
+        return runListWords(words, *parser.list);
     if (parser.mark->parsed())
-        return runMarkWords(words, true, parser.markFilter);
+        return runMarkWords(words, true, *parser.mark);
     if (parser.unmark->parsed())
-        return runMarkWords(words, false, parser.unmarkFilter);
+        return runMarkWords(words, false, *parser.unmark);
     if (parser.ages->parsed())
         return runAges(programFolder(words), {sexOf(words), formatOf(words)});
-    if (parser.chart.parsed())
-        return parser.chart.run(programFolder(words), sexOf(words), formatOf(words));
-    if (parser.templates.parsed())
-        return parser.templates.run(programFolder(words));
-    return parser.report.run(programFolder(words), sexOf(words));
+    if (parser.chart->parsed())
+        return runChart(programFolder(words),
+                        {statistikWords(*parser.chart, words), formatOf(words),
+                         words.output.empty() ? QString() : pathOf(words.output), pictureSize(toText(words.size))});
+    if (parser.save->parsed())
+        return runTemplateSave(programFolder(words), pathOf(words.file), statistikWords(*parser.save, words));
+    if (parser.open->parsed())
+        return runTemplateOpen(programFolder(words), pathOf(words.file), words.here);
+    if (parser.reset->parsed())
+        return runTemplateReset(programFolder(words), words.file.empty() ? QString() : pathOf(words.file));
+    return runReport(programFolder(words), {statistikWords(*parser.report, words),
+                                            words.openedFirst.empty() ? QString() : pathOf(words.openedFirst),
+                                            pathOf(words.output), words.archive});
 }
 
 /// Qt's own remarks about the session (no runtime folder, …) say nothing about what a command does.
@@ -307,11 +466,11 @@ void onlyFaults(QtMsgType type, const QMessageLogContext &, const QString &text)
 /// starts faster without.
 std::unique_ptr<QCoreApplication> makeApplication(const Parser &parser, int &argc, char **argv)
 {
-    if (!parser.report.parsed() && !parser.chart.draws())
+    if (!parser.draws())
         return std::make_unique<QCoreApplication>(argc, argv);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    if (!parser.report.parsed())
+    if (!parser.report->parsed())
         return std::make_unique<QGuiApplication>(argc, argv);
     return std::make_unique<QApplication>(argc, argv);
 }
@@ -326,19 +485,20 @@ int runCommandLine(int argc, char **argv)
     } catch (const CLI::Success &asked) {
         return parser.app.exit(asked);
     } catch (const CLI::ParseError &error) {
-        return wrongUsage(error);
+        // CLI11 may break a complaint over lines; here it is one line that helps.
+        return wrongUsage(withHelp(QString::fromStdString(error.what()).simplified()));
     }
 
     qInstallMessageHandler(onlyFaults);
     if (parser.app.get_subcommands().empty())
-        return runWindow(argc, argv, parser.words.program.empty() ? QString() : absoluteNative(parser.words.program),
-                         parser.words.templateFile.empty() ? QString() : absoluteNative(parser.words.templateFile));
+        return runWindow(argc, argv, parser.words.program.empty() ? QString() : pathOf(parser.words.program),
+                         parser.words.templateFile.empty() ? QString() : pathOf(parser.words.templateFile));
     const auto application = makeApplication(parser, argc, argv);
     desktop::catchInterrupt();
     try {
         return dispatch(parser);
-    } catch (const CLI::ParseError &error) {
-        return wrongUsage(error);
+    } catch (const WrongUsage &error) {
+        return wrongUsage(withHelp(QString::fromUtf8(error.what())));
     } catch (const basic::Error &error) {
         tell(error, parser.words);
     } catch (const std::bad_alloc &) {

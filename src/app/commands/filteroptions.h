@@ -3,31 +3,26 @@
 #pragma once
 
 #include "selection/filter/filtern.h"
-#include <CLI/CLI.hpp>
-#include <optional>
-#include <string>
-#include <vector>
+#include <QStringList>
+#include <stdexcept>
 
 namespace kalvenor::app {
 
-/// The words of FILTER on the command line.
-class FilterOptions {
-public:
-    /// Adds --name, --sex, --dates, --from and --to to a command.
-    void addTo(CLI::App &command);
-
-    /// The filter for this list, nothing where no word of it was given. Dates are mask texts (dd-mm-yyyy in the
-    /// system's order) or ISO dates, which are turned into mask texts. Throws CLI::ValidationError for a date that is
-    /// none.
-    std::optional<selection::Filter> filter(selection::PersonList list, basic::DateOrder order) const;
-
-private:
-    std::string m_name;
-    std::string m_sex;
-    std::vector<std::string> m_dates;
-    std::string m_from;
-    std::string m_to;
-    std::vector<CLI::Option *> m_options;
+/// Words that the parser takes and that mean nothing; the text says what to write.
+struct WrongUsage : std::runtime_error {
+    using std::runtime_error::runtime_error;
 };
+
+/// The words of FILTER on the command line.
+struct FilterOptions {
+    QString name, sex; ///< "m", "w", "mw" or nothing
+    QStringList dates; ///< of "birth", "death" and "change"
+    QString from, to;  ///< mask texts (dd-mm-yyyy in the system's order) or ISO dates
+
+    bool operator==(const FilterOptions &) const = default;
+};
+
+/// The filter for this list. Throws WrongUsage for a date that is none.
+selection::Filter filterOf(const FilterOptions &options, selection::PersonList list, basic::DateOrder order);
 
 } // namespace kalvenor::app

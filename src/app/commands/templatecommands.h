@@ -2,33 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <CLI/CLI.hpp>
-#include <functional>
+#include "app/commands/statistikwords.h"
 #include <QString>
-#include <string>
 
 namespace kalvenor::app {
 
-/// The command `template` with its commands `save`, `open` and `reset`.
-class TemplateCommands {
-public:
-    /// `addProgram` adds the option --program to a command.
-    void addTo(CLI::App &app, const std::function<void(CLI::App *)> &addProgram);
-    bool parsed() const { return m_template->parsed(); }
-    /// Runs the command that was named. Returns the exit code; errors of the engine go to the caller.
-    int run(const QString &programFolder) const;
+// `template save`, `open` and `reset`. Files are native paths. Each returns the exit code; errors of the engine go to
+// the caller.
 
-private:
-    void addOptions();
-    int save(const QString &programFolder) const;
-    int open(const QString &programFolder) const;
-    int reset(const QString &programFolder) const;
-
-    std::string m_file, m_title, m_intro, m_sex, m_by;
-    int m_type = 0;
-    bool m_legend = false, m_noLegend = false;
-    bool m_here = false;
-    CLI::App *m_template = nullptr, *m_save = nullptr, *m_open = nullptr, *m_reset = nullptr;
-};
+int runTemplateSave(const QString &programFolder, const QString &file, const StatistikWords &words);
+/// `here`: where the template's database does not exist, the host's is used.
+int runTemplateOpen(const QString &programFolder, const QString &file, bool here);
+/// Without a file prints what the options would be.
+int runTemplateReset(const QString &programFolder, const QString &file);
 
 } // namespace kalvenor::app
