@@ -73,32 +73,6 @@ QString resolveCase(const QString &start, const QString &rest)
     return rest.endsWith(u'/') ? withEndSlash(found) : found;
 }
 
-// * and ? as the command line of Windows knows them.
-bool matches(QStringView name, QStringView pattern)
-{
-    qsizetype n = 0;
-    qsizetype p = 0;
-    qsizetype star = -1;
-    qsizetype resume = 0;
-    while (n < name.size()) {
-        if (p < pattern.size() && pattern[p] == u'*') {
-            star = p++;
-            resume = n;
-        } else if (p < pattern.size() && (pattern[p] == u'?' || pattern[p].toCaseFolded() == name[n].toCaseFolded())) {
-            ++p;
-            ++n;
-        } else if (star >= 0) {
-            p = star + 1;
-            n = ++resume;
-        } else {
-            return false;
-        }
-    }
-    while (p < pattern.size() && pattern[p] == u'*')
-        ++p;
-    return p == pattern.size();
-}
-
 } // namespace
 
 bool hasUnmappedDrive(const QString &windowsPath, const DriveMap &drives)
@@ -147,23 +121,10 @@ QString windowsPath(const QString &nativePath, const DriveMap &drives)
 
 QString directoryListing(const QString &windowsPath, const DriveMap &drives)
 {
-    if (windowsPath.isEmpty())
+    if (windowsPath.isEmpty() || windowsPath.endsWith(u'\\') || windowsPath.endsWith(u'/'))
         return {};
-    const qsizetype cut = qMax(windowsPath.lastIndexOf(u'\\'), windowsPath.lastIndexOf(u'/')) + 1;
-    QString pattern = windowsPath.mid(cut);
-    if (pattern.isEmpty() || pattern == "*.*"_L1)
-        pattern = u"*"_s;
-    if (!OnWindows && !pattern.contains(u'*') && !pattern.contains(u'?')) {
-        const QFileInfo file(nativePath(windowsPath, drives));
-        return file.isFile() && !file.isHidden() ? file.fileName() : QString();
-    }
-    const QString folder = cut == 0 ? u"."_s : nativePath(windowsPath.left(cut), drives);
-    const QStringList names = QDir(folder).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
-    for (const QString &name : names) {
-        if (matches(name, pattern))
-            return name;
-    }
-    return {};
+    const QFileInfo file(nativePath(windowsPath, drives));
+    return file.isFile() && !file.isHidden() ? file.fileName() : QString();
 }
 
 } // namespace kalvenor::basic

@@ -25,9 +25,8 @@ bool hasUnmappedDrive(const QString &windowsPath, const DriveMap &drives);
 /// The Windows notation of a native path (slashes become backslashes; a mapped folder becomes its drive).
 QString windowsPath(const QString &nativePath, const DriveMap &drives = {});
 
-/// Dir(path): the file's own name where a normal (not hidden) file is there, else "". Wildcards * and ? in the last
-/// component give the first match by name; case is ignored; folders are left out. A path that ends in a separator lists
-/// its folder.
+/// The file's own name where a normal file (not a folder, not hidden) is exactly there, but for case; else "". * and ?
+/// are characters like any other, and a path that ends in a separator names no file.
 QString directoryListing(const QString &windowsPath, const DriveMap &drives = {});
 
 } // namespace kalvenor::basic
