@@ -6,6 +6,7 @@
 #include "platform/basic/number.h"
 #include "platform/basic/text.h"
 #include "platform/profile/profile.h"
+#include <QFileInfo>
 #include <utility>
 
 namespace kalvenor::host {
@@ -21,7 +22,7 @@ basic::DriveMap readDrives(const QString &ownSettingsFile)
         const QByteArray folder = profile::getPrivateProfileString(
             "Laufwerke", QByteArray(1, letter), {}, ProfileBufferSize, basic::nativePath(ownSettingsFile));
         if (!folder.isEmpty())
-            drives.insert(QLatin1Char(letter), basic::decodeAnsi(folder));
+            drives.insert(QLatin1Char(letter), basic::pathFromStored(basic::decodeAnsi(folder)));
     }
     return drives;
 }
@@ -46,6 +47,13 @@ QString Host::inilesen(const QString &file, const QString &section, const QStrin
     if (end >= 0)
         value.truncate(end);
     return basic::decodeAnsi(value);
+}
+
+QString Host::readPath(const QString &file, const QString &section, const QString &key, const QString &fallback) const
+{
+    QString path = inilesen(file, section, key, fallback);
+    const QString other = basic::pathFromStored(path);
+    return QFileInfo::exists(native(path)) || !QFileInfo::exists(native(other)) ? path : other;
 }
 
 bool Host::inischreiben(const QString &file, const QString &section, const QString &key, const QString &value) const

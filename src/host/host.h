@@ -22,7 +22,7 @@ QString uebergeordnetesverzeichnis(const QString &path);
 class Host {
 public:
     /// `programFolder` is the program's own folder; its drive letters are mapped by `Kalvenor.ini` there, section
-    /// "Laufwerke" (C=/media/windows).
+    /// "Laufwerke" (C=/media/windows), in UTF-8 or Windows-1252.
     Host(QString programFolder, desktop::Desktop &desktop);
 
     QString Hostverzeichnis; ///< the host program's folder, without a trailing backslash
@@ -40,6 +40,9 @@ public:
     /// One value of a profile file, at most 255 characters, up to its first NUL; a missing file, section or key gives
     /// the default. Never fails.
     QString inilesen(const QString &file, const QString &section, const QString &key, const QString &fallback) const;
+    /// A path of the host's settings: as inilesen() gives it, or its bytes read as UTF-8 where that alone names a file
+    /// or folder that is there.
+    QString readPath(const QString &file, const QString &section, const QString &key, const QString &fallback) const;
     /// Writes one value. As with the platform's own function nothing is reported on failure; the result says whether
     /// it was written, for callers that want to know.
     bool inischreiben(const QString &file, const QString &section, const QString &key, const QString &value) const;

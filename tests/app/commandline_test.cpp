@@ -13,6 +13,8 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Outcome {
@@ -295,6 +297,26 @@ TEST_F(CommandLine, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
     EXPECT_EQ(lineCount(outcome.err), 1) << outcome.err.toStdString();
     EXPECT_FALSE(outcome.err.contains("????"));
     ASSERT_TRUE(QFile::rename(family + ".weg", family));
+}
+
+TEST_F(CommandLine, WorksInFoldersOfAnyName)
+{
+    const QString place = folder->filePath(u"Łukasz ü 😀"_s);
+    const QString program = place + "/QV/Kalvenor";
+    const QString file = place + "/a.kvl";
+    ASSERT_EQ(run({"demo", place, "--persons", "10"}).exitCode, 0);
+    const QList<QStringList> commands{{"check", "--program", program},
+                                      {"mark", "--program", program, "--all"},
+                                      {"report", "--program", program, "--output", place + "/r.html"},
+                                      {"template", "save", "--program", program, file},
+                                      {"unmark", "--program", program, "--all"},
+                                      {"template", "open", "--program", program, file}};
+    for (const QStringList &command : commands) {
+        const Outcome outcome = run(command);
+        EXPECT_EQ(outcome.exitCode, 0) << command.join(' ').toStdString() << outcome.err.toStdString();
+        EXPECT_TRUE(outcome.err.isEmpty()) << outcome.err.toStdString();
+    }
+    EXPECT_EQ(lineCount(run({"list", "--program", program, "--list", "marked"}).out), 10);
 }
 
 TEST_F(CommandLine, SaysInOneLineWhyNoWindowCanBeOpened)

@@ -67,14 +67,46 @@ TEST_F(HostTest, WritesSettingsAndIsSilentWhereItCannot)
 
 TEST_F(HostTest, MapsDriveLetters)
 {
+    const QString windows = folder.filePath(u"jürgen/windows"_s);
+    const QString other = folder.filePath(u"Łukasz"_s);
     ASSERT_TRUE(QDir(folder.path()).mkpath("Kalvenor"));
-    ASSERT_TRUE(QDir(folder.path()).mkpath("windows/QV"));
-    write("Kalvenor/Kalvenor.ini", "[Laufwerke]\r\nc=" + folder.filePath("windows").toUtf8() + "\r\n");
-    write("windows/QV/Familie.MDB", "x");
+    for (const bool utf8 : {true, false}) {
+        ASSERT_TRUE(QDir(windows).mkpath("QV"));
+        ASSERT_TRUE(QDir().mkpath(other));
+        write("Kalvenor/Kalvenor.ini", "[Laufwerke]\r\nc=" + (utf8 ? windows.toUtf8() : windows.toLatin1()) +
+                                           "\r\nE=" + other.toUtf8() + "\r\n");
+        write(u"jürgen/windows/QV/Familie.MDB"_s, "x");
+        write(u"Łukasz/f.mdb"_s, "x");
+        const Host host(path("Kalvenor"), desktop);
+        EXPECT_EQ(host.native("C:\\qv\\familie.mdb"), windows + "/QV/Familie.MDB");
+        EXPECT_EQ(host.dir("c:\\QV\\FAMILIE.mdb"), "Familie.MDB");
+        EXPECT_EQ(host.dir("e:\\F.mdb"), "f.mdb");
+        EXPECT_EQ(host.dir("D:\\QV\\Familie.mdb"), "");
+    }
+}
+
+// The host writes Windows-1252; UTF-8 counts where only its reading leads to something.
+TEST_F(HostTest, ReadsPathsOfTheHost)
+{
+    const QString ansi = folder.filePath(u"Ã¼"_s);
+    const QString utf8 = folder.filePath(u"ü"_s);
+    write("programm.ini", "[QV-Files]\r\n0=" + path("").toLatin1() + "\\\xC3\xBC\r\n1=" + path("").toLatin1() +
+                              "\\j\xFCrgen\r\n2=" + QByteArray(400, 'x') + "\r\n");
     const Host host(path("Kalvenor"), desktop);
-    EXPECT_EQ(host.native("C:\\qv\\familie.mdb"), folder.filePath("windows/QV/Familie.MDB"));
-    EXPECT_EQ(host.dir("c:\\QV\\FAMILIE.mdb"), "Familie.MDB");
-    EXPECT_EQ(host.dir("D:\\QV\\Familie.mdb"), "");
+    const auto read = [&](const char *key) {
+        return host.readPath(path("programm.ini"), "QV-Files", key, "D:\\");
+    };
+    const auto native = [&](const char *key) {
+        return QDir::cleanPath(host.native(read(key)));
+    };
+    EXPECT_EQ(native("0"), ansi);
+    write(u"ü"_s, "x");
+    EXPECT_EQ(native("0"), utf8);
+    write(u"Ã¼"_s, "x");
+    EXPECT_EQ(native("0"), ansi);
+    EXPECT_EQ(native("1"), folder.filePath(u"jürgen"_s));
+    EXPECT_EQ(read("2").size(), 255);
+    EXPECT_EQ(read("3"), "D:\\");
 }
 
 TEST_F(HostTest, PutsWindowsOnTopOnlyWhereTheSettingIsOne)

@@ -146,14 +146,14 @@ bool Checker::checkFolders()
         return m_host.inilesen(settings, QLatin1String(section), QLatin1String(key), fallback);
     };
     m_host.Sprache = setting("Ansicht", "Sprache", u"Deutsch"_s);
-    m_host.Familienpfad = setting("QV-Files", "0", {});
+    m_host.Familienpfad = m_host.readPath(settings, u"QV-Files"_s, u"0"_s, {});
     ok(u"%1: host settings, language \"%2\""_s.arg(m_host.native(settings), m_host.Sprache));
     return true;
 }
 
 void Checker::checkOutputFolder()
 {
-    const QString folder = m_host.native(m_host.inilesen(m_host.hostSettingsFile(), u"Verzeichnisse"_s, u"Prints"_s,
+    const QString folder = m_host.native(m_host.readPath(m_host.hostSettingsFile(), u"Verzeichnisse"_s, u"Prints"_s,
                                                          m_host.Hostverzeichnis + u"\\Ausdrucke"_s));
     if (!QFileInfo(folder).isDir())
         missing(folder + u": the output folder is not there"_s);

@@ -42,7 +42,7 @@ bool Program::Main(const ShowMainWindow &showMainWindow)
     host.Sprache = host.inilesen(settings, view, u"Sprache"_s, u"Deutsch"_s);
     host.Kurzhilfe = shortHelp(host, settings, view);
     language.spracheoeffnen(host.Hostverzeichnis + u"\\ADD-IN-LANGUAGE.MDB"_s);
-    host.Familienpfad = host.inilesen(settings, u"QV-Files"_s, u"0"_s, {});
+    host.Familienpfad = host.readPath(settings, u"QV-Files"_s, u"0"_s, {});
     if (!chosenFamily.isEmpty())
         host.Familienpfad = chosenFamily;
     if (host.Familienpfad.isEmpty() || host.dir(host.Familienpfad).isEmpty()) {

@@ -4,6 +4,7 @@
 
 #include "language/progress/userwork.h"
 #include "language/texts/sprache.h"
+#include "platform/basic/codepage.h"
 #include "selection/templates/vorlageoeffnen.h"
 #include "selection/templates/vorlagespeichern.h"
 #include <QFileInfo>
@@ -198,7 +199,8 @@ QStringList TemplateDesk::recent() const
     const host::Host &host = m_session.host;
     QStringList files;
     for (qsizetype i = 1; i <= RecentTemplates; ++i) {
-        const QString file = host.inilesen(host.ownSettingsFile(), RecentSection, QString::number(i), {});
+        const QString file =
+            basic::pathFromStored(host.inilesen(host.ownSettingsFile(), RecentSection, QString::number(i), {}));
         if (!file.isEmpty() && !host.dir(file).isEmpty())
             files << host.native(file);
     }
@@ -210,11 +212,14 @@ void TemplateDesk::remember(const QString &nativeFile)
     const host::Host &host = m_session.host;
     QStringList files = recent();
     files.removeAll(nativeFile);
-    if (basic::windowsPath(nativeFile).size() <= LongestEntry)
+    const auto entry = [](const QString &file) {
+        return basic::storedPath(basic::windowsPath(file));
+    };
+    if (entry(nativeFile).size() <= LongestEntry)
         files.prepend(nativeFile);
     std::vector<host::Host::Setting> entries;
     for (qsizetype i = 0; i < RecentTemplates; ++i)
-        entries.push_back({RecentSection, QString::number(i + 1), basic::windowsPath(files.value(i))});
+        entries.push_back({RecentSection, QString::number(i + 1), entry(files.value(i))});
     host.inischreiben(host.ownSettingsFile(), entries);
 }
 

@@ -37,10 +37,7 @@ void writeFile(const QString &path, const QByteArray &bytes)
 /// The path as the settings file holds it; refused where a profile read would not give it back.
 QByteArray settingOf(const QString &nativePath)
 {
-    const QString path = basic::windowsPath(nativePath);
-    QByteArray bytes = basic::encodeAnsi(path);
-    if (basic::decodeAnsi(bytes) != path)
-        throw basic::Error(basic::Fault::PathNotAnsi, {.file = nativePath});
+    QByteArray bytes = basic::encodeAnsi(basic::storedPath(basic::windowsPath(nativePath)));
     if (bytes.size() > LongestSetting)
         throw basic::Error(basic::Fault::PathTooLong, {.file = nativePath});
     return bytes;

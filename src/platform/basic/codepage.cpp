@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <QStringConverter>
 #include <utility>
 
 #include "platform/basic/codepage_tables.h"
@@ -67,6 +68,21 @@ QByteArray encodeCodePage(QStringView text, int codePage)
         return found != table.end() && found->first == unit ? found->second : '?';
     });
     return bytes;
+}
+
+QString storedPath(const QString &path)
+{
+    return pathFromStored(decodeAnsi(encodeAnsi(path))) == path ? path : decodeAnsi(path.toUtf8());
+}
+
+QString pathFromStored(const QString &stored)
+{
+    const QByteArray bytes = encodeAnsi(stored);
+    if (decodeAnsi(bytes) != stored)
+        return stored; // not from such a file
+    QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
+    const QString path = utf8(bytes);
+    return utf8.hasError() ? stored : path;
 }
 
 } // namespace kalvenor::basic

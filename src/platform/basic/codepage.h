@@ -26,4 +26,10 @@ inline QByteArray encodeAnsi(QStringView text)
     return encodeCodePage(text, 1252);
 }
 
+/// Paths in files of one byte a character: as text where Windows-1252 gives the path back, else the bytes of its UTF-8,
+/// each taken for a character of Windows-1252. Every path comes back through pathFromStored().
+QString storedPath(const QString &path);
+/// The path of a text read from such a file: its bytes as UTF-8 where they are that, else the text itself.
+QString pathFromStored(const QString &stored);
+
 } // namespace kalvenor::basic

@@ -85,7 +85,7 @@ QString VorlageReader::databasePath()
     if (!m_reader.atEnd()) {
         const basic::SequentialItem item = next(Fault::WordFamily);
         if (item.quoted && !item.bytes.isEmpty())
-            return basic::decodeAnsi(item.bytes);
+            return basic::pathFromStored(basic::decodeAnsi(item.bytes));
     }
     refuse(Fault::NoTemplate);
 }
@@ -157,7 +157,7 @@ Vorlage readVorlage(const QString &nativeFile)
 void writeVorlage(const QString &nativeFile, const Vorlage &vorlage)
 {
     basic::SequentialWriter writer;
-    writer.writeText(ansi(nativeFile, vorlage.familienpfad, Fault::WordFamily, Fault::RenameFamily));
+    writer.writeText(basic::encodeAnsi(basic::storedPath(vorlage.familienpfad)));
     const statistics::Statistik &statistik = vorlage.statistik;
     writer.writeText(ansi(nativeFile, statistik.titel, Fault::WordTitle, Fault::ChangeTitle));
     writer.writeText(statistik.rtf);

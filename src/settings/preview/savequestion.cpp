@@ -54,7 +54,7 @@ SavedAs savedAs(const QString &fileName)
 
 QString printsFolder(const host::Host &host)
 {
-    return host.inilesen(host.hostSettingsFile(), u"Verzeichnisse"_s, u"Prints"_s,
+    return host.readPath(host.hostSettingsFile(), u"Verzeichnisse"_s, u"Prints"_s,
                          host.Hostverzeichnis + u"\\Ausdrucke"_s);
 }
 

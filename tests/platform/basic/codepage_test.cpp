@@ -41,3 +41,24 @@ TEST(CodePage, WhatThePageLacks)
     EXPECT_EQ(encodeAnsi(u"\u0080\u0081"), "?\x81") << "0x80 is taken, 0x81 is undefined";
     EXPECT_EQ(encodeAnsi(u"\U0001F600"), "??") << "one for each UTF-16 unit";
 }
+
+TEST(CodePage, PathsComeBack)
+{
+    const struct {
+        const char16_t *path;
+        const char *bytes;
+    } rows[] = {
+        {u"\\a\\b.mdb", "\\a\\b.mdb"},
+        {u"\\j\u00FCrgen", "\\j\xFCrgen"},
+        {u"\\\u0141ukasz\\\u00FC", "\\\xC5\x81ukasz\\\xC3\xBC"},
+        {u"\\\u00C3\u00BC", "\\\xC3\x83\xC2\xBC"}, // its Windows-1252 would read as UTF-8
+        {u"\\\U0001F600?", "\\\xF0\x9F\x98\x80?"},
+        {u"", ""},
+    };
+    for (const auto &row : rows) {
+        const QString path = QString::fromUtf16(row.path);
+        EXPECT_EQ(encodeAnsi(storedPath(path)), row.bytes);
+        EXPECT_EQ(pathFromStored(decodeAnsi(row.bytes)), path) << row.bytes;
+    }
+    EXPECT_EQ(pathFromStored(decodeAnsi("\\j\xC3\xBCrgen")), u"\\j\u00FCrgen");
+}
