@@ -197,6 +197,47 @@ TEST(Filtering, WhatWasTypedAMomentAgoCountsForTheNextMove)
     }
 }
 
+TEST(Filtering, ARefusedFilterHoldsTheListBackUntilBothAgree)
+{
+    OpenWindow open(twoMarked());
+    auto &name = open.control<QLineEdit>("Presse");
+    const auto type = [&](const QString &text) {
+        name.setFocus();
+        name.clear();
+        QTest::keyClicks(&name, text);
+        QTest::keyClick(&name, Qt::Key_Return);
+    };
+    const auto usable = [&](PersonList list) {
+        return open.view(list).isEnabled();
+    };
+    type("d");
+    open.select(PersonList::Unmarked, {1});
+    type("O'Brien");
+    EXPECT_FALSE(usable(PersonList::Unmarked));
+    EXPECT_TRUE(usable(PersonList::Marked));
+    for (const char *action : {"Allemarkieren", "Markieren"}) {
+        open.control<QAction>(action).trigger();
+        EXPECT_EQ(open.marked(), (Counters{5, 6})) << action;
+        EXPECT_TRUE(open.statusText().startsWith("Nichts geändert")) << open.statusText().toStdString();
+    }
+    open.click<QToolButton>("RM2A"); // the other list shows what it should
+    EXPECT_EQ(open.marked(), Counters{});
+
+    const std::function<void()> ways[] = {
+        [&] { type("brien"); },
+        [&] { open.click<QAbstractButton>("Filteraufheben"); },
+        [&] { open.click<QAbstractButton>("Ladepersonenliste_0"); },
+    };
+    for (const auto &way : ways) {
+        type("O'Brien");
+        EXPECT_FALSE(usable(PersonList::Unmarked));
+        way();
+        EXPECT_TRUE(usable(PersonList::Unmarked));
+    }
+    open.control<QAction>("Allemarkieren").trigger();
+    EXPECT_EQ(open.marked().size(), 7U);
+}
+
 TEST(Filtering, AListComesBackFromEmptyAtItsTop)
 {
     std::vector<TestPerson> persons;

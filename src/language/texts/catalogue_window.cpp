@@ -150,6 +150,9 @@ constexpr CatalogueText Texts[] = {
     {Text::FilterList, u"Liste", u"List"},
     {Text::IncompleteDatesTip, u"Personen ohne vollständiges Datum erscheinen nur, wo eine Grenze leer ist.",
      u"Persons without a full date are shown only where a bound is empty."},
+    {Text::FilterNotShown,
+     u"Nichts geändert: Die Liste zeigt nicht, was im Filter steht. Ändern Sie den Filter oder heben Sie ihn auf.",
+     u"Nothing changed: the list does not show what the filter says. Change the filter or clear it."},
 };
 
 } // namespace

@@ -180,6 +180,7 @@ enum class Text : qint16 {
     FilterPeriod = 20422,
     FilterList = 20423,
     IncompleteDatesTip = 20424,
+    FilterNotShown = 20425,
     // 20500–20799: tabs, figures, chart, editor
     Introduction = 20500,
     Chart = 20501,

@@ -93,21 +93,28 @@ void SelectionController::reloadPlain(PersonList list)
 {
     auto wanted = queries();
     wanted[place(list)] = plainListQuery(list);
-    perform(m_session.language.text(Text::ReadingDatabase),
-            [&](const basic::Progress &progress) { load(wanted, true, progress); });
+    if (perform(m_session.language.text(Text::ReadingDatabase),
+                [&](const basic::Progress &progress) { load(wanted, true, progress); }))
+        forgetFilter();
 }
 
 // Filter
 
-bool SelectionController::filter(const Filter &filter, bool typed)
+void SelectionController::filter(const Filter &filter, bool typed)
 {
     m_wanted = WantedFilter{filter, typed};
+    m_latestList = filter.Filterliste;
     m_filterShown = false;
     if (m_work.isRunning())
         giveUpFilter();
     else
         runFilters();
-    return m_filterShown;
+}
+
+void SelectionController::forgetFilter()
+{
+    m_filterShown = true;
+    Q_EMIT filterEnded();
 }
 
 void SelectionController::giveUpFilter()
@@ -143,15 +150,17 @@ void SelectionController::runFilters()
             },
             desktop::Work::Input::Typing);
         m_filtering = false;
+        Q_EMIT filterEnded();
     }
 }
 
 void SelectionController::clearFilter()
 {
     m_wanted.reset();
-    perform(m_session.language.text(Text::PleaseWait), [this](const basic::Progress &progress) {
-        load({plainListQuery(PersonList::Unmarked), plainListQuery(PersonList::Marked)}, false, progress);
-    });
+    if (perform(m_session.language.text(Text::PleaseWait), [this](const basic::Progress &progress) {
+            load({plainListQuery(PersonList::Unmarked), plainListQuery(PersonList::Marked)}, false, progress);
+        }))
+        forgetFilter();
 }
 
 // Marks
@@ -318,6 +327,7 @@ void SelectionController::showPlain()
         load({plainListQuery(PersonList::Unmarked), plainListQuery(PersonList::Marked)}, true, progress);
     });
     Q_EMIT filterDropped();
+    forgetFilter();
 }
 
 } // namespace kalvenor::selection

@@ -29,6 +29,8 @@ public:
     /// The query of what the list shows: a filter's, or the plain one.
     const QString &query(PersonList list) const { return m_lists[place(list)].query; }
     bool isFiltered(PersonList list) const { return query(list) != plainListQuery(list); }
+    /// The list shows what the latest filter means for it; not so where that was refused or cancelled, or still waits.
+    bool agrees(PersonList list) const { return m_filterShown || (list != m_latestList && !isFiltered(list)); }
     /// All persons of the database, whatever the lists show.
     qint64 personCount() const;
     bool canUndo() const { return m_history.canUndo(); }
@@ -44,8 +46,9 @@ public:
     void reloadPlain(PersonList list);
     /// `typed`: while the user is still typing; the pattern is then not written back. A filter that is still running
     /// is given up for the newer one.
-    /// True where the lists show this filter when it returns.
-    bool filter(const Filter &filter, bool typed = false);
+    void filter(const Filter &filter, bool typed = false);
+    /// What was typed means nothing any more, and the lists show no filter.
+    void forgetFilter();
     /// What is being typed will make the running filter old.
     void giveUpFilter();
     void clearFilter();
@@ -70,6 +73,8 @@ Q_SIGNALS:
     /// A filter was carried out; its pattern goes back into the text box unless the user is typing there.
     void filtered(const QString &pattern, bool typed);
     void filterRefused(const QString &why);
+    /// The latest filter has come to its end, shown or not.
+    void filterEnded();
     /// Both lists became plain ones though nobody cleared the filter.
     void filterDropped();
     /// After a move, when both lists are shown: rows of the person table, for few persons only.
@@ -111,7 +116,8 @@ private:
     DatabaseWatcher m_watcher;
     std::optional<WantedFilter> m_wanted;
     bool m_filtering = false;
-    bool m_filterShown = false; ///< the latest filter was carried out
+    PersonList m_latestList = PersonList::Unmarked; ///< of the latest filter
+    bool m_filterShown = true; ///< the latest filter was carried out, or the lists were made plain since
 };
 
 } // namespace kalvenor::selection

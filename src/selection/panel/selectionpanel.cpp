@@ -167,9 +167,14 @@ void SelectionPanel::connectFilter()
             m_controller.isFiltered(PersonList::Unmarked) || m_controller.isFiltered(PersonList::Marked);
         if (typed && !filtered && m_filter->isEmpty()) {
             Q_EMIT said({}); // what was wrong with the text is gone with it
+            m_controller.forgetFilter();
             return;
         }
-        m_filterShown = m_controller.filter(filter, typed);
+        m_controller.filter(filter, typed);
+    });
+    connect(&m_controller, &SelectionController::filterEnded, this, [this] {
+        for (PersonListPanel *panel : m_lists)
+            panel->view().setEnabled(m_controller.agrees(panel->list()));
     });
     connect(&m_controller, &SelectionController::filterDropped, this, [this] { m_filter->setFilter({}); });
     connect(m_filter, &FilterPanel::clearWanted, &m_controller, &SelectionController::clearFilter);
@@ -207,19 +212,22 @@ bool SelectionPanel::hasSelection(PersonList list) const
     return m_lists[static_cast<std::size_t>(list)]->view().selectionModel()->hasSelection();
 }
 
-/// Carries out what was typed a moment ago. False where that did not work, so that the lists are not those meant.
-bool SelectionPanel::showPendingFilter()
+/// Carries out what was typed a moment ago. False where the list does not show what the filter says; why is told.
+bool SelectionPanel::showsWhatIsMeant(PersonList list)
 {
-    m_filterShown = true;
+    const bool knownBefore = !m_controller.agrees(list);
     m_filter->flush();
-    return m_filterShown;
+    const bool agrees = m_controller.agrees(list);
+    if (knownBefore && !agrees)
+        Q_EMIT said(m_controller.session().language.text(Text::FilterNotShown));
+    return agrees;
 }
 
 void SelectionPanel::moveSelected(PersonList from)
 {
     // Those in hand now: a filter that is only about to narrow the list must not put others there.
     const std::vector<qint32> counters = listPanel(from).view().selectedCounters();
-    if (!showPendingFilter())
+    if (!showsWhatIsMeant(from))
         return;
     takeFocusFromFilter(from);
     m_controller.move(from, counters, relatives());
@@ -227,7 +235,7 @@ void SelectionPanel::moveSelected(PersonList from)
 
 void SelectionPanel::moveAll(PersonList from)
 {
-    if (!showPendingFilter())
+    if (!showsWhatIsMeant(from))
         return;
     takeFocusFromFilter(from);
     m_controller.moveAll(from);

@@ -41,7 +41,7 @@ Q_SIGNALS:
     void said(const QString &text);
 
 private:
-    bool showPendingFilter();
+    bool showsWhatIsMeant(PersonList list);
     void takeFocusFromFilter(PersonList to);
     QWidget *makeMoveColumn();
     QWidget *makeNoticeBar();
@@ -57,7 +57,6 @@ private:
     std::array<QCheckBox *, 2> m_relatives;
     QSplitter *m_splitter;
     FilterPanel *m_filter;
-    bool m_filterShown = true; ///< the latest filter was carried out
     QWidget *m_notice;
     PersonList m_last = PersonList::Unmarked;
 };
