@@ -175,6 +175,37 @@ TEST_F(CommandLine, FiltersLists)
     EXPECT_EQ(onDemo({"list", "--name", "[a"}).exitCode, 1);
 }
 
+TEST_F(CommandLine, SaysHowDatesAreRead)
+{
+    const struct {
+        const char *locale;
+        const char *from;
+        const char *day; ///< in the query; "" where it is refused
+        const char *said;
+    } rows[] = {
+        {"de_DE.UTF-8", "01-02-1950", ">= 18295", ""},
+        {"de_DE.UTF-8", "02-13-1950", ">= 18307", "13 February 1950, because dates on this system are dd-mm-yyyy"},
+        {"en_US.UTF-8", "01-02-1950", ">= 18265", "2 January 1950, because dates on this system are mm-dd-yyyy"},
+        {"en_US.UTF-8", "13-02-1950", ">= 18307", ""},
+        {"en_US.UTF-8", "1950-02-01", ">= 18295", ""},
+        {"sv_SE.UTF-8", "01-02-1950", ">= 18265", "2 January 1950, because dates on this system are mm-dd-yyyy"},
+        {"de_DE.UTF-8", "31-02-1950", "", "write dd-mm-yyyy or yyyy-mm-dd"},
+        {"en_US.UTF-8", "31-02-1950", "", "write mm-dd-yyyy or yyyy-mm-dd"},
+        {"de_DE.UTF-8", "0099-01-01", "", "before the year 100"},
+        {"de_DE.UTF-8", "0100-01-01", ">= -657434", ""},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(std::string(row.locale) + ' ' + row.from);
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("LC_ALL", row.locale);
+        const Outcome outcome = run({"list", "--dates", "birth", "--from", row.from, "--show-query"}, environment);
+        EXPECT_EQ(outcome.exitCode, *row.day == '\0' ? 2 : 0);
+        EXPECT_TRUE(outcome.out.contains(row.day)) << outcome.out.toStdString();
+        EXPECT_TRUE(*row.said == '\0' ? outcome.err.isEmpty() : outcome.err.contains(row.said))
+            << outcome.err.toStdString();
+    }
+}
+
 TEST_F(CommandLine, MarksTheDirectLine)
 {
     // Somebody with a father, as the tables have it: the father is marked with the child, and the child with the

@@ -1,8 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "selection/filter/filterpanel.h"
 #include "support/openwindow.h"
 #include <QAction>
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -109,6 +111,35 @@ TEST(Filtering, TheMaskShowsUnderscores)
     bound.setCursorPosition(0);
     QTest::keyClicks(&bound, "3x1");
     EXPECT_EQ(bound.displayText(), "31-__-____");
+}
+
+TEST(Filtering, ShowsHowADateIsRead)
+{
+    const struct {
+        basic::DateOrder order;
+        const char *typed;
+        QString read;
+    } rows[] = {
+        {basic::DateOrder::DayMonthYear, "", "TT-MM-JJJJ"},
+        {basic::DateOrder::DayMonthYear, "01021950", "1. Februar 1950"},
+        {basic::DateOrder::DayMonthYear, "02131950", "13. Februar 1950"},
+        {basic::DateOrder::DayMonthYear, "31021950", "TT-MM-JJJJ"},
+        {basic::DateOrder::DayMonthYear, "0102", "TT-MM-JJJJ"},
+        {basic::DateOrder::MonthDayYear, "", "MM-TT-JJJJ"},
+        {basic::DateOrder::MonthDayYear, "01021950", "2. Januar 1950"},
+        {basic::DateOrder::MonthDayYear, "13021950", "13. Februar 1950"},
+        {basic::DateOrder::MonthDayYear, "15060050", "15. Juni 1950"},
+    };
+    StartedProgram started;
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.typed);
+        selection::FilterPanel panel(started.program.language, row.order);
+        auto *bound = panel.findChild<QLineEdit *>("Presse_Datum_1");
+        bound->setCursorPosition(0);
+        QTest::keyClicks(bound, row.typed);
+        EXPECT_EQ(panel.findChild<QLabel *>("Gelesen_1")->text(), row.read);
+        EXPECT_EQ(bound->toolTip().contains("Tag, Monat und Jahr"), row.order == basic::DateOrder::DayMonthYear);
+    }
 }
 
 TEST(Filtering, UnsoundInputIsSaidInTheStatusBar)

@@ -230,10 +230,11 @@ TEST_F(BerichtTest, CriteriaSayWhatIsActive)
                          .relatives = {.parents = true}};
     all.filter.Presse_Datum = {"01.02.1800", "__.__.____"};
     all.filter.Filterliste = selection::PersonList::Marked;
-    const std::string rest = "Geschlecht: Frauen\nGeburtsdatum: ab 01.02.1800\nLetzte Änderung: ab 01.02.1800\n"
-                             "Gefilterte Liste: markierte Personen\nVerwandte: Eltern und Vorfahren\n"
-                             "Grafik: nach Geburtsjahr\n" +
-                             numbers;
+    const std::string rest =
+        "Geschlecht: Frauen\nGeburtsdatum: ab 1. Februar 1800\nLetzte Änderung: ab 1. Februar 1800\n"
+        "Gefilterte Liste: markierte Personen\nVerwandte: Eltern und Vorfahren\n"
+        "Grafik: nach Geburtsjahr\n" +
+        numbers;
     EXPECT_EQ(lines(all, 3), "Name: *Müll*\n" + rest);
     all.filter.Presse = u"**"_s; // as filtering leaves an empty pattern
     EXPECT_EQ(lines(all, 3), rest);

@@ -193,14 +193,19 @@ void Parser::addFormat(CLI::App *to)
 
 void Parser::addFilter(CLI::App *to)
 {
+    const std::string order = orderText(basic::systemDateOrder()).toStdString();
     CLI::Option *dates = to->add_option("--dates", words.dates, "Which dates lie between --from and --to")
                              ->delimiter(',')
                              ->check(CLI::IsMember({"birth", "death", "change"}).description(""))
                              ->type_name("birth,death,change");
     to->add_option("--name", words.name, "Whose list name matches; * any text, ? one character")->type_name("PATTERN");
     addSex(to, "m men, w women, mw whoever");
-    to->add_option("--from", words.from, "Not before")->needs(dates)->type_name("DATE");
-    to->add_option("--to", words.to, "Not after")->needs(dates)->type_name("DATE");
+    to->add_option("--from", words.from, "Not before this day, " + order + " or yyyy-mm-dd")
+        ->needs(dates)
+        ->type_name("DATE");
+    to->add_option("--to", words.to, "Not after this day, " + order + " or yyyy-mm-dd")
+        ->needs(dates)
+        ->type_name("DATE");
 }
 
 CLI::App *Parser::addMarkCommand(const char *name, const char *what)

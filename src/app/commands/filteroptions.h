@@ -22,7 +22,11 @@ struct FilterOptions {
     bool operator==(const FilterOptions &) const = default;
 };
 
-/// The filter for this list. Throws WrongUsage for a date that is none.
+/// "dd-mm-yyyy" or "mm-dd-yyyy".
+QString orderText(basic::DateOrder order);
+
+/// The filter for this list. Says on stderr how a date is read that is not day, month and year. Throws WrongUsage for a
+/// date that is none.
 selection::Filter filterOf(const FilterOptions &options, selection::PersonList list, basic::DateOrder order);
 
 } // namespace kalvenor::app

@@ -153,6 +153,11 @@ constexpr CatalogueText Texts[] = {
     {Text::FilterNotShown,
      u"Nichts geändert: Die Liste zeigt nicht, was im Filter steht. Ändern Sie den Filter oder heben Sie ihn auf.",
      u"Nothing changed: the list does not show what the filter says. Change the filter or clear it."},
+    {Text::FilterFromTipMonthFirst, u"Erster Tag, als Monat, Tag und Jahr", u"First day, as month, day and year"},
+    {Text::FilterToTipMonthFirst, u"Letzter Tag, als Monat, Tag und Jahr", u"Last day, as month, day and year"},
+    {Text::DateHint, u"TT-MM-JJJJ", u"dd-mm-yyyy"},
+    {Text::DateHintMonthFirst, u"MM-TT-JJJJ", u"mm-dd-yyyy"},
+    {Text::LongDate, u"d. MMMM yyyy", u"d MMMM yyyy"}, // what QLocale makes of it is shown
 };
 
 } // namespace

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/texts/sprache.h"
 
+#include "platform/basic/date.h"
+
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::language {
@@ -53,6 +55,11 @@ QVariant Sprachmodul::shownText(qint16 id)
         return text;
     const QString own = wording(static_cast<Text>(id), catalogueLanguage(m_host));
     return own.isNull() ? text : own;
+}
+
+QString Sprachmodul::dayInWords(qint64 dayNumber)
+{
+    return anzeigesprache(m_host).toString(basic::calendarDate(dayNumber), text(Text::LongDate));
 }
 
 void Sprachmodul::datenbankenschliessen(const QString &name)

@@ -39,6 +39,9 @@ public:
     /// shownText as plain text; null gives "". Places such as %1 are left for the caller to fill.
     QString text(Text id) { return shownText(static_cast<qint16>(id)).toString(); }
 
+    /// A day number as the interface language writes it, its month in words: "2 January 1950".
+    QString dayInWords(qint64 dayNumber);
+
     /// Closes every database of the engine, last first, then, where `name` is empty, opens the host's own
     /// language database "\language.mdb". Throws the engine's Error.
     void datenbankenschliessen(const QString &name);

@@ -181,6 +181,11 @@ enum class Text : qint16 {
     FilterList = 20423,
     IncompleteDatesTip = 20424,
     FilterNotShown = 20425,
+    FilterFromTipMonthFirst = 20426,
+    FilterToTipMonthFirst = 20427,
+    DateHint = 20428,
+    DateHintMonthFirst = 20429,
+    LongDate = 20430,
     // 20500–20799: tabs, figures, chart, editor
     Introduction = 20500,
     Chart = 20501,

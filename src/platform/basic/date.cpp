@@ -4,7 +4,6 @@
 
 #include <cmath>
 
-#include <QDate>
 #include <QLocale>
 #include <QRegularExpression>
 
@@ -85,7 +84,7 @@ std::optional<Moment> momentOf(double serial)
         second = 0;
         ++day;
     }
-    const QDate date = dayZero().addDays(day);
+    const QDate date = calendarDate(day);
     if (date.year() < FirstYear || date.year() > LastYear)
         return std::nullopt;
     return Moment{date, static_cast<int>(second)};
@@ -102,6 +101,11 @@ DateOrder systemDateOrder()
 {
     const QString format = QLocale::system().dateFormat(QLocale::ShortFormat);
     return format.indexOf(u'd') < format.indexOf(u'M') ? DateOrder::DayMonthYear : DateOrder::MonthDayYear;
+}
+
+QDate calendarDate(qint64 dayNumber)
+{
+    return dayZero().addDays(dayNumber);
 }
 
 std::optional<qint64> dayNumber(int year, int month, int day)

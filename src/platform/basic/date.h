@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <QDate>
 #include <QString>
 #include <QStringView>
 
@@ -10,14 +11,17 @@
 // counts forwards. Years 100 to 9999.
 namespace kalvenor::basic {
 
-/// In which order the system writes dates.
+/// In which order the system takes the numbers of a date, unless only another order makes one: 13-02-1950 is
+/// 13 February in both.
 enum class DateOrder {
     DayMonthYear, ///< German: 31.12.1997
-    MonthDayYear, ///< US: 12/31/1997
+    MonthDayYear, ///< US: 12/31/1997; also where the system writes the year first
 };
 
 /// The order of the locale this process runs under.
 DateOrder systemDateOrder();
+
+QDate calendarDate(qint64 dayNumber);
 
 /// Day number of a date of the (proleptic) Gregorian calendar, nothing where there is no such day.
 std::optional<qint64> dayNumber(int year, int month, int day);

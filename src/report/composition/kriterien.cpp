@@ -21,6 +21,7 @@ public:
     explicit Lines(language::Sprachmodul &language) : m_language(language) {}
 
     QString text(Text id) { return m_language.text(id); }
+    QString day(qint64 number) { return m_language.dayInWords(number); }
     void add(Text label, const QString &what) { lines << m_language.text(label) + what; }
 
     QStringList lines;
@@ -29,17 +30,17 @@ private:
     language::Sprachmodul &m_language;
 };
 
-/// "" where neither bound is a date.
+/// The days as they were read; "" where neither bound is a date.
 QString range(Lines &lines, const std::array<QString, 2> &bounds)
 {
     const basic::DateOrder order = basic::systemDateOrder();
-    const bool from = basic::isDate(bounds[0], order);
-    const bool to = basic::isDate(bounds[1], order);
+    const auto from = selection::boundDay(bounds[0], order);
+    const auto to = selection::boundDay(bounds[1], order);
     if (from && to)
-        return lines.text(Text::PeriodFromTo).arg(bounds[0], bounds[1]);
+        return lines.text(Text::PeriodFromTo).arg(lines.day(*from), lines.day(*to));
     if (from)
-        return lines.text(Text::PeriodFrom).arg(bounds[0]);
-    return to ? lines.text(Text::PeriodTo).arg(bounds[1]) : QString();
+        return lines.text(Text::PeriodFrom).arg(lines.day(*from));
+    return to ? lines.text(Text::PeriodTo).arg(lines.day(*to)) : QString();
 }
 
 void addFilter(Lines &lines, const selection::Filter &filter)

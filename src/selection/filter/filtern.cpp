@@ -35,15 +35,28 @@ QString withStars(const QString &typed)
     return front + text + back;
 }
 
+/// The day number of a date, as the query has it.
+QString dayText(const QString &bound, basic::DateOrder order)
+{
+    QString typed = bound;
+    return basic::trimBlanks(basic::midPart(data::datumwandeln(typed, order), 11));
+}
+
 QString boundClause(const QString &bound, basic::DateOrder order, const QString &clause, const QString &any)
 {
-    if (!basic::isDate(bound, order))
-        return any;
-    QString typed = bound;
-    return clause + basic::trimBlanks(basic::midPart(data::datumwandeln(typed, order), 11));
+    return basic::isDate(bound, order) ? clause + dayText(bound, order) : any;
 }
 
 } // namespace
+
+std::optional<qint64> boundDay(const QString &bound, basic::DateOrder order)
+{
+    if (!basic::isDate(bound, order))
+        return std::nullopt;
+    bool isNumber = false;
+    const qint64 day = dayText(bound, order).toLongLong(&isNumber);
+    return isNumber ? std::optional(day) : std::nullopt;
+}
 
 FilterQueries filtern(const Filter &filter, basic::DateOrder order)
 {

@@ -5,6 +5,7 @@
 #include "platform/basic/date.h"
 #include "selection/lists/listquery.h"
 #include <array>
+#include <optional>
 #include <QString>
 
 namespace kalvenor::selection {
@@ -25,6 +26,9 @@ struct FilterQueries {
     QString pattern;
     std::array<QString, 2> queries; ///< by PersonList
 };
+
+/// The day that a bound is taken for; nothing where it is no date and so bounds nothing.
+std::optional<qint64> boundDay(const QString &bound, basic::DateOrder order);
 
 /// The filter as two queries; the one of the other list is plain. The text is built exactly as the host's own add-ins
 /// build it: no quoting of apostrophes, and an upper bound may stand directly behind a day number.

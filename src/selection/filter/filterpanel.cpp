@@ -3,6 +3,7 @@
 #include "selection/filter/filterpanel.h"
 
 #include "language/forms/widgetform.h"
+#include "language/texts/sprache.h"
 #include "platform/desktop/lineicon.h"
 #include <algorithm>
 #include <QCheckBox>
@@ -24,6 +25,7 @@ using language::Text;
 namespace {
 
 constexpr int TypingPauseMs = 300;
+constexpr qint64 LongDay = 36799; // 30 September 2000
 const QString EmptyDate = u"__-__-____"_s;
 
 template <typename Control>
@@ -54,7 +56,8 @@ QHBoxLayout *rowOf(std::initializer_list<QWidget *> widgets)
 
 } // namespace
 
-FilterPanel::FilterPanel(QWidget *parent) : QGroupBox(parent)
+FilterPanel::FilterPanel(language::Sprachmodul &texts, basic::DateOrder order, QWidget *parent)
+    : QGroupBox(parent), m_texts(texts), m_order(order)
 {
     setObjectName(u"Filter"_s);
     language::setDesignText(this, Text::Filter);
@@ -93,13 +96,24 @@ void FilterPanel::build()
     m_dates = {made<QCheckBox>(this, "Datumfilter", 0, Text::FilterBirth, incomplete),
                made<QCheckBox>(this, "Datumfilter", 1, Text::FilterDeath, incomplete),
                made<QCheckBox>(this, "Datumfilter", 2, Text::FilterChange, Text::None)};
-    m_bounds = {made<QLineEdit>(this, "Presse_Datum", 0, Text::None, Text::FilterFromTip),
-                made<QLineEdit>(this, "Presse_Datum", 1, Text::None, Text::FilterToTip)};
+    const bool dayFirst = m_order == basic::DateOrder::DayMonthYear;
+    m_bounds = {made<QLineEdit>(this, "Presse_Datum", 0, Text::None,
+                                dayFirst ? Text::FilterFromTip : Text::FilterFromTipMonthFirst),
+                made<QLineEdit>(this, "Presse_Datum", 1, Text::None,
+                                dayFirst ? Text::FilterToTip : Text::FilterToTipMonthFirst)};
     for (QLineEdit *bound : m_bounds) {
         bound->setInputMask(u"00-00-0000;_"_s);
         bound->setFixedWidth(bound->fontMetrics().horizontalAdvance(u"00-00-0000"_s) +
                              3 * bound->fontMetrics().averageCharWidth() + 8);
         bound->installEventFilter(this);
+    }
+    for (std::size_t i = 0; i < m_read.size(); ++i) {
+        m_read[i] = new QLabel(this);
+        m_read[i]->setObjectName(u"Gelesen_%1"_s.arg(i));
+        // Wide enough for every date, so that nothing moves while one is typed.
+        m_read[i]->setMinimumWidth(m_read[i]->fontMetrics().horizontalAdvance(m_texts.dayInWords(LongDay)));
+        showHowRead(i);
+        connect(m_bounds[i], &QLineEdit::textChanged, this, [this, i] { showHowRead(i); });
     }
     m_lists = {made<QRadioButton>(this, "Filterliste", 0, Text::FilterUnmarked, Text::FilterListTip),
                made<QRadioButton>(this, "Filterliste", 1, Text::FilterMarked, Text::FilterListTip)};
@@ -132,7 +146,7 @@ void FilterPanel::layOut()
     grid->addLayout(rowOf({m_sexes[0], m_sexes[1]}), 1, 1);
     grid->addWidget(labelFor(nullptr, this, Text::FilterPeriod), 2, 0);
     grid->addLayout(rowOf({m_dates[0], m_dates[1], m_dates[2]}), 2, 1);
-    grid->addLayout(rowOf({from, m_bounds[0], to, m_bounds[1]}), 3, 1);
+    grid->addLayout(rowOf({from, m_bounds[0], m_read[0], to, m_bounds[1], m_read[1]}), 3, 1);
     grid->addWidget(labelFor(nullptr, this, Text::FilterList), 4, 0);
     grid->addLayout(rowOf({m_lists[0], m_lists[1]}), 4, 1);
     grid->setColumnStretch(1, 1);
@@ -141,6 +155,16 @@ void FilterPanel::layOut()
                                  m_dates[1], m_dates[2], m_bounds[0], m_bounds[1], m_lists[0], m_lists[1]};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
+}
+
+void FilterPanel::showHowRead(std::size_t bound)
+{
+    const auto day = boundDay(m_bounds[bound]->displayText(), m_order);
+    const Text hint = m_order == basic::DateOrder::DayMonthYear ? Text::DateHint : Text::DateHintMonthFirst;
+    const QString text = day ? m_texts.dayInWords(*day) : m_texts.text(hint);
+    m_read[bound]->setForegroundRole(day ? QPalette::WindowText : QPalette::PlaceholderText);
+    m_read[bound]->setText(text);
+    m_bounds[bound]->setAccessibleDescription(text);
 }
 
 Filter FilterPanel::filter() const
@@ -195,9 +219,9 @@ QList<QWidget *> FilterPanel::entries() const
 
 QString FilterPanel::unsoundDate() const
 {
-    const auto unsound = std::ranges::find_if(m_bounds, [](const QLineEdit *bound) {
+    const auto unsound = std::ranges::find_if(m_bounds, [this](const QLineEdit *bound) {
         const QString text = bound->displayText();
-        return text != EmptyDate && !basic::isDate(text, basic::systemDateOrder());
+        return text != EmptyDate && !basic::isDate(text, m_order);
     });
     return unsound == m_bounds.end() ? QString() : (*unsound)->displayText();
 }

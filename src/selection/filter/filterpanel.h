@@ -8,17 +8,23 @@
 #include <QTimer>
 
 class QCheckBox;
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
 
+namespace kalvenor::language {
+class Sprachmodul;
+}
+
 namespace kalvenor::selection {
 
-/// The filter controls. Typing and ticking filter by themselves after a pause; Return and the button at once.
+/// The filter controls. Beside each date stands how it is read, or in which `order` it is to be typed. Typing and
+/// ticking filter by themselves after a pause; Return and the button at once.
 class FilterPanel : public QGroupBox {
     Q_OBJECT
 public:
-    explicit FilterPanel(QWidget *parent = nullptr);
+    FilterPanel(language::Sprachmodul &texts, basic::DateOrder order, QWidget *parent = nullptr);
 
     /// The controls as they stand; date texts with the mask's underscores.
     Filter filter() const;
@@ -49,14 +55,18 @@ protected:
 private:
     void build();
     void layOut();
+    void showHowRead(std::size_t bound);
     void later(int milliseconds);
     void now();
     void clear();
 
+    language::Sprachmodul &m_texts;
+    basic::DateOrder m_order;
     QLineEdit *m_name;
     std::array<QCheckBox *, 2> m_sexes;
     std::array<QCheckBox *, 3> m_dates;
     std::array<QLineEdit *, 2> m_bounds;
+    std::array<QLabel *, 2> m_read; ///< how the bounds are read
     std::array<QRadioButton *, 2> m_lists;
     QPushButton *m_filter;
     QPushButton *m_clear;

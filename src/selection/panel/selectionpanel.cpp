@@ -44,7 +44,8 @@ QAbstractButton *moveButton(QWidget *parent, const char *name, desktop::LineIcon
 SelectionPanel::SelectionPanel(SelectionController &controller, QWidget *parent)
     : QWidget(parent), m_controller(controller), m_lists{new PersonListPanel(controller, PersonList::Unmarked, this),
                                                          new PersonListPanel(controller, PersonList::Marked, this)},
-      m_splitter(new QSplitter(Qt::Horizontal, this)), m_filter(new FilterPanel(this))
+      m_splitter(new QSplitter(Qt::Horizontal, this)),
+      m_filter(new FilterPanel(controller.session().language, basic::systemDateOrder(), this))
 {
     m_splitter->setObjectName(u"Listenteiler"_s);
     m_splitter->setChildrenCollapsible(false);
