@@ -321,12 +321,31 @@ TEST_F(CommandLine, SaysWhereDamageMadeTheResultShort)
 TEST_F(CommandLine, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
 {
     const QString family = folder->filePath("QV/Daten/Familie.mdb");
+    const QString settings = folder->filePath("QV/programm.ini");
     ASSERT_TRUE(QFile::rename(family, family + ".weg"));
-    const Outcome outcome = onDemo({"ages"});
-    EXPECT_EQ(outcome.exitCode, 1);
-    EXPECT_TRUE(outcome.out.isEmpty());
-    EXPECT_EQ(lineCount(outcome.err), 1) << outcome.err.toStdString();
-    EXPECT_FALSE(outcome.err.contains("????"));
+    ASSERT_TRUE(QFile::rename(settings, settings + ".weg"));
+    const struct {
+        QByteArray path;
+        QString named;
+    } rows[] = {{family.toUtf8(), "looked for " + family},
+                {"Q:\\f.mdb", "no folder is known for the drive Q:"},
+                {"", "no family database is named in " + settings}};
+    for (const auto &row : rows) {
+        QFile file(settings);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("[QV-Files]\r\n0=" + row.path + "\r\n");
+        file.close();
+        const Outcome outcome = onDemo({"ages"});
+        EXPECT_EQ(outcome.exitCode, 1);
+        EXPECT_TRUE(outcome.out.isEmpty());
+        const QStringList lines = outcome.err.split('\n');
+        ASSERT_EQ(lines.size(), 3) << outcome.err.toStdString();
+        EXPECT_TRUE(lines[0].contains("wurde nicht gefunden")) << outcome.err.toStdString();
+        EXPECT_TRUE(lines[1].contains(row.named)) << outcome.err.toStdString();
+        EXPECT_TRUE(lines[1].contains("kalvenor check")) << outcome.err.toStdString();
+    }
+    ASSERT_TRUE(QFile::remove(settings));
+    ASSERT_TRUE(QFile::rename(settings + ".weg", settings));
     ASSERT_TRUE(QFile::rename(family + ".weg", family));
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/commands/check.h"
 
+#include "app/start/startedprogram.h"
 #include "data/datenbankmodul.h"
 #include "host/host.h"
 #include "language/texts/errormessage.h"
@@ -166,9 +167,7 @@ void Checker::checkOutputFolder()
 std::shared_ptr<jet::Database> Checker::open(const QString &path)
 {
     if (m_host.hasUnmappedDrive(path)) {
-        missing(
-            u"%1: no folder is known for the drive %2; name it in %3, section [Laufwerke], "
-            "e.g. %4=/media/windows"_s.arg(path, path.left(2), m_host.native(m_host.ownSettingsFile()), path.left(1)));
+        missing(unknownDrive(m_host, path));
         return nullptr;
     }
     try {

@@ -12,9 +12,10 @@ namespace kalvenor::app {
 inline constexpr int Done = 0;
 inline constexpr int Failed = 1;
 
-/// A program started without windows; `ready` is false where start-up ended it with its own message.
+/// A program started without windows; `ready` is false where start-up ended it with its own message, and a line on
+/// stderr says which database was looked for.
 struct StartedProgram {
-    explicit StartedProgram(const QString &programFolder) : program(programFolder, desktop), ready(program.Main()) {}
+    explicit StartedProgram(const QString &programFolder);
     desktop::TerminalDesktop desktop;
     Program program;
     bool ready;
@@ -22,6 +23,9 @@ struct StartedProgram {
     /// The exit code of a command that did its work; says on stderr where damage of the file made the result short.
     int done() const;
 };
+
+/// That no folder is known for the path's drive, and where to name it.
+QString unknownDrive(const host::Host &host, const QString &path);
 
 /// One line, or several, on stdout.
 void printLine(const QString &line);
