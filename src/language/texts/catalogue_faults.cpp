@@ -141,10 +141,6 @@ constexpr CatalogueText Texts[] = {
      u"Die Einleitung ist zu lang. Sie kann bis zu %1 Zeichen, %2 Wechsel des Formats und %3 Absätze haben.",
      u"The introduction is too long. It can have up to %1 characters, %2 changes of format and %3 paragraphs."},
     // Demonstration
-    {of(Fault::PathNotAnsi),
-     u"Die Einstellungsdatei des Hauptprogramms kann diesen Pfad nicht aufnehmen: Er hat Zeichen außerhalb von "
-     u"Windows-1252. Wählen Sie einen anderen Ordner.",
-     u"The host's settings file cannot hold this path: it has characters outside Windows-1252. Choose another folder."},
     {of(Fault::PathTooLong),
      u"Die Einstellungsdatei des Hauptprogramms kann diesen Pfad nicht aufnehmen: Er ist länger als 255 Zeichen. "
      u"Wählen Sie einen Ordner mit kürzerem Pfad.",
@@ -201,8 +197,6 @@ constexpr CatalogueText Texts[] = {
      u"No folder is known for its drive letter; name it in Kalvenor.ini, section [Laufwerke]."},
     {of(Fault::MarksNotPutBack), u"Einige Markierungen wurden geändert und konnten nicht zurückgenommen werden.",
      u"Some marks were changed and could not be put back."},
-    {of(Fault::RenameFamily), u"Benennen Sie die Datenbank oder ihren Ordner um.",
-     u"Rename the database or its folder."},
     {of(Fault::ChangeTitle), u"Ändern Sie den Titel.", u"Change the title."},
     {of(Fault::FormerNotReopened),
      u"Auch die vorige Datenbank konnte nicht wieder geöffnet werden. Beenden Sie das Programm und starten Sie es neu.",

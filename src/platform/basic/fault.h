@@ -93,7 +93,6 @@ enum class ErrorKind {
     F(IntroductionTooLarge, 22083, Overflow)                  \
     F(IntroductionTooLong, 22084, Overflow)                   \
     /* Demonstration */                                       \
-    F(PathNotAnsi, 22090, Refused)                            \
     F(PathTooLong, 22091, Refused)                            \
     F(DemoSize, 22092, InvalidProcedureCall)                  \
     F(DemoNowhere, 22093, InvalidProcedureCall)               \
@@ -113,7 +112,6 @@ enum class ErrorKind {
     F(TemplateFamilyMissing, 22110, FileNotFound)             \
     F(DriveUnknown, 22111, FileNotFound)                      \
     F(MarksNotPutBack, 22112, WriteFailed)                    \
-    F(RenameFamily, 22114, Refused)                           \
     F(ChangeTitle, 22115, Refused)                            \
     F(FormerNotReopened, 22113, Refused)                      \
     /* Words: the values of a template */                     \
