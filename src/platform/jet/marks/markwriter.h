@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/error.h"
 #include "platform/basic/progress.h"
 #include "platform/jet/reader/database.h"
 #include <memory>
