@@ -127,4 +127,18 @@ QString directoryListing(const QString &windowsPath, const DriveMap &drives)
     return file.isFile() && !file.isHidden() ? file.fileName() : QString();
 }
 
+QString fileNamePart(const QString &text)
+{
+    const auto refused = [](QChar c) {
+        const QChar::Category category = c.category();
+        return u"<>:\"/\\|?*"_s.contains(c) || category == QChar::Other_Control || category == QChar::Separator_Line ||
+               category == QChar::Separator_Paragraph;
+    };
+    QString part = text;
+    part.removeIf(refused);
+    while (part.startsWith(u'.'))
+        part.remove(0, 1);
+    return part;
+}
+
 } // namespace kalvenor::basic

@@ -29,4 +29,8 @@ QString windowsPath(const QString &nativePath, const DriveMap &drives = {});
 /// are characters like any other, and a path that ends in a separator names no file.
 QString directoryListing(const QString &windowsPath, const DriveMap &drives = {});
 
+/// What of a text may become part of a file name on every system: without separators and the other signs that Windows
+/// refuses, without control characters, and without dots at its begin, so that it leads to no other folder.
+QString fileNamePart(const QString &text);
+
 } // namespace kalvenor::basic

@@ -3,6 +3,7 @@
 #include "report/export/htmlexport.h"
 
 #include "platform/basic/error.h"
+#include "platform/basic/path.h"
 #include "platform/basic/text.h"
 #include "platform/storage/replacement.h"
 #include <QDir>
@@ -46,7 +47,8 @@ QString exportName(const QString &chosen, const QString &reportName, const QStri
 {
     if (chosen.contains(u'*') || chosen.contains(u'?'))
         throw basic::Error(basic::Fault::WildcardInName, {.file = chosen});
-    return basic::leftPart(chosen, chosen.lastIndexOf(u'.')) + u'-' + reportName + text + extension;
+    return basic::leftPart(chosen, chosen.lastIndexOf(u'.')) + u'-' + basic::fileNamePart(reportName + text) +
+           extension;
 }
 
 QString fileNameOf(const QString &path)
@@ -77,7 +79,7 @@ QString chartTag(const QString &pictureFile)
 
 QString personPage(qint32 counter, const QString &reportName)
 {
-    return QString::number(counter) + u"-D"_s + reportName + u".html"_s;
+    return QString::number(counter) + u"-D"_s + basic::fileNamePart(reportName) + u".html"_s;
 }
 
 QString personLink(const QString &page, const QString &pictureFile, const QString &alternativeText)
@@ -108,10 +110,8 @@ void htmlnachbearbeiten(const host::Host &host, const QString &exportFile)
 
     QDir folder(host.native(folderOf(exportFile)));
     const QStringList copies = folder.entryList({u"*.htmlx"_s}, QDir::Files);
-    for (const QString &name : copies) {
-        if (!folder.remove(name))
-            throw basic::Error(basic::Fault::CopyNotDeleted, {.file = folderOf(exportFile) + name});
-    }
+    for (const QString &name : copies)
+        folder.remove(name); // where that fails, the page is whole all the same
 }
 
 } // namespace kalvenor::report

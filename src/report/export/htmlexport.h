@@ -8,7 +8,8 @@
 // What a page in HTML needs beyond the printed one. Paths are in Windows notation.
 namespace kalvenor::report {
 
-/// The chosen name up to its last ".", then "-", the report's name, the text and the extension (".html", ".jpg").
+/// The chosen name up to its last ".", then "-", the report's name and the text, as far as they may stand in a file
+/// name, and the extension (".html", ".jpg").
 /// Throws Error(InvalidProcedureCall) for a name without a ".", or with "*" or "?", which stand for other files.
 QString exportName(const QString &chosen, const QString &reportName, const QString &text, const QString &extension);
 

@@ -104,3 +104,18 @@ TEST_F(Paths, DirectoryListing)
         EXPECT_EQ(directoryListing(windowsRoot() + row.path).toStdString(), row.name) << row.path;
     EXPECT_EQ(directoryListing({}), QString());
 }
+
+TEST(FileNamePart, LeadsToNoOtherFolder)
+{
+    const std::pair<const char16_t *, const char16_t *> rows[] = {
+        {u"Altersstatistik", u"Altersstatistik"},
+        {u"\\..\\..\\.\\elsewhere\\X", u"elsewhereX"},
+        {u"/../a/b", u"ab"},
+        {u"..", u""},
+        {u"A<>:\"|?*B\r\n\t\u0085\u2028C", u"ABC"},
+        {u"Ä ł.v1", u"Ä ł.v1"},
+        {u"", u""},
+    };
+    for (const auto &[text, part] : rows)
+        EXPECT_EQ(fileNamePart(QString::fromUtf16(text)), QString::fromUtf16(part));
+}
