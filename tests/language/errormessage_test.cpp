@@ -32,9 +32,11 @@ TEST(ErrorMessage, IsMadeOfPlaceSentenceAndRemarksInTheLanguageOfTheHost)
          "b, table T, page 7: The number 70000.5 is not between -1 and 1."},
         // What an argument holds is never taken for a place of the sentence.
         {Error(Fault::NoNumber, {}, {u"%1 %2"_s}), "„%1 %2“ ist keine Zahl.", "“%1 %2” is not a number."},
-        {Error(Fault::NotRenamed, {.item = u"x"_s}).with(Fault::ChangeTitle).with(Error(Fault::Stopped)),
-         "x: Die Datei kann nicht umbenannt werden. Ändern Sie den Titel. Abgebrochen.",
-         "x: The file cannot be renamed. Change the title. Stopped."},
+        {Error(Fault::NotRenamed, {.item = u"x"_s}).with(Fault::DriveUnknown).with(Error(Fault::Stopped)),
+         "x: Die Datei kann nicht umbenannt werden. Für das Laufwerk ist kein Ordner bekannt; nennen Sie ihn in "
+         "Kalvenor.ini, Abschnitt [Laufwerke]. Abgebrochen.",
+         "x: The file cannot be renamed. No folder is known for its drive letter; name it in Kalvenor.ini, section "
+         "[Laufwerke]. Stopped."},
     };
     for (const auto &row : cases) {
         EXPECT_EQ(errorMessage(language::CatalogueLanguage::German, row.error), row.german);
@@ -52,6 +54,6 @@ TEST(Error, IsData)
     EXPECT_EQ(error.kind(), basic::ErrorKind::Damaged);
     EXPECT_EQ(error.arguments(), QStringList({"WordTitle", "5"}));
     EXPECT_STREQ(error.what(), "f, line 2: TemplateCut (WordTitle, 5)");
-    EXPECT_STREQ(error.with(Fault::ChangeTitle).what(), "f, line 2: TemplateCut (WordTitle, 5); ChangeTitle");
-    EXPECT_EQ(error.with(Fault::ChangeTitle).fault(), Fault::TemplateCut);
+    EXPECT_STREQ(error.with(Fault::DriveUnknown).what(), "f, line 2: TemplateCut (WordTitle, 5); DriveUnknown");
+    EXPECT_EQ(error.with(Fault::DriveUnknown).fault(), Fault::TemplateCut);
 }

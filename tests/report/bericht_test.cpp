@@ -256,6 +256,7 @@ TEST_F(BerichtTest, HintComesOnceAndFailuresRestoreThePointer)
 TEST_F(BerichtTest, HtmlHasItsNamesTagsAndLinks)
 {
     EXPECT_EQ(exportName("C:\\a.b\\Liste.v1.htm", "X", "T", ".html"), "C:\\a.b\\Liste.v1-XT.html");
+    EXPECT_EQ(exportName("C:\\a\\r.rtf", "/..", "\\..\\.\\X\n", ".jpg"), "C:\\a\\r-X.jpg") << "no other folder";
     EXPECT_EQ(chartTag("C:\\a\\b.JPG"), R"(<img src="./b.JPG" Border=0 Alt="">)");
     EXPECT_EQ(personLink("1-D.html", "p.JPG", "Text"), R"(<a href=./1-D.html><img src="./p.JPG" Border=0 Alt="Text">)");
 
@@ -324,6 +325,26 @@ TEST_F(BerichtTest, FailedRunsLeaveNothingAndKeepTheOld)
     content.statistik.rtf = QByteArray(richtext::RtfLimits().characters + 1, 'a'); // it would lack its end
     fail(print::ExportFormat::Html, "alt.html");
     EXPECT_EQ(read(old), "old");
+}
+
+TEST_F(BerichtTest, NothingGoesThroughALinkThatNobodyNamed)
+{
+    const QByteArray family = read(demo.familyDatabase);
+    const auto link = [&](const QString &name) {
+        ASSERT_TRUE(QFile::link(demo.familyDatabase, name));
+    };
+    link(pages.filePath("r-Altersstatistik.JPG")); // the host's copy of the chart
+    link(folder.filePath("h-Altersstatistik.JPG"));
+    link(folder.filePath("d.rtf"));
+    bericht.hintShown();
+    run(print::ExportFormat::Rtf, folder.filePath("r.rtf"));
+    EXPECT_TRUE(read(folder.filePath("r.rtf")).startsWith("{\\rtf")) << "does without the copy";
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    EXPECT_TRUE(desktop.messages[0].text.contains("r-Altersstatistik.JPG")) << desktop.messages[0].text.toStdString();
+    EXPECT_THROW(run(print::ExportFormat::Html, folder.filePath("h.html")), basic::Error);
+    EXPECT_THROW(run(print::ExportFormat::Rtf, folder.filePath("d.rtf")), basic::Error);
+    EXPECT_FALSE(QFile::exists(folder.filePath("h-Altersstatistik.html")));
+    EXPECT_EQ(read(demo.familyDatabase), family);
 }
 
 TEST_F(BerichtTest, NonsenseInTheSettingsBreaksNothing)

@@ -83,6 +83,8 @@ TEST_F(VorlageFile, IsReadAsOtherProgramsLeaveIt)
         {QByteArray(WholeFile).replace("\r\n", "\n"), unixLines},
         {QByteArray(WholeFile).replace("\r\n5\r\n0", " \t\r\n \t5\t\r\n  0 "), wholeVorlage()},
         {WholeFile + "\r\n \n", wholeVorlage()},
+        {WholeFile + "\x1A", wholeVorlage()},
+        {WholeFile.chopped(2) + "\x1A\r\n", wholeVorlage()},
         {QByteArray(WholeFile).replace("\r\n5\r\n0\r\n", ",5,0\r\n"), wholeVorlage()},
     };
     for (const auto &[bytes, expected] : rows) {
@@ -92,14 +94,61 @@ TEST_F(VorlageFile, IsReadAsOtherProgramsLeaveIt)
     }
 }
 
-// Every cut inside a record is seen; behind a person's line the file is a shorter template.
-TEST_F(VorlageFile, ACutFileIsRefused)
+// A cut inside the first ten lines is seen. Behind them the file is a shorter template; one that ends with a number and
+// no line end is told, for nothing in it says whether the number is whole.
+TEST_F(VorlageFile, ACutFileIsRefusedOrTold)
 {
-    const qsizetype header = WholeFile.indexOf("\n7\r\n-3");
+    const qsizetype header = WholeFile.indexOf("#FALSE#") + 7;
     for (qsizetype length = 0; length < WholeFile.size(); ++length) {
         put(WholeFile.left(length));
         const char last = length > 0 ? WholeFile[length - 1] : '\0';
-        EXPECT_EQ(refusal().isEmpty(), length >= header && (last == '\r' || last == '\n')) << length;
+        const bool whole = length >= header && last != '-';
+        EXPECT_EQ(refusal().isEmpty(), whole) << length;
+        if (whole) {
+            EXPECT_EQ(readVorlage(file).lastIsOpen, last >= '0' && last <= '9') << length;
+        }
+    }
+}
+
+// Every letter is kept; what Windows-1252 can hold stays in it.
+TEST_F(VorlageFile, HoldsAnyLetters)
+{
+    Vorlage vorlage = wholeVorlage();
+    vorlage.statistik.titel = u"Łódź ☺ 😀 \"Žďár\""_s;
+    vorlage.statistik.rtf = "{\\rtf1 B\xE4r \x81}";
+    vorlage.familienpfad += u"Ж"_s;
+    writeVorlage(file, vorlage);
+    EXPECT_TRUE(content().startsWith("\xEF\xBB\xBF\"C:") && content().isValidUtf8());
+    EXPECT_EQ(readVorlage(file), vorlage);
+    vorlage = wholeVorlage();
+    put(QByteArray("\xEF\xBB\xBF") + QByteArray(WholeFile).replace("\xE4", "\xC3\xA4").replace("A,", "\xC5\x81,"));
+    vorlage.statistik.rtf.replace("A,", "\\u321?,");
+    EXPECT_EQ(readVorlage(file), vorlage) << "edited by hand";
+    put("\xEF\xBB\xBF" + WholeFile);
+    EXPECT_TRUE(refusal().contains("TemplateNotUtf8"));
+}
+
+TEST_F(VorlageFile, ReplacesNothingButATemplate)
+{
+    const std::pair<QByteArray, const char *> rows[] = {
+        {"", ""},
+        {WholeFile, ""},
+        {WholeFile + "damaged", ""},
+        {"my list", "NoTemplateToReplace"},
+        {"\"a\",\"csv\"\r\n", "NoTemplateToReplace"},
+        {QByteArray("\0\1\0\0Standard Jet DB\0\1", 21) + QByteArray(100, '\0'), "TargetIsDatabase"},
+    };
+    for (const auto &[old, fault] : rows) {
+        put(old);
+        QString said;
+        try {
+            writeVorlage(file, wholeVorlage());
+        } catch (const basic::Error &error) {
+            said = error.what();
+        }
+        EXPECT_EQ(said.isEmpty(), *fault == '\0') << said.toStdString();
+        EXPECT_TRUE(said.contains(QLatin1StringView(fault))) << said.toStdString();
+        EXPECT_EQ(content(), said.isEmpty() ? WholeFile : old);
     }
 }
 
@@ -147,24 +196,15 @@ TEST_F(VorlageFile, KeepsEveryDatabasePath)
     }
 }
 
-TEST_F(VorlageFile, NothingIsLostWhereItCannotBeWritten)
+TEST_F(VorlageFile, SaysThatItCannotBeWritten)
 {
-    put("before");
-    const auto refused = [&](const Vorlage &vorlage) {
-        try {
-            writeVorlage(file, vorlage);
-        } catch (const basic::Error &error) {
-            return QString(error.what());
-        }
-        return QString();
-    };
-    Vorlage vorlage = wholeVorlage();
-    vorlage.statistik.titel = u"Łódź ☺ 😀 Žďár"_s;
-    EXPECT_TRUE(refused(vorlage).contains("TemplateCharacters (WordTitle, Ł ź ☺ 😀 ď); ChangeTitle"))
-        << refused(vorlage).toStdString();
-    EXPECT_EQ(content(), "before");
     file = folder.filePath("no/such/folder.kvl");
-    EXPECT_TRUE(refused(wholeVorlage()).contains("TemplateNotSaved"));
+    try {
+        writeVorlage(file, wholeVorlage());
+        ADD_FAILURE() << "was written";
+    } catch (const basic::Error &error) {
+        EXPECT_EQ(error.fault(), basic::Fault::TemplateNotSaved);
+    }
 }
 
 TEST_F(VorlageFile, StaysWholeWhereSavingFails)
@@ -172,7 +212,7 @@ TEST_F(VorlageFile, StaysWholeWhereSavingFails)
     using namespace test;
     FaultyStorage storage;
     writeVorlage(file, wholeVorlage());
-    const QByteArray saved = content();
+    const QByteArray saved = content(), old = saved + "8\r\n"; // a template, too
     for (const Fault fault : {Fault::Fails, Fault::CutShort}) {
         bool failed = false;
         const auto save = [&] {
@@ -185,9 +225,9 @@ TEST_F(VorlageFile, StaysWholeWhereSavingFails)
         };
         const auto check = [&](Call struck) {
             EXPECT_EQ(failed, fault == Fault::Fails && struck != Call::None);
-            EXPECT_EQ(content(), failed && struck != Call::SyncFolder ? "old" : saved);
+            EXPECT_EQ(content(), failed && struck != Call::SyncFolder ? old : saved);
         };
         atEachCall(
-            storage, fault, [&] { put("old"); }, save, check);
+            storage, fault, [&] { put(old); }, save, check);
     }
 }

@@ -21,6 +21,13 @@ namespace {
 constexpr int MostPersons = 2'000'000;
 constexpr qsizetype LongestSetting = 255; // what a profile read returns at most
 
+/// The folder, or the outermost one above it that is not there.
+QString outermostMissing(const QString &folder)
+{
+    const QString above = QFileInfo(folder).path();
+    return QFileInfo::exists(above) ? folder : outermostMissing(above);
+}
+
 void makeFolder(const QString &folder)
 {
     if (!QDir().mkpath(folder))
@@ -30,7 +37,7 @@ void makeFolder(const QString &folder)
 void writeFile(const QString &path, const QByteArray &bytes)
 {
     QString reason;
-    if (!storage::replaceFileSafely(path, bytes, &reason))
+    if (!storage::replaceFileSafely(path, bytes, &reason, storage::Origin::NewHost))
         throw basic::Error(basic::Fault::NotWritten, {.file = path}, {reason});
 }
 
@@ -108,11 +115,12 @@ DemoHost makeDemoHost(const DemoOptions &options, const basic::Progress &progres
     if (existing.exists() &&
         !QDir(host.hostFolder).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot))
         throw basic::Error(basic::Fault::FolderNotEmpty, {.file = host.hostFolder});
-    makeFolder(host.hostFolder);
+    const QString outermost = outermostMissing(host.hostFolder);
     try {
+        makeFolder(host.hostFolder);
         fillHostFolder(host, options.seed, progress);
     } catch (...) {
-        QDir(host.hostFolder).removeRecursively(); // it was empty: all that is in it is ours
+        QDir(outermost).removeRecursively(); // it was empty or not there: all that is in it is ours
         throw;
     }
     return host;

@@ -82,6 +82,17 @@ constexpr CatalogueText Texts[] = {
     {of(Fault::FolderNotMade),
      u"Der Ordner kann nicht angelegt werden. Wählen Sie einen Ordner, in den Sie schreiben dürfen.",
      u"The folder cannot be made. Choose a folder that you may write to."},
+    {of(Fault::TargetIsDatabase),
+     u"%1 ist eine Datenbank oder heißt wie eine und wird nie überschrieben. Wählen Sie einen anderen Namen.",
+     u"%1 is a database or is called like one, and is never overwritten. Choose another name."},
+    {of(Fault::TargetIsHostSettings),
+     u"%1 heißt wie die Einstellungen des Hauptprogramms und wird nicht überschrieben. Wählen Sie einen anderen Namen.",
+     u"%1 is called like the main program's settings and is not overwritten. Choose another name."},
+    {of(Fault::TargetIsLink),
+     u"Diese Datei gehört zum Bericht, ist hier aber eine Verknüpfung auf eine andere. Löschen Sie die Verknüpfung oder "
+     u"wählen Sie einen anderen Namen für den Bericht.",
+     u"This file belongs to the report, but here it is a link to another one. Delete the link or choose another name "
+     u"for the report."},
     // Pages, printing, charts, pictures
     {of(Fault::LineTooHigh),
      u"Eine Textzeile ist höher als die Seite zwischen ihren Rändern. Wählen Sie eine kleinere Schrift oder kleinere "
@@ -121,9 +132,6 @@ constexpr CatalogueText Texts[] = {
      u"Die HTML-Seite konnte nicht fertiggestellt werden: %1. Speichern Sie sie in einem Ordner, in den geschrieben "
      u"werden kann.",
      u"The page could not be finished: %1. Save it in a folder that can be written."},
-    {of(Fault::CopyNotDeleted),
-     u"Die HTML-Seite konnte nicht fertiggestellt werden: Diese Datei kann nicht gelöscht werden.",
-     u"The page could not be finished: this file cannot be deleted."},
     {of(Fault::WildcardInName), u"Der Dateiname darf kein * oder ? enthalten. Wählen Sie einen anderen.",
      u"The file name must not hold * or ?. Choose another one."},
     // Statistics
@@ -186,10 +194,15 @@ constexpr CatalogueText Texts[] = {
      u"andere Kopie oder speichern Sie sie neu.",
      u"Here should be #TRUE# or #FALSE# (%1), but there is “%2”. The template is damaged; use another copy of it or "
      u"save it again."},
-    {of(Fault::TemplateCharacters),
-     u"Die Vorlage wurde nicht gespeichert: Sie kann diese Zeichen nicht aufnehmen (%1): %2.",
-     u"The template was not saved: it cannot keep these characters (%1): %2."},
     {of(Fault::TemplateNotSaved), u"Die Vorlage wurde nicht gespeichert: %1.", u"The template was not saved: %1."},
+    {of(Fault::NoTemplateToReplace),
+     u"Die Vorlage wurde nicht gespeichert: Die Datei ist schon vorhanden und keine Vorlage. Wählen Sie einen anderen "
+     u"Namen.",
+     u"The template was not saved: the file is there already and is no template. Choose another name."},
+    {of(Fault::TemplateNotUtf8),
+     u"Die Vorlage ist beschädigt: Sie beginnt als UTF-8, enthält aber anderes. Nehmen Sie eine andere Kopie oder "
+     u"speichern Sie sie neu.",
+     u"The template is damaged: it begins as UTF-8 but holds something else. Use another copy of it or save it again."},
     {of(Fault::TemplateFamilyMissing), u"Die Vorlage gehört zu einer Familiendatenbank, die nicht vorhanden ist: %1.",
      u"The template belongs to a family database that does not exist: %1."},
     {of(Fault::DriveUnknown),
@@ -197,7 +210,6 @@ constexpr CatalogueText Texts[] = {
      u"No folder is known for its drive letter; name it in Kalvenor.ini, section [Laufwerke]."},
     {of(Fault::MarksNotPutBack), u"Einige Markierungen wurden geändert und konnten nicht zurückgenommen werden.",
      u"Some marks were changed and could not be put back."},
-    {of(Fault::ChangeTitle), u"Ändern Sie den Titel.", u"Change the title."},
     {of(Fault::FormerNotReopened),
      u"Auch die vorige Datenbank konnte nicht wieder geöffnet werden. Beenden Sie das Programm und starten Sie es neu.",
      u"The former database could not be opened again either. Quit the program and start it again."},

@@ -28,6 +28,9 @@ constexpr CatalogueText Texts[] = {
      u"Picture conversion is not available; the picture is saved as BMP."},
     {Text::ReportFailed, u"Der Bericht konnte nicht erstellt werden: %1", u"The report could not be made: %1"},
     {Text::ErrorPrefix, u"Fehler:", u"Error:"},
+    {Text::PictureCopyFailed,
+     u"Der Bericht ist vollständig; nur die Kopie der Grafik für das Hauptprogramm konnte nicht geschrieben werden: %1",
+     u"The report is complete; only the copy of the chart for the main program could not be written: %1"},
     // About box
     {Text::AboutKalvenor, u"Über Kalvenor", u"About Kalvenor"},
     {Text::EventSymbols, u"Zeichen der Ereignisse", u"Symbols of the events"},
@@ -95,6 +98,10 @@ constexpr CatalogueText Texts[] = {
     {Text::OpeningTemplate, u"Die Vorlage wird geöffnet ...", u"The template is being opened ..."},
     {Text::NoTemplate, u"Keine Vorlage", u"No template"},
     {Text::Untitled, u"Unbenannt", u"Untitled"},
+    {Text::TemplateLastLineOpen,
+     u"Die letzte Zeile der Vorlage, Person %1, hat kein Zeilenende. Wurde die Datei abgeschnitten, so ist vielleicht "
+     u"eine andere Person gemeint.",
+     u"The last line of the template, person %1, has no line end. If the file was cut, another person may be meant."},
 };
 
 } // namespace

@@ -396,6 +396,7 @@ enum class Text : qint16 {
     NoPictureConversion = 21052,
     ReportFailed = 21053,
     ErrorPrefix = 21054,
+    PictureCopyFailed = 21055,
     AboutKalvenor = 21100,
     EventSymbols = 21101,
     LibrariesUsed = 21102,
@@ -446,6 +447,7 @@ enum class Text : qint16 {
     OpeningTemplate = 21409,
     NoTemplate = 21410,
     Untitled = 21412,
+    TemplateLastLineOpen = 21414,
 };
 
 } // namespace kalvenor::language

@@ -67,6 +67,9 @@ enum class ErrorKind {
     F(NotWritten, 22045, WriteFailed)                         \
     F(NotRenamed, 22046, WriteFailed)                         \
     F(FolderNotMade, 22047, WriteFailed)                      \
+    F(TargetIsDatabase, 22048, Refused)                       \
+    F(TargetIsHostSettings, 22049, Refused)                   \
+    F(TargetIsLink, 22039, Refused)                           \
     /* Pages, printing, charts, pictures */                   \
     F(LineTooHigh, 22050, InvalidProcedureCall)               \
     F(NoRoomOnPaper, 22051, InvalidProcedureCall)             \
@@ -84,7 +87,6 @@ enum class ErrorKind {
     F(NoPicture, 22065, InvalidProcedureCall)                 \
     F(NoPictureRoom, 22066, InvalidProcedureCall)             \
     F(PageUnfinished, 22067, WriteFailed)                     \
-    F(CopyNotDeleted, 22069, WriteFailed)                     \
     F(WildcardInName, 22070, InvalidProcedureCall)            \
     /* Statistics */                                          \
     F(DayOutOfRange, 22080, Overflow)                         \
@@ -107,12 +109,12 @@ enum class ErrorKind {
     F(TemplateTextExpected, 22105, Damaged)                   \
     F(TemplateNumberExpected, 22106, Damaged)                 \
     F(TemplateTruthExpected, 22107, Damaged)                  \
-    F(TemplateCharacters, 22108, Refused)                     \
     F(TemplateNotSaved, 22109, WriteFailed)                   \
+    F(NoTemplateToReplace, 22116, Refused)                    \
+    F(TemplateNotUtf8, 22117, Damaged)                        \
     F(TemplateFamilyMissing, 22110, FileNotFound)             \
     F(DriveUnknown, 22111, FileNotFound)                      \
     F(MarksNotPutBack, 22112, WriteFailed)                    \
-    F(ChangeTitle, 22115, Refused)                            \
     F(FormerNotReopened, 22113, Refused)                      \
     /* Words: the values of a template */                     \
     F(WordFamily, 22120, Refused)                             \

@@ -12,6 +12,8 @@ namespace kalvenor::basic {
 
 namespace {
 
+constexpr char EndOfText = '\x1A'; // Ctrl-Z, with which old editors end a file
+
 bool isBlank(char c)
 {
     return c == ' ' || c == '\t';
@@ -43,6 +45,11 @@ void SequentialWriter::writeTruth(bool truth)
 SequentialReader::SequentialReader(QByteArray content, QString file)
     : m_content(std::move(content)), m_file(std::move(file))
 {
+    qsizetype end = m_content.size();
+    while (end > 0 && (isBlank(at(end - 1)) || isLineEnd(end - 1) || at(end - 1) == EndOfText))
+        --end;
+    if (m_content.indexOf(EndOfText, end) >= 0)
+        m_content.replace(end, m_content.size() - end, "\r\n");
 }
 
 bool SequentialReader::atEnd() const

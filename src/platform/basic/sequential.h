@@ -32,7 +32,8 @@ struct SequentialItem {
 };
 
 /// Reads values one by one: blanks and tabs before a value are skipped, a quoted one runs to its closing quote over
-/// line ends, another one to a comma or line end (CR LF, LF or CR). Throws Error(Damaged), naming file and line.
+/// line ends, another one to a comma or line end (CR LF, LF or CR). A Ctrl-Z at the end counts as a line end. Throws
+/// Error(Damaged), naming file and line.
 class SequentialReader {
 public:
     /// `file` is named in errors.

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/storage/replacement.h"
 
+#include <QDateTime>
 #include <QFileInfo>
-#include <QRandomGenerator>
 
 using namespace Qt::StringLiterals;
 
@@ -13,32 +13,37 @@ namespace {
 
 constexpr qsizetype BytesAWrite = 64 * 1024;
 
-/// What the last of the links leads to, whether it is there or not.
-QString withoutLinks(const QString &file)
+/// A file beside another one that nobody has written to for so long belongs to a run that was killed.
+constexpr qint64 LeftBehindAfterSeconds = 24 * 60 * 60;
+
+bool isLeftBehind(const QString &file)
 {
-    constexpr int mostLinks = 40;
-    QString target = file;
-    for (int i = 0; i < mostLinks && QFileInfo(target).isSymLink(); ++i)
-        target = QFileInfo(target).symLinkTarget();
-    return target;
+    const QFileInfo info(file);
+    return info.isFile() && !info.isSymLink() &&
+           info.lastModified().secsTo(QDateTime::currentDateTime()) > LeftBehindAfterSeconds;
 }
 
 } // namespace
 
-Replacement::Replacement(const QString &nativeFile)
+Replacement::Replacement(const QString &nativeFile, Origin origin)
 {
     if (nativeFile.isEmpty()) {
         fail(u"no file name was given"_s);
         return;
     }
+    checkNames(nativeFile, origin);
     // A rename would replace even a file that may not be written, or a folder that is empty.
     QString reason;
-    const FileFault fault = File::open(nativeFile, File::Mode::ReadWrite, &reason).fault();
-    if (fault != FileFault::None && fault != FileFault::NotFound) {
+    const File old = File::open(nativeFile, File::Mode::ReadWrite, &reason);
+    if (!old.isOpen() && old.fault() != FileFault::NotFound) {
         fail(reason);
         return;
     }
-    m_target = withoutLinks(nativeFile);
+    if (old.isOpen() && !checkContent(nativeFile, old, origin)) {
+        fail(old.errorText());
+        return;
+    }
+    m_target = origin == Origin::Beside ? nativeFile : withoutLinks(nativeFile);
     create();
 }
 
@@ -47,13 +52,15 @@ Replacement::~Replacement()
     drop();
 }
 
+/// Beside the target, under the first free of a few names: what a killed run left there is found again and removed.
 bool Replacement::create()
 {
-    constexpr int attempts = 20; // of 2^32 names
+    constexpr int names = 20;
     SystemError error = 0;
-    for (int i = 0; i < attempts; ++i) {
-        const QString name =
-            u"%1.%2"_s.arg(m_target).arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0'));
+    for (int i = 1; i <= names; ++i) {
+        const QString name = u"%1.kalvenor%2"_s.arg(m_target).arg(i);
+        if (isLeftBehind(name))
+            currentStorage().remove(name); // where that fails, the next name is tried
         Opened opened = currentStorage().create(name, m_target);
         if (opened.file) {
             m_file = std::move(opened.file);
@@ -128,9 +135,9 @@ bool Replacement::commit()
     return true;
 }
 
-bool replaceFileSafely(const QString &nativeFile, QByteArrayView content, QString *whatFailed)
+bool replaceFileSafely(const QString &nativeFile, QByteArrayView content, QString *whatFailed, Origin origin)
 {
-    Replacement file(nativeFile);
+    Replacement file(nativeFile, origin);
     file.append(content);
     if (file.commit())
         return true;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/storage/file.h"
+#include "platform/storage/gate.h"
 #include <QByteArray>
 #include <QByteArrayView>
 
@@ -13,8 +14,8 @@ namespace kalvenor::storage {
 /// permissions stay; a symbolic link stays and its target is replaced. A failure is remembered: what follows it fails.
 class Replacement {
 public:
-    /// `nativeFile` may be there or not. Fails where it cannot be written.
-    explicit Replacement(const QString &nativeFile);
+    /// `nativeFile` may be there or not. Fails where it cannot be written; throws as checkTarget.
+    explicit Replacement(const QString &nativeFile, Origin origin = Origin::Named);
     ~Replacement();
     Replacement(const Replacement &) = delete;
     Replacement &operator=(const Replacement &) = delete;
@@ -41,7 +42,8 @@ private:
 };
 
 /// The same for content that is at hand. On failure the old file is untouched and `whatFailed` (may be null) gets the
-/// reason.
-bool replaceFileSafely(const QString &nativeFile, QByteArrayView content, QString *whatFailed);
+/// reason. Throws as checkTarget.
+bool replaceFileSafely(const QString &nativeFile, QByteArrayView content, QString *whatFailed,
+                       Origin origin = Origin::Named);
 
 } // namespace kalvenor::storage

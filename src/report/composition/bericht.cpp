@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "report/composition/bericht.h"
 
-#include "language/texts/sprache.h"
+#include "language/texts/errormessage.h"
 #include "platform/basic/text.h"
 #include "platform/chart/chartpicture.h"
 #include "platform/print/htmlwriter.h"
 #include "platform/print/richtextblocks.h"
 #include "platform/print/rtffile.h"
 #include "platform/richtext/rtfreader.h"
+#include "platform/storage/gate.h"
 #include "report/composition/agelisttable.h"
 #include "report/export/htmlexport.h"
 #include "report/export/rtfanpassen.h"
@@ -98,6 +99,10 @@ QString Bericht::auswahldrucken(const ReportContent &content, print::ExportTarge
     initladen();
     if (target.format == print::ExportFormat::Html)
         target.file = exportName(target.file, reportName, m_session.language.text(Text::ReportName), u".html"_s);
+    if (target.format != print::ExportFormat::Pages) // before any picture is made
+        storage::checkTarget(host.native(target.file), storage::Origin::Named);
+    if (target.format == print::ExportFormat::Html)
+        storage::checkTarget(host.native(rawPage(target.file)), storage::Origin::Beside);
     NewPictures newPictures(host, picturesBeside(target));
     print::PrintDocument document = compose(content, target, progress);
     showHint();
@@ -194,10 +199,10 @@ void Bericht::addChart(print::PrintDocument &document, const ReportContent &cont
     bildgroesse(m_session.host, chart, print, static_cast<qint16>(std::min(width, 32767)), height);
 
     QString file;
-    if (target.format != print::ExportFormat::Pages)
+    if (target.format == print::ExportFormat::Html)
         file = writePicture(print.Image, target);
-    if (target.format != print::ExportFormat::Html)
-        file.clear(); // a copy for the host program
+    else if (target.format != print::ExportFormat::Pages)
+        copyForHost(print.Image, target);
     if (!file.isEmpty())
         document.add(print::Paragraph{.text = chartTag(file), .spaceAfter = Gap});
     document.add(print::Picture{.image = print.Image,
@@ -278,6 +283,18 @@ QString Bericht::writePicture(const QImage &picture, const print::ExportTarget &
         QDir().mkpath(m_session.host.native(folderOf(written))); // where that fails, writing says so
     m_pictures.bildkonvertieren({.Image = picture}, written, type);
     return m_session.host.dir(written).isEmpty() ? QString() : written;
+}
+
+/// The picture in the host program's folder, which the report does without: a failure is told and ends nothing.
+void Bericht::copyForHost(const QImage &picture, const print::ExportTarget &target)
+{
+    try {
+        writePicture(picture, target);
+    } catch (const basic::Error &error) {
+        language::Sprachmodul &texts = m_session.language;
+        m_session.host.desktop().messageBox(
+            texts.text(Text::PictureCopyFailed).arg(language::errorMessage(texts, error)), 0, texts.text(Text::Error));
+    }
 }
 
 void Bericht::showHint()

@@ -64,6 +64,7 @@ private:
     QString chartFile(const print::ExportTarget &target) const;
     QStringList picturesBeside(const print::ExportTarget &target) const;
     QString writePicture(const QImage &picture, const print::ExportTarget &target);
+    void copyForHost(const QImage &picture, const print::ExportTarget &target);
     void showHint();
 
     data::Session &m_session;

@@ -54,7 +54,7 @@ void writeBmp(const QImage &image, const QString &nativeFile)
     if (!writer.write(onPaper(image)))
         cannotWrite(nativeFile, writer.errorString());
     QString reason;
-    if (!storage::replaceFileSafely(nativeFile, bytes.data(), &reason))
+    if (!storage::replaceFileSafely(nativeFile, bytes.data(), &reason, storage::Origin::Beside))
         cannotWrite(nativeFile, reason);
 }
 
@@ -90,6 +90,8 @@ void Bildumwandlung::bildkonvertieren(const PictureControl &control, QString &fi
 
     const QString base = basic::leftPart(file, file.lastIndexOf(u'.') + 1);
     const QString bmp = base + u"bmp"_s;
+    for (const QString &written : QStringList{bmp, base + type, base + u"BMP"_s}) // components know nothing of links
+        storage::checkTarget(m_host.native(written), storage::Origin::Beside);
     if (!m_host.dir(bmp).isEmpty())
         QFile::remove(m_host.native(bmp)); // where that fails, writing says so
     const QString nativeBmp = m_host.native(bmp);

@@ -13,16 +13,20 @@ struct Vorlage {
     QString familienpfad;            ///< line 1: of the family database, in Windows notation
     statistics::Statistik statistik; ///< lines 2 to 10
     std::vector<qint32> counters;    ///< the marked persons, a line each
+    bool lastIsOpen = false;         ///< read from a file that ends behind the last person's number without a line end
     bool operator==(const Vorlage &) const = default;
 };
 
-/// Reads and checks the whole file. A file that ends inside a line is refused, for it would name another person; one
-/// that was cut behind a line cannot be told from a shorter template. Throws Error (FileNotFound, FileUnreadable,
-/// Damaged) naming file and line. `nativeFile` is a native path.
+/// Reads and checks the whole file: Windows-1252, or UTF-8 with a byte order mark. A file that ends inside its first
+/// ten lines is refused. A number that ends the file without a line end is taken as it stands and told (lastIsOpen):
+/// such is what some editors leave, but a file cut inside the number would name another person, and nothing in it can
+/// tell. One that was cut behind a line cannot be told from a shorter template. Throws Error (FileNotFound,
+/// FileUnreadable, Damaged) naming file and line. `nativeFile` is a native path.
 Vorlage readVorlage(const QString &nativeFile);
 
-/// Writes the file, in one step: the old or the new one is there, whatever happens. Throws Error: Refused where path or
-/// title hold characters beyond Windows-1252, which a template cannot keep; WriteFailed.
+/// Writes the file, in one step: the old or the new one is there, whatever happens. In Windows-1252 where path and
+/// title fit it, else in UTF-8 with a byte order mark. Throws Error: Refused where something else than a template or an
+/// empty file is there; WriteFailed.
 void writeVorlage(const QString &nativeFile, const Vorlage &vorlage);
 
 } // namespace kalvenor::selection

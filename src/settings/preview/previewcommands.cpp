@@ -5,6 +5,7 @@
 #include "host/hauptform.h"
 #include "language/texts/sprache.h"
 #include "platform/print/pdfwriter.h"
+#include "platform/storage/gate.h"
 #include "settings/dialog/seiteneinrichtung.h"
 #include "settings/preview/druckanzeige.h"
 #include "settings/preview/pageview.h"
@@ -97,6 +98,8 @@ void PreviewCommands::print()
     const bool toFile = !printer.outputFileName().isEmpty();
     if (!toFile && printer.printerName().isEmpty())
         throw basic::Error(basic::Fault::NoPrinter);
+    if (toFile)
+        storage::checkTarget(printer.outputFileName(), storage::Origin::Named);
     const std::vector<int> pages = pagesToPrint(pageCount, printChoice(printer, m_view.currentPage()));
     if (pages.empty())
         throw basic::Error(basic::Fault::NoPagesInRange);

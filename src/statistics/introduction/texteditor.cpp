@@ -4,6 +4,7 @@
 
 #include "host/host.h"
 #include "language/forms/widgetform.h"
+#include "language/texts/errormessage.h"
 #include "language/texts/sprache.h"
 #include "platform/richtext/rtfreader.h"
 #include "platform/richtext/rtfwriter.h"
@@ -164,7 +165,13 @@ void TextEditor::saveText()
     QString why;
     // Plain text or nothing, not edited, is not yet the RTF that the file's name promises.
     const QByteArray content = richtext::looksLikeRtf(rtf()) ? rtf() : richtext::writeRtf(*m_field->document());
-    if (storage::replaceFileSafely(file, content, &why))
+    bool saved = false;
+    try {
+        saved = storage::replaceFileSafely(file, content, &why);
+    } catch (const basic::Error &error) {
+        why = language::errorSentence(m_texts, error);
+    }
+    if (saved)
         Q_EMIT said(m_texts.text(Text::TextSaved).arg(QDir::toNativeSeparators(file)));
     else
         showError(m_texts.text(Text::TextNotSaved).arg(QDir::toNativeSeparators(file), why));

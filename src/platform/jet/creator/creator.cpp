@@ -109,7 +109,7 @@ void Creator::write(const QString &file, std::uint32_t encodingKey)
     if (!m_impl->isComplete)
         m_impl->complete();
     PageStore &store = m_impl->store;
-    storage::Replacement out(file);
+    storage::Replacement out(file, storage::Origin::NewHost);
     const auto check = [&](bool success) {
         if (!success)
             throw basic::Error(basic::ErrorKind::WriteFailed, file, u"Cannot be written: %1"_s.arg(out.errorText()));
