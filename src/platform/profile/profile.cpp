@@ -3,12 +3,15 @@
 #include "platform/profile/profile.h"
 
 #include <algorithm>
+#include <functional>
 
 #include <QFileInfo>
 #include <QStringView>
 
 #include "platform/basic/codepage.h"
+#include "platform/basic/error.h"
 #include "platform/storage/replacement.h"
+#include "platform/storage/writerlock.h"
 
 using namespace Qt::StringLiterals;
 
@@ -199,8 +202,6 @@ void insertLines(QString &text, qsizetype at, const QString &lines)
 // The file's content for a change; nothing where it cannot be read or its folder is missing.
 std::optional<Units> contentToChange(const QString &nativeFile)
 {
-    if (nativeFile.isEmpty())
-        return std::nullopt;
     storage::FileFault fault = storage::FileFault::None;
     Units file(readWhole(nativeFile, fault));
     if (fault == storage::FileFault::NotFound ? !QFileInfo(QFileInfo(nativeFile).absolutePath()).isDir()
@@ -236,6 +237,24 @@ bool change(Units &file, const QByteArray &section, const std::optional<QByteArr
     return true;
 }
 
+// Reads the file, changes it and writes it anew where `edit` says that it changed something. No other of our programs
+// does so meanwhile, or one would lose the other's keys.
+bool changeFile(const QString &nativeFile, const std::function<bool(Units &)> &edit)
+{
+    if (nativeFile.isEmpty())
+        return false;
+    const storage::WriterLock lock(nativeFile);
+    std::optional<Units> file = contentToChange(nativeFile);
+    if (!lock.isHeld() || !file)
+        return false;
+    try {
+        return !edit(*file) ||
+               storage::replaceFileSafely(nativeFile, file->toBytes(), nullptr, storage::Origin::Settings);
+    } catch (const basic::Error &) { // as the platform's functions, which know no reason
+        return false;
+    }
+}
+
 } // namespace
 
 QByteArray getPrivateProfileString(const QByteArray &section, const QByteArray &key, const QByteArray &fallback,
@@ -260,22 +279,16 @@ QByteArray getPrivateProfileString(const QByteArray &section, const QByteArray &
 bool writePrivateProfileString(const QByteArray &section, const std::optional<QByteArray> &key,
                                const std::optional<QByteArray> &value, const QString &nativeFile)
 {
-    std::optional<Units> file = contentToChange(nativeFile);
-    if (!file)
-        return false;
-    return !change(*file, section, key, value) || storage::replaceFileSafely(nativeFile, file->toBytes(), nullptr);
+    return changeFile(nativeFile, [&](Units &file) { return change(file, section, key, value); });
 }
 
 bool writePrivateProfileStrings(std::span<const ProfileValue> values, const QString &nativeFile)
 {
-    if (values.empty())
-        return true;
-    std::optional<Units> file = contentToChange(nativeFile);
-    if (!file)
-        return false;
-    for (const ProfileValue &each : values)
-        change(*file, each.section, each.key, each.value);
-    return storage::replaceFileSafely(nativeFile, file->toBytes(), nullptr);
+    return values.empty() || changeFile(nativeFile, [values](Units &file) {
+               for (const ProfileValue &each : values)
+                   change(file, each.section, each.key, each.value);
+               return true;
+           });
 }
 
 } // namespace kalvenor::profile

@@ -5,8 +5,11 @@
 #include "../../support/faultystorage.h"
 
 #include <gtest/gtest.h>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <thread>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -178,6 +181,30 @@ TEST_F(Profile, WriteMakesOrRefuses)
     EXPECT_FALSE(writePrivateProfileString("Sec", "Key", "1", m_folder.filePath(u"fehlt/x.ini"_s)));
     EXPECT_FALSE(writePrivateProfileString("Sec", "Key", {}, m_folder.filePath(u"fehlt/x.ini"_s)));
     EXPECT_FALSE(writePrivateProfileString("Sec", "Key", "1", m_folder.path()));
+}
+
+TEST_F(Profile, WritersLoseNoKeysOfEachOther)
+{
+    constexpr int writers = 4, keys = 50;
+    std::vector<std::thread> threads;
+    for (int writer = 0; writer < writers; ++writer)
+        threads.emplace_back([this, writer] {
+            for (int key = 0; key < keys; ++key)
+                EXPECT_TRUE(
+                    writePrivateProfileString(QByteArray::number(writer), QByteArray::number(key), "x", m_file));
+        });
+    for (std::thread &thread : threads)
+        thread.join();
+    EXPECT_EQ(get().count("=x"), writers * keys);
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1) << "no lock stays";
+}
+
+TEST_F(Profile, ADatabaseIsNeverWritten)
+{
+    const QByteArray database = QByteArray("\0\1\0\0Standard Jet DB\0\1", 21) + QByteArray(100, '\0');
+    put(database);
+    EXPECT_FALSE(writePrivateProfileString("Sec", "Key", "1", m_file));
+    EXPECT_EQ(get(), database);
 }
 
 TEST_F(Profile, StaysWholeWhereTheDiskFails)
