@@ -424,5 +424,28 @@ TEST_F(CommandLine, TemplatesKeepThePersonsAndTheOptions)
         EXPECT_EQ(refused.exitCode, 1);
         EXPECT_TRUE(refused.err.contains("intro.rtf")) << refused.err.toStdString();
     }
+    const QString family = folder->filePath("QV/Daten/Familie.mdb"), link = folder->filePath("link.kvl");
+    ASSERT_TRUE(QFile::link(family, link));
+    for (const QString &target : {family, link}) {
+        const Outcome refused = run({"template", "save", "--program", folder->filePath("QV/Kalvenor"), target});
+        EXPECT_NE(refused.exitCode, 0) << target.toStdString();
+        EXPECT_TRUE(refused.err.contains("Familie.mdb")) << refused.err.toStdString();
+    }
+    ASSERT_TRUE(QFile::remove(link));
     EXPECT_EQ(familyBytes(), before);
 }
+
+#ifndef Q_OS_WIN
+TEST_F(CommandLine, AFileBeyondTheUsersLimitIsTold)
+{
+    const QString file = folder->filePath("limited.kvl");
+    QProcess process;
+    process.start("sh", {"-c", "ulimit -f 0; exec \"$@\"", "sh", KALVENOR_PROGRAM, "template", "save", "--program",
+                         folder->filePath("QV/Kalvenor"), file});
+    ASSERT_TRUE(process.waitForFinished(120'000));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 1);
+    EXPECT_TRUE(process.readAllStandardError().contains("limited.kvl"));
+    EXPECT_TRUE(QDir(folder->path()).entryList({"limited*"}).isEmpty());
+}
+#endif

@@ -147,6 +147,22 @@ TEST_F(Templates, NothingUnsavedIsLostWithoutAQuestion)
     EXPECT_EQ(selection::readVorlage(file("neu.kvl")).statistik.titel, "Neu");
 }
 
+TEST_F(Templates, TheDefaultOneLeavesTheMarks)
+{
+    const QString standard = program.host.native(program.host.programFolder() + "\\Standart.kvl");
+    write(standard, "\"\\nowhere.mdb\"\r\n\"T\"\r\n\"I\"\r\n9\r\n0\r\n1\r\n0\r\n0\r\n1\r\n#FALSE#\r\n1\r\n2\r\n");
+    select(PersonList::Unmarked, {3});
+    trigger("Markieren");
+    window->templates().openDefault();
+    EXPECT_TRUE(desktop.messages.empty());
+    EXPECT_EQ(marked(), Counters{3});
+    EXPECT_EQ(shown(PersonList::Marked), Counters{3});
+    EXPECT_EQ(panel().title().text(), "T");
+    EXPECT_EQ(panel().options(),
+              (statistics::Statistik{
+                  .grafiktyp = 9, .legende = false, .geschlechtalter = {1, 0, 0, 1}, .nachGeburtsjahr = false}));
+}
+
 TEST_F(Templates, AnotherFamilyDatabaseOrTheFormerOne)
 {
     const QString other = hostFolder() + "/Familie/andere.mdb";

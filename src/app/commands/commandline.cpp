@@ -317,10 +317,12 @@ void Parser::addTemplates()
                                                "prints what they would be");
     for (CLI::App *sub : {save, open, reset}) {
         addProgram(sub);
-        sub->add_option("FILE", words.file, "The template, ending in .kvl")
-            ->type_name("")
-            ->check(NotEmpty)
-            ->required(sub != reset);
+        CLI::Option *file = sub->add_option("FILE", words.file, "The template, ending in .kvl");
+        file->type_name("")->required(sub != reset);
+        // One of another name is only read, never written.
+        file->check(sub == open
+                        ? NotEmpty
+                        : CLI::Validator(endingIn({u"kvl"_s}, "the template's file name must end in .kvl: "), ""));
     }
     save->add_option("--title", words.title, "The statistic's title")->type_name("T");
     save->add_option("--intro", words.intro, "The introduction, a file")->type_name("F.rtf");

@@ -15,9 +15,6 @@ namespace kalvenor::app {
 
 namespace {
 
-/// Numbers of persons that are named, of those that were not found.
-constexpr std::size_t NamedPersons = 20;
-
 QString sexText(qint16 men, qint16 women)
 {
     return u"%1%2"_s.arg(men == 1 ? "m" : "", women == 1 ? "w" : "");
@@ -74,6 +71,9 @@ int runTemplateOpen(const QString &programFolder, const QString &file, bool here
                   .arg(opened.found)
                   .arg(opened.missing.size())
                   .arg(missing.isEmpty() ? QString() : u" (%1)"_s.arg(missing.join(u", "_s))));
+    if (opened.vorlage.lastIsOpen)
+        printLine(u"last line:     has no end; if the file was cut, another person than %1 may be meant"_s.arg(
+            opened.vorlage.counters.back()));
     return started.done();
 }
 

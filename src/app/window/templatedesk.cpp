@@ -114,6 +114,10 @@ bool TemplateDesk::openFile(const QString &nativeFile)
     remember(nativeFile);
     m_panel.computeAll();
     Q_EMIT said(m_session.language.text(Text::Opened).arg(nativeFile));
+    if (opened.vorlage.lastIsOpen)
+        m_session.host.desktop().messageBox(
+            m_session.language.text(Text::TemplateLastLineOpen).arg(opened.vorlage.counters.back()), 0,
+            m_session.language.text(Text::OpenTemplate));
     if (!opened.missing.empty())
         m_session.host.desktop().messageBox(
             m_session.language.text(Text::TemplatePersonsMissing)
@@ -125,9 +129,16 @@ bool TemplateDesk::openFile(const QString &nativeFile)
 void TemplateDesk::openDefault()
 {
     const host::Host &host = m_session.host;
-    const QString file = host.programFolder() + DefaultTemplate;
-    if (!host.dir(file).isEmpty())
-        openFile(host.native(file));
+    const QString file = host.native(host.programFolder() + DefaultTemplate);
+    selection::Vorlage vorlage;
+    if (host.dir(host.programFolder() + DefaultTemplate).isEmpty() ||
+        !perform(m_session.language.text(Text::OpeningTemplate),
+                 [&](const basic::Progress &) { vorlage = selection::readVorlage(file); }))
+        return;
+    show(vorlage.statistik);
+    setCurrent(file);
+    m_panel.computeAll();
+    Q_EMIT said(m_session.language.text(Text::Opened).arg(file));
 }
 
 // Saving

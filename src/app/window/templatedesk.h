@@ -30,7 +30,8 @@ public:
 
     void open();
     bool openFile(const QString &nativeFile);
-    /// The default template of the program's folder, where there is one.
+    /// Title, introduction and options of the default template of the program's folder, where there is one. The marks
+    /// stay: they are the database's own at the start.
     void openDefault();
     bool save();
     bool saveAs();
