@@ -15,6 +15,9 @@ namespace kalvenor::app {
 
 namespace {
 
+/// Numbers of persons that are named, of those that were not found.
+constexpr std::size_t NamedPersons = 20;
+
 QString sexText(qint16 men, qint16 women)
 {
     return u"%1%2"_s.arg(men == 1 ? "m" : "", women == 1 ? "w" : "");
