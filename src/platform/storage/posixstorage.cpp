@@ -5,6 +5,7 @@
 #ifndef Q_OS_WIN
 
 #include <cerrno>
+#include <csignal>
 #include <fcntl.h>
 #include <QFile>
 #include <sys/stat.h>
@@ -177,6 +178,11 @@ public:
 };
 
 } // namespace
+
+void tellFileSizeLimit()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+}
 
 Storage &systemStorage()
 {

@@ -76,6 +76,9 @@ public:
 /// The operating system's own.
 Storage &systemStorage();
 
+/// Lets a write beyond the size that the user may give a file fail, and so be told, instead of ending the program.
+void tellFileSizeLimit();
+
 /// The one in use: the system's, but for tests.
 Storage &currentStorage();
 

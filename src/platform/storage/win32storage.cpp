@@ -163,6 +163,8 @@ public:
 
 } // namespace
 
+void tellFileSizeLimit() {} // it is always an error here
+
 Storage &systemStorage()
 {
     static Win32Storage storage;

@@ -115,7 +115,7 @@ TEST(Damage, EachCaseEndsInItsErrorOrWarning)
          [](Pages &p, const Places &at) {
              p.put(at.definition, 8, 4, 0xffffffff);
          }},
-        {"content short", 3343, 0, "WordCutShort",
+        {"content short", 3343, 0, "WordColumnsCut",
          [](Pages &p, const Places &at) {
              p.put(at.definition, 8, 4, 130);
          }},
