@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Any bytes as a profile file: a value that is written is read, another key keeps its value, and what was deleted is
 // gone.
-#include "workfile.h"
 #include "platform/profile/profile.h"
+#include "workfile.h"
 
 using namespace kalvenor::profile;
 

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Any text as the name of a filter and as a whole statement: only Error comes out, and whatever it says, nothing but
 // mark bits changes in the file.
-#include "workfile.h"
 #include "platform/basic/error.h"
 #include "platform/dao/dao.h"
 #include "platform/jet/creator/creator.h"
 #include "selection/filter/filtern.h"
+#include "workfile.h"
 
 using namespace kalvenor;
 using namespace Qt::StringLiterals;

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Any bytes as a selection template: it is refused with an Error, or written and read the same again.
-#include "workfile.h"
 #include "platform/basic/error.h"
 #include "selection/templates/vorlage.h"
+#include "workfile.h"
 
 using namespace kalvenor;
 

@@ -54,7 +54,8 @@ struct OnTop : testing::Test, test::Installation {
     void SetUp() override
     {
         if (QGuiApplication::platformName() != u"xcb" || QStandardPaths::findExecutable("xprop").isEmpty())
-            GTEST_SKIP() << "asks an X server with xprop: part of Desktop.Window (apt-get install xvfb openbox x11-utils)";
+            GTEST_SKIP()
+                << "asks an X server with xprop: part of Desktop.Window (apt-get install xvfb openbox x11-utils)";
         program.host.inischreiben(settings(), "Ansicht", "AddInonTop", "1");
         program.Main([this] {
             window = std::make_unique<app::Auswahl>(program);

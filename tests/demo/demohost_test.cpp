@@ -68,9 +68,12 @@ TEST(DemoHost, RefusesWithAClearErrorAndLeavesNothingBehind)
         int persons;
         basic::Fault fault;
     } cases[] = {
-        {u"a"_s, 0, basic::Fault::DemoSize},         {u"a"_s, -3, basic::Fault::DemoSize},
-        {u"a"_s, 2'000'001, basic::Fault::DemoSize}, {u"full"_s, 10, basic::Fault::FolderNotEmpty},
-        {u"file"_s, 10, basic::Fault::FileInTheWay}, {u"plain/below"_s, 10, basic::Fault::FolderNotMade},
+        {u"a"_s, 0, basic::Fault::DemoSize},
+        {u"a"_s, -3, basic::Fault::DemoSize},
+        {u"a"_s, 2'000'001, basic::Fault::DemoSize},
+        {u"full"_s, 10, basic::Fault::FolderNotEmpty},
+        {u"file"_s, 10, basic::Fault::FileInTheWay},
+        {u"plain/below"_s, 10, basic::Fault::FolderNotMade},
         {QString(250, u'x'), 10, basic::Fault::PathTooLong},
     };
     for (const auto &row : cases) {

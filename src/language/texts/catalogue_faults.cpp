@@ -89,7 +89,8 @@ constexpr CatalogueText Texts[] = {
      u"%1 heißt wie die Einstellungen des Hauptprogramms und wird nicht überschrieben. Wählen Sie einen anderen Namen.",
      u"%1 is called like the main program's settings and is not overwritten. Choose another name."},
     {of(Fault::TargetIsLink),
-     u"Diese Datei gehört zum Bericht, ist hier aber eine Verknüpfung auf eine andere. Löschen Sie die Verknüpfung oder "
+     u"Diese Datei gehört zum Bericht, ist hier aber eine Verknüpfung auf eine andere. Löschen Sie die Verknüpfung "
+     u"oder "
      u"wählen Sie einen anderen Namen für den Bericht.",
      u"This file belongs to the report, but here it is a link to another one. Delete the link or choose another name "
      u"for the report."},

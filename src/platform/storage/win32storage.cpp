@@ -163,7 +163,9 @@ public:
 
 } // namespace
 
-void tellFileSizeLimit() {} // it is always an error here
+void tellFileSizeLimit()
+{
+} // it is always an error here
 
 Storage &systemStorage()
 {
