@@ -9,6 +9,8 @@
 #include "platform/jet/reader/database.h"
 #include "support/fixtures.h"
 #include <gtest/gtest.h>
+#include <QDateTime>
+#include <QFile>
 #include <QTemporaryDir>
 
 namespace kalvenor {
@@ -61,6 +63,11 @@ protected:
         };
         file = folder.filePath(u"familie.mdb"_s);
         writeFamily(file, persons);
+        // So that what a test writes right afterwards has another time: the clock of files ticks in milliseconds.
+        QFile made(file);
+        ASSERT_TRUE(made.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(made.setFileTime(QDateTime::currentDateTime().addSecs(-60), QFileDevice::FileModificationTime));
+        made.close();
         database = engine.openDatabase(file);
     }
 
