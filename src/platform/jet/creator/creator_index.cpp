@@ -263,7 +263,7 @@ IndexEntries::Tree IndexEntries::write(PageStore &store, std::uint32_t owner) co
             entry = lastEntries[child];
             // The entry of a node below ends with that node's child, which gives way to the node itself.
             if (!overLeaves)
-                entry.resize(entry.size() - 4);
+                entry.erase(entry.end() - 4, entry.end());
             appendBigEndian(children[child], entry);
             nodes.add(entry);
         }
