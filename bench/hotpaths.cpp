@@ -4,6 +4,7 @@
 #include "platform/jet/order/sortkey.h"
 #include "platform/print/pdfwriter.h"
 #include "statistics/ages/alter.h"
+#include "statistics/ages/altersliste.h"
 #include "statistics/figures/grafik.h"
 
 #include <benchmark/benchmark.h>
@@ -69,7 +70,9 @@ void ageLine(benchmark::State &state)
 {
     qsizetype i = 0;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(statistics::alterszeile(static_cast<double>(i % 36'500), names()[i % names().size()]));
+        const statistics::Alterszeile line{.tage = static_cast<double>(i % 36'500),
+                                           .listname = names()[i % names().size()]};
+        benchmark::DoNotOptimize(line.text());
         ++i;
     }
 }
@@ -80,7 +83,7 @@ void chartPerson(benchmark::State &state)
     statistics::Grafikermittlung figures({});
     int i = 0;
     for (auto _ : state) {
-        const double birth = -i * 7919LL % 146'000;
+        const auto birth = static_cast<double>(-i * 7919LL % 146'000);
         figures.add(birth, birth + i % 36'500,
                     i % 2 == 0 ? statistics::Geschlecht::Mann : statistics::Geschlecht::Frau);
         ++i;

@@ -4,6 +4,7 @@
 // the commands `ages` and `chart` do, but both in one process.
 #include "app/commands/chartcommand.h"
 #include "app/start/startedprogram.h"
+#include "statistics/ages/altersliste.h"
 #include <cstdio>
 
 using namespace kalvenor;
