@@ -2,19 +2,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Any text as the name of a filter and as a whole statement: only Error comes out, and whatever it says, nothing but
 // mark bits changes in the file.
+#include "memorystorage.h"
 #include "platform/basic/error.h"
 #include "platform/dao/dao.h"
 #include "platform/jet/creator/creator.h"
 #include "selection/filter/filtern.h"
-#include "workfile.h"
+#include <cstdlib>
 
 using namespace kalvenor;
 using namespace Qt::StringLiterals;
 
 namespace {
 
+const QString File = u"/nowhere/fuzzed"_s;
+
 /// A table of persons, all of them marked or none.
-QByteArray family(const WorkFile &work, bool marked)
+MemoryStorage::Bytes family(MemoryStorage &storage, bool marked)
 {
     jet::Creator creator;
     auto &table = creator.addTable(u"Daten"_s,
@@ -25,8 +28,8 @@ QByteArray family(const WorkFile &work, bool marked)
                                    {{.name = u"Counter"_s, .columns = {u"Counter"_s}, .primary = true}});
     for (int person = 1; person <= 5; ++person)
         table.addRow({person, u"Weiß, Eva"_s, marked, -person * 9000});
-    creator.write(work.path());
-    return work.bytes();
+    creator.write(File);
+    return storage.bytes(File);
 }
 
 template <class Use>
@@ -42,25 +45,21 @@ void attempt(Use use)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    static const WorkFile Work;
-    static const QByteArray Marked = family(Work, true);
-    static const QByteArray Unmarked = family(Work, false);
+    static MemoryStorage storage;
+    static const MemoryStorage::Bytes Marked = family(storage, true);
+    static const MemoryStorage::Bytes Unmarked = family(storage, false);
     static dao::Engine engine;
-    static const auto Database = engine.openDatabase(Work.path());
+    static const auto Database = engine.openDatabase(File);
 
     const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
-    const QString narrowed =
-        selection::filtern({.Presse = text}, basic::DateOrder::DayMonthYear).queries[std::size_t(0)];
+    const QString narrowed = selection::filtern({.Presse = text}, basic::DateOrder::DayMonthYear).queries[0];
     attempt([&](const basic::Progress &progress) { Database->openQuery(narrowed, progress); });
     attempt([&](const basic::Progress &progress) { Database->openQuery(text, progress); });
     attempt([&](const basic::Progress &progress) { Database->execute(text, progress); });
 
-    const QByteArray now = Work.bytes();
-    if (now.size() != Unmarked.size())
-        std::abort();
-    for (qsizetype i = 0; i < now.size(); ++i) {
-        if (((now[i] ^ Unmarked[i]) & ~(Marked[i] ^ Unmarked[i])) != 0)
+    forEachDifference(Unmarked, storage.bytes(File), [](std::size_t at, std::uint8_t changed) {
+        if ((changed & ~(Marked[at] ^ Unmarked[at])) != 0)
             std::abort();
-    }
+    });
     return 0;
 }

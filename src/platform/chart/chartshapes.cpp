@@ -177,7 +177,7 @@ public:
             m_canvas.shape(rectangle({box.left(), middle.y(), box.width(), box.height() / 2}),
                            translucent(color, AreaAlpha), Qt::NoPen);
         if (m_subject.kind != ChartKind::Points)
-            m_canvas.shape(polyline({{{box.left(), middle.y()}, {box.right(), middle.y()}}}), {},
+            m_canvas.shape(polyline(QPolygonF{{box.left(), middle.y()}, {box.right(), middle.y()}}), {},
                            m_style.linePen(index));
         if (m_subject.kind != ChartKind::Steps)
             m_canvas.shape(mark(index, middle, std::min(MarkSize, box.height())), color, Qt::NoPen);
