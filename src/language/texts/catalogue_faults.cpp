@@ -406,6 +406,11 @@ constexpr CatalogueText Texts[] = {
     {of(Fault::RowNumbersHidden),
      u"Markierungen können nicht gesetzt werden: Ihre Spalten verdecken die Nummern der Zeilen.",
      u"Marks cannot be set: its columns hide the numbers of the rows."},
+    {of(Fault::PageLocked),
+     u"Ein anderes Programm hält Seite %1 der Datei seit über einer Sekunde gesperrt, weil es dort selbst schreibt. "
+     "Versuchen Sie es gleich noch einmal.",
+     u"Another program has kept page %1 of the file locked for more than a second, because it writes there itself. "
+     "Try again in a moment."},
     // Words: what is damaged in the definition of a table
     {of(Fault::WordPageBeyondEnd), u"ihre Seite liegt hinter dem Ende der Datei",
      u"its page is beyond the end of the file"},

@@ -219,6 +219,7 @@ enum class ErrorKind {
     F(RecordTooOld, 22292, NotMarkable)                       \
     F(NoKeyColumn, 22293, NotMarkable)                        \
     F(RowNumbersHidden, 22294, NotMarkable)                   \
+    F(PageLocked, 22295, WriteFailed)                         \
     /* Words: what is damaged in the definition of a table */ \
     F(WordPageBeyondEnd, 22300, Damaged)                      \
     F(WordOtherPage, 22301, Damaged)                          \

@@ -5,8 +5,11 @@
 #include "platform/basic/error.h"
 #include "platform/jet/creator/creator.h"
 #include "platform/jet/marks/markwriter.h"
+#include "platform/jet/marks/pagelock.h"
+#include "support/faultystorage.h"
 #include <array>
 #include <bit>
+#include <QDeadlineTimer>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -308,6 +311,88 @@ TEST_F(MarkWriterTest, ComparesEachPageWithTheFileBeforeItWrites)
             EXPECT_EQ(differentBits(before, readAll(m_file)), 1);
             EXPECT_TRUE(opened.database->isStale());
         }
+    }
+}
+
+TEST_F(MarkWriterTest, WaitsForWhoeverHasLockedThePage)
+{
+    makePersons(m_file, 3);
+    const Opened opened(m_file);
+    const QString lockFile = m_folder.filePath(u"familie.ldb"_s);
+    testing::writeAll(lockFile, {});
+    const std::uint32_t page = opened.table->place(0).recordPage;
+    const auto before = readAll(m_file);
+    const auto expectLocked = [&] {
+        const basic::Error error = errorOf([&] { opened.write({{0, true}}); });
+        EXPECT_EQ(error.fault(), basic::Fault::PageLocked) << error.what();
+        EXPECT_EQ(readAll(m_file), before);
+    };
+    { // as the engine does it: 256 bytes and its user's number
+        storage::File engine = storage::File::open(lockFile, storage::File::Mode::ReadWrite, nullptr);
+        ASSERT_EQ(engine.lock(0x20000001 + page * 0x200, 256 + 7), storage::File::Lock::Taken);
+        expectLocked();
+    }
+    ASSERT_TRUE(QFile::remove(lockFile));
+    storage::File other = storage::File::open(m_file, storage::File::Mode::ReadWrite, nullptr);
+    PageLocks locks(other, m_file);
+    {
+        const PageLock lock(locks, page);
+        expectLocked();
+    }
+    const PageLock lock(locks, page + 1);
+    EXPECT_EQ(opened.write({{0, true}}).size(), 1U);
+}
+
+TEST_F(MarkWriterTest, NoticesWhatOthersWriteMeanwhile)
+{
+    test::FaultyStorage storage;
+    std::optional<Opened> opened;
+    makePersons(m_file, 40);
+    const auto original = readAll(m_file);
+    const RowPlace place = Opened(m_file).table->place(0);
+    const auto changeName = [&] {
+        QFile other(m_file);
+        ASSERT_TRUE(other.open(QIODevice::ReadWrite) && other.seek(place.recordPage * 4096 + place.recordStart + 20));
+        ASSERT_TRUE(other.putChar('x'));
+    };
+    bool refused = false;
+    const auto write = [&] {
+        refused = false;
+        try {
+            opened->write({{0, true}});
+        } catch (const basic::Error &error) {
+            refused = true;
+            EXPECT_EQ(error.fault(), basic::Fault::FileChanged) << error.what();
+        }
+    };
+    const auto check = [&](test::Call struck) {
+        EXPECT_EQ(Opened(m_file).marks()[0], !refused);
+        // At once, though the size is the same and perhaps the time: it was the page that was written.
+        EXPECT_EQ(opened->database->isStale(), struck != test::Call::None);
+    };
+    test::atEachCall(
+        storage, test::Fault::OtherFirst,
+        [&] {
+            opened.reset();
+            testing::writeAll(m_file, original);
+            opened.emplace(m_file);
+        },
+        write, check, changeName);
+}
+
+TEST_F(MarkWriterTest, ComparesTheFileWhereItsTimeSaysNothing)
+{
+    for (const std::uint32_t key : {0U, Key}) {
+        makePersons(m_file, 3, key);
+        const Opened opened(m_file);
+        QFile other(m_file);
+        ASSERT_TRUE(other.open(QIODevice::ReadWrite) && other.seek(4 * 4096 + 4000) && other.putChar('x'));
+        other.close();
+        opened.database->image()->setStamp(Image::stampOf(m_file)); // as if within one tick
+        const QDeadlineTimer limit(5000);
+        while (!opened.database->isStale() && !limit.hasExpired()) {
+        }
+        EXPECT_TRUE(opened.database->isStale());
     }
 }
 

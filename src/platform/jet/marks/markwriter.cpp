@@ -3,6 +3,7 @@
 #include "platform/jet/marks/markwriter.h"
 
 #include "platform/basic/error.h"
+#include "platform/jet/marks/pagelock.h"
 #include "platform/jet/reader/datapage.h"
 #include "platform/jet/reader/encoding.h"
 #include "platform/storage/file.h"
@@ -104,17 +105,27 @@ std::vector<std::int32_t> repeatedKeys(const Table &table, int keyColumn)
     return repeated;
 }
 
-/// The writes of one call: page by page, verified before and after.
+/// The writes of one call: page by page, each locked, verified before and after.
 class Run {
 public:
     Run(Image &image, const Table &table, const Column &key, const basic::Place &place, storage::File &file)
-        : m_image(image), m_table(table), m_key(key), m_place(place), m_file(file), m_raw(image.pageSize()),
-          m_plain(image.pageSize()), m_other(image.pageSize())
+        : m_image(image), m_table(table), m_key(key), m_place(place), m_file(file), m_locks(file, place.file),
+          m_raw(image.pageSize()), m_plain(image.pageSize()), m_other(image.pageSize())
     {
     }
 
     /// Something was written, whether it could be confirmed or not.
     bool hasWritten() const { return m_hasWritten; }
+    /// Every page written was before, and is now, as the image has it: nobody else wrote to them meanwhile.
+    bool wroteAlone()
+    {
+        return !m_metOthers && std::ranges::all_of(m_pages, [this](std::uint32_t number) {
+            if (!readPage(number, m_other))
+                return false;
+            decode(number, m_other);
+            return std::ranges::equal(m_other, m_image.page(number));
+        });
+    }
     std::vector<std::uint32_t> takeChanged() { return std::move(m_changed); }
 
     [[noreturn]] void fail(basic::Fault fault, std::vector<basic::Argument> arguments = {}) const
@@ -128,10 +139,14 @@ public:
     void writePage(std::span<const MarkTarget> targets)
     {
         const std::uint32_t number = targets.front().place.recordPage;
+        const PageLock lock(m_locks, number);
+        if (!lock.isHeld())
+            fail(basic::Fault::PageLocked, {number});
         if (!readPage(number, m_raw))
             fail(basic::Fault::PageNotRead, {number, m_file.errorText()});
         m_plain = m_raw;
         decode(number, m_plain);
+        m_metOthers = m_metOthers || !std::ranges::equal(m_plain, m_image.page(number));
         Q_ASSERT(std::ranges::all_of(targets, [&](const MarkTarget &target) {
             return target.place.recordPage == number && target.inPage < m_raw.size();
         }));
@@ -142,17 +157,30 @@ public:
         for (const MarkTarget &target : targets) {
             if (((m_plain[target.inPage] & target.bit) != 0) == target.on)
                 continue;
+            const qint64 offset = offsetOf(number) + static_cast<qint64>(target.inPage);
+            // Whoever knows no locks can change another bit of the byte until here, and loses nothing by it.
+            std::uint8_t now = 0;
+            const bool isRead = m_file.readAt(offset, std::span(&now, 1));
+            if (!isRead || now != m_raw[target.inPage]) {
+                const QString reason = m_file.errorText();
+                confirm(number, written);
+                if (!isRead)
+                    fail(basic::Fault::PageNotRead, {number, reason});
+                changedElsewhere(target);
+            }
             m_raw[target.inPage] ^= target.bit;
             m_hasWritten = true;
-            if (!m_file.writeAt(offsetOf(number) + static_cast<qint64>(target.inPage),
-                                std::span(&m_raw[target.inPage], 1))) {
+            if (!m_file.writeAt(offset, std::span(&m_raw[target.inPage], 1))) {
                 const QString reason = m_file.errorText();
                 confirm(number, written);
                 fail(basic::Fault::PageNotWritten, {number, reason});
             }
             written.push_back(&target);
         }
-        if (!written.empty() && !confirm(number, written))
+        if (written.empty())
+            return;
+        m_pages.push_back(number);
+        if (!confirm(number, written))
             fail(basic::Fault::PageNotConfirmed, {number});
     }
 
@@ -208,7 +236,9 @@ private:
         const auto knownKey = known.field(m_key);
         if (record.columnCount() != known.columnCount() || !key || !knownKey || !std::ranges::equal(*key, *knownKey))
             changedElsewhere(target);
-        if (m_plain[target.inPage] != before.bytes(*slot)[target.inPage - place.recordStart])
+        // The other bits of the byte are other columns, as changeable as any.
+        const std::uint8_t mask = before.bytes(*slot)[target.inPage - place.recordStart];
+        if (((m_plain[target.inPage] ^ mask) & target.bit) != 0)
             changedElsewhere(target);
         if (place.firstPage != place.recordPage || place.firstSlot != place.recordSlot)
             verifyFirstPlace(target);
@@ -244,11 +274,14 @@ private:
     const Column &m_key;
     const basic::Place &m_place;
     storage::File &m_file;
-    std::vector<std::uint8_t> m_raw;   ///< the page as the file has it, with the bits set as they are written
-    std::vector<std::uint8_t> m_plain; ///< decoded, as it was before
+    PageLocks m_locks;
+    std::vector<std::uint32_t> m_pages; ///< those written
+    std::vector<std::uint8_t> m_raw;    ///< the page as the file has it, with the bits set as they are written
+    std::vector<std::uint8_t> m_plain;  ///< decoded, as it was before
     std::vector<std::uint8_t> m_other;
     std::vector<std::uint32_t> m_changed;
     bool m_hasWritten = false;
+    bool m_metOthers = false; ///< a page was not as the image has it
 };
 
 } // namespace
@@ -362,8 +395,8 @@ std::vector<std::uint32_t> MarkWriter::write(std::span<const Mark> marks, const 
         if (!file.sync())
             run.fail(basic::Fault::NotSynced, {file.errorText()});
         const Stamp after = Image::stampOf(m_database->file(), file);
-        if (after.size == before.size && after.counters == before.counters)
-            image.setStamp(after);
+        const bool alone = after.size == before.size && after.counters == before.counters && run.wroteAlone();
+        image.setStamp(alone ? after : Stamp());
     }
     afterFailure.dismiss();
     if (progress)

@@ -35,10 +35,14 @@ public:
 
     /// Writes the marks page by page in the file's order, one sync at the end, and returns the rows whose bit changed.
     /// Before the first write all rows are checked against the state in memory (NotMarkable: key not unique, row older
-    /// than the column); each page is read again from the file and compared before its first byte is written. Throws
-    /// FileNotFound, ReadOnly, NotMarkable, ChangedElsewhere, WriteFailed, Cancelled; the text says how many rows were
-    /// changed before. The image takes over every bit written, and the file's new stamp; after an error it has none, so
-    /// that the database is stale where anything was written. Progress counts rows.
+    /// than the column); each page is locked against other programs that lock, read again from the file and compared
+    /// before its first byte is written, and each byte is read once more right before it is written. What is left is
+    /// the time between that reading and the writing, in which a program that takes no locks could change another bit
+    /// of the same byte and have it undone. Throws FileNotFound, ReadOnly, NotMarkable, ChangedElsewhere, WriteFailed
+    /// (also where a page stays locked), Cancelled; the text says how many rows were changed before.
+    /// The image takes over every bit written, and the file's new stamp. It has none, so that the database is stale,
+    /// after an error behind the first write, and where a page that was written is not wholly as the image has it:
+    /// another program has written to it. Progress counts rows.
     std::vector<std::uint32_t> write(std::span<const Mark> marks, const basic::Progress &progress = {});
 
 private:

@@ -145,7 +145,7 @@ std::shared_ptr<const Table> Database::table(const QString &name)
 
 bool Database::isStale() const
 {
-    return Image::stampOf(file()) != m_image->stamp();
+    return m_image->isStale();
 }
 
 } // namespace kalvenor::jet

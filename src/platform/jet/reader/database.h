@@ -32,7 +32,7 @@ public:
     const CatalogueEntry *entry(const QString &name) const;
     /// Reads the table at its first use. Throws TableNotFound (linked ones too, saying to which file) or Damaged.
     std::shared_ptr<const Table> table(const QString &name);
-    /// True where the file no longer has the stamp this state was read with. Throws as Image::stampOf.
+    /// True where the file is no longer as it was read. Throws as Image::isStale.
     bool isStale() const;
     const QStringList &warnings() const { return m_warnings; }
 

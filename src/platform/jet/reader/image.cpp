@@ -13,6 +13,7 @@
 #include <cstring>
 #include <new>
 #include <numeric>
+#include <QDateTime>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -26,6 +27,11 @@ constexpr std::size_t CountersSize = 512;
 constexpr qint64 LargestFile = qint64{2} << 30;
 constexpr int Attempts = 5;
 constexpr std::chrono::milliseconds FirstPause{5}; ///< doubled each time; all together nobody notices
+/// Ticks of the clock of files: milliseconds, or two seconds where the file system keeps no fractions.
+constexpr std::chrono::milliseconds FineTick{100};
+constexpr std::chrono::milliseconds CoarseTick{2100};
+constexpr qint64 Young = 3'000'000'000; ///< ns; a file changed before that is not in its tick any more
+constexpr std::size_t CompareAtOnce = 1 << 20;
 
 std::uint32_t pageSizeOf(std::span<const std::uint8_t> head)
 {
@@ -46,6 +52,11 @@ storage::File openForReading(const QString &file)
 [[noreturn]] void notReadable(const QString &name, const storage::File &file)
 {
     throw basic::Error(basic::Fault::NotRead, {.file = name}, {file.errorText()});
+}
+
+QDeadlineTimer endOfTick(const Stamp &stamp)
+{
+    return QDeadlineTimer(stamp.modifiedNs % 1'000'000'000 == 0 ? CoarseTick : FineTick);
 }
 
 void checkHeader(const QString &name, std::span<const std::uint8_t> head)
@@ -115,10 +126,50 @@ std::shared_ptr<Image> Image::load(const QString &name)
         auto image = std::make_shared<Image>();
         image->m_file = name;
         image->m_stamp = before;
+        if (QDateTime::currentMSecsSinceEpoch() * 1'000'000 - before.modifiedNs < Young)
+            image->m_doubtful = endOfTick(before);
         image->takeBytes(std::move(bytes), size);
         return image;
     }
     throw basic::Error(basic::Fault::StillWritten, {.file = name});
+}
+
+void Image::setStamp(const Stamp &stamp)
+{
+    m_stamp = stamp;
+    m_doubtful = endOfTick(stamp);
+}
+
+bool Image::isStale()
+{
+    const storage::File file = openForReading(m_file);
+    if (stampOf(m_file, file) != m_stamp)
+        return true;
+    if (!m_doubtful || !m_doubtful->hasExpired())
+        return false;
+    m_doubtful.reset();
+    if (!isHeldBy(file))
+        m_stamp = {};
+    return m_stamp.size < 0;
+}
+
+/// The file's bytes are those of the image.
+bool Image::isHeldBy(const storage::File &file) const
+{
+    const auto size = static_cast<std::size_t>(m_stamp.size);
+    std::vector<std::uint8_t> part(std::min(CompareAtOnce, size));
+    for (std::size_t at = 0; at < size; at += part.size()) {
+        const auto bytes = std::span(part).first(std::min(part.size(), size - at));
+        if (!file.readAt(static_cast<qint64>(at), bytes))
+            return false;
+        for (std::size_t i = 0; m_encodingKey != 0 && i + m_pageSize <= bytes.size(); i += m_pageSize) {
+            if (const auto number = static_cast<std::uint32_t>((at + i) / m_pageSize); number > 0)
+                encodePage(bytes.subspan(i, m_pageSize), m_encodingKey, number);
+        }
+        if (std::memcmp(bytes.data(), m_bytes.get() + at, bytes.size()) != 0)
+            return false;
+    }
+    return true;
 }
 
 std::shared_ptr<Image> Image::fromBytes(const QString &name, std::span<const std::uint8_t> bytes)

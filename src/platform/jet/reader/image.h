@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <QByteArray>
+#include <QDeadlineTimer>
 #include <QString>
 #include <span>
 
@@ -71,7 +72,12 @@ public:
     }
 
     const Stamp &stamp() const { return m_stamp; }
-    void setStamp(const Stamp &stamp) { m_stamp = stamp; }
+    /// The stamp right after writing to the file, or none: it is then stale.
+    void setStamp(const Stamp &stamp);
+    /// True where the file no longer has this stamp. Two changes within one tick of the clock of files leave the same
+    /// time: a stamp that was taken right after a change is believed only once the file's bytes have been compared with
+    /// the image, which the first call after that tick does. Throws as stampOf.
+    bool isStale();
     std::uint32_t encodingKey() const { return m_encodingKey; }
     /// Takes over one byte that was written to the file. The plain byte, and its place in the file.
     void patch(std::size_t offset, std::uint8_t plain)
@@ -82,6 +88,7 @@ public:
 
 private:
     void takeBytes(std::unique_ptr<std::uint8_t[]> bytes, std::size_t size);
+    bool isHeldBy(const storage::File &file) const;
 
     QString m_file;
     Version m_version = Version::Jet4;
@@ -90,6 +97,7 @@ private:
     int m_codePage = 1252;
     std::uint32_t m_encodingKey = 0; ///< 0: plain pages
     Stamp m_stamp;
+    std::optional<QDeadlineTimer> m_doubtful; ///< since when other changes have another time; none: no doubt is left
     ByteCharacters m_characters{};
     std::unique_ptr<std::uint8_t[]> m_bytes; ///< as many as the file has; not a vector, which would zero them first
 };
