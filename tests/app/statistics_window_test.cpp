@@ -122,6 +122,81 @@ TEST(Statistic, FollowsTheMarksAndLeadsBackToThem)
     EXPECT_TRUE(open.control<chart::ChartControl>("Grafik").look().emptyText.contains("Markieren"));
 }
 
+TEST(Statistic, ABarLeadsToItsPersonsAndCanLeaveJustThemMarked)
+{
+    MarkedFamily open;
+    open.window->resize(1400, 900);
+    open.showTab(StatisticsPanel::Chart);
+    auto &chart = open.control<chart::ChartControl>("Grafik");
+    QPoint bar;
+    for (int x = 0; x < chart.width() && bar.isNull(); x += 3) {
+        for (int y = 0; y < chart.height() && bar.isNull(); y += 3) {
+            if (chart.hoverText({double(x), double(y)}).startsWith("M"))
+                bar = {x, y};
+        }
+    }
+    ASSERT_FALSE(bar.isNull());
+    QTest::mouseClick(&chart, Qt::LeftButton, {}, bar);
+    EXPECT_EQ(open.control<QTabWidget>("statistiktab").currentIndex(), StatisticsPanel::AgeList);
+    EXPECT_EQ(open.lines(), (QStringList{" 71.2  Adler, Hans ", " 73.9  Claus, Ernst "}));
+    EXPECT_EQ(open.label("NurDiese_Text"), "Männer, Jahrhundert der Geburt 1800-99: 2 Personen");
+    EXPECT_EQ(open.statistics().list().size(), 4U) << "what is printed stays whole";
+    open.click<QPushButton>("GanzeListe");
+    EXPECT_EQ(open.lines().size(), 4);
+
+    open.showTab(StatisticsPanel::Chart);
+    chart.tableAction->trigger();
+    auto &figures = open.control<QTableView>("chartFigures");
+    figures.setFocus();
+    figures.setCurrentIndex(figures.model()->index(0, 1));
+    QTest::keyClick(&figures, Qt::Key_Return);
+    EXPECT_EQ(open.lines(), (QStringList{"109.5  Bär, Eva ", " 66.0  Dorn, Ida "}));
+    open.click<QPushButton>("NurDiese_markieren");
+    EXPECT_EQ(open.marked(), (std::vector<qint32>{2, 4}));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !open.control<QWidget>("NurDiese").isVisible(); }));
+    open.controller().undo();
+    EXPECT_EQ(open.marked().size(), 7U);
+}
+
+TEST(Statistic, TellsWhoIsLeftOutAndWhatToDoWhereNothingIsShown)
+{
+    auto persons = smallFamily();
+    persons[0].sex = "?";
+    MarkedFamily open(persons);
+    open.showTab(StatisticsPanel::Chart);
+    EXPECT_EQ(open.label("Ausgelassen"), "(1 ohne Angabe des Geschlechts)");
+    QStringList rows;
+    open.desktop.dialogAnswer = [&](QDialog &dialog) {
+        auto &list = *dialog.findChild<QTableView *>("Ausgelassene");
+        for (int row = 0; row < list.model()->rowCount(); ++row)
+            rows << list.model()->index(row, 0).data().toString() + ": " +
+                        list.model()->index(row, 1).data().toString();
+        list.selectRow(1);
+        return true;
+    };
+    open.click<QPushButton>("Auslassungen");
+    EXPECT_EQ(rows, (QStringList{"Adler, Hans: Geschlecht nicht bekannt: zählt nur bei „Alle“",
+                                 "Eck, Emil: Sterbedatum nicht bekannt, oder die Person lebt",
+                                 "Falk, Rosa: Sterbedatum nicht bekannt, oder die Person lebt",
+                                 "Müller, O'Neil: Sterbedatum nicht bekannt, oder die Person lebt"}));
+    EXPECT_EQ(open.view(PersonList::Marked).selectedCounters(), std::vector<qint32>{5});
+
+    auto &way = open.control<QPushButton>("Weiter_Grafik");
+    for (const char *sex : {"geschlechtalter_2", "geschlechtalter_3"}) {
+        EXPECT_FALSE(way.isVisible());
+        open.click<QAbstractButton>(sex);
+    }
+    EXPECT_TRUE(way.isVisible());
+    way.click();
+    EXPECT_FALSE(way.isVisible());
+    EXPECT_TRUE(open.control<QCheckBox>("geschlechtalter_3").isChecked());
+
+    open.controller().moveAll(PersonList::Marked);
+    open.showTab(StatisticsPanel::AgeList);
+    open.click<QPushButton>("Weiter_Altersliste");
+    EXPECT_TRUE(open.view(PersonList::Unmarked).hasFocus());
+}
+
 TEST(Statistic, SaysThatItIsOutdatedWhereItWasCancelledOrFailed)
 {
     auto persons = smallFamily();

@@ -3,6 +3,7 @@
 #include "language/texts/catalogue.h"
 
 #include "language/texts/sprache.h"
+#include "language/texts/textfile.h"
 #include "platform/basic/codepage.h"
 #include <gtest/gtest.h>
 #include <map>
@@ -127,4 +128,21 @@ TEST(Catalogue, SaysTheSameInBothLanguages)
         EXPECT_TRUE(id < FirstOwnText || own.insert({german, english}).second) << "stands twice";
     }
     EXPECT_TRUE(wording(Text::None, CatalogueLanguage::German).isNull());
+}
+
+/// A language is added by its file alone.
+TEST(TextFiles, HoldTextsOfTheCatalogueWithTheSamePlaces)
+{
+    const TextFile two = readTextFile(u"# Suomi\r\n20005\t%1 / %2\r\n\nno number\t1\n21412\tNimetön\n20006\t\n"_s);
+    EXPECT_EQ(two, (TextFile{{20005, u"%1 / %2"_s}, {21412, u"Nimetön"_s}}));
+    EXPECT_TRUE(textsOfLanguage(u"Suomi"_s).empty());
+    for (QDirIterator files(u"" KALVENOR_SOURCE_DIR "/resources/texts"_s, {"*.txt"}); files.hasNext();) {
+        const TextFile texts = readTextFile(read(files.next()));
+        EXPECT_FALSE(texts.empty());
+        EXPECT_EQ(texts, textsOfLanguage(files.fileInfo().completeBaseName()));
+        for (const auto &[id, text] : texts) {
+            const QString english = wording(static_cast<Text>(id), CatalogueLanguage::English);
+            EXPECT_EQ(placesOf(text), placesOf(english)) << files.fileName().toStdString() << id;
+        }
+    }
 }

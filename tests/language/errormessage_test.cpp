@@ -25,7 +25,7 @@ TEST(ErrorMessage, IsMadeOfPlaceSentenceAndRemarksInTheLanguageOfTheHost)
         {cut,
          "a.kvl, Zeile 3: Die Datei endet mitten in dieser Zeile (Titel); sie wurde abgeschnitten und kann nicht "
          "geöffnet werden. Nehmen Sie eine andere Kopie der Vorlage oder speichern Sie sie neu.",
-         "a.kvl, line 3: The file ends in the middle of this line (title); it was cut, and cannot be opened. Use "
+         "a.kvl, line 3: The file ends in the middle of this line (title); it was cut off and cannot be opened. Use "
          "another copy of the template or save it again."},
         {Error(Fault::NumberOutOfRange, {.file = u"b"_s, .table = u"T"_s, .page = 7}, {70000.5, -1, 1}),
          "b, Tabelle T, Seite 7: Die Zahl 70000.5 liegt nicht zwischen -1 und 1.",

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/preview/druckvorschau.h"
 
+#include "host/windowplace.h"
 #include "platform/print/pdfwriter.h"
 #include "settings/preview/pageview.h"
 #include "settings/preview/printing.h"
@@ -82,6 +83,34 @@ struct Preview : testing::Test, test::Texts {
 };
 
 } // namespace
+
+TEST_F(Preview, KeepsItsSizeAndZoomAndFitsTheScreen)
+{
+    const auto reopen = [this] {
+        window->close();
+        window = std::make_unique<Druckvorschau>(host, module, control, work);
+        window->show();
+    };
+    QDir(folder.path()).mkdir(u"Kalvenor"_s); // where the settings are
+    window->resize(500, 400);
+    for (const Fit fit : {Fit::PageWidth, Fit::None, Fit::Thumbnails}) {
+        if (fit == Fit::None)
+            window->pageView().setZoom(75);
+        else
+            window->pageView().setFit(fit);
+        reopen();
+        EXPECT_EQ(window->pageView().fit(), fit);
+        EXPECT_TRUE(fit != Fit::None || window->pageView().zoom() == 75);
+        EXPECT_EQ(window->size(), QSize(500, 400));
+    }
+    const QRect screen(100, 50, 1024, 700);
+    for (const QRect wanted : {QRect(0, 0, 1040, 820), QRect(3000, 3000, 300, 200), QRect(-500, -500, 300, 200),
+                               QRect(1000, 600, 500, 600)}) {
+        const QRect place = host::fittedPlace(wanted, screen);
+        EXPECT_TRUE(screen.contains(QRect(place.topLeft(), place.size() + QSize(12, 38)))) << wanted.x();
+        EXPECT_TRUE(place.width() == 300 || wanted.width() > 300);
+    }
+}
 
 TEST_F(Preview, ShowsTextsAndPages)
 {

@@ -6,17 +6,21 @@
 #include "settings/dialog/colorbutton.h"
 #include "settings/dialog/fontsample.h"
 #include "settings/dialog/lengthbox.h"
+#include "settings/dialog/seiteneinrichtung.h"
 #include <gtest/gtest.h>
+#include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QFontComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSet>
 #include <QTabWidget>
 #include <QTest>
 #include <stdexcept>
@@ -195,3 +199,55 @@ TEST_F(InitformTest, StaysOpenWhereMarginsLeaveNoRoomOrTheFileCannotBeWritten)
 }
 
 } // namespace
+
+namespace {
+
+/// The access keys that show at the same time, each once; what has none and could have one fails.
+QString accessKeysOf(const QWidget &shown)
+{
+    QString keys;
+    const auto add = [&](const QString &text) {
+        const qsizetype mark = text.indexOf('&');
+        EXPECT_GE(mark, 0) << text.toStdString();
+        keys += text[mark + 1].toLower();
+    };
+    for (const auto *button : shown.findChildren<QAbstractButton *>()) {
+        const bool endsDialog = QStringList{"Ende_0", "Ende_1", "OK", "Abbrechen"}.contains(button->objectName());
+        if (button->isVisible() && button->property("tag").isValid() && !endsDialog)
+            add(button->text());
+    }
+    for (const auto *label : shown.findChildren<QLabel *>()) {
+        if (label->isVisible() && label->buddy() != nullptr)
+            add(label->text());
+    }
+    for (const auto *tabs : shown.findChildren<QTabWidget *>()) {
+        for (int i = 0; i < tabs->count(); ++i)
+            add(tabs->tabText(i));
+    }
+    return keys;
+}
+
+} // namespace
+
+TEST_F(InitformTest, EveryControlHasAnAccessKeyOfItsOwn)
+{
+    for (const char *language : {"Deutsch", "English"}) {
+        host.Sprache = language;
+        open();
+        form->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+        auto &tabs = control<QTabWidget>("Tabs");
+        control<QPushButton>("Ende_0").setFocus();
+        for (int page = 0; page < tabs.count(); ++page) {
+            EXPECT_EQ(tabs.currentIndex(), page);
+            const QString keys = accessKeysOf(*form);
+            EXPECT_EQ(QSet<QChar>(keys.begin(), keys.end()).size(), keys.size()) << keys.toStdString();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
+        }
+        Seiteneinrichtung setup(host, module, page);
+        setup.show();
+        const QString keys = accessKeysOf(setup);
+        EXPECT_EQ(QSet<QChar>(keys.begin(), keys.end()).size(), keys.size()) << keys.toStdString();
+    }
+    EXPECT_EQ(control<ColorButton>("Backcolor").accessibleName(), "Background");
+}

@@ -242,6 +242,14 @@ TEST(Grafikermitteln, ReadsMarkedPersonsOfADatabase)
             const Personenzahlen &zahlen = figures.zahlen;
             EXPECT_EQ(zahlen.markiert, qint64(persons.size()));
             EXPECT_EQ(zahlen.gezaehlt + zahlen.ohneDatum + zahlen.nichtNachGeburt, zahlen.markiert);
+            for (std::size_t row = 0; row < figures.personen.size(); ++row) {
+                for (std::size_t column = 0; column < figures.gruppen.size(); ++column) {
+                    const Saeule behind = saeule(started.program.databases, statistik, figures.gruppen[column],
+                                                 figures.erstesJahrhundert + int(row));
+                    EXPECT_EQ(qint64(behind.personen.size()), figures.personen[row][column]);
+                    EXPECT_EQ(behind.personen.size() + behind.uebrige.size(), persons.size());
+                }
+            }
         }
     }
 }

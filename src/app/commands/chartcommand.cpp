@@ -141,7 +141,7 @@ int runChart(const QString &programFolder, const ChartCommand &command)
     }
     if (!command.output.isEmpty()) {
         chart::ChartLook look = statistics::grafiklook(program.language, program.host, statistik);
-        look.emptyText = statistics::leererText(program.language, figures.zahlen);
+        look.emptyText = program.language.text(statistics::leerGrund(figures.zahlen));
         chart::writeChart(figures.tabelle, look, command.size, command.output);
     }
     desktop::writeOutput(chartOutput(figures, command.format));

@@ -34,7 +34,7 @@ int runReport(const QString &programFolder, const ReportCommand &command)
     const statistics::Grafikzahlen figures =
         statistics::grafikermitteln(program.databases, statistik, terminal.progress());
     chart::ChartLook look = statistics::grafiklook(program.language, program.host, statistik);
-    look.emptyText = statistics::leererText(program.language, figures.zahlen);
+    look.emptyText = program.language.text(statistics::leerGrund(figures.zahlen));
 
     print::PrintControl print;
     report::Bericht bericht(program, print);

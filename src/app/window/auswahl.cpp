@@ -164,6 +164,10 @@ void Auswahl::connectStatistic()
     connect(&m_controller, &SelectionController::personsChanged, m_statisticsPanel, &StatisticsPanel::personsChanged);
     connect(m_statisticsPanel, &StatisticsPanel::said, this, saySome);
     connect(m_statisticsPanel, &StatisticsPanel::personWanted, this, &Auswahl::showMarkedPerson);
+    connect(m_statisticsPanel, &StatisticsPanel::unmarkWanted, this,
+            [this](const std::vector<qint32> &counters) { m_controller.move(PersonList::Marked, counters, {}); });
+    connect(m_statisticsPanel, &StatisticsPanel::personsWanted, this,
+            [this] { m_selection->listPanel(PersonList::Unmarked).view().setFocus(); });
     connect(m_statisticsPanel, &StatisticsPanel::edited, this, &Auswahl::updateTitle);
     connect(&m_report, &ReportDesk::said, this, saySome);
     connect(&m_templates, &TemplateDesk::said, this, saySome);

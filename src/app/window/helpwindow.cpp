@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/helpwindow.h"
 
+#include "host/windowplace.h"
 #include "language/forms/widgetform.h"
 #include "language/texts/sprache.h"
 #include "platform/desktop/lineicon.h"
@@ -87,7 +88,7 @@ HelpWindow::HelpWindow(language::Sprachmodul &language, const host::Host &host, 
             goTo(m_sections[row].anchor, row);
     });
     connect(m_text->verticalScrollBar(), &QScrollBar::valueChanged, this, &HelpWindow::followScrolling);
-    resize(920, 660);
+    new host::WindowPlace(*this, host, u"Anleitung"_s, {920, 660});
     m_text->setFocus();
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/about/infoform.h"
 
+#include "host/windowplace.h"
+#include "language/forms/accesskeys.h"
 #include "language/forms/widgetform.h"
 #include "language/texts/errormessage.h"
 #include "language/texts/sprache.h"
@@ -69,7 +71,10 @@ Infoform::Infoform(const host::Host &host, Sprachmodul &texts, Ereignisarten &ki
     column->addWidget(tabs, 1);
     column->addWidget(ok, 0, Qt::AlignRight);
     formuebersetzen(*this, texts, host);
+    giveAccessKeys(*this);
+    turnByCtrlTab(*tabs);
     unsetCursor();
+    new host::WindowPlace(*this, host, u"Info"_s, sizeHint());
     ok->setFocus();
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/forms/designtext.h"
 
+#include "language/forms/accesskeys.h"
 #include "language/forms/widgetform.h"
 #include "language/texts/catalogue.h"
 
@@ -63,6 +64,13 @@ const char *captionProperty(const QObject *carrier)
     return "accessibleName";
 }
 
+void showCaption(QObject *carrier, const QString &text)
+{
+    const char *property = captionProperty(carrier);
+    const bool takesKey = qstrcmp(property, "text") == 0 || qstrcmp(property, "title") == 0;
+    carrier->setProperty(property, takesKey ? text : withoutAccessKey(text));
+}
+
 void showHeading(QHeaderView *header, int column, const QString &shown)
 {
     if (!header->model() || !header->model()->setHeaderData(column, Qt::Horizontal, shown, Qt::DisplayRole))
@@ -75,7 +83,7 @@ void setDesignText(QObject *item, Text caption, Text tooltip)
     QObject *carrier = carrierOf(item);
     if (caption != Text::None) {
         carrier->setProperty(Tag, tagOf(caption));
-        carrier->setProperty(captionProperty(carrier), designTextOf(caption));
+        showCaption(carrier, designTextOf(caption));
     }
     if (tooltip != Text::None) {
         carrier->setProperty(TooltipTag, tagOf(tooltip));

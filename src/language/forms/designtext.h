@@ -28,6 +28,8 @@ QString textProperty(const QObject *object, const char *property);
 QObject *carrierOf(QObject *item);
 /// The property that holds a carrier's caption.
 const char *captionProperty(const QObject *carrier);
+/// The caption; a place that knows no access keys gets it without.
+void showCaption(QObject *carrier, const QString &text);
 
 void showHeading(QHeaderView *header, int column, const QString &shown);
 

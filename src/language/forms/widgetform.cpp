@@ -84,7 +84,7 @@ Node nodeOf(const QString &typeName, QObject *carrier)
                      .tag = tag,
                      .caption = designCaption(tag),
                      .tooltip = tooltipOf(textProperty(carrier, TooltipTag), textProperty(carrier, "toolTip"))},
-            .showCaption = [=](const QString &shown) { carrier->setProperty(captionProperty(carrier), shown); },
+            .showCaption = [=](const QString &shown) { language::showCaption(carrier, shown); },
             .showTooltip =
                 [=](const QString &shown) {
                     carrier->setProperty("toolTip", shown);

@@ -23,19 +23,19 @@ constexpr CatalogueText Texts[] = {
     {of(Fault::NoNumber), u"„%1“ ist keine Zahl.", u"“%1” is not a number."},
     {of(Fault::AmountTooLarge), u"Der Betrag %1 ist zu groß.", u"The amount %1 is too large."},
     {of(Fault::LengthImpossible), u"Ein Text kann nicht auf die Länge %1 gekürzt werden.",
-     u"A text cannot be cut to the length %1."},
+     u"A text cannot be cut to a length of %1."},
     {of(Fault::StartImpossible), u"Ein Text kann nicht ab der Stelle %1 genommen werden; die erste ist 1.",
-     u"A text cannot be taken from the place %1; the first is 1."},
+     u"A text cannot be taken from position %1; the first is 1."},
     {of(Fault::Misuse), u"Das Programm hat einen Fehler gemacht: %1", u"The program has made a mistake: %1"},
     {of(Fault::FileEnds), u"Die Datei endet hier, aber etwas fehlt noch.",
      u"The file ends here, but something is still missing."},
     {of(Fault::TextNotClosed),
      u"Der Text, der hier beginnt, hat kein schließendes Anführungszeichen; wahrscheinlich wurde die Datei "
      u"abgeschnitten.",
-     u"The text that begins here has no closing quote; the file was probably cut."},
+     u"The text that begins here has no closing quote; the file was probably cut off."},
     {of(Fault::TextGoesOn),
      u"Hinter dem schließenden Anführungszeichen des Textes, der hier beginnt, steht noch etwas.",
-     u"Something stands behind the closing quote of the text that begins here."},
+     u"Something follows the closing quote of the text that begins here."},
     {of(Fault::SettingOutOfRange), u"Die Einstellung %1=%2 im Abschnitt [%3] ist zu groß oder zu klein.",
      u"The setting %1=%2 in section [%3] is too large or too small."},
     // Stopped by the person
@@ -50,7 +50,7 @@ constexpr CatalogueText Texts[] = {
      u"Stopped; the template was not saved."},
     {of(Fault::StoppedReport), u"Der Bericht wurde abgebrochen.", u"The report was stopped."},
     {of(Fault::StoppedChart), u"Die Grafik wurde abgebrochen; sie ist nicht berechnet.",
-     u"The chart was stopped; it was not computed."},
+     u"The chart was stopped before it was computed."},
     {of(Fault::StoppedAgeList), u"Die Altersliste wurde abgebrochen; sie ist nicht vollständig.",
      u"The age list was stopped; it is not complete."},
     {of(Fault::StoppedDemo), u"Abgebrochen; die Beispieldaten wurden nicht angelegt.",
@@ -81,13 +81,13 @@ constexpr CatalogueText Texts[] = {
     {of(Fault::NotRenamed), u"Die Datei kann nicht umbenannt werden.", u"The file cannot be renamed."},
     {of(Fault::FolderNotMade),
      u"Der Ordner kann nicht angelegt werden. Wählen Sie einen Ordner, in den Sie schreiben dürfen.",
-     u"The folder cannot be made. Choose a folder that you may write to."},
+     u"The folder cannot be created. Choose a folder that you may write to."},
     {of(Fault::TargetIsDatabase),
      u"%1 ist eine Datenbank oder heißt wie eine und wird nie überschrieben. Wählen Sie einen anderen Namen.",
-     u"%1 is a database or is called like one, and is never overwritten. Choose another name."},
+     u"%1 is a database, or is named like one, and is never overwritten. Choose another name."},
     {of(Fault::TargetIsHostSettings),
      u"%1 heißt wie die Einstellungen des Hauptprogramms und wird nicht überschrieben. Wählen Sie einen anderen Namen.",
-     u"%1 is called like the main program's settings and is not overwritten. Choose another name."},
+     u"%1 is named like the main program's settings and is not overwritten. Choose another name."},
     {of(Fault::TargetIsLink),
      u"Diese Datei gehört zum Bericht, ist hier aber eine Verknüpfung auf eine andere. Löschen Sie die Verknüpfung "
      u"oder "
@@ -98,7 +98,7 @@ constexpr CatalogueText Texts[] = {
     {of(Fault::LineTooHigh),
      u"Eine Textzeile ist höher als die Seite zwischen ihren Rändern. Wählen Sie eine kleinere Schrift oder kleinere "
      u"Ränder.",
-     u"A line of text is higher than the page between its margins. Choose a smaller font or smaller margins."},
+     u"A line of text is taller than the page between its margins. Choose a smaller font or smaller margins."},
     {of(Fault::NoRoomOnPaper), u"Die Ränder lassen auf dem Papier keinen Platz für Text. Wählen Sie kleinere Ränder.",
      u"The margins leave no room for text on the paper. Choose smaller margins."},
     {of(Fault::NoReport), u"Es ist noch kein Bericht zusammengestellt.", u"No report has been composed yet."},
@@ -110,7 +110,7 @@ constexpr CatalogueText Texts[] = {
      u"The file cannot be written. Choose another folder or name, or make room on the disk."},
     {of(Fault::PrinterRefused),
      u"Der Drucker nimmt die Seiten nicht an. Sehen Sie nach, ob er eingeschaltet und angeschlossen ist.",
-     u"The printer does not take the pages. See whether it is switched on and connected."},
+     u"The printer does not accept the pages. Check whether it is switched on and connected."},
     {of(Fault::NoPrintElement), u"In den Druckeinstellungen gibt es kein Element %1.",
      u"There is no element %1 in the print settings."},
     {of(Fault::ChartEnding),
@@ -134,7 +134,7 @@ constexpr CatalogueText Texts[] = {
      u"werden kann.",
      u"The page could not be finished: %1. Save it in a folder that can be written."},
     {of(Fault::WildcardInName), u"Der Dateiname darf kein * oder ? enthalten. Wählen Sie einen anderen.",
-     u"The file name must not hold * or ?. Choose another one."},
+     u"The file name must not contain * or ?. Choose another one."},
     // Statistics
     {of(Fault::DayOutOfRange),
      u"Die Tagesnummer %1 liegt nicht in den Jahren 100 bis 9999; berichtigen Sie das Datum oder heben Sie die "
@@ -160,11 +160,11 @@ constexpr CatalogueText Texts[] = {
     {of(Fault::DemoNowhere), u"Es ist kein Ordner genannt, in dem die Beispieldaten angelegt werden sollen.",
      u"No folder is named in which to make the demonstration."},
     {of(Fault::FileInTheWay), u"Hier gibt es schon eine Datei dieses Namens. Wählen Sie einen anderen Ordner.",
-     u"There is a file of this name already. Choose another folder."},
+     u"A file of this name already exists here. Choose another folder."},
     {of(Fault::FolderNotEmpty),
      u"Diesen Ordner gibt es schon, und er ist nicht leer. Nichts wurde geändert; wählen Sie einen anderen Ordner oder "
      u"entfernen Sie erst diesen.",
-     u"This folder exists already and is not empty. Nothing was changed; choose another folder or remove this one "
+     u"This folder already exists and is not empty. Nothing was changed; choose another folder or remove this one "
      u"first."},
     // Templates
     {of(Fault::TemplateMissing), u"Die Vorlage kann nicht geöffnet werden: %1.", u"The template cannot be opened: %1."},
@@ -174,7 +174,7 @@ constexpr CatalogueText Texts[] = {
     {of(Fault::TemplateCut),
      u"Die Datei endet mitten in dieser Zeile (%1); sie wurde abgeschnitten und kann nicht geöffnet werden. Nehmen Sie "
      u"eine andere Kopie der Vorlage oder speichern Sie sie neu.",
-     u"The file ends in the middle of this line (%1); it was cut, and cannot be opened. Use another copy of the "
+     u"The file ends in the middle of this line (%1); it was cut off and cannot be opened. Use another copy of the "
      u"template or save it again."},
     {of(Fault::NoTemplate),
      u"Das ist keine Vorlage: Die erste Zeile müsste der Pfad einer Familiendatenbank in doppelten Anführungszeichen "
@@ -183,27 +183,28 @@ constexpr CatalogueText Texts[] = {
     {of(Fault::TemplateTextExpected),
      u"Hier müsste ein Text in doppelten Anführungszeichen stehen (%1), aber es steht „%2“ da. Die Vorlage ist "
      u"beschädigt; nehmen Sie eine andere Kopie oder speichern Sie sie neu.",
-     u"Here should be a text in double quotes (%1), but there is “%2”. The template is damaged; use another copy of it "
-     u"or save it again."},
+     u"A text in double quotes should stand here (%1), but there is “%2”. The template is damaged; use another copy of "
+     u"it or save it again."},
     {of(Fault::TemplateNumberExpected),
      u"Hier müsste eine Zahl von %2 bis %3 stehen (%1), aber es steht „%4“ da. Die Vorlage ist beschädigt; nehmen Sie "
      u"eine andere Kopie oder speichern Sie sie neu.",
-     u"Here should be a number from %2 to %3 (%1), but there is “%4”. The template is damaged; use another copy of it "
-     u"or save it again."},
+     u"A number from %2 to %3 should stand here (%1), but there is “%4”. The template is damaged; use another copy of "
+     u"it or save it again."},
     {of(Fault::TemplateTruthExpected),
      u"Hier müsste #TRUE# oder #FALSE# stehen (%1), aber es steht „%2“ da. Die Vorlage ist beschädigt; nehmen Sie eine "
      u"andere Kopie oder speichern Sie sie neu.",
-     u"Here should be #TRUE# or #FALSE# (%1), but there is “%2”. The template is damaged; use another copy of it or "
+     u"#TRUE# or #FALSE# should stand here (%1), but there is “%2”. The template is damaged; use another copy of it or "
      u"save it again."},
     {of(Fault::TemplateNotSaved), u"Die Vorlage wurde nicht gespeichert: %1.", u"The template was not saved: %1."},
     {of(Fault::NoTemplateToReplace),
      u"Die Vorlage wurde nicht gespeichert: Die Datei ist schon vorhanden und keine Vorlage. Wählen Sie einen anderen "
      u"Namen.",
-     u"The template was not saved: the file is there already and is no template. Choose another name."},
+     u"The template was not saved: the file already exists and is not a template. Choose another name."},
     {of(Fault::TemplateNotUtf8),
      u"Die Vorlage ist beschädigt: Sie beginnt als UTF-8, enthält aber anderes. Nehmen Sie eine andere Kopie oder "
      u"speichern Sie sie neu.",
-     u"The template is damaged: it begins as UTF-8 but holds something else. Use another copy of it or save it again."},
+     u"The template is damaged: it begins as UTF-8 but contains something else. Use another copy of it or save it "
+     u"again."},
     {of(Fault::TemplateFamilyMissing), u"Die Vorlage gehört zu einer Familiendatenbank, die nicht vorhanden ist: %1.",
      u"The template belongs to a family database that does not exist: %1."},
     {of(Fault::DriveUnknown),
@@ -213,7 +214,7 @@ constexpr CatalogueText Texts[] = {
      u"Some marks were changed and could not be put back."},
     {of(Fault::FormerNotReopened),
      u"Auch die vorige Datenbank konnte nicht wieder geöffnet werden. Beenden Sie das Programm und starten Sie es neu.",
-     u"The former database could not be opened again either. Quit the program and start it again."},
+     u"The previous database could not be reopened either. Quit the program and start it again."},
     // Words: the values of a template
     {of(Fault::WordFamily), u"Familiendatenbank", u"family database"},
     {of(Fault::WordTitle), u"Titel", u"title"},
@@ -227,7 +228,7 @@ constexpr CatalogueText Texts[] = {
     {of(Fault::TableMissing), u"Es gibt keine Tabelle namens „%1“.", u"There is no table named “%1”."},
     {of(Fault::TableLinked), u"Die Tabelle „%1“ ist nicht in dieser Datei; sie ist mit %2 verknüpft.",
      u"Table “%1” is not in this file; it is linked to %2."},
-    {of(Fault::FileMissing), u"Die Datei ist nicht da.", u"The file is not there."},
+    {of(Fault::FileMissing), u"Die Datei ist nicht da.", u"The file does not exist."},
     {of(Fault::StoppedUnmarked), u"Abgebrochen; niemand wurde markiert.", u"Stopped; nobody was marked."},
     {of(Fault::StoppedQuery), u"Die Abfrage wurde abgebrochen; nichts wurde geändert.",
      u"The query was stopped; nothing was changed."},
@@ -263,7 +264,7 @@ constexpr CatalogueText Texts[] = {
     {of(Fault::DatabaseClosed), u"Die Datenbank wurde geschlossen.", u"The database was closed."},
     {of(Fault::RecordsetClosed), u"Die Datensatzgruppe wurde geschlossen.", u"The recordset was closed."},
     {of(Fault::NoRow), u"Es gibt keine aktuelle Zeile.", u"There is no current row."},
-    {of(Fault::BehindLastRow), u"Hinter der letzten Zeile gibt es keine.", u"There is no row behind the last one."},
+    {of(Fault::BehindLastRow), u"Hinter der letzten Zeile gibt es keine.", u"There is no row after the last one."},
     {of(Fault::NotATable), u"Nur eine Tabelle kann durchsucht und geändert werden.",
      u"Only a table recordset can be searched and changed."},
     {of(Fault::FieldMissing), u"Es gibt kein Feld %1.", u"There is no field %1."},
@@ -277,9 +278,9 @@ constexpr CatalogueText Texts[] = {
      u"The row must be put into edit mode first."},
     {of(Fault::OnlyMark), u"Nur %1 kann geändert werden, nicht „%2“.", u"Only %1 can be changed, not “%2”."},
     {of(Fault::RowDeleted), u"Ein anderes Programm hat die Zeile gelöscht. Laden Sie die Liste neu.",
-     u"Another program deleted the row. Load the list anew."},
+     u"Another program deleted the row. Reload the list."},
     {of(Fault::QueryRunning), u"Eine andere Abfrage dieser Datei läuft noch. Warten Sie ihr Ende ab.",
-     u"Another query of this file is still running. Wait for its end."},
+     u"Another query of this file is still running. Wait until it has finished."},
     {of(Fault::OneStatement), u"Nur eine Anweisung kann ausgeführt werden.", u"Only one statement can be carried out."},
     {of(Fault::SecondStatement), u"Nur eine Anweisung kann ausgeführt werden; eine zweite beginnt bei %1",
      u"Only one statement can be carried out; a second one begins at %1"},
@@ -296,7 +297,7 @@ constexpr CatalogueText Texts[] = {
      u"The signs %1%2 are not understood; there are no comments in a statement."},
     {of(Fault::SignUnknown), u"Das Zeichen %1 ist nicht zu verstehen, bei %2", u"The sign %1 is not understood at %2"},
     {of(Fault::ControlCharacter), u"Die Anweisung enthält ein Steuerzeichen.",
-     u"The statement holds a control character."},
+     u"The statement contains a control character."},
     {of(Fault::NameNotClosed), u"Der Name, der bei %1 beginnt, ist nicht abgeschlossen.",
      u"The name that begins at %1 is not closed."},
     {of(Fault::SearchTextNotClosed),
@@ -360,32 +361,32 @@ constexpr CatalogueText Texts[] = {
      u"Page %1 cannot be read again: %2."},
     {of(Fault::PageNotWritten), u"Das Schreiben der Seite %1 ist fehlgeschlagen: %2.", u"Writing page %1 failed: %2."},
     {of(Fault::PageNotConfirmed), u"Seite %1 enthält nicht, was auf sie geschrieben wurde.",
-     u"Page %1 does not hold what was written to it."},
+     u"Page %1 does not contain what was written to it."},
     {of(Fault::NotSynced), u"Der Datenträger hat die Änderungen nicht bestätigt: %1.",
      u"The disk did not confirm the changes: %1."},
     {of(Fault::RowChanged),
      u"Ein anderes Programm hat die Datei geändert: Zeile %1 der Seite %2 ist nicht mehr dieselbe.",
-     u"Another program changed the file: row %1 of page %2 is no longer the same."},
+     u"Another program has changed the file: row %1 of page %2 is no longer the same."},
     {of(Fault::FileChanged), u"Ein anderes Programm hat die Datei geändert, seit sie gelesen wurde.",
-     u"Another program changed the file since it was read."},
+     u"Another program has changed the file since it was read."},
     {of(Fault::ChangedAgain),
      u"Ein anderes Programm hat die Datei immer wieder geändert, während sie geschrieben wurde. Versuchen Sie es noch "
      u"einmal, wenn das andere Programm fertig ist.",
-     u"Another program changed the file again and again while it was written. Try again when the other program has "
+     u"Another program kept changing the file while it was being written. Try again when the other program has "
      u"finished."},
     {of(Fault::NothingChanged), u"Nichts wurde geändert.", u"Nothing was changed."},
-    {of(Fault::RowsChangedBefore), u"%1 Zeilen waren schon geändert.", u"%1 rows were changed before."},
+    {of(Fault::RowsChangedBefore), u"%1 Zeilen waren schon geändert.", u"%1 rows had already been changed."},
     {of(Fault::MarkColumnMissing), u"Der Tabelle fehlt die Spalte für Markierungen oder ihr Schlüssel.",
      u"The table lacks the column for marks or its key."},
     {of(Fault::TableOutdated), u"Die Tabelle gehört zu einem älteren Stand der Datei.",
-     u"The table is of an older state of the file."},
+     u"The table belongs to an older state of the file."},
     {of(Fault::RowMissing), u"Es gibt keine Zeile %1.", u"There is no row %1."},
     {of(Fault::NoYesNoColumn), u"Markierungen können nicht gesetzt werden: Spalte %1 ist keine Ja/Nein-Spalte.",
      u"Marks cannot be set: column %1 is not a Yes/No column."},
     {of(Fault::MarkIndexed),
      u"Markierungen können nicht gesetzt werden: Ein Index enthält die Spalte %1 und würde nicht mehr stimmen; "
      u"entfernen Sie ihn.",
-     u"Marks cannot be set: an index holds column %1 and would no longer be right; remove the index."},
+     u"Marks cannot be set: an index contains column %1 and would no longer be right; remove the index."},
     {of(Fault::KeyNotLong),
      u"Markierungen können nicht gesetzt werden: Die Schlüsselspalte %1 enthält keine ganzen Zahlen (Long).",
      u"Marks cannot be set: the key column %1 does not hold whole numbers (Long)."},

@@ -12,14 +12,14 @@ constexpr CatalogueText Texts[] = {
     {Text::FamilyDatabaseMissing,
      u"Die Familiendatenbank wurde nicht gefunden. Bitte öffnen Sie im Hauptprogramm eine Familie und starten Sie die "
      u"Altersstatistik dann noch einmal.",
-     u"The family database was not found. Please open a family in the main program, then start the age statistic "
+     u"The family database was not found. Please open a family in the main program, then start the age statistics "
      u"again."},
     {Text::PrintSettingsHint,
      u"Schriften, Farben und Ränder der Druckseiten lassen sich unter „Druckeinstellungen“ ändern. Dieser Hinweis "
      u"erscheint nur einmal.",
      u"Fonts, colours and margins of the printed pages can be changed under “Print settings”. This hint is shown only "
      u"once."},
-    {Text::ReportFooter, u"Altersstatistik, erstellt mit Kalvenor", u"Age statistic, made with Kalvenor"},
+    {Text::ReportFooter, u"Altersstatistik, erstellt mit Kalvenor", u"Age statistics, made with Kalvenor"},
     // Menu of the preview
     {Text::PreviewMenuPrint, u"&Drucken", u"&Print"},
     {Text::PreviewMenuSave, u"&Speichern", u"&Save"},
@@ -38,32 +38,32 @@ constexpr CatalogueText Texts[] = {
     {Text::PreviewSave, u"Speichern", u"Save"},
     {Text::PreviewSettings, u"Druckeinstellungen", u"Print settings"},
     {Text::PageSetup, u"Seite einrichten", u"Page setup"},
-    {Text::SaveStatisticAs, u"Statistik speichern unter", u"Save statistic as"},
+    {Text::SaveStatisticAs, u"Statistik speichern unter", u"Save statistics as"},
     // Report: heading of the criteria
     {Text::CriteriaHeading, u"Auswahlkriterien", u"Selection criteria"},
     // Marking
     {Text::RelativesLimitReached,
      u"Es wurden 1000 verwandte Personen bearbeitet. Die Suche nach weiteren Verwandten endet hier; die bisherigen "
      u"Markierungen bleiben erhalten.",
-     u"1000 related persons have been processed. The search for further relatives ends here; the marks set so far are "
+     u"1000 relatives have been processed. The search for further relatives stops here; the marks set so far are "
      u"kept."},
-    {Text::UnmarkingAll, u"Die Markierungen werden aufgehoben ...", u"The marks are being removed ..."},
+    {Text::UnmarkingAll, u"Die Markierungen werden aufgehoben…", u"Removing the marks…"},
     {Text::MarkRelatives, u"Verwandte markieren", u"Mark relatives"},
     // Print settings and report
-    {Text::ListOnNewPage, u"Liste auf neuer Seite beginnen", u"Begin list on a new page"},
-    {Text::ReportName, u"Altersstatistik", u"AgeStatistic"},
+    {Text::ListOnNewPage, u"Liste auf neuer Seite beginnen", u"Start list on a new page"},
+    {Text::ReportName, u"Altersstatistik", u"AgeStatistics"},
     {Text::CriteriaAverages, u"Durchschnittsalter (Männer | Frauen | alle): ", u"Average age (men | women | all): "},
     {Text::CriteriaChart, u"Grafik: Durchschnittsalter nach Jahrhunderten", u"Chart: average age by century"},
     {Text::CriteriaLeftOut, u"Nicht berücksichtigt: ", u"Left out: "},
     {Text::CriteriaAgeRange, u"Niedrigstes | höchstes Alter: ", u"Lowest | highest age: "},
     {Text::CriteriaName, u"Name: ", u"Name: "},
     {Text::PrintCriteriaHeading, u"Überschrift der Auswahlkriterien drucken",
-     u"Print heading of the selection criteria"},
+     u"Print the heading of the selection criteria"},
     {Text::AgeListHeading, u"Liste aller Personen nach Alter sortiert", u"List of all persons sorted by age"},
-    {Text::PrintAgeListHeading, u"Überschrift der Altersliste drucken", u"Print heading of the age list"},
-    {Text::PrintHeader, u"Kopfzeile drucken", u"Print header"},
-    {Text::PrintFooter, u"Fußzeile drucken", u"Print footer"},
-    {Text::PrintChart, u"Grafik drucken", u"Print chart"},
+    {Text::PrintAgeListHeading, u"Überschrift der Altersliste drucken", u"Print the heading of the age list"},
+    {Text::PrintHeader, u"Kopfzeile drucken", u"Print the header"},
+    {Text::PrintFooter, u"Fußzeile drucken", u"Print the footer"},
+    {Text::PrintChart, u"Grafik drucken", u"Print the chart"},
     {Text::CriteriaSex, u"Geschlecht: ", u"Sex: "},
     {Text::CriteriaBirth, u"Geburtsdatum: ", u"Date of birth: "},
     {Text::CriteriaDeath, u"Sterbedatum: ", u"Date of death: "},

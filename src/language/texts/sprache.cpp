@@ -53,8 +53,18 @@ QVariant Sprachmodul::shownText(qint16 id)
     const QVariant text = sprachtext(id);
     if (id < FirstOwnText || (!text.isNull() && text.toString() != Missing))
         return text;
-    const QString own = wording(static_cast<Text>(id), catalogueLanguage(m_host));
+    const QString own = ownText(id);
     return own.isNull() ? text : own;
+}
+
+QString Sprachmodul::ownText(qint16 id)
+{
+    if (m_fileLanguage != m_host.Sprache) {
+        m_fileLanguage = m_host.Sprache;
+        m_file = textsOfLanguage(m_fileLanguage);
+    }
+    const auto found = m_file.find(id);
+    return found != m_file.end() ? found->second : wording(static_cast<Text>(id), catalogueLanguage(m_host));
 }
 
 QString Sprachmodul::dayInWords(qint64 dayNumber)

@@ -4,6 +4,7 @@
 
 #include "host/host.h"
 #include "language/texts/catalogue.h"
+#include "language/texts/textfile.h"
 #include "platform/dao/dao.h"
 #include <memory>
 #include <QLocale>
@@ -33,8 +34,8 @@ public:
     /// The text in the current language, "????" where there is no such row, column or table. The placeholders
     /// #PROGNAME# and #APPNAME# are removed. An empty field gives null.
     QVariant sprachtext(qint16 id);
-    /// The same, but one of our own (from FirstOwnText on) that the database lacks comes from the catalogue: in German
-    /// for a German host, in English for all others.
+    /// The same, but one of our own (from FirstOwnText on) that the database lacks comes from the language's file in
+    /// the resources or else from the catalogue: in German for a German host, in English for all others.
     QVariant shownText(qint16 id);
     /// shownText as plain text; null gives "". Places such as %1 are left for the caller to fill.
     QString text(Text id) { return shownText(static_cast<qint16>(id)).toString(); }
@@ -47,10 +48,14 @@ public:
     void datenbankenschliessen(const QString &name);
 
 private:
+    QString ownText(qint16 id);
+
     const host::Host &m_host;
     dao::Engine &m_engine;
     std::shared_ptr<dao::Database> m_database;
     std::shared_ptr<dao::Recordset> m_languages;
+    QString m_fileLanguage; ///< whose file was read
+    TextFile m_file;
 };
 
 } // namespace kalvenor::language

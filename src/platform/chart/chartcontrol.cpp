@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QMimeData>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -36,6 +37,7 @@ ChartControl::ChartControl(QWidget *parent)
     setFocusPolicy(Qt::StrongFocus);
     setContextMenuPolicy(Qt::ActionsContextMenu);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setMouseTracking(true);
     for (QAction *action : {gridAction, valuesAction, tableAction})
         action->setCheckable(true);
     gridAction->setChecked(m_look.grid);
@@ -49,6 +51,8 @@ ChartControl::ChartControl(QWidget *parent)
     m_figures->setObjectName(u"chartFigures"_s);
     m_figures->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_figures->setContextMenuPolicy(Qt::NoContextMenu); // goes up to the chart's
+    m_figures->setTabKeyNavigation(false);
+    m_figures->setSelectionMode(QAbstractItemView::SingleSelection);
     m_figures->hide();
 
     connect(copyAction, &QAction::triggered, this, &ChartControl::copyPicture);
@@ -63,6 +67,8 @@ ChartControl::ChartControl(QWidget *parent)
         forgetDrawing();
         Q_EMIT lookChanged();
     });
+    connect(m_figures, &QTableWidget::cellActivated, this,
+            [this](int row, int column) { Q_EMIT figureChosen(column, row); });
     connect(tableAction, &QAction::toggled, this, [this](bool on) {
         const bool focused = hasFocus();
         setFocusProxy(on ? m_figures : nullptr);
@@ -178,6 +184,26 @@ void ChartControl::changeEvent(QEvent *event)
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange ||
         event->type() == QEvent::StyleChange)
         forgetDrawing();
+}
+
+void ChartControl::mouseMoveEvent(QMouseEvent *event)
+{
+    if (drawing().hitAt(event->position()))
+        setCursor(Qt::PointingHandCursor);
+    else
+        unsetCursor();
+}
+
+void ChartControl::mousePressEvent(QMouseEvent *event)
+{
+    const auto hit = drawing().hitAt(event->position());
+    if (!hit || event->button() != Qt::LeftButton) {
+        QWidget::mousePressEvent(event);
+        return;
+    }
+    // A pie has one series, the table's last column.
+    const bool onlyLast = drawing().subject().kind == ChartKind::Pie && !m_table.columnLabels.isEmpty();
+    Q_EMIT figureChosen(onlyLast ? static_cast<int>(m_table.columnLabels.size()) - 1 : hit->column, hit->row);
 }
 
 bool ChartControl::event(QEvent *event)

@@ -15,8 +15,9 @@ namespace kalvenor::chart {
 
 class ChartDrawing;
 
-/// A chart in a window, in the colours of the palette. The figure under the mouse shows as a tooltip. The actions make
-/// up the context menu; their captions are the owner's to give. The accessible description holds all figures.
+/// A chart in a window, in the colours of the palette. The figure under the mouse shows as a tooltip and can be
+/// clicked, in the table also chosen by Return. The actions make up the context menu; their captions are the owner's to
+/// give. The accessible description holds all figures.
 class ChartControl : public QWidget {
     Q_OBJECT
 public:
@@ -46,12 +47,16 @@ Q_SIGNALS:
     void saveWanted();
     /// The person switched grid or figures.
     void lookChanged();
+    /// A figure of the table was chosen.
+    void figureChosen(int column, int row);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
     bool event(QEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
 
 private:
     const ChartDrawing &drawing() const;

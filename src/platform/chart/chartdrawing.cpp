@@ -38,7 +38,7 @@ void ChartDrawing::paint(QPainter &painter, const QRectF &target) const
 
 QString ChartDrawing::textAt(QPointF place) const
 {
-    const auto hit = figureAt(m_subject, m_layout, place);
+    const auto hit = hitAt(place);
     if (!hit)
         return {};
     const ChartFigures &figures = m_subject.figures;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/chart/chartgeometry.h"
 #include "platform/chart/chartlayout.h"
 #include "platform/chart/chartstyle.h"
 
@@ -23,6 +24,7 @@ public:
 
     const ChartSubject &subject() const { return m_subject; }
     const ChartLayout &layout() const { return m_layout; }
+    std::optional<ChartHit> hitAt(QPointF place) const { return figureAt(m_subject, m_layout, place); }
     /// By ChartLook::valueFormat, or "series, row: figure" without one; empty where there is no figure.
     QString textAt(QPointF place) const;
 

@@ -12,11 +12,14 @@ namespace {
 
 constexpr double LineWidth = 2;
 
-// The hues of Okabe and Ito, set apart in lightness as well: the first three differ by 20 of 100 or more in grey.
-constexpr std::array<QRgb, SeriesColors> LightColors{0x005A9C, 0xDB8800, 0x1A1A1A, 0x00876A,
+// The hues of Okabe and Ito, set apart in lightness as well, so that the first three differ in grey, too. The third is
+// the quiet one: no hue, near the ground.
+constexpr std::array<QRgb, SeriesColors> LightColors{0x005A9C, 0xDB8800, 0xB4B4B4, 0x00876A,
                                                      0x56B4E9, 0xB8460A, 0xCC79A7, 0xC9B800};
-constexpr std::array<QRgb, SeriesColors> DarkColors{0x3D9AE0, 0xF5B83D, 0xF2F2F2, 0x1FB890,
+constexpr std::array<QRgb, SeriesColors> DarkColors{0x3D9AE0, 0xF5B83D, 0x5E5E5E, 0x1FB890,
                                                     0x9AD4F5, 0xE8713A, 0xD98FBA, 0xF0E442};
+constexpr int QuietColor = 2;
+constexpr int LineContrast = 160; ///< percent: a thin line near its ground would be lost
 constexpr std::array LineStyles{Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine};
 
 template <typename Array>
@@ -43,7 +46,10 @@ QColor ChartStyle::seriesColor(int index) const
 
 QPen ChartStyle::linePen(int index) const
 {
-    return {seriesColor(index), LineWidth, cyclic(LineStyles, index), Qt::FlatCap, Qt::RoundJoin};
+    QColor color = seriesColor(index);
+    if (index % SeriesColors == QuietColor)
+        color = dark ? color.lighter(LineContrast) : color.darker(LineContrast);
+    return {color, LineWidth, cyclic(LineStyles, index), Qt::FlatCap, Qt::RoundJoin};
 }
 
 QPen ChartStyle::edgePen(const QColor &color) const

@@ -70,6 +70,8 @@ constexpr Drawing Drawings[] = {
                         "M4.1 18A0.9 0.9 0 1 1 5.9 18A0.9 0.9 0 1 1 4.1 18ZM9.5 18H20"},
     {LineIcon::Plain, "M4 5H15M9.5 5V17M14 14L20 20M20 14L14 20"},
     {LineIcon::TextColor, "M7 15.5L12 3.5L17 15.5M8.8 11.3H15.2M5 20.2H19"},
+    {LineIcon::Values, "M5 20V13H8V20ZM10.5 20V9H13.5V20ZM16 20V15H19V20ZM5.5 10H7.5M11 6H13M16.5 12H18.5"},
+    {LineIcon::Table, "M4 5H20V19H4ZM4 9.7H20M4 14.3H20M10 5V19"},
 };
 // clang-format on
 
@@ -80,7 +82,7 @@ constexpr bool inOrder()
         if (drawing.icon != static_cast<LineIcon>(place++))
             return false;
     }
-    return place == static_cast<std::size_t>(LineIcon::TextColor) + 1;
+    return place == static_cast<std::size_t>(LineIcon::Table) + 1;
 }
 static_assert(inOrder());
 

@@ -46,6 +46,8 @@ enum class LineIcon {
     Bullets,
     Plain,
     TextColor,
+    Values,
+    Table,
 };
 
 /// A line drawing, sharp at any size, in the colour that the palette gives to texts of buttons at that moment.

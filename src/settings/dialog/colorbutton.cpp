@@ -28,6 +28,7 @@ void ColorButton::setColor(const QColor &color)
     swatch.setDevicePixelRatio(devicePixelRatioF());
     setIcon(swatch);
     setText(color.name());
+    setAccessibleDescription(color.name());
 }
 
 void ColorButton::ask()

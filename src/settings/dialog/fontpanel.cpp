@@ -140,6 +140,8 @@ void FontPanel::layOut()
     form->addRow(QString(), marks);
     row(Text::TextColour, m_color);
     row(Text::FontBackground, m_background);
+    m_color->setAccessibleName(m_texts.text(Text::TextColour)); // their own text is a number
+    m_background->setAccessibleName(m_texts.text(Text::FontBackground));
     form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
 
     auto *right = new QVBoxLayout;

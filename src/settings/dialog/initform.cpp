@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/dialog/initform.h"
 
+#include "host/windowplace.h"
+#include "language/forms/accesskeys.h"
 #include "language/forms/widgetform.h"
 #include "language/texts/sprache.h"
 #include "settings/dialog/contentspanel.h"
@@ -37,10 +39,13 @@ Initform::Initform(const host::Host &host, language::Sprachmodul &texts, Druckvo
     layout()->addWidget(m_tabs);
     makeButtons();
     language::formuebersetzen(*this, texts, host);
+    language::giveAccessKeys(*this);
     unsetCursor();
 
+    language::turnByCtrlTab(*m_tabs);
     initladen(host, vorgaben, page);
     fill(vorgaben, page, ReportMeasures::read(host));
+    new host::WindowPlace(*this, host, u"Druckeinstellungen"_s, sizeHint());
 }
 
 void Initform::makeButtons()

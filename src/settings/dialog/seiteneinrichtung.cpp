@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/dialog/seiteneinrichtung.h"
 
+#include "host/windowplace.h"
+#include "language/forms/accesskeys.h"
 #include "language/forms/widgetform.h"
 #include "settings/dialog/pagepanel.h"
 #include "settings/store/druckvorgaben.h"
@@ -76,7 +78,9 @@ Seiteneinrichtung::Seiteneinrichtung(const host::Host &host, language::Sprachmod
     m_panel->setPage(page);
     connect(m_paper, &QComboBox::currentIndexChanged, this, [this] { m_panel->setPage(this->page()); });
     language::formuebersetzen(*this, texts, host);
+    language::giveAccessKeys(*this);
     unsetCursor();
+    new host::WindowPlace(*this, host, u"Seite"_s, sizeHint());
 }
 
 void Seiteneinrichtung::fillPapers(const print::PageSetup &page)

@@ -3,6 +3,7 @@
 #include "settings/preview/druckvorschau.h"
 
 #include "host/hauptform.h"
+#include "host/windowplace.h"
 #include "language/forms/widgetform.h"
 #include "language/progress/progresspanel.h"
 #include "language/texts/errormessage.h"
@@ -37,6 +38,34 @@ namespace {
 constexpr int OnTop = -1;
 constexpr int NotOnTop = 0;
 constexpr QRgb PaperWhite = 0xffffff;
+constexpr QSize FirstSize(1040, 820);
+const QString Section = u"Fenster"_s;
+const QString ZoomKey = u"VorschauZoom"_s;
+
+const std::pair<QString, Fit> Fits[] = {{u"Seite"_s, Fit::WholePage},
+                                        {u"Breite"_s, Fit::PageWidth},
+                                        {u"ZweiSeiten"_s, Fit::TwoPages},
+                                        {u"Miniaturen"_s, Fit::Thumbnails}};
+
+/// As the settings keep it: the name of a fit, else percent.
+QString zoomText(const PageView &view)
+{
+    for (const auto &[name, fit] : Fits) {
+        if (view.fit() == fit)
+            return name;
+    }
+    return QString::number(view.zoom());
+}
+
+void restoreZoom(PageView &view, const QString &text)
+{
+    for (const auto &[name, fit] : Fits) {
+        if (text == name)
+            view.setFit(fit);
+    }
+    if (const int percent = text.toInt(); percent > 0)
+        view.setZoom(percent);
+}
 
 } // namespace
 
@@ -70,7 +99,8 @@ Druckvorschau::Druckvorschau(const host::Host &host, language::Sprachmodul &text
     connect(&control, &print::PrintControl::changed, this, &Druckvorschau::showPages);
     connect(m_view, &PageView::currentPageChanged, this, &Druckvorschau::showPlace);
     connect(m_view, &PageView::zoomChanged, this, &Druckvorschau::showPlace);
-    resize(1040, 820);
+    new host::WindowPlace(*this, host, u"Vorschau"_s, FirstSize);
+    restoreZoom(*m_view, host.inilesen(host.ownSettingsFile(), Section, ZoomKey, {}));
     showPages();
     m_view->setFocus();
 }
@@ -216,6 +246,7 @@ void Druckvorschau::closeEvent(QCloseEvent *event)
         return;
     }
     m_closing = false;
+    m_host.inischreiben(m_host.ownSettingsFile(), Section, ZoomKey, zoomText(*m_view));
     m_host.fensteroben(windowHandle(), NotOnTop, false);
     if (m_host.Hauptform != nullptr) {
         QWidget &main = m_host.Hauptform->fenster();

@@ -7,6 +7,7 @@
 #include "statistics/ages/markierte.h"
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -38,6 +39,12 @@ int centuryOfMoment(double tag)
     return basic::formatDate(tag, u"dd-mm-yyyy").mid(6, 2).toInt();
 }
 
+/// The chart counts a person of unknown sex with the women.
+Gruppe groupOf(Geschlecht geschlecht)
+{
+    return geschlecht == Geschlecht::Mann ? Maenner : Frauen;
+}
+
 QString averageText(double days, qint64 persons)
 {
     if (persons < 1)
@@ -62,17 +69,18 @@ int jahrhundert(double tag)
     return century;
 }
 
-void Grafikermittlung::add(std::optional<double> geburtsdatum, std::optional<double> sterbedatum, Geschlecht geschlecht)
+std::optional<int> Grafikermittlung::add(std::optional<double> geburtsdatum, std::optional<double> sterbedatum,
+                                         Geschlecht geschlecht)
 {
     ++m_personen.markiert;
     if (!istBekannt(geburtsdatum) || !istBekannt(sterbedatum)) {
         ++m_personen.ohneDatum;
-        return;
+        return std::nullopt;
     }
     const auto days = lebenstage(geburtsdatum, sterbedatum);
     if (!days) {
         ++m_personen.nichtNachGeburt;
-        return;
+        return std::nullopt;
     }
 
     const auto count = [&](Gruppe group) {
@@ -93,6 +101,7 @@ void Grafikermittlung::add(std::optional<double> geburtsdatum, std::optional<dou
         m_jahrhundert = jahrhundert(m_statistik.nachGeburtsjahr ? *geburtsdatum : *sterbedatum);
     }
     addToCentury(geschlecht, *days);
+    return m_jahrhundert;
 }
 
 bool Grafikermittlung::passes(Geschlecht geschlecht) const
@@ -108,7 +117,7 @@ void Grafikermittlung::addToCentury(Geschlecht geschlecht, double days)
     const auto century = static_cast<std::size_t>(m_jahrhundert);
     if (century >= m_jahrhunderte.size())
         m_jahrhunderte.resize(century + 1);
-    for (const Gruppe group : {geschlecht == Geschlecht::Mann ? Maenner : Frauen, Alle}) {
+    for (const Gruppe group : {groupOf(geschlecht), Alle}) {
         Zelle &cell = m_jahrhunderte[century][group];
         ++cell.anzahl;
         cell.jahre += days / 365;
@@ -144,6 +153,7 @@ void Grafikermittlung::fillTable(Grafikzahlen &figures) const
         columns = {Maenner, Frauen, Alle};
     for (const Gruppe column : columns)
         figures.tabelle.columnLabels << Labels[column];
+    figures.gruppen = columns;
 
     // Whoever passed has left years in a century from 1 on, so that without a first century there is nothing to show.
     const auto hasYears = [](const auto &cells) {
@@ -156,6 +166,7 @@ void Grafikermittlung::fillTable(Grafikzahlen &figures) const
         return;
 
     const auto begin = std::min<std::size_t>(static_cast<std::size_t>(first - m_jahrhunderte.begin()), LatestFirstRow);
+    figures.erstesJahrhundert = static_cast<int>(begin);
     for (std::size_t century = begin; century < m_jahrhunderte.size(); ++century) {
         figures.tabelle.rowLabels << basic::numberText(static_cast<double>(century)) + u"00-99"_s;
         QStringList averages;
@@ -171,20 +182,44 @@ void Grafikermittlung::fillTable(Grafikzahlen &figures) const
     }
 }
 
+namespace {
+
+/// Shows the visitor each marked person and the century in which the person counts. Returns how many are marked.
+qint64 gatherMarked(data::Datenbankmodul &databases, Grafikermittlung &figures, const basic::Progress &progress,
+                    const std::function<void(const Markierter &, std::optional<int>)> &visit)
+{
+    return jedenMarkierten(databases, basic::Fault::StoppedChart, progress, [&](const Markierter &person) {
+        try {
+            const auto century = figures.add(person.Geburtsdatum, person.Sterbedatum, person.geschlecht);
+            if (visit)
+                visit(person, century);
+        } catch (const basic::Error &error) {
+            throw error.at({.item = u"%1 (%2)"_s.arg(person.listname()).arg(person.Counter)});
+        }
+    });
+}
+
+} // namespace
+
 Grafikzahlen grafikermitteln(data::Datenbankmodul &databases, const Statistik &statistik,
                              const basic::Progress &progress)
 {
     Grafikermittlung figures(statistik);
-    const auto add = [&](const Markierter &person) {
-        try {
-            figures.add(person.Geburtsdatum, person.Sterbedatum, person.geschlecht);
-        } catch (const basic::Error &error) {
-            throw error.at({.item = u"%1 (%2)"_s.arg(person.listname()).arg(person.Counter)});
-        }
-    };
-    const qint64 marked = jedenMarkierten(databases, basic::Fault::StoppedChart, progress, add);
+    const qint64 marked = gatherMarked(databases, figures, progress, {});
     Grafikzahlen result = figures.zahlen();
     result.zahlen.markiert = marked;
+    return result;
+}
+
+Saeule saeule(data::Datenbankmodul &databases, const Statistik &statistik, Gruppe gruppe, int jahrhundert,
+              const basic::Progress &progress)
+{
+    Saeule result;
+    Grafikermittlung figures(statistik);
+    gatherMarked(databases, figures, progress, [&](const Markierter &person, std::optional<int> century) {
+        const bool counts = century == jahrhundert && (gruppe == Alle || gruppe == groupOf(person.geschlecht));
+        (counts ? result.personen : result.uebrige).push_back(person.Counter);
+    });
     return result;
 }
 

@@ -36,6 +36,8 @@ struct Grafikzahlen {
     /// A row a century; three columns with both sexes, else one. Empty where no person passes the boxes.
     chart::ChartTable tabelle;
     std::vector<std::vector<qint64>> personen; ///< behind each figure of the table
+    std::vector<Gruppe> gruppen;               ///< of its columns
+    int erstesJahrhundert = 0;                 ///< of its rows
     Personenzahlen zahlen;
 };
 
@@ -47,8 +49,10 @@ int jahrhundert(double tag);
 class Grafikermittlung {
 public:
     explicit Grafikermittlung(const Statistik &statistik) : m_statistik(statistik) {}
-    /// Throws Error(Overflow) where the chosen date lies outside the calendar; the totals then have the person already.
-    void add(std::optional<double> geburtsdatum, std::optional<double> sterbedatum, Geschlecht geschlecht);
+    /// The century in which the person counts; nothing where the person does not count at all. Throws Error(Overflow)
+    /// where the chosen date lies outside the calendar; the totals then have the person already.
+    std::optional<int> add(std::optional<double> geburtsdatum, std::optional<double> sterbedatum,
+                           Geschlecht geschlecht);
     /// The figures of all added so far; zahlen.markiert is how often add was called.
     Grafikzahlen zahlen() const;
 
@@ -76,5 +80,14 @@ private:
 /// whose date lies outside the calendar, and the engine's errors.
 Grafikzahlen grafikermitteln(data::Datenbankmodul &databases, const Statistik &statistik,
                              const basic::Progress &progress = {});
+
+/// The marked persons, by whether they are behind one figure of the chart.
+struct Saeule {
+    std::vector<qint32> personen; ///< `Counter` of those who count in it
+    std::vector<qint32> uebrige;  ///< of all others
+};
+/// Whose ages the figure of that group and century averages, as grafikermitteln counts. Errors as there.
+Saeule saeule(data::Datenbankmodul &databases, const Statistik &statistik, Gruppe gruppe, int jahrhundert,
+              const basic::Progress &progress = {});
 
 } // namespace kalvenor::statistics

@@ -21,19 +21,19 @@ chart::ChartLook grafiklook(language::Sprachmodul &texts, const host::Host &host
         .categoryTitle =
             statistik.nachGeburtsjahr ? texts.text(Text::CenturyOfBirth) : texts.text(Text::CenturyOfDeath),
         .valueTitle = texts.text(Text::ChartYears),
-        .emptyText = leererText(texts, {}),
+        .emptyText = texts.text(Text::MarkPersonsFirst),
         .valueFormat = texts.text(Text::ChartValue),
         .locale = language::anzeigesprache(host),
     };
 }
 
-QString leererText(language::Sprachmodul &texts, const Personenzahlen &persons)
+Text leerGrund(const Personenzahlen &persons)
 {
     if (persons.markiert == 0)
-        return texts.text(Text::MarkPersonsFirst);
+        return Text::MarkPersonsFirst;
     if (persons.ohneDatum == persons.markiert)
-        return texts.text(Text::NobodyWithDates);
-    return texts.text(Text::NobodyOfSexWithAge);
+        return Text::NobodyWithDates;
+    return Text::NobodyOfSexWithAge;
 }
 
 } // namespace kalvenor::statistics

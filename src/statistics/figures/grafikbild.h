@@ -14,6 +14,6 @@ namespace kalvenor::statistics {
 chart::ChartLook grafiklook(language::Sprachmodul &texts, const host::Host &host, const Statistik &statistik);
 
 /// Why there is no chart, for a table that is empty.
-QString leererText(language::Sprachmodul &texts, const Personenzahlen &persons);
+language::Text leerGrund(const Personenzahlen &persons);
 
 } // namespace kalvenor::statistics

@@ -5,16 +5,17 @@
 #include "language/forms/widgetform.h"
 #include "language/texts/sprache.h"
 #include "statistics/panel/agelistmodel.h"
+#include "statistics/panel/emptystate.h"
+#include "statistics/panel/selectedlines.h"
 #include "statistics/panel/sexbox.h"
-#include <algorithm>
 #include <QAction>
 #include <QCheckBox>
-#include <QClipboard>
 #include <QFontDatabase>
-#include <QGuiApplication>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -59,19 +60,24 @@ AgeListPanel::AgeListPanel(StatisticsController &controller, QWidget *parent)
     head->addWidget(m_figures, 1);
     auto *column = new QVBoxLayout(this);
     column->addLayout(head);
-    column->addWidget(m_view, 1);
+    m_onlyBar = makeOnlyBar();
+    column->addWidget(m_onlyBar);
+    m_empty = EmptyState::standIn(m_view, controller.session().language);
+    column->addWidget(m_empty->frame(), 1);
     makeActions();
-    setFocusProxy(m_view);
 
     for (const QCheckBox *box : m_sexes)
         connect(box, &QCheckBox::clicked, this, &AgeListPanel::listWanted);
     connect(&controller, &StatisticsController::listCleared, this, [this] {
         m_model->clear();
+        m_onlyBar->hide();
         updateFigures();
+        showState();
     });
     connect(&controller, &StatisticsController::listGrew, this, [this] {
         m_model->grow();
         updateFigures();
+        showState();
     });
     connect(m_view, &QTableView::doubleClicked, this,
             [this](const QModelIndex &index) { Q_EMIT personWanted(m_model->counterAt(index.row())); });
@@ -98,19 +104,64 @@ void AgeListPanel::makeActions()
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
+QWidget *AgeListPanel::makeOnlyBar()
+{
+    auto *bar = new QFrame(this);
+    bar->setObjectName(u"NurDiese"_s);
+    bar->setFrameShape(QFrame::StyledPanel);
+    m_onlyWhat = new QLabel(bar);
+    m_onlyWhat->setObjectName(u"NurDiese_Text"_s);
+    m_onlyWhat->setWordWrap(true);
+    m_markOnly = new QPushButton(bar);
+    m_markOnly->setObjectName(u"NurDiese_markieren"_s);
+    language::setDesignText(m_markOnly, Text::MarkOnlyThese, Text::MarkOnlyTheseTip);
+    auto *all = new QPushButton(bar);
+    all->setObjectName(u"GanzeListe"_s);
+    language::setDesignText(all, Text::ShowWholeList);
+    auto *row = new QHBoxLayout(bar);
+    row->setContentsMargins(8, 2, 2, 2);
+    row->addWidget(m_onlyWhat, 1);
+    row->addWidget(m_markOnly);
+    row->addWidget(all);
+    bar->hide();
+    connect(m_markOnly, &QPushButton::clicked, this, [this] {
+        const std::vector<qint32> others = m_others; // the list is computed anew on the way
+        Q_EMIT unmarkWanted(others);
+    });
+    connect(all, &QPushButton::clicked, this, [this] {
+        m_onlyBar->hide();
+        m_model->showAll();
+        updateFigures();
+        focusFirst();
+    });
+    return bar;
+}
+
+void AgeListPanel::showOnly(const QString &what, const Saeule &persons)
+{
+    m_others = persons.uebrige;
+    m_model->showOnly(persons.personen);
+    data::Session &session = m_controller.session();
+    const QLocale locale = language::anzeigesprache(session.host);
+    const auto count = static_cast<qint64>(persons.personen.size());
+    QString text = what;
+    if (const qint64 absent = count - m_model->rowCount(); absent > 0)
+        text += u' ' + session.language.text(Text::NotInListCount).arg(locale.toString(absent));
+    m_onlyWhat->setText(text);
+    m_markOnly->setEnabled(!m_others.empty());
+    m_onlyBar->show();
+    m_empty->showView();
+    updateFigures();
+}
+
+void AgeListPanel::focusFirst()
+{
+    m_view->setFocus();
+}
+
 void AgeListPanel::copy() const
 {
-    QStringList lines;
-    // Row by row of each range: a million selected rows are one range.
-    QItemSelection ranges = m_view->selectionModel()->selection();
-    std::sort(ranges.begin(), ranges.end(),
-              [](const QItemSelectionRange &a, const QItemSelectionRange &b) { return a.top() < b.top(); });
-    for (const QItemSelectionRange &range : std::as_const(ranges)) {
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            lines << m_controller.list()[static_cast<std::size_t>(row)].text();
-    }
-    if (!lines.isEmpty())
-        QGuiApplication::clipboard()->setText(lines.join(u'\n'));
+    copySelectedLines(*m_view, [this](int row) { return m_model->lineAt(row).text(); });
 }
 
 void AgeListPanel::updateFigures()
@@ -118,6 +169,24 @@ void AgeListPanel::updateFigures()
     data::Session &session = m_controller.session();
     m_figures->setText(session.language.text(Text::PersonsWithAge)
                            .arg(language::anzeigesprache(session.host).toString(m_model->rowCount())));
+}
+
+/// The list, or why it is empty and what to do about it.
+void AgeListPanel::showState()
+{
+    const bool nobodyChosen = !m_sexes[0]->isChecked() && !m_sexes[1]->isChecked();
+    if (m_model->rowCount() > 0 || (!nobodyChosen && !m_controller.isListCurrent()))
+        m_empty->showView();
+    else if (nobodyChosen)
+        m_empty->tell(Text::NoSexChosen, Text::MenAndWomenWanted, [this] {
+            for (QCheckBox *box : m_sexes)
+                box->setChecked(true);
+            Q_EMIT listWanted();
+        });
+    else if (m_controller.markedCount() == 0)
+        m_empty->tell(Text::MarkPersonsFirst, Text::ChoosePersons, [this] { Q_EMIT personsWanted(); });
+    else
+        m_empty->tell(Text::NobodyOfSexWithAge, Text::LeftOutWho, [this] { Q_EMIT leftOutWanted(); });
 }
 
 } // namespace kalvenor::statistics

@@ -7,16 +7,19 @@
 #include "language/texts/sprache.h"
 #include "platform/chart/chartcontrol.h"
 #include "platform/chart/chartpicture.h"
+#include "platform/desktop/lineicon.h"
 #include "statistics/figures/grafikbild.h"
+#include "statistics/panel/emptystate.h"
+#include "statistics/panel/figurestable.h"
 #include "statistics/panel/sexbox.h"
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFileInfo>
-#include <QGridLayout>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QRadioButton>
+#include <QToolButton>
 #include <QVBoxLayout>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -29,20 +32,9 @@ namespace {
 constexpr QSize SavedSize(1600, 1000);
 constexpr double SavedDpi = 160;
 
-QLabel *heading(QWidget *parent, Text caption)
+bool isComputed(const Grafikzahlen &figures)
 {
-    auto *label = new QLabel(parent);
-    language::setDesignText(label, caption);
-    return label;
-}
-
-QLabel *figure(QWidget *parent, const QString &name)
-{
-    auto *label = new QLabel(parent);
-    label->setObjectName(name);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    label->setFocusPolicy(Qt::ClickFocus);
-    return label;
+    return !figures.ohneDatum.isEmpty();
 }
 
 QAbstractButton *groupingButton(QWidget *parent, int index, Text caption, Text tooltip)
@@ -63,10 +55,12 @@ ChartPanel::ChartPanel(StatisticsController &controller, QWidget *parent)
 {
     m_chart->setObjectName(u"Grafik"_s);
     nameActions();
+    m_empty = EmptyState::standIn(m_chart, controller.session().language);
+    m_figures = new FiguresTable(controller.session(), this);
     auto *column = new QVBoxLayout(this);
     column->addWidget(makeOptions());
-    column->addWidget(m_chart, 1);
-    column->addWidget(makeFigures());
+    column->addWidget(m_empty->frame(), 1);
+    column->addWidget(m_figures);
 
     connect(m_type, &QComboBox::activated, this, &ChartPanel::chartWanted);
     for (const QAbstractButton *button : m_grouping)
@@ -76,17 +70,23 @@ ChartPanel::ChartPanel(StatisticsController &controller, QWidget *parent)
     connect(m_legend, &QCheckBox::clicked, this, &ChartPanel::chartWanted);
     connect(m_chart, &chart::ChartControl::saveWanted, this, &ChartPanel::savePicture);
     connect(&controller, &StatisticsController::figuresChanged, this, &ChartPanel::showFigures);
+    connect(m_chart, &chart::ChartControl::figureChosen, this, &ChartPanel::figureChosen);
+    connect(m_figures, &FiguresTable::leftOutWanted, this, &ChartPanel::leftOutWanted);
     showFigures();
-    setFocusProxy(m_type);
 }
 
 void ChartPanel::nameActions()
 {
-    language::setDesignText(m_chart->copyAction, Text::CopyPicture);
-    language::setDesignText(m_chart->saveAction, Text::SavePicture);
-    language::setDesignText(m_chart->gridAction, Text::GridLines);
-    language::setDesignText(m_chart->valuesAction, Text::ShowValues);
-    language::setDesignText(m_chart->tableAction, Text::ShowAsTable);
+    const std::tuple<QAction *, const char *, Text> actions[] = {
+        {m_chart->copyAction, "Bildkopieren", Text::CopyPicture},
+        {m_chart->saveAction, "Bildspeichern", Text::SavePicture},
+        {m_chart->gridAction, "Gitterlinien", Text::GridLines},
+        {m_chart->valuesAction, "Wertezeigen", Text::ShowValues},
+        {m_chart->tableAction, "AlsTabelle", Text::ShowAsTable}};
+    for (const auto &[action, name, caption] : actions) {
+        action->setObjectName(QLatin1String(name));
+        language::setDesignText(action, caption);
+    }
 }
 
 QWidget *ChartPanel::makeOptions()
@@ -96,11 +96,14 @@ QWidget *ChartPanel::makeOptions()
     m_type->setAccessibleName(m_controller.session().language.text(Text::ChartType));
     for (const ChartTypeEntry &entry : chartTypeEntries())
         m_type->addItem(m_controller.session().language.text(entry.name), static_cast<int>(entry.type));
+    m_type->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // the list opens as wide as it needs
+    m_type->setMinimumContentsLength(8);
     m_legend->setObjectName(u"Legende"_s);
     language::setDesignText(m_legend, Text::Legend, Text::LegendTip);
     auto *first = new QHBoxLayout;
     first->addWidget(m_type, 1);
     first->addWidget(m_legend);
+    first->addWidget(makeTools());
     auto *second = new QHBoxLayout;
     second->addWidget(m_grouping[0]);
     second->addWidget(m_grouping[1]);
@@ -114,37 +117,27 @@ QWidget *ChartPanel::makeOptions()
     return box;
 }
 
-QWidget *ChartPanel::makeFigures()
+/// What can be done with the picture, beside the options.
+QWidget *ChartPanel::makeTools()
 {
-    auto *box = new QWidget(this);
-    language::setDesignText(box, Text::FiguresTip);
-    auto *grid = new QGridLayout(box);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(16);
-    grid->setVerticalSpacing(2);
-    grid->addWidget(heading(box, Text::FiguresCount), 1, 0);
-    grid->addWidget(heading(box, Text::FiguresAverage), 2, 0);
-    constexpr std::array groups{Text::Men, Text::Women, Text::All};
-    for (int i = 0; i < 3; ++i) {
-        const auto place = static_cast<std::size_t>(i);
-        grid->addWidget(heading(box, groups[place]), 0, i + 1, Qt::AlignRight);
-        m_counts[place] = figure(box, u"Anzahl_%1"_s.arg(i));
-        m_averages[place] = figure(box, u"Durchschnitt_%1"_s.arg(i));
-        grid->addWidget(m_counts[place], 1, i + 1, Qt::AlignRight);
-        grid->addWidget(m_averages[place], 2, i + 1, Qt::AlignRight);
+    auto *tools = new QWidget(this);
+    auto *row = new QHBoxLayout(tools);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    const std::pair<QAction *, desktop::LineIcon> actions[] = {{m_chart->copyAction, desktop::LineIcon::Copy},
+                                                               {m_chart->saveAction, desktop::LineIcon::Save},
+                                                               {m_chart->valuesAction, desktop::LineIcon::Values},
+                                                               {m_chart->tableAction, desktop::LineIcon::Table}};
+    for (const auto &[action, icon] : actions) {
+        action->setIcon(desktop::lineIcon(icon));
+        auto *button = new QToolButton(tools);
+        button->setObjectName(action->objectName() + u"_Knopf"_s);
+        button->setDefaultAction(action);
+        button->setAutoRaise(true);
+        button->setFocusPolicy(Qt::TabFocus);
+        row->addWidget(button);
     }
-    m_unknownSex = figure(box, u"OhneGeschlecht"_s);
-    grid->addWidget(m_unknownSex, 1, 4);
-    m_range = figure(box, u"Altersspanne"_s);
-    m_withoutDate = figure(box, u"OhneDatum"_s);
-    m_leftOut = figure(box, u"Ausgelassen"_s);
-    grid->addWidget(heading(box, Text::FiguresRange), 3, 0);
-    grid->addWidget(m_range, 3, 1, 1, 4);
-    grid->addWidget(heading(box, Text::FiguresLeftOut), 4, 0, Qt::AlignTop);
-    grid->addWidget(m_withoutDate, 4, 1, 1, 4);
-    grid->addWidget(m_leftOut, 5, 1, 1, 4);
-    grid->setColumnStretch(4, 1);
-    return box;
+    return tools;
 }
 
 Statistik ChartPanel::options() const
@@ -176,35 +169,44 @@ void ChartPanel::updateLook()
     look.grid = m_chart->gridAction->isChecked();
     look.values = m_chart->valuesAction->isChecked();
     const Grafikzahlen &figures = m_controller.figures();
-    const bool computed = !figures.ohneDatum.isEmpty();
-    look.emptyText = computed ? leererText(session.language, figures.zahlen) : QString();
+    look.emptyText = isComputed(figures) ? session.language.text(leerGrund(figures.zahlen)) : QString();
     m_chart->setLook(look);
+}
+
+void ChartPanel::focusFirst()
+{
+    m_type->setFocus();
 }
 
 void ChartPanel::showFigures()
 {
     const Grafikzahlen &figures = m_controller.figures();
-    for (std::size_t i = 0; i < m_counts.size(); ++i) {
-        m_counts[i]->setText(figures.anzahl[i]);
-        m_averages[i]->setText(figures.durchschnitt[i]);
-    }
-    m_range->setText(figures.spanne.value_or(QString()));
-    m_withoutDate->setText(figures.ohneDatum);
-    const QLocale locale = language::anzeigesprache(m_controller.session().host);
-    QStringList left;
-    if (figures.zahlen.nichtNachGeburt > 0)
-        left << m_controller.session()
-                    .language.text(Text::PersonsNotDiedAfterBirth)
-                    .arg(locale.toString(figures.zahlen.nichtNachGeburt));
-    m_unknownSex->setText(figures.zahlen.ohneGeschlecht == 0
-                              ? QString()
-                              : m_controller.session()
-                                    .language.text(Text::UnknownSexCount)
-                                    .arg(locale.toString(figures.zahlen.ohneGeschlecht)));
-    m_leftOut->setText(left.join(u'\n'));
-    m_leftOut->setVisible(!left.isEmpty());
+    m_figures->setFigures(figures);
     m_chart->setTable(figures.tabelle);
     updateLook();
+    showState();
+}
+
+/// The chart, or why there is none and what to do about it.
+void ChartPanel::showState()
+{
+    const Grafikzahlen &figures = m_controller.figures();
+    if (!isComputed(figures) || !figures.tabelle.isEmpty()) {
+        m_empty->showView();
+        return;
+    }
+    const Text missing = leerGrund(figures.zahlen);
+    const bool bothSexes = m_sexes[0]->isChecked() && m_sexes[1]->isChecked();
+    if (missing == Text::MarkPersonsFirst)
+        m_empty->tell(missing, Text::ChoosePersons, [this] { Q_EMIT personsWanted(); });
+    else if (missing == Text::NobodyOfSexWithAge && !bothSexes)
+        m_empty->tell(missing, Text::MenAndWomenWanted, [this] {
+            for (QCheckBox *box : m_sexes)
+                box->setChecked(true);
+            Q_EMIT chartWanted();
+        });
+    else
+        m_empty->tell(missing, Text::LeftOutWho, [this] { Q_EMIT leftOutWanted(); });
 }
 
 void ChartPanel::savePicture()

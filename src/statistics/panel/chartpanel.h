@@ -10,14 +10,15 @@
 class QAbstractButton;
 class QCheckBox;
 class QComboBox;
-class QGridLayout;
-class QLabel;
 
 namespace kalvenor::chart {
 class ChartControl;
 }
 
 namespace kalvenor::statistics {
+
+class EmptyState;
+class FiguresTable;
 
 /// The chart `Grafik` with its options above and the figures below.
 class ChartPanel : public QWidget {
@@ -31,17 +32,25 @@ public:
     void setOptions(const Statistik &options);
     /// Type, legend and texts as the controls and the settings file say.
     void updateLook();
+    void focusFirst();
 
 Q_SIGNALS:
     /// An option was changed.
     void chartWanted();
     void said(const QString &text);
+    /// A figure of the chart was chosen: its column and row in the table.
+    void figureChosen(int column, int row);
+    /// The list of those who are left out is wanted.
+    void leftOutWanted();
+    /// There is nobody to show: persons are to be chosen.
+    void personsWanted();
 
 private:
     QWidget *makeOptions();
-    QWidget *makeFigures();
+    QWidget *makeTools();
     void nameActions();
     void showFigures();
+    void showState();
     void savePicture();
 
     StatisticsController &m_controller;
@@ -51,12 +60,8 @@ private:
     std::array<QAbstractButton *, 2> m_grouping; ///< gt_ribbon: by birth, by death
     std::array<QCheckBox *, 2> m_sexes;
     chart::ChartControl *m_chart;
-    std::array<QLabel *, 3> m_counts;   ///< men, women, all
-    std::array<QLabel *, 3> m_averages; ///< the same
-    QLabel *m_unknownSex;               ///< how many of all
-    QLabel *m_range;
-    QLabel *m_withoutDate;
-    QLabel *m_leftOut;
+    EmptyState *m_empty;
+    FiguresTable *m_figures;
 };
 
 } // namespace kalvenor::statistics

@@ -63,6 +63,7 @@ bool StatisticsController::alterslistenausgabe(const GeschlechtAlter &geschlecht
                                                  });
     });
     m_listCurrent = done;
+    m_marked = marked;
     if (marked > 0)
         m_session.host.desktop().setPointer(desktop::Pointer::Custom);
     Q_EMIT listGrew();
@@ -78,6 +79,23 @@ bool StatisticsController::grafikermitteln(const Statistik &statistik)
     if (done)
         Q_EMIT figuresChanged();
     return done;
+}
+
+std::optional<Saeule> StatisticsController::saeule(const Statistik &statistik, Gruppe gruppe, int jahrhundert)
+{
+    std::optional<Saeule> found;
+    perform(m_session.language.text(Text::ComputingAgeList), [&](const basic::Progress &progress) {
+        found = statistics::saeule(m_session.databases, statistik, gruppe, jahrhundert, progress);
+    });
+    return found;
+}
+
+std::optional<std::vector<Ausgelassener>> StatisticsController::auslassungen()
+{
+    std::optional<std::vector<Ausgelassener>> found;
+    perform(m_session.language.text(Text::ReadingDatabase),
+            [&](const basic::Progress &progress) { found = statistics::auslassungen(m_session.databases, progress); });
+    return found;
 }
 
 } // namespace kalvenor::statistics

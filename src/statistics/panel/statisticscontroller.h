@@ -5,6 +5,7 @@
 #include "data/session/session.h"
 #include "platform/desktop/work.h"
 #include "statistics/ages/altersliste.h"
+#include "statistics/ages/auslassung.h"
 #include "statistics/figures/grafik.h"
 #include <QElapsedTimer>
 #include <QObject>
@@ -28,9 +29,15 @@ public:
     /// Computes the figures and the chart's table. Where it fails or is cancelled, the old ones stay, as outdated ones.
     bool grafikermitteln(const Statistik &statistik);
 
+    /// Who is behind a figure of the chart; who is left out. Nothing where it was not begun, failed or was cancelled.
+    std::optional<Saeule> saeule(const Statistik &statistik, Gruppe gruppe, int jahrhundert);
+    std::optional<std::vector<Ausgelassener>> auslassungen();
+
     /// Whether the list, the figures are what marks, persons and the controls last asked for give.
     bool isListCurrent() const { return m_listCurrent; }
     bool areFiguresCurrent() const { return m_figuresCurrent; }
+    /// How many persons were marked when the list was computed.
+    qint64 markedCount() const { return m_marked; }
     /// Marks or persons have changed: both are to be computed again.
     void forget() { m_listCurrent = m_figuresCurrent = false; }
     /// Whether the next computation may come unasked: the last one was short and neither failed nor was cancelled.
@@ -50,6 +57,7 @@ private:
     desktop::Work &m_work;
     Altersliste m_list;
     Grafikzahlen m_figures;
+    qint64 m_marked = 0;
     bool m_listCurrent = false;
     bool m_figuresCurrent = false;
     bool m_mayFollow = true;

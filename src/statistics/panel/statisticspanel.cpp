@@ -3,9 +3,11 @@
 #include "statistics/panel/statisticspanel.h"
 
 #include "language/forms/widgetform.h"
+#include "language/texts/sprache.h"
 #include "statistics/introduction/texteditor.h"
 #include "statistics/panel/agelistpanel.h"
 #include "statistics/panel/chartpanel.h"
+#include "statistics/panel/leftoutdialog.h"
 #include <QCheckBox>
 #include <QFrame>
 #include <QHBoxLayout>
@@ -69,6 +71,12 @@ StatisticsPanel::StatisticsPanel(StatisticsController &controller, QWidget *pare
         grafikermitteln();
         Q_EMIT edited();
     });
+    connect(m_chart, &ChartPanel::figureChosen, this, &StatisticsPanel::showPersonsOf);
+    connect(m_chart, &ChartPanel::leftOutWanted, this, &StatisticsPanel::showLeftOut);
+    connect(m_list, &AgeListPanel::leftOutWanted, this, &StatisticsPanel::showLeftOut);
+    connect(m_chart, &ChartPanel::personsWanted, this, &StatisticsPanel::personsWanted);
+    connect(m_list, &AgeListPanel::personsWanted, this, &StatisticsPanel::personsWanted);
+    connect(m_list, &AgeListPanel::unmarkWanted, this, &StatisticsPanel::unmarkWanted);
     connect(m_chart, &ChartPanel::said, this, &StatisticsPanel::said);
     connect(m_introduction, &TextEditor::said, this, &StatisticsPanel::said);
     connect(m_introduction, &TextEditor::changed, this, &StatisticsPanel::edited);
@@ -100,7 +108,48 @@ QWidget *StatisticsPanel::makeNoticeBar()
 void StatisticsPanel::showTab(Tab tab)
 {
     m_tabs->setCurrentIndex(tab);
-    m_tabs->currentWidget()->setFocus();
+    switch (tab) {
+    case Chart:
+        m_chart->focusFirst();
+        break;
+    case AgeList:
+        m_list->focusFirst();
+        break;
+    default:
+        m_tabs->currentWidget()->setFocus();
+    }
+}
+
+void StatisticsPanel::showPersonsOf(int column, int row)
+{
+    const Grafikzahlen figures = m_controller.figures();
+    const auto place = static_cast<std::size_t>(column);
+    if (place >= figures.gruppen.size() || row >= figures.tabelle.rowLabels.size())
+        return;
+    const Statistik chosen = options();
+    const auto persons = m_controller.saeule(chosen, figures.gruppen[place], figures.erstesJahrhundert + row);
+    if (!persons)
+        return;
+    showTab(AgeList);
+    constexpr std::array groups{Text::Men, Text::Women, Text::All};
+    language::Sprachmodul &texts = m_controller.session().language;
+    const QLocale locale = language::anzeigesprache(m_controller.session().host);
+    m_list->showOnly(texts.text(Text::PersonsInGroup)
+                         .arg(texts.text(groups[figures.gruppen[place]]),
+                              texts.text(chosen.nachGeburtsjahr ? Text::CenturyOfBirth : Text::CenturyOfDeath),
+                              figures.tabelle.rowLabels[row].trimmed(),
+                              locale.toString(static_cast<qlonglong>(persons->personen.size()))),
+                     *persons);
+}
+
+void StatisticsPanel::showLeftOut()
+{
+    const auto persons = m_controller.auslassungen();
+    if (!persons)
+        return;
+    LeftOutDialog dialog(m_controller.session(), *persons, window());
+    if (m_controller.session().host.desktop().runDialog(dialog))
+        Q_EMIT personWanted(dialog.chosen());
 }
 
 Statistik StatisticsPanel::options() const

@@ -52,6 +52,10 @@ Q_SIGNALS:
     void said(const QString &text);
     /// This person is to be shown in the list of the marked ones.
     void personWanted(qint32 counter);
+    /// These are no longer to be marked.
+    void unmarkWanted(const std::vector<qint32> &counters);
+    /// Nobody is marked: persons are to be chosen.
+    void personsWanted();
     /// Title, introduction or an option was changed by the user.
     void edited();
 
@@ -59,6 +63,8 @@ private:
     QWidget *makeNoticeBar();
     void tabChosen();
     void computeShown();
+    void showPersonsOf(int column, int row);
+    void showLeftOut();
     bool isShownCurrent() const;
 
     StatisticsController &m_controller;
