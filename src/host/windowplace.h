@@ -18,7 +18,6 @@ QRect fittedPlace(QRect wanted, const QRect &space);
 /// the window's name: they are taken when this is made, and written when the window closes, of a dialog only where its
 /// size was changed. The window never opens larger than its screen.
 class WindowPlace : public QObject {
-    Q_OBJECT
 public:
     /// `first` is the size without settings. The window owns this.
     WindowPlace(QWidget &window, const Host &host, const QString &name, QSize first);

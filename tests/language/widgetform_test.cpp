@@ -70,7 +70,7 @@ struct Window : QMainWindow {
         setDesignText(contextEntry, Text::MenuChart);
         list->addAction(contextEntry);
 
-        setDesignText(tools, Text::MenuToolBar);
+        setDesignText(tools, Text::TextFormats);
         tools->addAction(save);
         language::setDesignToolCaption(save, Text::ToolSave);
         setDesignText(chart, Text::MenuChart, Text::ListOnNewPage);
@@ -107,7 +107,7 @@ struct Window : QMainWindow {
 
         statusBar()->addPermanentWidget(panel);
         setDesignText(panel, {}, Text::MarkedPersons);
-        setDesignText(dock, Text::MenuFilter);
+        setDesignText(dock, Text::Pages);
         addDockWidget(Qt::LeftDockWidgetArea, dock);
         setDesignText(dialog, Text::AgeStatistic);
         setDesignText(inDialog, Text::FilterList);
@@ -157,7 +157,7 @@ struct Window : QMainWindow {
                 {"short tool caption", toolButton(save)->text(), Text::ToolSave},
                 {"tool button", chart->text(), Text::MenuChart},
                 {"button menu", chartEntry->text(), Text::MenuFilter},
-                {"tool bar", tools->windowTitle(), Text::MenuToolBar},
+                {"tool bar", tools->windowTitle(), Text::TextFormats},
                 {"control in tool bar", inTools->text(), Text::MarkedPersons},
                 {"group", group->title(), Text::FilterList},
                 {"check", check->text(), Text::ListOnNewPage},
@@ -169,7 +169,7 @@ struct Window : QMainWindow {
                 {"heading", heading(0), Text::Name},
                 {"far heading", heading(2), Text::Age},
                 {"list", list->accessibleName(), Text::MarkedPersons},
-                {"dock", dock->windowTitle(), Text::MenuFilter}};
+                {"dock", dock->windowTitle(), Text::Pages}};
     }
     std::vector<Shown> tooltips() const
     {

@@ -238,8 +238,8 @@ TEST_F(InitformTest, EveryControlHasAnAccessKeyOfItsOwn)
         ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
         auto &tabs = control<QTabWidget>("Tabs");
         control<QPushButton>("Ende_0").setFocus();
-        for (int page = 0; page < tabs.count(); ++page) {
-            EXPECT_EQ(tabs.currentIndex(), page);
+        for (int turn = 0; turn < tabs.count(); ++turn) {
+            EXPECT_EQ(tabs.currentIndex(), turn);
             const QString keys = accessKeysOf(*form);
             EXPECT_EQ(QSet<QChar>(keys.begin(), keys.end()).size(), keys.size()) << keys.toStdString();
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);

@@ -184,6 +184,7 @@ void writeHost(const QString &folder, const std::vector<TestPerson> &persons)
     writeFamily(family, persons);
     writeDatabase(host.filePath(u"Ereignis.mdb"_s), {eventKinds("Deutsch", "Geburt", "Tod"),
                                                      eventKinds("English", "Birth", "Death"),
+                                                     eventKinds("Dansk", "Fødsel", "Død"),
                                                      {u"Namenfont"_s, {text("Name")}, {{some("Arial")}}}});
     writeDatabase(host.filePath(u"Geschichte.mdb"_s),
                   {{u"Ereignis"_s, {column("Jahr"), text("Text")}, {{1648, some("Friede")}}}});

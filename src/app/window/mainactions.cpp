@@ -75,9 +75,9 @@ void MainActions::makeStatistic()
     giveToolButton(openTemplate, desktop::LineIcon::Open, Text::Open, Text::ToolOpenTip);
     giveToolButton(saveTemplate, desktop::LineIcon::Save, Text::ToolSave, Text::ToolSaveTip);
     giveToolButton(reset, desktop::LineIcon::Reset, Text::ToolReset, Text::ToolResetTip);
-    giveToolButton(preview, desktop::LineIcon::Preview, Text::ToolPreview, Text::ToolPreviewTip);
+    giveToolButton(preview, desktop::LineIcon::Preview, Text::PrintPreview, Text::ToolPreviewTip);
     giveToolButton(print, desktop::LineIcon::Print, Text::ToolPrint, Text::ToolPrintTip);
-    giveToolButton(settings, desktop::LineIcon::Sliders, Text::ToolSettings, Text::ToolSettingsTip);
+    giveToolButton(settings, desktop::LineIcon::Sliders, Text::PrintSettings, Text::ToolSettingsTip);
     giveToolButton(quit, desktop::LineIcon::Quit, Text::Quit, Text::ToolQuitTip);
 
     QMenu *menu = makeMenu(Text::MenuStatistic, {openTemplate});

@@ -106,7 +106,6 @@ constexpr CatalogueText Texts[] = {
     {Text::PeriodTo, u"bis %1", u"to %1"},
     {Text::PeriodFromTo, u"%1 bis %2", u"%1 to %2"},
     {Text::LeftOutWithoutDate, u"%1 ohne Geburts- oder Sterbedatum", u"%1 without a date of birth or death"},
-    {Text::LeftOutNotDied, u"%1 mit Tod nicht nach der Geburt", u"%1 with a death not after the birth"},
     {Text::ReportPerson, u"Person", u"Person"},
     {Text::LeftOutBySex, u"%1 nicht in der Altersliste (Geschlecht unbekannt oder nicht gewählt)",
      u"%1 not in the age list (sex unknown or not chosen)"},

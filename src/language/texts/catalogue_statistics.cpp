@@ -36,7 +36,7 @@ constexpr CatalogueText Texts[] = {
     {Text::MarkPersonsFirst, u"Markieren Sie Personen, um ihre Altersstatistik zu sehen.",
      u"Mark persons to see their age statistics."},
     {Text::PersonsWithAge, u"%1 Personen, deren Alter berechnet werden kann", u"%1 persons whose age can be computed"},
-    {Text::PersonsNotDiedAfterBirth, u"%1 mit Tod nicht nach der Geburt", u"%1 with a death not after the birth"},
+    {Text::PersonsNotDiedAfterBirth, u"%1 nicht nach der Geburt gestorben", u"%1 with a death not after the birth"},
     {Text::CopyLines, u"Zeilen kopieren", u"Copy lines"},
     {Text::ShowPersonInList, u"Person in der Liste zeigen", u"Show this person in the list"},
     {Text::FiguresTip, u"Anzahl, Durchschnittsalter, niedrigstes und höchstes Alter der markierten Personen",

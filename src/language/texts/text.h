@@ -112,9 +112,7 @@ enum class Text : qint16 {
     Open = 20201,
     ToolSave = 20202,
     ToolReset = 20203,
-    ToolPreview = 20204,
     ToolPrint = 20205,
-    ToolSettings = 20206,
     Undo = 20207,
     Redo = 20208,
     ToolReload = 20209,
@@ -393,7 +391,6 @@ enum class Text : qint16 {
     PeriodTo = 20962,
     PeriodFromTo = 20963,
     LeftOutWithoutDate = 20964,
-    LeftOutNotDied = 20965,
     ReportPerson = 20972,
     LeftOutBySex = 20973,
     // 21000 and up: messages, about, first run, help, templates

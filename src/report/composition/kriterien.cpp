@@ -95,7 +95,7 @@ QStringList kriterien(const Auswahlkriterien &criteria, const statistics::Statis
     if (figures.zahlen.ohneDatum > 0)
         leftOut << lines.text(Text::LeftOutWithoutDate).arg(figures.zahlen.ohneDatum);
     if (figures.zahlen.nichtNachGeburt > 0)
-        leftOut << lines.text(Text::LeftOutNotDied).arg(figures.zahlen.nichtNachGeburt);
+        leftOut << lines.text(Text::PersonsNotDiedAfterBirth).arg(figures.zahlen.nichtNachGeburt);
     if (const qint64 notListed = figures.zahlen.gezaehlt - static_cast<qint64>(listedPersons); notListed > 0)
         leftOut << lines.text(Text::LeftOutBySex).arg(notListed);
     if (!leftOut.isEmpty())

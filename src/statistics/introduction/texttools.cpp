@@ -82,17 +82,24 @@ QAction *TextTools::make(const char *name, Text caption, const QIcon &icon, cons
 {
     auto *action = new QAction(icon, {}, this);
     action->setObjectName(QLatin1String(name));
-    language::setDesignText(action, caption, caption);
+    language::setDesignText(action, caption);
     // The field itself looks for the keys, so that the window's actions with the same ones do not stand in its way.
     action->setShortcut(keys);
     action->setShortcutContext(Qt::WidgetShortcut);
     return action;
 }
 
+QAction *TextTools::makeTool(const char *name, Text caption, const QIcon &icon, const QKeySequence &keys)
+{
+    QAction *action = make(name, caption, icon, keys);
+    language::setDesignText(action, {}, caption);
+    return action;
+}
+
 QAction *TextTools::makeToggle(const char *name, Text caption, desktop::LineIcon icon, const QKeySequence &keys,
                                void (TextTools::*apply)(bool))
 {
-    QAction *action = make(name, caption, desktop::lineIcon(icon), keys);
+    QAction *action = makeTool(name, caption, desktop::lineIcon(icon), keys);
     action->setCheckable(true);
     connect(action, &QAction::triggered, this, apply);
     return action;
@@ -109,18 +116,19 @@ void TextTools::makeFormats()
                              Qt::CTRL | Qt::SHIFT | Qt::Key_X, &TextTools::applyStrikeOut);
     m_bullets = makeToggle("Aufzaehlung", Text::Bullets, desktop::LineIcon::Bullets, Qt::CTRL | Qt::SHIFT | Qt::Key_L,
                            &TextTools::applyBullets);
-    m_plain = make("Formateentfernen", Text::RemoveFormats, desktop::lineIcon(desktop::LineIcon::Plain),
-                   Qt::CTRL | Qt::Key_Space);
+    m_plain = makeTool("Formateentfernen", Text::RemoveFormats, desktop::lineIcon(desktop::LineIcon::Plain),
+                       Qt::CTRL | Qt::Key_Space);
     connect(m_plain, &QAction::triggered, &m_field, &TextField::removeFormats);
 }
 
 void TextTools::makeAlignments()
 {
     m_alignments = {
-        make("Links", Text::AlignLeft, desktop::lineIcon(desktop::LineIcon::AlignLeft), Qt::CTRL | Qt::Key_L),
-        make("Zentriert", Text::AlignCentre, desktop::lineIcon(desktop::LineIcon::AlignCentre), Qt::CTRL | Qt::Key_E),
-        make("Rechts", Text::AlignRight, desktop::lineIcon(desktop::LineIcon::AlignRight), Qt::CTRL | Qt::Key_R),
-        make("Blocksatz", Text::AlignJustify, desktop::lineIcon(desktop::LineIcon::Justify), Qt::CTRL | Qt::Key_J)};
+        makeTool("Links", Text::AlignLeft, desktop::lineIcon(desktop::LineIcon::AlignLeft), Qt::CTRL | Qt::Key_L),
+        makeTool("Zentriert", Text::AlignCentre, desktop::lineIcon(desktop::LineIcon::AlignCentre),
+                 Qt::CTRL | Qt::Key_E),
+        makeTool("Rechts", Text::AlignRight, desktop::lineIcon(desktop::LineIcon::AlignRight), Qt::CTRL | Qt::Key_R),
+        makeTool("Blocksatz", Text::AlignJustify, desktop::lineIcon(desktop::LineIcon::Justify), Qt::CTRL | Qt::Key_J)};
     auto *group = new QActionGroup(this);
     for (std::size_t i = 0; i < m_alignments.size(); ++i) {
         m_alignments[i]->setCheckable(true);
@@ -131,15 +139,15 @@ void TextTools::makeAlignments()
 
 void TextTools::makeEditing()
 {
-    m_undo = make("Textrueckgaengig", Text::Undo, desktop::lineIcon(desktop::LineIcon::Undo), Qt::CTRL | Qt::Key_Z);
-    m_redo = make("Textwiederherstellen", Text::Redo, desktop::lineIcon(desktop::LineIcon::Redo));
+    m_undo = makeTool("Textrueckgaengig", Text::Undo, desktop::lineIcon(desktop::LineIcon::Undo), Qt::CTRL | Qt::Key_Z);
+    m_redo = makeTool("Textwiederherstellen", Text::Redo, desktop::lineIcon(desktop::LineIcon::Redo));
     m_redo->setShortcuts({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y});
     m_cut = make("Ausschneiden", Text::EditorCut, {}, QKeySequence::Cut);
     m_copy = make("Textkopieren", Text::EditorCopy, desktop::lineIcon(desktop::LineIcon::Copy), QKeySequence::Copy);
     m_paste = make("Einfuegen", Text::EditorPaste, {}, QKeySequence::Paste);
     m_pastePlain = make("Ohneformateeinfuegen", Text::PastePlain, {}, Qt::CTRL | Qt::SHIFT | Qt::Key_V);
-    m_open = make("Textoeffnen", Text::OpenTextMenu, desktop::lineIcon(desktop::LineIcon::Open));
-    m_save = make("Textspeichern", Text::SaveTextMenu, desktop::lineIcon(desktop::LineIcon::Save));
+    m_open = makeTool("Textoeffnen", Text::OpenTextMenu, desktop::lineIcon(desktop::LineIcon::Open));
+    m_save = makeTool("Textspeichern", Text::SaveTextMenu, desktop::lineIcon(desktop::LineIcon::Save));
     connect(m_undo, &QAction::triggered, &m_field, &QTextEdit::undo);
     connect(m_redo, &QAction::triggered, &m_field, &QTextEdit::redo);
     connect(m_cut, &QAction::triggered, &m_field, &QTextEdit::cut);

@@ -33,6 +33,8 @@ Q_SIGNALS:
 
 private:
     QAction *make(const char *name, language::Text caption, const QIcon &icon, const QKeySequence &keys = {});
+    /// One with a button, which has a tooltip.
+    QAction *makeTool(const char *name, language::Text caption, const QIcon &icon, const QKeySequence &keys = {});
     QAction *makeToggle(const char *name, language::Text caption, desktop::LineIcon icon, const QKeySequence &keys,
                         void (TextTools::*apply)(bool));
     void makeFormats();

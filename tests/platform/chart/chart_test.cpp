@@ -284,8 +284,9 @@ TEST(Chart, EachFigureIsDrawnWhereItIsHit)
                     place = figurePoint(subject, drawing.layout(), column, row);
                 }
                 const QRgb color = style.seriesColor(type == ChartType::Pie ? row : column).rgb();
+                const QRgb line = style.linePen(column).color().rgb();
                 const bool drawn = std::any_of(shapes.all.begin(), shapes.all.end(), [&](const auto &each) {
-                    return each.second == color && each.first.contains(place);
+                    return (each.second == color || each.second == line) && each.first.contains(place);
                 });
                 const auto name = testing::Message() << static_cast<int>(type) << ' ' << column << ' ' << row;
                 if (subject.figures.value(column, row) == 0) {
