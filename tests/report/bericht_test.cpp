@@ -223,8 +223,8 @@ TEST_F(BerichtTest, CriteriaSayWhatIsActive)
                                 "Niedrigstes | höchstes Alter: 71.2 |  109.5\nNicht berücksichtigt: " +
                                 excluded;
     EXPECT_EQ(lines({}, 3), "Grafik: nach Geburtsjahr\n" + numbers);
-    EXPECT_EQ(lines({}, 2, false),
-              "Grafik: nach Sterbejahr\n" + numbers + ", 1 nach Geschlecht nicht in der Altersliste");
+    EXPECT_EQ(lines({}, 2, false), "Grafik: nach Sterbejahr\n" + numbers +
+                                       ", 1 nicht in der Altersliste (Geschlecht unbekannt oder nicht gewählt)");
     Auswahlkriterien all{.filter = {.Presse = "*Müll*", .Geschlechtfilter = {0, 1}, .Datumfilter = {1, 0, 1}},
                          .filtered = true,
                          .relatives = {.parents = true}};
