@@ -139,7 +139,7 @@ TEST(Statistic, ABarLeadsToItsPersonsAndCanLeaveJustThemMarked)
     QTest::mouseClick(&chart, Qt::LeftButton, {}, bar);
     EXPECT_EQ(open.control<QTabWidget>("statistiktab").currentIndex(), StatisticsPanel::AgeList);
     EXPECT_EQ(open.lines(), (QStringList{" 71.2  Adler, Hans ", " 73.9  Claus, Ernst "}));
-    EXPECT_EQ(open.label("NurDiese_Text"), "Männer, Jahrhundert der Geburt 1800-99: 2 Personen");
+    EXPECT_EQ(open.label("NurDiese_Text"), "Männer · Jahrhundert der Geburt 1800-99: 2 Personen");
     EXPECT_EQ(open.statistics().list().size(), 4U) << "what is printed stays whole";
     open.click<QPushButton>("GanzeListe");
     EXPECT_EQ(open.lines().size(), 4);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "statistics/panel/emptystate.h"
 
+#include "language/forms/accesskeys.h"
 #include <QLabel>
 #include <QPushButton>
 #include <QStackedLayout>
@@ -38,7 +39,7 @@ EmptyState::EmptyState(QWidget *view, language::Sprachmodul &texts, QWidget *fra
 void EmptyState::tell(language::Text missing, language::Text wayCaption, std::function<void()> way)
 {
     m_missing->setText(m_texts.text(missing));
-    m_way->setText(m_texts.text(wayCaption));
+    m_way->setText(language::withoutAccessKey(m_texts.text(wayCaption))); // the same may stand beside it with its key
     m_onWay = std::move(way);
     m_stack->setCurrentWidget(this);
 }
