@@ -24,6 +24,7 @@ using language::Text;
 
 namespace {
 
+constexpr int RowsMeasured = 100;
 enum Column { NameColumn, ReasonColumn, ColumnCount };
 
 class LeftOutModel : public QAbstractTableModel {
@@ -77,7 +78,9 @@ LeftOutDialog::LeftOutDialog(data::Session &session, const std::vector<Ausgelass
     m_view->verticalHeader()->hide();
     m_view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_view->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() + 6);
-    m_view->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_view->horizontalHeader()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
+    m_view->horizontalHeader()->setSectionResizeMode(ReasonColumn, QHeaderView::ResizeToContents);
+    m_view->horizontalHeader()->setResizeContentsPrecision(RowsMeasured);
     m_view->horizontalHeader()->setHighlightSections(false);
 
     auto *show = new QPushButton(this);
