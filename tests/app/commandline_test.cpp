@@ -327,9 +327,9 @@ TEST_F(CommandLine, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
     const struct {
         QByteArray path;
         QString named;
-    } rows[] = {{family.toUtf8(), "looked for " + family},
-                {"Q:\\f.mdb", "no folder is known for the drive Q:"},
-                {"", "no family database is named in " + settings}};
+    } rows[] = {{family.toUtf8(), "Gesucht wurde " + family + "."},
+                {"Q:\\f.mdb", "Für das Laufwerk Q: ist kein Ordner bekannt"},
+                {"", "In " + settings + " [QV-Files] ist keine Familiendatenbank"}};
     for (const auto &row : rows) {
         QFile file(settings);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -347,6 +347,33 @@ TEST_F(CommandLine, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
     ASSERT_TRUE(QFile::remove(settings));
     ASSERT_TRUE(QFile::rename(settings + ".weg", settings));
     ASSERT_TRUE(QFile::rename(family + ".weg", family));
+}
+
+TEST_F(CommandLine, TellsErrorsInTheHostsLanguageAndTheirTechnicalWordingWhereAsked)
+{
+    const QString file = folder->filePath("nirgends/x.pdf");
+    const QString sentence = "kalvenor: Laufzeitfehler 57: " + file + ": Die PDF-Datei kann nicht geschrieben werden: ";
+    const struct {
+        QStringList arguments;
+        int exitCode;
+        QString told;
+        QString technical;
+    } rows[] = {
+        {{"report", "--output", file}, 1, sentence, {}},
+        {{"report", "--output", file, "--verbose"},
+         1,
+         sentence,
+         file + ": PlaceNotWritable (PDF, No such file or directory) [run-time error 57, platform/storage/"},
+        {{"list", "--dates", "birth", "--from", "morgen"}, 2, "kalvenor: --from: „morgen“ ist kein Datum; ", {}},
+        {{"mark", "--counter", "2147483647"}, 1, "Eine Person mit dem Counter 2147483647 gibt es nicht; ", {}},
+    };
+    for (const auto &row : rows) {
+        const Outcome outcome = onDemo(row.arguments);
+        EXPECT_EQ(outcome.exitCode, row.exitCode);
+        EXPECT_TRUE(outcome.err.section('\n', 0, 0).contains(row.told)) << outcome.err.toStdString();
+        EXPECT_TRUE(outcome.err.section('\n', 1).startsWith(row.technical)) << outcome.err.toStdString();
+        EXPECT_EQ(lineCount(outcome.err), row.technical.isEmpty() ? 1 : 2) << outcome.err.toStdString();
+    }
 }
 
 TEST_F(CommandLine, WorksInFoldersOfAnyName)

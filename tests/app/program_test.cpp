@@ -46,8 +46,7 @@ TEST_F(Start, DefaultsHoldWhereSettingsAreMissing)
     const QString path = host.inilesen(settings(), "QV-Files", "0", "");
     ASSERT_TRUE(QFile::remove(hostFolder() + "/programm.ini"));
     set("QV-Files", "0", path);
-    EXPECT_TRUE(program.Main(
-        []() -> host::Hauptform * { throw basic::Error(basic::ErrorKind::Damaged, "window", "cannot be made"); }));
+    EXPECT_TRUE(program.Main([]() -> host::Hauptform * { throw basic::Error(basic::Fault::NotDecoded); }));
     EXPECT_EQ(host.Sprache, "Deutsch");
     EXPECT_EQ(host.Kurzhilfe, 1);
     EXPECT_EQ(host.AddInonTop, "1");

@@ -184,7 +184,7 @@ TEST_F(Opening, AWriteThatFailsHalfWayIsTakenBack)
             return true;
         if (readOnly)
             QFile::setPermissions(native(family), QFile::ReadOwner);
-        throw basic::Error(basic::ErrorKind::WriteFailed, {}, u"disk full"_s);
+        throw basic::Error(basic::Fault::NotSynced, {}, {u"disk full"_s});
     };
     EXPECT_EQ(refusal(file, failOnceCleared), u"disk full"_s);
     readOnly = true;

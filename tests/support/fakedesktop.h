@@ -30,7 +30,7 @@ public:
         answers.erase(answers.begin());
         return answer;
     }
-    void runtimeError(int, const QString &message) override { errors.push_back(message); }
+    void runtimeError(const QString &, const QString &message) override { errors.push_back(message); }
     void setPointer(desktop::Pointer pointer) override { pointers.push_back(pointer); }
     bool setStackPlace(QWindow *, desktop::StackPlace place, bool activate) override
     {

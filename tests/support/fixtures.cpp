@@ -178,7 +178,7 @@ void writeHost(const QString &folder, const std::vector<TestPerson> &persons)
     const QDir host(folder + u"/QV"_s);
     for (const char *part : {"Kalvenor", "Familie", "Ausgabe"}) {
         if (!host.mkpath(QLatin1String(part)))
-            throw basic::Error(basic::ErrorKind::WriteFailed, host.path(), u"The folder cannot be made."_s);
+            throw basic::Error(basic::Fault::FolderNotMade, {.file = host.path()});
     }
     const QString family = host.filePath(u"Familie/familie.mdb"_s);
     writeFamily(family, persons);
@@ -199,7 +199,7 @@ void writeHost(const QString &folder, const std::vector<TestPerson> &persons)
     QFile file(host.filePath(u"programm.ini"_s));
     const QByteArray bytes = basic::encodeAnsi(settings);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        throw basic::Error(basic::ErrorKind::WriteFailed, file.fileName(), file.errorString());
+        throw basic::Error(basic::Fault::NotWritten, {.file = file.fileName()}, {file.errorString()});
 }
 
 } // namespace kalvenor::test

@@ -136,7 +136,7 @@ int runChart(const QString &programFolder, const ChartCommand &command)
     command.statistik.applyTo(statistik);
     Grafikzahlen figures;
     {
-        desktop::TerminalProgress terminal(u"computing the chart"_s);
+        desktop::TerminalProgress terminal(started.progress(language::Text::ComputingChart));
         figures = statistics::grafikermitteln(program.databases, statistik, terminal.progress());
     }
     if (!command.output.isEmpty()) {

@@ -167,7 +167,7 @@ void Checker::checkOutputFolder()
 std::shared_ptr<jet::Database> Checker::open(const QString &path)
 {
     if (m_host.hasUnmappedDrive(path)) {
-        missing(unknownDrive(m_host, path));
+        missing(unknownDrive(m_host, path, language::CatalogueLanguage::English));
         return nullptr;
     }
     try {

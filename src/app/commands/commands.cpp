@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/commands/commands.h"
 
+#include "app/start/hostlanguage.h"
 #include "app/start/startedprogram.h"
 #include "demo/host/demohost.h"
 #include "platform/desktop/terminal.h"
@@ -33,7 +34,8 @@ QString numbers(const std::vector<qint32> &counters)
 
 int runDemo(const DemoCommand &command)
 {
-    desktop::TerminalProgress terminal(u"making persons"_s);
+    const auto language = systemLanguage();
+    desktop::TerminalProgress terminal(progressLine(wording(Text::MakingDemo, language), language));
     const demo::DemoHost made =
         demo::makeDemoHost({command.folder, command.persons, command.seed}, terminal.progress());
     printLine(u"host folder:     %1\nprogram folder:  %2\nfamily database: %3\npersons:         %4"_s.arg(
@@ -46,7 +48,7 @@ int runList(const QString &programFolder, const ListCommand &command)
     StartedProgram started(programFolder);
     if (!started.ready)
         return Failed;
-    desktop::TerminalProgress terminal(u"reading persons"_s);
+    desktop::TerminalProgress terminal(started.progress(Text::ReadingDatabase));
     const auto persons = started.program.databases.Familiendatenbank->openQuery(command.query, terminal.progress());
     const int counter = persons->fieldIndex(u"Counter"_s);
     const int listname = persons->fieldIndex(u"Listname"_s);
@@ -63,7 +65,7 @@ int runMark(const QString &programFolder, const MarkCommand &command)
     if (!started.ready)
         return Failed;
     data::Datenbankmodul &databases = started.program.databases;
-    desktop::TerminalProgress terminal(command.mark ? u"marking"_s : u"unmarking"_s);
+    desktop::TerminalProgress terminal(started.progress(command.mark ? Text::MarkingPersons : Text::UnmarkingAll));
     std::size_t changed = 0;
     if (command.query) {
         const auto from = command.mark ? selection::PersonList::Unmarked : selection::PersonList::Marked;
@@ -73,8 +75,8 @@ int runMark(const QString &programFolder, const MarkCommand &command)
     } else {
         const auto unknown = selection::unknownPersons(databases, command.counters);
         if (!unknown.empty()) {
-            desktop::writeError(u"%1: no person with Counter %2; nothing was changed"_s.arg(
-                databases.Familiendatenbank->file(), numbers(unknown)));
+            desktop::writeError(started.program.language.text(Text::PersonsUnknown)
+                                    .arg(databases.Familiendatenbank->file(), numbers(unknown)));
             return Failed;
         }
         const auto result =
@@ -92,7 +94,7 @@ int runAges(const QString &programFolder, const AgesCommand &command)
     StartedProgram started(programFolder);
     if (!started.ready)
         return Failed;
-    desktop::TerminalProgress terminal(u"computing ages"_s);
+    desktop::TerminalProgress terminal(started.progress(Text::ComputingAgeList));
     statistics::Altersliste list;
     statistics::alterslistenausgabe(started.program.databases, command.sex, list, terminal.progress());
     ListOutput output(command.format, "line");

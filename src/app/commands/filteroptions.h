@@ -2,16 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "language/texts/catalogue.h"
 #include "selection/filter/filtern.h"
 #include <QStringList>
-#include <stdexcept>
 
 namespace kalvenor::app {
-
-/// Words that the parser takes and that mean nothing; the text says what to write.
-struct WrongUsage : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
 
 /// The words of FILTER on the command line.
 struct FilterOptions {
@@ -25,8 +20,9 @@ struct FilterOptions {
 /// "dd-mm-yyyy" or "mm-dd-yyyy".
 QString orderText(basic::DateOrder order);
 
-/// The filter for this list. Says on stderr how a date is read that is not day, month and year. Throws WrongUsage for a
-/// date that is none.
-selection::Filter filterOf(const FilterOptions &options, selection::PersonList list, basic::DateOrder order);
+/// The filter for this list. Says on stderr how a date is read that is not day, month and year. Throws
+/// Error(WrongUsage) for a date that is none.
+selection::Filter filterOf(const FilterOptions &options, selection::PersonList list, basic::DateOrder order,
+                           language::CatalogueLanguage language);
 
 } // namespace kalvenor::app

@@ -20,7 +20,7 @@ int runReport(const QString &programFolder, const ReportCommand &command)
     if (!started.ready)
         return Failed;
     Program &program = started.program;
-    desktop::TerminalProgress terminal(u"composing the report"_s);
+    desktop::TerminalProgress terminal(started.progress(language::Text::ComposingPages));
 
     statistics::Statistik statistik;
     if (!command.vorlage.isEmpty()) {

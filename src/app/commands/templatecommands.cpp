@@ -37,13 +37,13 @@ QString lines(const statistics::Statistik &statistik)
 
 int runTemplateSave(const QString &programFolder, const QString &file, const StatistikWords &words)
 {
-    const StartedProgram started(programFolder);
+    StartedProgram started(programFolder);
     if (!started.ready)
         return Failed;
     const host::Host &host = started.program.host;
     statistics::Statistik statistik = selection::vorlageclear(host);
     words.applyTo(statistik);
-    desktop::TerminalProgress terminal(u"saving the template"_s);
+    desktop::TerminalProgress terminal(started.progress(language::Text::SavingTemplate));
     const qsizetype persons = selection::vorlagespeichern(host, started.program.databases, basic::windowsPath(file),
                                                           statistik, terminal.progress());
     printLine(u"%1: %2 persons"_s.arg(file).arg(persons));
@@ -61,7 +61,7 @@ int runTemplateOpen(const QString &programFolder, const QString &file, bool here
         useOpenDatabase = [](const QString &) {
             return true;
         };
-    desktop::TerminalProgress terminal(u"opening the template"_s);
+    desktop::TerminalProgress terminal(started.progress(language::Text::OpeningTemplate));
     const selection::OpenedVorlage opened =
         selection::vorlageoeffnen(program, basic::windowsPath(file), terminal.progress(), useOpenDatabase);
     QStringList missing;

@@ -15,7 +15,13 @@ void speakAsHost(host::Host &host)
     if (hasHost(host.native(host.programFolder())))
         host.Sprache = host.inilesen(host.hostSettingsFile(), u"Ansicht"_s, u"Sprache"_s, u"Deutsch"_s);
     else
-        host.Sprache = QLocale::system().language() == QLocale::German ? u"Deutsch"_s : u"English"_s;
+        host.Sprache = systemLanguage() == language::CatalogueLanguage::German ? u"Deutsch"_s : u"English"_s;
+}
+
+language::CatalogueLanguage systemLanguage()
+{
+    return QLocale::system().language() == QLocale::German ? language::CatalogueLanguage::German
+                                                           : language::CatalogueLanguage::English;
 }
 
 } // namespace kalvenor::app

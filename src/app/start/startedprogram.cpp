@@ -6,28 +6,44 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
 
+using language::Text;
+using language::wording;
+
 namespace {
 
-QString lookedFor(const host::Host &host)
+QString lookedFor(const host::Host &host, language::CatalogueLanguage language)
 {
     const QString &path = host.Familienpfad;
     if (path.isEmpty())
-        return u"no family database is named in %1, section [QV-Files]"_s.arg(host.native(host.hostSettingsFile()));
-    return host.hasUnmappedDrive(path) ? unknownDrive(host, path) : u"looked for %1"_s.arg(host.native(path));
+        return wording(Text::NoFamilyNamed, language).arg(host.native(host.hostSettingsFile()) + u" [QV-Files]"_s);
+    return host.hasUnmappedDrive(path) ? unknownDrive(host, path, language)
+                                       : wording(Text::LookedFor, language).arg(host.native(path));
 }
 
 } // namespace
 
 StartedProgram::StartedProgram(const QString &programFolder) : program(programFolder, desktop), ready(program.Main())
 {
-    if (!ready)
-        desktop::writeError(lookedFor(program.host) + u"; kalvenor check tells what is there"_s);
+    if (!ready) {
+        const auto language = language::catalogueLanguage(program.host);
+        desktop::writeError(lookedFor(program.host, language) + u' ' + wording(Text::SeeCheck, language));
+    }
 }
 
-QString unknownDrive(const host::Host &host, const QString &path)
+QString unknownDrive(const host::Host &host, const QString &path, language::CatalogueLanguage language)
 {
-    return u"%1: no folder is known for the drive %2; name it in %3, section [Laufwerke], e.g. %4=/media/windows"_s.arg(
-        path, path.left(2), host.native(host.ownSettingsFile()), path.left(1));
+    return path + u": "_s +
+           wording(Text::UnknownDrive, language).arg(path.left(2), host.native(host.ownSettingsFile()));
+}
+
+QString progressLine(const QString &what, language::CatalogueLanguage language)
+{
+    return wording(Text::CommandProgress, language).arg(what);
+}
+
+QString StartedProgram::progress(Text what)
+{
+    return progressLine(program.language.text(what), language::catalogueLanguage(program.host));
 }
 
 int StartedProgram::done() const

@@ -11,6 +11,7 @@ namespace kalvenor::app {
 // Exit codes of commands.
 inline constexpr int Done = 0;
 inline constexpr int Failed = 1;
+inline constexpr int Misused = 2;
 
 /// A program started without windows; `ready` is false where start-up ended it with its own message, and a line on
 /// stderr says which database was looked for.
@@ -20,12 +21,17 @@ struct StartedProgram {
     Program program;
     bool ready;
 
+    /// What is shown on the terminal while the command does this.
+    QString progress(language::Text what);
     /// The exit code of a command that did its work; says on stderr where damage of the file made the result short.
     int done() const;
 };
 
 /// That no folder is known for the path's drive, and where to name it.
-QString unknownDrive(const host::Host &host, const QString &path);
+QString unknownDrive(const host::Host &host, const QString &path, language::CatalogueLanguage language);
+
+/// What a command shows on the terminal while it does this.
+QString progressLine(const QString &what, language::CatalogueLanguage language);
 
 /// One line, or several, on stdout.
 void printLine(const QString &line);

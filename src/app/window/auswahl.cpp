@@ -342,7 +342,7 @@ void Auswahl::closeEvent(QCloseEvent *event)
         try {
             m_session.close();
         } catch (const basic::Error &error) {
-            m_session.host.desktop().runtimeError(error.number(), language::errorMessage(m_session.language, error));
+            language::reportError(m_session.host.desktop(), m_session.language, error);
         }
     }
     event->accept();

@@ -246,12 +246,11 @@ std::unique_ptr<Program> startProgram(desktop::Desktop &desktop, StartPlace plac
         if (beforeQuestion)
             beforeQuestion(program->host);
         const StartProblem problem = startProblem(*program, failure);
-        const QString message = failure ? language::errorMessage(program->language, *failure) : QString();
         // Who has no host yet is welcomed, not met with an error number.
         if (failure && problem.noHost)
-            desktop::writeError(message);
+            desktop::writeError(language::errorMessage(program->language, *failure));
         else if (failure)
-            desktop.runtimeError(failure->number(), message);
+            language::reportError(desktop, program->language, *failure);
         FirstRun dialog(*program, problem);
         if (!desktop.runDialog(dialog))
             return nullptr;

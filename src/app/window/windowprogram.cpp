@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/windowprogram.h"
 
+#include "app/start/hostlanguage.h"
 #include "app/start/lastfolder.h"
 #include "app/window/auswahl.h"
 #include "app/window/firstrun.h"
@@ -31,7 +32,7 @@ void endQuietly(QtMsgType type, const QMessageLogContext &, const QString &text)
 {
     if (type != QtFatalMsg)
         return;
-    desktop::writeError(u"no window can be opened: %1"_s.arg(text.simplified()));
+    desktop::writeError(language::wording(language::Text::NoWindowPossible, systemLanguage()).arg(text.simplified()));
     std::_Exit(Failed);
 }
 
@@ -78,7 +79,7 @@ void speakLanguage(const host::Host &host, QTranslator &translator)
 int runWindow(int &argc, char **argv, const QString &programFolder, const QString &templateFile)
 {
     if (!mayHaveDisplay()) {
-        desktop::writeError(u"there is no display to open a window on; name a command, --help lists them"_s);
+        desktop::writeError(language::wording(language::Text::NoDisplay, systemLanguage()));
         return Failed;
     }
     const QtMessageHandler before = qInstallMessageHandler(endQuietly);
@@ -110,7 +111,7 @@ int runWindow(int &argc, char **argv, const QString &programFolder, const QStrin
                 });
             } catch (const basic::Error &error) {
                 window.reset();
-                desktop->runtimeError(error.number(), language::errorMessage(starting.language, error));
+                language::reportError(*desktop, starting.language, error);
                 throw;
             }
             return window.get();

@@ -135,6 +135,15 @@ constexpr CatalogueText Texts[] = {
      u"The page could not be finished: %1. Save it in a folder that can be written."},
     {of(Fault::WildcardInName), u"Der Dateiname darf kein * oder ? enthalten. Wählen Sie einen anderen.",
      u"The file name must not contain * or ?. Choose another one."},
+    // Words of a command
+    {of(Fault::WhomToMark), u"Sagen Sie, wen: --all oder --counter N[,N…]", u"Say whom: --all, or --counter N[,N…]"},
+    {of(Fault::FilterWithCounter), u"Ein Filter gehört zu --all, nicht zu --counter",
+     u"A filter goes with --all, not with --counter"},
+    {of(Fault::NoWholeNumber), u"%1: „%2“ ist keine ganze Zahl", u"%1: “%2” is no whole number"},
+    {of(Fault::DateTooEarly), u"%1: „%2“ liegt vor dem Jahr 100, dem ersten, das ein Datum haben kann",
+     u"%1: “%2” lies before the year 100, the first that dates can have"},
+    {of(Fault::NoDate), u"%1: „%2“ ist kein Datum; schreiben Sie %3 oder yyyy-mm-dd",
+     u"%1: “%2” is no date; write %3 or yyyy-mm-dd"},
     // Statistics
     {of(Fault::DayOutOfRange),
      u"Die Tagesnummer %1 liegt nicht in den Jahren 100 bis 9999; berichtigen Sie das Datum oder heben Sie die "
@@ -431,6 +440,35 @@ constexpr CatalogueText Texts[] = {
      u"an index names a column that is not there"},
     {of(Fault::WordIndexesCut), u"ihre Indizes sind abgeschnitten", u"its indexes are cut short"},
     {of(Fault::WordIndexPages), u"ein Index hat keine Seiten", u"an index has no pages"},
+    // Databases that are made
+    {of(Fault::NameUnsuited),
+     u"„%1“ kann kein Name sein: Ein Name hat 1 bis 64 Zeichen, beginnt nicht mit einem Leerzeichen und enthält kein "
+     u". ! [ ] ` und keine Steuerzeichen.",
+     u"“%1” cannot be a name: a name has 1 to 64 characters, does not begin with a blank, and holds no . ! [ ] ` and "
+     u"no control characters."},
+    {of(Fault::NameTwice),
+     u"Den Namen „%1“ gibt es hier schon; Groß- und Kleinschreibung und Leerzeichen am Ende machen keinen Unterschied.",
+     u"The name “%1” is here already; case and trailing blanks make no difference."},
+    {of(Fault::TableTooWide), u"Eine Tabelle hat 1 bis %1 Spalten und höchstens %2 Indizes.",
+     u"A table has 1 to %1 columns and at most %2 indexes."},
+    {of(Fault::ColumnImpossible), u"Die Spalte „%1“ kann nicht diese Art, Länge oder Zahl von Nachkommastellen haben.",
+     u"The column “%1” cannot have this type, length or number of decimals."},
+    {of(Fault::IndexImpossible),
+     u"Der Index „%1“ kann nicht angelegt werden: Er braucht 1 bis 10 verschiedene Spalten, deren Art einen Index "
+     u"zulässt, und nur einer ist der primäre.",
+     u"The index “%1” cannot be made: it needs 1 to 10 different columns of types that can be indexed, and only one is "
+     u"primary."},
+    {of(Fault::RowTooLong),
+     u"Die Zeile ist mindestens %1 Byte lang; ohne ihre langen Texte kann sie %2 haben. Kürzen Sie ihre Texte.",
+     u"The row is at least %1 bytes long; without its long texts it can have %2. Shorten its texts."},
+    {of(Fault::ValueUnsuited), u"Die Spalte „%1“ kann diesen Wert nicht aufnehmen: %2",
+     u"The column “%1” cannot hold this value: %2"},
+    {of(Fault::KeyUnsuited), u"Der Index „%1“ kann die Zeile nicht aufnehmen: Ein Wert fehlt oder ist zu lang.",
+     u"The index “%1” cannot hold the row: a value is missing or too long."},
+    {of(Fault::IndexKeyTwice), u"Im eindeutigen Index „%1“ kommt der Schlüssel %2 zweimal vor.",
+     u"The unique index “%1” has the key %2 twice."},
+    {of(Fault::DatabaseFull), u"Die Datenbank würde größer als 2 GB. Verteilen Sie ihre Zeilen auf mehrere Dateien.",
+     u"The database would grow beyond 2 GB. Spread its rows over several files."},
 };
 
 } // namespace

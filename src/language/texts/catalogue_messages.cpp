@@ -103,6 +103,21 @@ constexpr CatalogueText Texts[] = {
      u"eine andere Person gemeint.",
      u"The last line of the template, person %1, has no line end. If the file was cut off, another person may be "
      u"meant."},
+    {Text::SavingTemplate, u"Die Vorlage wird gespeichert …", u"The template is being saved …"},
+    // Commands
+    {Text::RuntimeError, u"Laufzeitfehler %1", u"Run-time error %1"},
+    {Text::SeeCommandHelp, u"%1 (kalvenor --help nennt Befehle und Optionen)",
+     u"%1 (kalvenor --help lists commands and options)"},
+    {Text::DateReadAs, u"%1 %2 wird als %3 gelesen, weil ein Datum auf diesem System %4 geschrieben wird",
+     u"%1 %2 is read as %3, because dates on this system are %4"},
+    {Text::LookedFor, u"Gesucht wurde %1.", u"Looked for %1."},
+    {Text::SeeCheck, u"Was vorhanden ist, sagt kalvenor check.", u"kalvenor check tells what is there."},
+    {Text::PersonsUnknown, u"%1: Eine Person mit dem Counter %2 gibt es nicht; nichts wurde geändert.",
+     u"%1: no person with Counter %2; nothing was changed."},
+    {Text::NoWindowPossible, u"Es kann kein Fenster geöffnet werden: %1", u"No window can be opened: %1"},
+    {Text::NoDisplay, u"Es gibt keinen Bildschirm für ein Fenster; nennen Sie einen Befehl, --help zählt sie auf.",
+     u"There is no display to open a window on; name a command, --help lists them."},
+    {Text::CommandProgress, u"%1 %2 % (Strg+C bricht ab)", u"%1 %2 % (Ctrl+C stops)"},
 };
 
 } // namespace

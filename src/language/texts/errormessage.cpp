@@ -62,7 +62,7 @@ QString sentences(const Lookup &texts, const basic::Error &error)
 {
     QStringList all;
     for (const basic::Error::Part &part : error.parts())
-        all << (part.fault == basic::Fault::None ? error.text() : filled(texts, part));
+        all << filled(texts, part);
     return all.join(u' ');
 }
 
@@ -87,6 +87,11 @@ QString errorMessage(Sprachmodul &texts, const basic::Error &error)
 QString errorMessage(CatalogueLanguage language, const basic::Error &error)
 {
     return message([language](Text id) { return wording(id, language); }, error);
+}
+
+void reportError(desktop::Desktop &desktop, Sprachmodul &texts, const basic::Error &error)
+{
+    desktop.runtimeError(texts.text(Text::RuntimeError).arg(error.number()), errorMessage(texts, error));
 }
 
 } // namespace kalvenor::language

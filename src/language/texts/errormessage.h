@@ -5,6 +5,7 @@
 #include "language/texts/catalogue.h"
 #include "language/texts/sprache.h"
 #include "platform/basic/error.h"
+#include "platform/desktop/desktop.h"
 
 namespace kalvenor::language {
 
@@ -14,5 +15,8 @@ QString errorSentence(Sprachmodul &texts, const basic::Error &error);
 QString errorMessage(Sprachmodul &texts, const basic::Error &error);
 /// The same in the catalogue's words, where no host's database is at hand.
 QString errorMessage(CatalogueLanguage language, const basic::Error &error);
+
+/// The report of an error that nothing caught: its number as users of the classic runtime know it, and its message.
+void reportError(desktop::Desktop &desktop, Sprachmodul &texts, const basic::Error &error);
 
 } // namespace kalvenor::language

@@ -67,6 +67,12 @@ QString Sprachmodul::ownText(qint16 id)
     return found != m_file.end() ? found->second : wording(static_cast<Text>(id), catalogueLanguage(m_host));
 }
 
+QString dayInWords(qint64 dayNumber, CatalogueLanguage language)
+{
+    const QLocale locale(language == CatalogueLanguage::German ? QLocale::German : QLocale::English);
+    return locale.toString(basic::calendarDate(dayNumber), wording(Text::LongDate, language));
+}
+
 QString Sprachmodul::dayInWords(qint64 dayNumber)
 {
     return anzeigesprache(m_host).toString(basic::calendarDate(dayNumber), text(Text::LongDate));

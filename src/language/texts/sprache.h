@@ -20,6 +20,8 @@ inline constexpr qint16 FirstOwnText = 20000;
 QLocale anzeigesprache(const host::Host &host);
 /// The same for the catalogue's wording.
 CatalogueLanguage catalogueLanguage(const host::Host &host);
+/// A day number with its month in words, where no host's database is at hand.
+QString dayInWords(qint64 dayNumber, CatalogueLanguage language);
 
 /// The texts of the program: the table `Languages` of a language database, one column a language, looked up by text
 /// identifier at the moment a text is shown. The table's current row moves with every lookup.

@@ -460,6 +460,16 @@ enum class Text : qint16 {
     NoTemplate = 21410,
     Untitled = 21412,
     TemplateLastLineOpen = 21414,
+    SavingTemplate = 21415,
+    RuntimeError = 21500,
+    SeeCommandHelp = 21501,
+    DateReadAs = 21502,
+    LookedFor = 21503,
+    SeeCheck = 21504,
+    PersonsUnknown = 21505,
+    NoWindowPossible = 21506,
+    NoDisplay = 21507,
+    CommandProgress = 21508,
 };
 
 } // namespace kalvenor::language

@@ -35,14 +35,8 @@ QString placeNames(const Place &place)
 
 } // namespace
 
-Error::Error(Fault fault, Place place, std::vector<Argument> arguments)
-    : m_kind(kindOf(fault)), m_place(std::move(place)), m_parts{{fault, std::move(arguments)}}
-{
-    describe();
-}
-
-Error::Error(ErrorKind kind, const QString &place, const QString &text)
-    : m_kind(kind), m_place{.file = place}, m_parts{{Fault::None, {}}}, m_text(text)
+Error::Error(Fault fault, Place place, std::vector<Argument> arguments, SourceLine source)
+    : m_kind(kindOf(fault)), m_place(std::move(place)), m_parts{{fault, std::move(arguments)}}, m_source(source)
 {
     describe();
 }
@@ -51,15 +45,21 @@ void Error::describe()
 {
     QStringList parts;
     for (const Part &part : m_parts) {
-        if (part.fault == Fault::None)
-            parts << m_text;
-        else if (part.arguments.empty())
+        if (part.arguments.empty())
             parts << QString::fromLatin1(nameOf(part.fault));
         else
             parts << u"%1 (%2)"_s.arg(QLatin1StringView(nameOf(part.fault)), namesOf(part.arguments));
     }
     const QString place = placeNames(m_place);
     m_what = ((place.isEmpty() ? QString() : place + u": "_s) + parts.join(u"; "_s)).toUtf8();
+}
+
+QString Error::technical() const
+{
+    const QString file = QString::fromLatin1(m_source.file);
+    return u"%1 [run-time error %2, %3:%4]"_s.arg(message(), QString::number(number()),
+                                                  file.mid(file.lastIndexOf(u"src/"_s) + 4),
+                                                  QString::number(m_source.line));
 }
 
 QStringList Error::arguments() const
@@ -98,6 +98,7 @@ int Error::number() const
 {
     switch (m_kind) {
     case ErrorKind::InvalidProcedureCall:
+    case ErrorKind::WrongUsage:
         return 5;
     case ErrorKind::Overflow:
         return 6;

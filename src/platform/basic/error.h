@@ -40,6 +40,13 @@ struct Argument {
     bool operator==(const Argument &) const = default;
 };
 
+/// Where in the sources something was thrown.
+struct SourceLine {
+    const char *file = "";
+    int line = 0;
+    static SourceLine here(const char *file = __builtin_FILE(), int line = __builtin_LINE()) { return {file, line}; }
+};
+
 /// The one error type of the program: data from which the message is made where it is shown, in the reader's language
 /// (language::errorMessage). The top catches it once per user action.
 class Error : public std::exception {
@@ -51,9 +58,8 @@ public:
         bool operator==(const Part &) const = default;
     };
 
-    explicit Error(Fault fault, Place place = {}, std::vector<Argument> arguments = {});
-    /// With a wording of its own, for what is not data yet.
-    Error(ErrorKind kind, const QString &place, const QString &text);
+    explicit Error(Fault fault, Place place = {}, std::vector<Argument> arguments = {},
+                   SourceLine source = SourceLine::here());
 
     ErrorKind kind() const { return m_kind; }
     Fault fault() const { return m_parts.front().fault; }
@@ -61,8 +67,9 @@ public:
     /// The fault's arguments as texts; a word gives its enumerator's name.
     QStringList arguments() const;
     const Place &place() const { return m_place; }
-    const QString &text() const { return m_text; }
     QString message() const { return QString::fromUtf8(m_what); }
+    /// The same with kind, number and the line that threw it.
+    QString technical() const;
 
     /// The same with a remark behind it.
     Error with(Fault remark, std::vector<Argument> arguments = {}) const;
@@ -82,7 +89,7 @@ private:
     ErrorKind m_kind;
     Place m_place;
     std::vector<Part> m_parts;
-    QString m_text;
+    SourceLine m_source;
     QByteArray m_what;
 };
 

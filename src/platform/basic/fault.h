@@ -29,6 +29,7 @@ enum class ErrorKind {
     ChangedElsewhere,     ///< another program changed the data meanwhile (3197)
     WriteFailed,          ///< writing was begun and failed
     Cancelled,            ///< the person stopped it
+    WrongUsage,           ///< the words of a command mean nothing
 };
 
 // Every fault: its name, the number of its sentence in the catalogue of texts, its kind. Numbers are fixed once given.
@@ -88,6 +89,12 @@ enum class ErrorKind {
     F(NoPictureRoom, 22066, InvalidProcedureCall)             \
     F(PageUnfinished, 22067, WriteFailed)                     \
     F(WildcardInName, 22070, InvalidProcedureCall)            \
+    /* Words of a command */                                  \
+    F(WhomToMark, 22071, WrongUsage)                          \
+    F(FilterWithCounter, 22072, WrongUsage)                   \
+    F(NoWholeNumber, 22073, WrongUsage)                       \
+    F(DateTooEarly, 22074, WrongUsage)                        \
+    F(NoDate, 22075, WrongUsage)                              \
     /* Statistics */                                          \
     F(DayOutOfRange, 22080, Overflow)                         \
     F(IntroductionNotRead, 22081, FileUnreadable)             \
@@ -220,6 +227,17 @@ enum class ErrorKind {
     F(NoKeyColumn, 22293, NotMarkable)                        \
     F(RowNumbersHidden, 22294, NotMarkable)                   \
     F(PageLocked, 22295, WriteFailed)                         \
+    /* Databases that are made */                             \
+    F(NameUnsuited, 22320, InvalidProcedureCall)              \
+    F(NameTwice, 22321, InvalidProcedureCall)                 \
+    F(TableTooWide, 22322, InvalidProcedureCall)              \
+    F(ColumnImpossible, 22323, InvalidProcedureCall)          \
+    F(IndexImpossible, 22324, InvalidProcedureCall)           \
+    F(RowTooLong, 22325, InvalidProcedureCall)                \
+    F(ValueUnsuited, 22326, InvalidProcedureCall)             \
+    F(KeyUnsuited, 22327, InvalidProcedureCall)               \
+    F(IndexKeyTwice, 22328, InvalidProcedureCall)             \
+    F(DatabaseFull, 22329, InvalidProcedureCall)              \
     /* Words: what is damaged in the definition of a table */ \
     F(WordPageBeyondEnd, 22300, Damaged)                      \
     F(WordOtherPage, 22301, Damaged)                          \

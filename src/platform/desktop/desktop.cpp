@@ -55,9 +55,9 @@ int TerminalDesktop::messageBox(const QString &text, int, const QString &title)
     return ResultOk;
 }
 
-void TerminalDesktop::runtimeError(int number, const QString &message)
+void TerminalDesktop::runtimeError(const QString &title, const QString &message)
 {
-    writeError(u"run-time error %1: %2"_s.arg(QString::number(number), message));
+    writeError(title + u": "_s + message);
 }
 
 } // namespace kalvenor::desktop

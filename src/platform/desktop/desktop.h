@@ -45,8 +45,9 @@ public:
     /// Shows a message and waits for the answer (a result number, 1 = OK). The style is the sum of buttons and icon; a
     /// closed box answers Cancel where there is such a button, else OK or No.
     virtual int messageBox(const QString &text, int style, const QString &title) = 0;
-    /// The report of an error that nothing in the program caught; the program ends after it.
-    virtual void runtimeError(int number, const QString &message) = 0;
+    /// The report of an error that nothing in the program caught; the program ends after it. The title holds its
+    /// number.
+    virtual void runtimeError(const QString &title, const QString &message) = 0;
     virtual void setPointer(Pointer pointer) = 0;
     /// Puts the window in its place without moving or resizing it. False where there is no window or it was refused.
     virtual bool setStackPlace(QWindow *window, StackPlace place, bool activate);
@@ -64,7 +65,7 @@ public:
 class TerminalDesktop : public Desktop {
 public:
     int messageBox(const QString &text, int style, const QString &title) override;
-    void runtimeError(int number, const QString &message) override;
+    void runtimeError(const QString &title, const QString &message) override;
     void setPointer(Pointer) override {}
 };
 

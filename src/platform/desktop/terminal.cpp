@@ -78,7 +78,7 @@ void catchInterrupt()
 #endif
 }
 
-TerminalProgress::TerminalProgress(QString what) : m_what(std::move(what)), m_terminal(isTerminal(stderr))
+TerminalProgress::TerminalProgress(QString line) : m_line(std::move(line)), m_terminal(isTerminal(stderr))
 {
     m_clock.start();
 }
@@ -103,7 +103,7 @@ bool TerminalProgress::show(qint64 done, qint64 total)
         m_lastShown = now;
         m_shown = true;
         const qint64 percent = total > 0 ? std::min<qint64>(100, done * 100 / total) : 0;
-        const QByteArray line = u"\r\033[K%1 … %2 % (Ctrl+C stops)"_s.arg(m_what).arg(percent).toUtf8();
+        const QByteArray line = "\r\033[K" + m_line.arg(percent).toUtf8();
         std::fputs(line.constData(), stderr);
         std::fflush(stderr);
     }

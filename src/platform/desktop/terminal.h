@@ -26,7 +26,8 @@ void catchInterrupt();
 /// away at the end.
 class TerminalProgress {
 public:
-    explicit TerminalProgress(QString what);
+    /// `line` has one place for the percentage, such as %2.
+    explicit TerminalProgress(QString line);
     ~TerminalProgress();
     TerminalProgress(const TerminalProgress &) = delete;
     TerminalProgress &operator=(const TerminalProgress &) = delete;
@@ -35,7 +36,7 @@ public:
 
 private:
     bool show(qint64 done, qint64 total);
-    QString m_what;
+    QString m_line;
     QElapsedTimer m_clock;
     qint64 m_lastShown = 0;
     bool m_terminal;

@@ -84,9 +84,9 @@ int WidgetDesktop::messageBox(const QString &text, int style, const QString &tit
     }
 }
 
-void WidgetDesktop::runtimeError(int number, const QString &message)
+void WidgetDesktop::runtimeError(const QString &title, const QString &message)
 {
-    messageBox(message, MessageCritical, u"Run-time error %1"_s.arg(number));
+    messageBox(message, MessageCritical, title);
 }
 
 void WidgetDesktop::setPointer(Pointer pointer)

@@ -13,7 +13,7 @@ class WidgetDesktop : public Desktop {
 public:
     /// A box over the active window. While it is open the pointer is the usual one.
     int messageBox(const QString &text, int style, const QString &title) override;
-    void runtimeError(int number, const QString &message) override;
+    void runtimeError(const QString &title, const QString &message) override;
     /// The pointer over all windows. `Custom` shows none of its own here: windows set it where they need it.
     void setPointer(Pointer pointer) override;
     QString openFileName(QWidget *parent, const FileQuestion &question) override;

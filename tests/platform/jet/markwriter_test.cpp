@@ -64,7 +64,7 @@ basic::Error errorOf(const std::function<void()> &action)
         return error;
     }
     ADD_FAILURE() << "no error";
-    return {basic::ErrorKind::Overflow, {}, {}};
+    return basic::Error(basic::Fault::None);
 }
 
 class MarkWriterTest : public ::testing::Test {

@@ -41,8 +41,7 @@ namespace {
 
 [[noreturn]] void refuseAfterWrite(const QString &table)
 {
-    throw basic::Error(basic::ErrorKind::InvalidProcedureCall, table,
-                       u"The database was written already; nothing can be added. Make another one."_s);
+    throw basic::Error(basic::Fault::Misuse, {.table = table}, {u"a database takes nothing once it is written"_s});
 }
 
 } // namespace
@@ -79,11 +78,8 @@ Creator::Table &Creator::addTable(const QString &name, const std::vector<NewColu
                        std::any_of(m_impl->tables.begin(), m_impl->tables.end(), [&](const auto &table) {
                            return compareGeneral(table->m_impl->builder.spec().name, name) == 0;
                        });
-    if (taken) {
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, name,
-                           u"There is a table of this name already; case and trailing blanks make no "
-                           "difference. Choose another name."_s);
-    }
+    if (taken)
+        throw basic::Error(basic::Fault::NameTwice, {.table = name}, {name});
     m_impl->tables.push_back(std::unique_ptr<Table>(
         new Table(std::make_unique<Table::Impl>(m_impl->store, std::move(spec), m_impl->isComplete))));
     return *m_impl->tables.back();
@@ -112,7 +108,7 @@ void Creator::write(const QString &file, std::uint32_t encodingKey)
     storage::Replacement out(file, storage::Origin::NewHost);
     const auto check = [&](bool success) {
         if (!success)
-            throw basic::Error(basic::ErrorKind::WriteFailed, file, u"Cannot be written: %1"_s.arg(out.errorText()));
+            throw basic::Error(basic::Fault::NotWritten, {.file = file}, {out.errorText()});
     };
     check(!out.hasFailed());
     std::array<std::uint8_t, PageSize> buffer;

@@ -124,14 +124,9 @@ void IndexEntries::prepare(std::span<const NewValue> values, const std::uint8_t 
     m_preparedNull = false;
     for (const std::uint16_t number : m_index->columns)
         appendKey(m_table->columns[number], values[number], fixedData);
-    if (m_preparedNull && (m_index->flags & requiresValues) != 0) {
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, m_table->name,
-                           u"Index \"%1\" requires a value in each of its columns."_s.arg(m_index->name));
-    }
-    if (m_prepared.size() > LongestKey) {
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, m_table->name,
-                           u"A key of index \"%1\" is too long. Index fewer or shorter texts."_s.arg(m_index->name));
-    }
+    const bool lacksValue = m_preparedNull && (m_index->flags & requiresValues) != 0;
+    if (lacksValue || m_prepared.size() > LongestKey)
+        throw basic::Error(basic::Fault::KeyUnsuited, {.table = m_table->name}, {m_index->name});
 }
 
 void IndexEntries::appendKey(const Column &column, const NewValue &value, const std::uint8_t *fixedData)
@@ -174,8 +169,7 @@ void IndexEntries::appendKey(const Column &column, const NewValue &value, const 
         }
         break;
     default:
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, m_table->name,
-                           u"Column \"%1\" cannot be indexed."_s.arg(column.name));
+        throw basic::Error(basic::Fault::IndexImpossible, {.table = m_table->name}, {m_index->name});
     }
 }
 
@@ -195,11 +189,10 @@ void IndexEntries::refuseDuplicate(std::span<const std::uint8_t> key) const
 {
     const QByteArray hex =
         QByteArray(reinterpret_cast<const char *>(key.data()), static_cast<qsizetype>(key.size())).toHex();
-    QString shown = u"key bytes %1"_s.arg(QLatin1String(hex));
+    QString shown = QString::fromLatin1(hex);
     if (m_isSingleLong)
         shown = QString::number(static_cast<std::int32_t>(qFromBigEndian<std::uint32_t>(key.data() + 1) ^ 0x80000000u));
-    throw basic::Error(basic::ErrorKind::InvalidProcedureCall, m_table->name,
-                       u"The unique index \"%1\" has a key twice: %2."_s.arg(m_index->name, shown));
+    throw basic::Error(basic::Fault::IndexKeyTwice, {.table = m_table->name}, {m_index->name, shown});
 }
 
 void IndexEntries::sort()

@@ -31,10 +31,8 @@ void startMapPage(std::uint8_t *page)
 
 std::uint32_t PageStore::add()
 {
-    if (m_count == MaximumPages) {
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, {},
-                           u"The database would grow beyond 2 GiB. Spread its rows over several files."_s);
-    }
+    if (m_count == MaximumPages)
+        throw basic::Error(basic::Fault::DatabaseFull);
     if (m_count % ChunkPages == 0)
         m_chunks.push_back(std::make_unique<std::uint8_t[]>(std::size_t{ChunkPages} * PageSize));
     return m_count++;

@@ -21,12 +21,23 @@ constexpr std::size_t LongestLink = 4076;
 constexpr qsizetype LongestCompressedMemo = 1024; ///< characters
 constexpr std::uint32_t InlineValue = 0x80000000;
 constexpr std::uint32_t SingleRowValue = 0x40000000;
+constexpr qsizetype LongestShown = 60; ///< of a value that is refused, characters
 constexpr std::size_t LongestLongValue = 0x3FFFFFFF;
 
-[[noreturn]] void refuse(const TableSpec &spec, const Column &column, const QString &reason)
+[[noreturn]] void refuse(const TableSpec &spec, const Column &column, const NewValue &value)
 {
-    throw basic::Error(basic::ErrorKind::InvalidProcedureCall, spec.name,
-                       u"The value for column \"%1\" cannot be stored: %2"_s.arg(column.name, reason));
+    QString shown;
+    if (const auto *text = std::get_if<QString>(&value))
+        shown = *text;
+    else if (const auto *real = std::get_if<double>(&value))
+        shown = QString::number(*real);
+    else if (const auto *whole = std::get_if<std::int32_t>(&value))
+        shown = QString::number(*whole);
+    else if (const auto *bytes = std::get_if<QByteArray>(&value))
+        shown = QString::fromLatin1(bytes->left(LongestShown).toHex());
+    if (shown.size() > LongestShown)
+        shown = shown.left(LongestShown) + u'…';
+    throw basic::Error(basic::Fault::ValueUnsuited, {.table = spec.name}, {column.name, shown});
 }
 
 bool isNull(const NewValue &value)
@@ -40,7 +51,7 @@ double number(const TableSpec &spec, const Column &column, const NewValue &value
         return *whole;
     if (const auto *real = std::get_if<double>(&value))
         return *real;
-    refuse(spec, column, u"the column takes a number."_s);
+    refuse(spec, column, value);
 }
 
 template <typename Whole>
@@ -49,10 +60,7 @@ Whole wholeNumber(const TableSpec &spec, const Column &column, const NewValue &v
     const double real = number(spec, column, value);
     if (!(real >= std::numeric_limits<Whole>::min() && real <= std::numeric_limits<Whole>::max()) ||
         real != std::trunc(real)) {
-        refuse(spec, column,
-               u"the column takes whole numbers from %1 to %2, not %3."_s.arg(std::numeric_limits<Whole>::min())
-                   .arg(std::numeric_limits<Whole>::max())
-                   .arg(real));
+        refuse(spec, column, value);
     }
     return static_cast<Whole>(real);
 }
@@ -66,17 +74,17 @@ Decimal decimal(const TableSpec &spec, const Column &column, const NewValue &val
         text = QString::number(number(spec, column, value), 'f', scale);
     const std::optional<Decimal> parsed = parseDecimal(text, scale);
     if (!parsed) {
-        refuse(spec, column, u"\"%1\" is no number of at most 28 digits, %2 of them decimals."_s.arg(text).arg(scale));
+        refuse(spec, column, value);
     }
     return *parsed;
 }
 
 template <typename Wanted>
-const Wanted &valueOf(const TableSpec &spec, const Column &column, const NewValue &value, const QString &name)
+const Wanted &valueOf(const TableSpec &spec, const Column &column, const NewValue &value)
 {
     const auto *wanted = std::get_if<Wanted>(&value);
     if (wanted == nullptr)
-        refuse(spec, column, u"the column takes %1."_s.arg(name));
+        refuse(spec, column, value);
     return *wanted;
 }
 
@@ -114,10 +122,7 @@ RecordEncoder::RecordEncoder(PageStore &store, const TableSpec &spec) : m_store(
 std::uint8_t *RecordEncoder::reserve(std::uint32_t bytes)
 {
     if (bytes > MaximumRecordLength - m_length) {
-        throw basic::Error(basic::ErrorKind::InvalidProcedureCall, m_spec->name,
-                           u"Row %1 bytes or longer: a row can have %2 without its long texts. Shorten its "
-                           "texts or use Memo columns."_s.arg(m_length + bytes)
-                               .arg(MaximumRecordLength));
+        throw basic::Error(basic::Fault::RowTooLong, {.table = m_spec->name}, {m_length + bytes, MaximumRecordLength});
     }
     std::uint8_t *const place = m_record.data() + m_length;
     m_length += bytes;
@@ -128,9 +133,8 @@ std::span<const std::uint8_t> RecordEncoder::encode(std::span<const NewValue> va
 {
     const std::vector<Column> &columns = m_spec->columns;
     if (values.size() != columns.size()) {
-        throw basic::Error(
-            basic::ErrorKind::InvalidProcedureCall, m_spec->name,
-            u"A row must have %1 values, one for each column, not %2."_s.arg(columns.size()).arg(values.size()));
+        throw basic::Error(basic::Fault::Misuse, {.table = m_spec->name},
+                           {u"%1 values for %2 columns"_s.arg(values.size()).arg(columns.size())});
     }
     m_length = 0;
     put(reserve(2), static_cast<std::uint16_t>(columns.size()));
@@ -146,7 +150,7 @@ std::span<const std::uint8_t> RecordEncoder::encode(std::span<const NewValue> va
         if (!column.isFixed() || isNull(values[i]))
             continue;
         if (column.type == ColumnType::Boolean) {
-            if (valueOf<bool>(*m_spec, column, values[i], u"yes or no"_s))
+            if (valueOf<bool>(*m_spec, column, values[i]))
                 setMask(column.number);
             continue;
         }
@@ -191,7 +195,7 @@ void RecordEncoder::encodeFixed(const Column &column, const NewValue &value, std
     case ColumnType::Float: {
         const double real = number(*m_spec, column, value);
         if (std::isfinite(real) && std::fabs(real) > std::numeric_limits<float>::max())
-            refuse(*m_spec, column, u"%1 is beyond single precision."_s.arg(real));
+            refuse(*m_spec, column, value);
         put(to, static_cast<float>(real));
         break;
     }
@@ -202,14 +206,14 @@ void RecordEncoder::encodeFixed(const Column &column, const NewValue &value, std
     case ColumnType::Money: {
         const std::optional<std::int64_t> money = toInt64(decimal(*m_spec, column, value, 4));
         if (!money)
-            refuse(*m_spec, column, u"it is beyond the range of money, 922337203685477.5807."_s);
+            refuse(*m_spec, column, value);
         put(to, *money);
         break;
     }
     case ColumnType::Guid: {
-        const auto &bytes = valueOf<QByteArray>(*m_spec, column, value, u"16 bytes"_s);
+        const auto &bytes = valueOf<QByteArray>(*m_spec, column, value);
         if (bytes.size() != 16)
-            refuse(*m_spec, column, u"a GUID has 16 bytes, not %1."_s.arg(bytes.size()));
+            refuse(*m_spec, column, value);
         std::memcpy(to, bytes.constData(), 16);
         std::reverse(to, to + 4);
         std::reverse(to + 4, to + 6);
@@ -224,7 +228,7 @@ void RecordEncoder::encodeFixed(const Column &column, const NewValue &value, std
         break;
     }
     default:
-        refuse(*m_spec, column, u"its type is not one of fixed length."_s);
+        refuse(*m_spec, column, value);
     }
 }
 
@@ -235,28 +239,27 @@ void RecordEncoder::encodeVariable(const Column &column, const NewValue &value)
     switch (column.type) {
     case ColumnType::Text:
     case ColumnType::Memo: {
-        const auto &text = valueOf<QString>(*m_spec, column, value, u"text"_s);
+        const auto &text = valueOf<QString>(*m_spec, column, value);
         const bool isMemo = column.type == ColumnType::Memo;
         if (!isMemo && 2 * text.size() > column.length) {
-            refuse(*m_spec, column,
-                   u"it has %1 characters, the column takes %2."_s.arg(text.size()).arg(column.length / 2));
+            refuse(*m_spec, column, value);
         }
         if (text.startsWith(QChar(0xFEFF))) // no reader could tell it from a compressed text
-            refuse(*m_spec, column, u"it begins with the byte order mark U+FEFF. Leave that out."_s);
+            refuse(*m_spec, column, value);
         appendText(text, mayCompress && (!isMemo || text.size() <= LongestCompressedMemo), m_value);
         break;
     }
     case ColumnType::Binary:
     case ColumnType::Ole: {
-        const auto &bytes = valueOf<QByteArray>(*m_spec, column, value, u"bytes"_s);
+        const auto &bytes = valueOf<QByteArray>(*m_spec, column, value);
         if (column.type == ColumnType::Binary && bytes.size() > column.length) {
-            refuse(*m_spec, column, u"it has %1 bytes, the column takes %2."_s.arg(bytes.size()).arg(column.length));
+            refuse(*m_spec, column, value);
         }
         m_value.assign(bytes.begin(), bytes.end());
         break;
     }
     default:
-        refuse(*m_spec, column, u"its type is not one of variable length."_s);
+        refuse(*m_spec, column, value);
     }
     if (isLongValue(column.type))
         moveToLongValue(column);
@@ -266,7 +269,7 @@ void RecordEncoder::moveToLongValue(const Column &column)
 {
     const std::size_t length = m_value.size();
     if (length > LongestLongValue)
-        refuse(*m_spec, column, u"it is longer than 1 GiB."_s);
+        refuse(*m_spec, column, {});
     const auto stated = static_cast<std::uint32_t>(length);
     std::array<std::uint8_t, 12> head{};
     if (length <= LongestInline) {

@@ -6,6 +6,7 @@
 #include "platform/jet/order/sortkey.h"
 #include "platform/jet/reader/record.h"
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -20,33 +21,28 @@ constexpr qsizetype MaximumName = 64;
 constexpr int MaximumTextCharacters = 255;
 constexpr int MaximumBinaryBytes = 510;
 
-[[noreturn]] void refuse(const QString &table, const QString &text)
+[[noreturn]] void refuse(const QString &table, basic::Fault fault, std::vector<basic::Argument> arguments)
 {
-    throw basic::Error(basic::ErrorKind::InvalidProcedureCall, table, text);
+    throw basic::Error(fault, {.table = table}, std::move(arguments));
 }
 
-void checkName(const QString &table, const QString &name, const QString &what)
+void checkName(const QString &table, const QString &name)
 {
-    if (name.isEmpty() || name.size() > MaximumName) {
-        refuse(table, u"The %1 name \"%2\" must have 1 to %3 characters."_s.arg(what, name).arg(MaximumName));
-    }
     const bool badCharacter = std::any_of(name.begin(), name.end(), [](QChar character) {
         return character.unicode() < 0x20 || QStringView(u".![]`").contains(character);
     });
-    if (badCharacter || name.startsWith(u' ')) {
-        refuse(table, u"The %1 name \"%2\" must not begin with a blank nor contain . ! [ ] ` or control "
-                      "characters."_s.arg(what, name));
-    }
+    if (name.isEmpty() || name.size() > MaximumName || badCharacter || name.startsWith(u' '))
+        refuse(table, basic::Fault::NameUnsuited, {name});
 }
 
 template <typename Items>
-void checkNamesDiffer(const QString &table, const Items &items, const QString &what)
+void checkNamesDiffer(const QString &table, const Items &items)
 {
     for (std::size_t i = 0; i < items.size(); ++i) {
-        checkName(table, items[i].name, what);
+        checkName(table, items[i].name);
         for (std::size_t other = 0; other < i; ++other) {
             if (compareGeneral(items[i].name, items[other].name) == 0)
-                refuse(table, u"The %1 name \"%2\" occurs twice."_s.arg(what, items[i].name));
+                refuse(table, basic::Fault::NameTwice, {items[i].name});
         }
     }
 }
@@ -57,13 +53,13 @@ Column columnOf(const QString &table, const NewColumn &wanted)
     column.name = wanted.name;
     column.type = wanted.type;
     column.flags = fixedLength | nullable;
+    const auto require = [&](bool isPossible) {
+        if (!isPossible)
+            refuse(table, basic::Fault::ColumnImpossible, {wanted.name});
+    };
     const auto inRange = [&](int limit) {
         const int length = wanted.length == 0 ? limit : wanted.length;
-        if (length < 1 || length > limit) {
-            refuse(table, u"The length of column \"%1\" must be 1 to %2, not %3."_s.arg(wanted.name)
-                              .arg(limit)
-                              .arg(wanted.length));
-        }
+        require(length >= 1 && length <= limit);
         return length;
     };
     switch (wanted.type) {
@@ -84,19 +80,16 @@ Column columnOf(const QString &table, const NewColumn &wanted)
         break;
     default:
         column.length = static_cast<std::uint16_t>(sizeOf(wanted.type));
-        if (column.length == 0)
-            refuse(table, u"Column \"%1\" has a type that is none."_s.arg(wanted.name));
+        require(column.length != 0);
     }
     if (wanted.compressed && (wanted.type == ColumnType::Text || wanted.type == ColumnType::Memo))
         column.extraFlags = Compressible;
     if (wanted.type == ColumnType::Numeric) {
         column.scale = wanted.scale;
-        if (wanted.scale > 28)
-            refuse(table, u"Column \"%1\" can have 28 decimals at most."_s.arg(wanted.name));
+        require(wanted.scale <= 28);
     }
     if (wanted.autonumber) {
-        if (wanted.type != ColumnType::Long)
-            refuse(table, u"Column \"%1\" must be Long to be an autonumber."_s.arg(wanted.name));
+        require(wanted.type == ColumnType::Long);
         column.flags |= autonumber;
     }
     return column;
@@ -128,20 +121,16 @@ IndexSpec indexOf(const TableSpec &spec, const NewIndex &wanted)
         index.flags = alwaysSet | requiresValues | uniqueKeys;
     else if (wanted.unique)
         index.flags = alwaysSet | uniqueKeys;
-    if (wanted.columns.empty() || wanted.columns.size() > MaximumIndexColumns) {
-        refuse(
-            spec.name,
-            u"Index \"%1\" must have 1 to %2 columns."_s.arg(wanted.name).arg(static_cast<int>(MaximumIndexColumns)));
-    }
+    const auto require = [&](bool isPossible) {
+        if (!isPossible)
+            refuse(spec.name, basic::Fault::IndexImpossible, {wanted.name});
+    };
+    require(!wanted.columns.empty() && wanted.columns.size() <= MaximumIndexColumns);
     for (const QString &name : wanted.columns) {
         const auto found = std::find_if(spec.columns.begin(), spec.columns.end(),
                                         [&](const Column &column) { return column.name == name; });
-        if (found == spec.columns.end() || !canBeIndexed(found->type)) {
-            refuse(spec.name, u"Index \"%1\" cannot be over \"%2\": there is no such column, or its type cannot be "
-                              "indexed."_s.arg(wanted.name, name));
-        }
-        if (std::find(index.columns.begin(), index.columns.end(), found->number) != index.columns.end())
-            refuse(spec.name, u"Index \"%1\" names column \"%2\" twice."_s.arg(wanted.name, name));
+        require(found != spec.columns.end() && canBeIndexed(found->type));
+        require(std::find(index.columns.begin(), index.columns.end(), found->number) == index.columns.end());
         index.columns.push_back(found->number);
     }
     return index;
@@ -168,21 +157,18 @@ void layOut(TableSpec &spec)
 
 TableSpec userTable(const QString &name, const std::vector<NewColumn> &columns, const std::vector<NewIndex> &indexes)
 {
-    checkName(name, name, u"table"_s);
+    checkName(name, name);
     try {
         generalKey(name, Unlisted::Refused);
     } catch (const basic::Error &error) {
         throw error.at({.table = name});
     }
-    if (columns.empty() || columns.size() > MaximumColumns || indexes.size() > MaximumIndexes) {
-        refuse(name,
-               u"A table must have 1 to %1 columns and at most %2 indexes."_s.arg(static_cast<int>(MaximumColumns))
-                   .arg(static_cast<int>(MaximumIndexes)));
-    }
-    checkNamesDiffer(name, columns, u"column"_s);
-    checkNamesDiffer(name, indexes, u"index"_s);
+    if (columns.empty() || columns.size() > MaximumColumns || indexes.size() > MaximumIndexes)
+        refuse(name, basic::Fault::TableTooWide, {MaximumColumns, MaximumIndexes});
+    checkNamesDiffer(name, columns);
+    checkNamesDiffer(name, indexes);
     if (std::count_if(indexes.begin(), indexes.end(), [](const NewIndex &index) { return index.primary; }) > 1)
-        refuse(name, u"A table can have one primary index only."_s);
+        refuse(name, basic::Fault::IndexImpossible, {indexes.back().name});
 
     TableSpec spec;
     spec.name = name;
