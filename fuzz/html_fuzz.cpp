@@ -14,8 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
 {
     static const QTemporaryDir Folder;
     static desktop::TerminalDesktop desktop;
-    static const host::Host Host(Folder.path() + u"\\Kalvenor"_s, desktop);
-    static const QString Page = basic::windowsPath(Folder.filePath(u"page.html"_s));
+    static const host::Host Host(basic::windowsPath(Folder.path()) + u"\\Kalvenor"_s, desktop);
+    static const basic::WindowsPath Page = basic::windowsPath(Folder.filePath(u"page.html"_s));
     const QByteArray raw(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     QFile file(Host.native(report::rawPage(Page)));
     if (!file.open(QIODevice::WriteOnly) || file.write(raw) != raw.size())

@@ -118,11 +118,11 @@ int main(int argc, char **argv)
     write(top.filePath(u"profile/bytes"_s), "[Grafik]\r\nGrafiktyp=3\r\nLegende=\"1\"\r\n; ende\r\n[Sp\xE4t]\r\na");
     write(top.filePath(u"profile/wide"_s), QByteArray("\xFF\xFE[\0G\0]\0\r\0\n\0a\0=\0", 16));
     selection::Vorlage vorlage;
-    vorlage.familienpfad = u"C:\\QV\\Familie.mdb"_s;
+    vorlage.familienpfad = basic::WindowsPath(u"C:\\QV\\Familie.mdb"_s);
     vorlage.statistik.titel = u"Die \"Müllers\""_s;
     vorlage.statistik.rtf = richText();
     vorlage.counters = {1, -7, 2000};
-    selection::writeVorlage(top.filePath(u"vorlage/whole"_s), vorlage);
+    selection::writeVorlage(basic::NativePath(top.filePath(u"vorlage/whole"_s)), vorlage);
     int number = 0;
     for (const char *statement :
          {"*[a-e]?", "x' OR Counter = 1 OR Listname = '", "SELECT Counter, * FROM [Daten] WHERE Listname LIKE 'W*#'",

@@ -14,11 +14,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     static MemoryStorage storage;
     static desktop::TerminalDesktop desktop;
     static const host::Host *const host = [] {
-        static host::Host made(u"\\nowhere\\Kalvenor"_s, desktop);
+        static host::Host made(basic::WindowsPath(u"\\nowhere\\Kalvenor"_s), desktop);
         made.Sprache = u"Deutsch"_s;
         return &made;
     }();
-    static const QString file = u"\\nowhere\\language.mdb"_s;
+    static const basic::WindowsPath file(u"\\nowhere\\language.mdb"_s);
     static const QString native = host->native(file);
     storage.fill(native, data, size);
     dao::Engine engine;

@@ -11,7 +11,7 @@ using namespace kalvenor;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
     static MemoryStorage storage;
-    static const QString File = QStringLiteral("/nowhere/fuzzed.kvl");
+    static const basic::NativePath File(QStringLiteral("/nowhere/fuzzed.kvl"));
     storage.fill(File, data, size);
     selection::Vorlage vorlage;
     try {

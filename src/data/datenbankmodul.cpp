@@ -39,7 +39,7 @@ QString sideDatabaseFile(HostDatabase database)
     return {};
 }
 
-void Datenbankmodul::datenbankoeffnen(const QString &familyDatabase)
+void Datenbankmodul::datenbankoeffnen(const basic::WindowsPath &familyDatabase)
 {
     using enum HostDatabase;
     m_tables.clear();

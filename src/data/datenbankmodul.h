@@ -34,9 +34,9 @@ public:
     std::shared_ptr<dao::Database> Familiendatenbank;
     std::shared_ptr<dao::Recordset> Datentabelle; ///< the person table, for seeks on its index "Counter"
 
-    /// Opens the family database (Windows notation), the side databases and all tables, in their order. Throws the
+    /// Opens the family database, the side databases and all tables, in their order. Throws the
     /// engine's Error, naming the file or table, at the first one that is missing or damaged.
-    void datenbankoeffnen(const QString &familyDatabase);
+    void datenbankoeffnen(const basic::WindowsPath &familyDatabase);
 
 private:
     const host::Host &m_host;

@@ -15,9 +15,9 @@ namespace kalvenor::host {
 class Hauptform {
 public:
     /// Composes the report of what the main window shows: into the print control's pages, or into a file. Only what is
-    /// out of date is computed again. The file's final name in Windows notation, empty for pages; nothing where the
+    /// out of date is computed again. The file's final name, empty for pages; nothing where the
     /// report failed or was cancelled.
-    virtual std::optional<QString> auswahldrucken(const print::ExportTarget &target) = 0;
+    virtual std::optional<basic::WindowsPath> auswahldrucken(const print::ExportTarget &target) = 0;
     /// Reads the print settings and the page.
     virtual void initladen() = 0;
     /// Writes them. False where that failed.

@@ -15,7 +15,7 @@ namespace {
 
 constexpr int ProfileBufferSize = 256;
 
-basic::DriveMap readDrives(const QString &ownSettingsFile)
+basic::DriveMap readDrives(const basic::WindowsPath &ownSettingsFile)
 {
     basic::DriveMap drives;
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
@@ -29,17 +29,18 @@ basic::DriveMap readDrives(const QString &ownSettingsFile)
 
 } // namespace
 
-QString uebergeordnetesverzeichnis(const QString &path)
+basic::WindowsPath uebergeordnetesverzeichnis(const basic::WindowsPath &path)
 {
-    return basic::leftPart(path, path.lastIndexOf(u'\\'));
+    return basic::WindowsPath(basic::leftPart(path.text(), path.text().lastIndexOf(u'\\')));
 }
 
-Host::Host(QString programFolder, desktop::Desktop &desktop)
+Host::Host(basic::WindowsPath programFolder, desktop::Desktop &desktop)
     : m_programFolder(std::move(programFolder)), m_desktop(desktop), m_drives(readDrives(ownSettingsFile()))
 {
 }
 
-QString Host::inilesen(const QString &file, const QString &section, const QString &key, const QString &fallback) const
+QString Host::inilesen(const basic::WindowsPath &file, const QString &section, const QString &key,
+                       const QString &fallback) const
 {
     QByteArray value = profile::getPrivateProfileString(basic::encodeAnsi(section), basic::encodeAnsi(key),
                                                         basic::encodeAnsi(fallback), ProfileBufferSize, native(file));
@@ -49,20 +50,22 @@ QString Host::inilesen(const QString &file, const QString &section, const QStrin
     return basic::decodeAnsi(value);
 }
 
-QString Host::readPath(const QString &file, const QString &section, const QString &key, const QString &fallback) const
+basic::WindowsPath Host::readPath(const basic::WindowsPath &file, const QString &section, const QString &key,
+                                  const basic::WindowsPath &fallback) const
 {
-    QString path = inilesen(file, section, key, fallback);
-    const QString other = basic::pathFromStored(path);
+    const basic::WindowsPath path(inilesen(file, section, key, fallback.text()));
+    const basic::WindowsPath other(basic::pathFromStored(path.text()));
     return QFileInfo::exists(native(path)) || !QFileInfo::exists(native(other)) ? path : other;
 }
 
-bool Host::inischreiben(const QString &file, const QString &section, const QString &key, const QString &value) const
+bool Host::inischreiben(const basic::WindowsPath &file, const QString &section, const QString &key,
+                        const QString &value) const
 {
     return profile::writePrivateProfileString(basic::encodeAnsi(section), basic::encodeAnsi(key),
                                               basic::encodeAnsi(value), native(file));
 }
 
-bool Host::inischreiben(const QString &file, const std::vector<Setting> &settings) const
+bool Host::inischreiben(const basic::WindowsPath &file, const std::vector<Setting> &settings) const
 {
     std::vector<profile::ProfileValue> values;
     for (const Setting &each : settings)

@@ -21,7 +21,7 @@ QString familyFile(const test::Installation &installation)
 {
     test::FakeDesktop desktop;
     const host::Host host(installation.programFolder(), desktop);
-    return host.native(host.inilesen(installation.settings(), "QV-Files", "0", ""));
+    return host.native(host.readPath(installation.settings(), "QV-Files", "0", {}));
 }
 
 } // namespace

@@ -30,7 +30,7 @@ struct Meeting {
             return dialog.result() == QDialog::Accepted;
         };
     }
-    std::unique_ptr<app::Program> start(const QString &programFolder)
+    std::unique_ptr<app::Program> start(const basic::WindowsPath &programFolder)
     {
         return app::startProgram(desktop, {programFolder}, [](app::Program &) { return nullptr; });
     }
@@ -90,7 +90,7 @@ TEST(FirstRun, EachWayLeadsOn)
     const Installation installation({{.counter = 1, .listname = "A"}});
     const QString family = installation.hostFolder() + "/Familie/familie.mdb";
     const QTemporaryDir bare;
-    const QString away = basic::windowsPath(bare.filePath("bin/Kalvenor"));
+    const basic::WindowsPath away = basic::windowsPath(bare.filePath("bin/Kalvenor"));
 
     Meeting host("Hostwaehlen");
     host.desktop.fileAnswers = {installation.hostFolder()};
@@ -120,7 +120,7 @@ TEST(FirstRun, EachWayLeadsOn)
     program = chosen.start(installation.programFolder());
     ASSERT_NE(program, nullptr);
     EXPECT_EQ(program->databases.Familiendatenbank->file(), family + ".mdb");
-    EXPECT_EQ(program->host.inilesen(installation.settings(), "QV-Files", "0", {}), basic::windowsPath(family));
+    EXPECT_EQ(program->host.inilesen(installation.settings(), "QV-Files", "0", {}), basic::windowsPath(family).text());
 }
 
 TEST(FirstRun, TheFolderUsedLastCountsWhileItsHostIsThere)

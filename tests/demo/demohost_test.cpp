@@ -129,8 +129,9 @@ TEST_F(DemoTest, SettingsLeadToTheFiles)
         return profile::getPrivateProfileString(section, key, "?", 256, settings);
     };
     EXPECT_EQ(value("Ansicht", "Sprache"), "Deutsch");
-    EXPECT_EQ(value("QV-Files", "0"), basic::windowsPath(host().familyDatabase).toLatin1());
-    EXPECT_EQ(value("Verzeichnisse", "Prints"), basic::windowsPath(host().hostFolder + u"/Ausdrucke"_s).toLatin1());
+    EXPECT_EQ(value("QV-Files", "0"), basic::windowsPath(host().familyDatabase).text().toLatin1());
+    EXPECT_EQ(value("Verzeichnisse", "Prints"),
+              basic::windowsPath(host().hostFolder + u"/Ausdrucke"_s).text().toLatin1());
     EXPECT_TRUE(QDir(host().programFolder).exists());
     EXPECT_EQ(contents(settings).count('\n'), contents(settings).count("\r\n"));
 }

@@ -12,16 +12,24 @@ using namespace Qt::StringLiterals;
 
 using namespace kalvenor;
 using host::Host;
-using host::uebergeordnetesverzeichnis;
+
+namespace {
+
+basic::WindowsPath operator""_w(const char *text, std::size_t)
+{
+    return basic::WindowsPath(QString::fromLatin1(text));
+}
+
+} // namespace
 
 TEST(Uebergeordnetesverzeichnis, CutsAtTheLastBackslash)
 {
-    EXPECT_EQ(uebergeordnetesverzeichnis("C:\\QV\\Kalvenor"), "C:\\QV");
-    EXPECT_EQ(uebergeordnetesverzeichnis("C:\\"), "C:");
-    EXPECT_EQ(uebergeordnetesverzeichnis("\\home\\a.b\\QV"), "\\home\\a.b");
-    EXPECT_EQ(uebergeordnetesverzeichnis("\\Kalvenor"), "");
+    EXPECT_EQ(host::uebergeordnetesverzeichnis("C:\\QV\\Kalvenor"_w), "C:\\QV"_w);
+    EXPECT_EQ(host::uebergeordnetesverzeichnis("C:\\"_w), "C:"_w);
+    EXPECT_EQ(host::uebergeordnetesverzeichnis("\\home\\a.b\\QV"_w), "\\home\\a.b"_w);
+    EXPECT_EQ(host::uebergeordnetesverzeichnis("\\Kalvenor"_w), ""_w);
     try {
-        uebergeordnetesverzeichnis("Kalvenor");
+        host::uebergeordnetesverzeichnis("Kalvenor"_w);
         FAIL() << "a path without a backslash has no parent";
     } catch (const basic::Error &error) {
         EXPECT_EQ(error.kind(), basic::ErrorKind::InvalidProcedureCall);
@@ -36,7 +44,7 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content);
     }
-    QString path(const QString &name) const { return basic::windowsPath(folder.filePath(name)); }
+    basic::WindowsPath path(const QString &name) const { return basic::windowsPath(folder.filePath(name)); }
     QTemporaryDir folder;
     test::FakeDesktop desktop;
 };
@@ -46,7 +54,7 @@ TEST_F(HostTest, ReadsSettings)
     write("programm.ini", "[Ansicht]\r\nSprache=English\r\nLang=" + QByteArray(400, 'x') + "\r\nNul=ab" +
                               QByteArray(1, '\0') + "cd\r\nUmlaut=M\xfcnchen\r\nLeer=\r\n");
     const Host host(path("Kalvenor"), desktop);
-    const QString file = path("programm.ini");
+    const basic::WindowsPath file = path("programm.ini");
     EXPECT_EQ(host.inilesen(file, "ANSICHT", "sprache", "Deutsch"), "English");
     EXPECT_EQ(host.inilesen(file, "Ansicht", "Lang", "").size(), 255);
     EXPECT_EQ(host.inilesen(file, "Ansicht", "Nul", ""), "ab");
@@ -78,10 +86,10 @@ TEST_F(HostTest, MapsDriveLetters)
         write(u"jürgen/windows/QV/Familie.MDB"_s, "x");
         write(u"Łukasz/f.mdb"_s, "x");
         const Host host(path("Kalvenor"), desktop);
-        EXPECT_EQ(host.native("C:\\qv\\familie.mdb"), windows + "/QV/Familie.MDB");
-        EXPECT_EQ(host.dir("c:\\QV\\FAMILIE.mdb"), "Familie.MDB");
-        EXPECT_EQ(host.dir("e:\\F.mdb"), "f.mdb");
-        EXPECT_EQ(host.dir("D:\\QV\\Familie.mdb"), "");
+        EXPECT_EQ(host.native("C:\\qv\\familie.mdb"_w).text(), windows + "/QV/Familie.MDB");
+        EXPECT_EQ(host.dir("c:\\QV\\FAMILIE.mdb"_w), "Familie.MDB");
+        EXPECT_EQ(host.dir("e:\\F.mdb"_w), "f.mdb");
+        EXPECT_EQ(host.dir("D:\\QV\\Familie.mdb"_w), "");
     }
 }
 
@@ -90,11 +98,11 @@ TEST_F(HostTest, ReadsPathsOfTheHost)
 {
     const QString ansi = folder.filePath(u"Ã¼"_s);
     const QString utf8 = folder.filePath(u"ü"_s);
-    write("programm.ini", "[QV-Files]\r\n0=" + path("").toLatin1() + "\\\xC3\xBC\r\n1=" + path("").toLatin1() +
-                              "\\j\xFCrgen\r\n2=" + QByteArray(400, 'x') + "\r\n");
+    write("programm.ini", "[QV-Files]\r\n0=" + path("").text().toLatin1() + "\\\xC3\xBC\r\n1=" +
+                              path("").text().toLatin1() + "\\j\xFCrgen\r\n2=" + QByteArray(400, 'x') + "\r\n");
     const Host host(path("Kalvenor"), desktop);
     const auto read = [&](const char *key) {
-        return host.readPath(path("programm.ini"), "QV-Files", key, "D:\\");
+        return host.readPath(path("programm.ini"), "QV-Files", key, "D:\\"_w);
     };
     const auto native = [&](const char *key) {
         return QDir::cleanPath(host.native(read(key)));
@@ -105,8 +113,8 @@ TEST_F(HostTest, ReadsPathsOfTheHost)
     write(u"Ã¼"_s, "x");
     EXPECT_EQ(native("0"), ansi);
     EXPECT_EQ(native("1"), folder.filePath(u"jürgen"_s));
-    EXPECT_EQ(read("2").size(), 255);
-    EXPECT_EQ(read("3"), "D:\\");
+    EXPECT_EQ(read("2").text().size(), 255);
+    EXPECT_EQ(read("3"), "D:\\"_w);
 }
 
 TEST_F(HostTest, PutsWindowsOnTopOnlyWhereTheSettingIsOne)

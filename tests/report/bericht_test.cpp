@@ -369,7 +369,8 @@ TEST_F(BerichtTest, AnOldPageStaysUntilTheNewOneIsWhole)
     FaultyStorage storage;
     print::PrintDocument document;
     document.add(print::Paragraph{.text = u"<b>"_s});
-    const QString native = folder.filePath("p.html"), page = basic::windowsPath(native);
+    const QString native = folder.filePath("p.html");
+    const basic::WindowsPath page = basic::windowsPath(native);
     const auto make = [&] {
         print::writeHtmlFile(document, program.host.native(rawPage(page)), {});
         htmlnachbearbeiten(program.host, page);

@@ -38,7 +38,7 @@ struct BildumwandlungTest : testing::Test {
         desktop::registerImageComponent(Component, desktop::createJpegComponent);
     }
     QStringList files() const { return QDir(folder.path()).entryList(QDir::Files, QDir::Name); }
-    QString path(const QString &name) const { return basic::windowsPath(folder.filePath(name)); }
+    basic::WindowsPath path(const QString &name) const { return basic::windowsPath(folder.filePath(name)); }
     void setting(const char *section, const char *key, const char *value) const
     {
         ASSERT_TRUE(host.inischreiben(host.hostSettingsFile(), section, key, value));
@@ -50,9 +50,9 @@ struct BildumwandlungTest : testing::Test {
     /// Converts into a file of that name in the folder; the name written.
     QString convert(const QString &name)
     {
-        QString file = path(name);
+        basic::WindowsPath file = path(name);
         conversion.bildkonvertieren(control, file, type);
-        return file.mid(file.lastIndexOf(u'\\') + 1);
+        return file.text().mid(file.text().lastIndexOf(u'\\') + 1);
     }
 
     QTemporaryDir folder;
@@ -84,7 +84,7 @@ TEST_F(BildumwandlungTest, NamesDecideWhatIsWritten)
         }
         QFile::remove(folder.filePath(row.written));
     }
-    QString none;
+    basic::WindowsPath none;
     conversion.bildkonvertieren(control, none, type);
     EXPECT_TRUE(none.isEmpty() && files().isEmpty() && desktop.messages.empty());
 }
@@ -145,7 +145,7 @@ TEST_F(BildumwandlungTest, AMissingComponentIsRegisteredOrThePictureStaysBmp)
             EXPECT_EQ(desktop.messages[0].style, desktop::MessageCritical);
         }
     }
-    const QString library = path("Pictarex.dll");
+    const basic::WindowsPath library = path("Pictarex.dll");
     EXPECT_EQ(report::dllregistrieren(host, library, false), -1);
     EXPECT_EQ(desktop::createImageComponent(Component), nullptr);
     EXPECT_EQ(report::dllregistrieren(host, library, false), 0); // there is none any more

@@ -22,7 +22,7 @@ const QByteArray WholeFile =
 Vorlage wholeVorlage()
 {
     Vorlage vorlage;
-    vorlage.familienpfad = u"C:\\QV\\Bär.mdb"_s;
+    vorlage.familienpfad = basic::WindowsPath(u"C:\\QV\\Bär.mdb"_s);
     vorlage.statistik.titel = u"Der \"alte\" Stamm"_s;
     vorlage.statistik.rtf = "{\\rtf1\r\nA, \"B\"\r\n}";
     vorlage.statistik.grafiktyp = 5;
@@ -35,7 +35,7 @@ Vorlage wholeVorlage()
 
 struct VorlageFile : testing::Test {
     QTemporaryDir folder;
-    QString file = folder.filePath("a.kvl");
+    basic::NativePath file{folder.filePath("a.kvl")};
 
     void put(const QByteArray &content) const
     {
@@ -69,7 +69,7 @@ TEST_F(VorlageFile, IsWrittenAndReadByteForByte)
     EXPECT_EQ(readVorlage(file), wholeVorlage());
 
     Vorlage empty;
-    empty.familienpfad = u"x"_s;
+    empty.familienpfad = basic::WindowsPath(u"x"_s);
     writeVorlage(file, empty);
     EXPECT_EQ(content(), "\"x\"\r\n\"\"\r\n\"\"\r\n1\r\n1\r\n1\r\n1\r\n1\r\n1\r\n#TRUE#\r\n");
     EXPECT_EQ(readVorlage(file), empty);
@@ -116,7 +116,7 @@ TEST_F(VorlageFile, HoldsAnyLetters)
     Vorlage vorlage = wholeVorlage();
     vorlage.statistik.titel = u"Łódź ☺ 😀 \"Žďár\""_s;
     vorlage.statistik.rtf = "{\\rtf1 B\xE4r \x81}";
-    vorlage.familienpfad += u"Ж"_s;
+    vorlage.familienpfad = vorlage.familienpfad + u"Ж"_s;
     writeVorlage(file, vorlage);
     EXPECT_TRUE(content().startsWith("\xEF\xBB\xBF\"C:") && content().isValidUtf8());
     EXPECT_EQ(readVorlage(file), vorlage);
@@ -177,12 +177,12 @@ TEST_F(VorlageFile, RefusalsNameTheLineAndWhatIsWrong)
     for (const auto &row : rows) {
         put(QByteArray(WholeFile).replace(row.from, row.to));
         const QString said = refusal();
-        EXPECT_TRUE(said.startsWith(file + ", ") && said.contains(row.line) && said.contains(row.named))
+        EXPECT_TRUE(said.startsWith(file.text() + ", ") && said.contains(row.line) && said.contains(row.named))
             << row.from.toStdString() << " -> " << row.to.toStdString() << ": " << said.toStdString();
     }
     ASSERT_TRUE(QFile::remove(file));
     EXPECT_TRUE(refusal().contains("TemplateMissing"));
-    file = folder.path();
+    file = basic::NativePath(folder.path());
     EXPECT_TRUE(refusal().contains("folder"));
 }
 
@@ -190,15 +190,15 @@ TEST_F(VorlageFile, KeepsEveryDatabasePath)
 {
     for (const QString &path : {u"C:\\Müller\\f.mdb"_s, u"\\home\\Łukasz Žďár\\ü.mdb"_s, u"\\Ã¼\\😀.mdb"_s}) {
         Vorlage vorlage = wholeVorlage();
-        vorlage.familienpfad = path;
+        vorlage.familienpfad = basic::WindowsPath(path);
         writeVorlage(file, vorlage);
-        EXPECT_EQ(readVorlage(file).familienpfad, path);
+        EXPECT_EQ(readVorlage(file).familienpfad.text(), path);
     }
 }
 
 TEST_F(VorlageFile, SaysThatItCannotBeWritten)
 {
-    file = folder.filePath("no/such/folder.kvl");
+    file = basic::NativePath(folder.filePath("no/such/folder.kvl"));
     try {
         writeVorlage(file, wholeVorlage());
         ADD_FAILURE() << "was written";

@@ -35,8 +35,8 @@ struct Opening : testing::Test, test::StartedProgram {
             persons.push_back({.counter = i, .listname = QString("Person %1").arg(i), .marked = i == 2 || i == 3});
         return persons;
     }
-    QString native(const QString &path) const { return program.host.native(path); }
-    QString save(const QString &familienpfad, std::vector<qint32> counters) const
+    basic::NativePath native(const basic::WindowsPath &path) const { return program.host.native(path); }
+    basic::WindowsPath save(const basic::WindowsPath &familienpfad, std::vector<qint32> counters) const
     {
         Vorlage vorlage;
         vorlage.familienpfad = familienpfad;
@@ -45,7 +45,7 @@ struct Opening : testing::Test, test::StartedProgram {
         writeVorlage(native(file), vorlage);
         return file;
     }
-    OpenedVorlage open(const QString &path, const basic::Progress &progress = {})
+    OpenedVorlage open(const basic::WindowsPath &path, const basic::Progress &progress = {})
     {
         return vorlageoeffnen(program, path, progress, useOpenDatabase);
     }
@@ -55,7 +55,7 @@ struct Opening : testing::Test, test::StartedProgram {
         return test::countersIn(nativeFile, plainListQuery(PersonList::Marked));
     }
     /// What opening says where it must fail; everything is then as before.
-    QString refusal(const QString &path, const basic::Progress &progress = {})
+    QString refusal(const basic::WindowsPath &path, const basic::Progress &progress = {})
     {
         QString said;
         try {
@@ -70,10 +70,10 @@ struct Opening : testing::Test, test::StartedProgram {
         return said;
     }
 
-    QString family = program.host.Familienpfad;
+    basic::WindowsPath family = program.host.Familienpfad;
     QString texts = program.language.text(language::Text::AgeStatistic);
-    QString other = family.left(family.lastIndexOf('\\')) + u"\\andere.mdb"_s;
-    QString file = basic::windowsPath(folder.filePath("a.kvl"));
+    basic::WindowsPath other = host::uebergeordnetesverzeichnis(family) + u"\\andere.mdb"_s;
+    basic::WindowsPath file = basic::windowsPath(folder.filePath("a.kvl"));
     int closings = 0;
     std::vector<bool> news; ///< whether another database is open
     UseOpenDatabase useOpenDatabase;
@@ -125,7 +125,7 @@ TEST_F(Opening, GoesOverToTheTemplatesDatabase)
     EXPECT_EQ(inFile(native(other)), (std::vector<qint32>{3, 4}));
     EXPECT_EQ(marked(), (std::vector<qint32>{2, 3})); // the former database is left alone
     EXPECT_EQ(program.host.Familienpfad, other);
-    EXPECT_EQ(program.databases.Familiendatenbank->file(), native(other));
+    EXPECT_EQ(program.databases.Familiendatenbank->file(), native(other).text());
     EXPECT_EQ(program.language.text(language::Text::AgeStatistic), texts);
     EXPECT_EQ(closings, 1);
     EXPECT_EQ(news, std::vector<bool>{true});
@@ -133,16 +133,16 @@ TEST_F(Opening, GoesOverToTheTemplatesDatabase)
 
 TEST_F(Opening, AMissingDatabaseIsTheUsersChoice)
 {
-    save(u"C:\\weg.mdb"_s, {1});
+    save(basic::WindowsPath(u"C:\\weg.mdb"_s), {1});
     EXPECT_TRUE(refusal(file).contains("TemplateFamilyMissing (C:\\weg.mdb); DriveUnknown"));
-    QString asked;
+    basic::WindowsPath asked;
     bool answer = false;
-    useOpenDatabase = [&](const QString &familienpfad) {
+    useOpenDatabase = [&](const basic::WindowsPath &familienpfad) {
         asked = familienpfad;
         return answer;
     };
     EXPECT_TRUE(refusal(file).contains("Stopped"));
-    EXPECT_EQ(asked, u"C:\\weg.mdb"_s);
+    EXPECT_EQ(asked.text(), u"C:\\weg.mdb"_s);
     answer = true;
     EXPECT_EQ(open(file).found, 1);
     EXPECT_EQ(marked(), std::vector<qint32>{1});
@@ -186,7 +186,7 @@ TEST_F(Opening, AWriteThatFailsHalfWayIsTakenBack)
             QFile::setPermissions(native(family), QFile::ReadOwner);
         throw basic::Error(basic::Fault::NotSynced, {}, {u"disk full"_s});
     };
-    EXPECT_EQ(refusal(file, failOnceCleared), u"disk full"_s);
+    EXPECT_EQ(refusal(file, failOnceCleared), u"NotSynced (disk full)"_s);
     readOnly = true;
     try {
         open(file, failOnceCleared);
@@ -226,7 +226,7 @@ TEST_F(Opening, ResetTakesTheOptionsFromThePrintSettings)
 TEST_F(Opening, AndUndoAreWholeOrAsBeforeWhereTheDiskFails)
 {
     test::FaultyStorage storage;
-    const QString path = save(family, {9, 3, 1});
+    const basic::WindowsPath path = save(family, {9, 3, 1});
     const std::vector<qint32> before{2, 3}, then{1, 3, 9};
     const MarkStep step{{1, 9}, {2}};
     const struct {

@@ -175,8 +175,7 @@ TEST_F(Preview, SavesByTheEndingOfTheName)
     QString file;
     main.compose = [&](const print::ExportTarget &target) {
         seen = target.format;
-        QString written = target.file;
-        written.replace(".html", "-Alter.html");
+        const basic::WindowsPath written(QString(target.file.text()).replace(".html", "-Alter.html"));
         file = host.native(written);
         return written;
     };

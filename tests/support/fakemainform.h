@@ -10,7 +10,7 @@ namespace kalvenor::test {
 
 /// Stands in the main window's place and writes down what is called.
 struct FakeMainForm final : host::Hauptform {
-    std::optional<QString> auswahldrucken(const print::ExportTarget &target) override
+    std::optional<basic::WindowsPath> auswahldrucken(const print::ExportTarget &target) override
     {
         calls << QStringLiteral("auswahldrucken");
         return compose ? compose(target) : std::nullopt;
@@ -28,7 +28,7 @@ struct FakeMainForm final : host::Hauptform {
     }
 
     QStringList calls;
-    std::function<std::optional<QString>(const print::ExportTarget &)> compose;
+    std::function<std::optional<basic::WindowsPath>(const print::ExportTarget &)> compose;
     QWidget *window = nullptr;
 };
 

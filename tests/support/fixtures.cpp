@@ -195,7 +195,7 @@ void writeHost(const QString &folder, const std::vector<TestPerson> &persons)
 
     const QString settings = u"[Ansicht]\r\nSprache=Deutsch\r\nKurzhilfe=1\r\nAddInonTop=0\r\n"
                              "[QV-Files]\r\n0=%1\r\n[Verzeichnisse]\r\nPrints=%2\r\n"_s.arg(
-                                 basic::windowsPath(family), basic::windowsPath(host.filePath(u"Ausgabe"_s)));
+                                 basic::windowsPath(family).text(), basic::windowsPath(host.filePath(u"Ausgabe"_s)).text());
     QFile file(host.filePath(u"programm.ini"_s));
     const QByteArray bytes = basic::encodeAnsi(settings);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())

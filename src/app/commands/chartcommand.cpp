@@ -126,7 +126,7 @@ QByteArray chartOutput(const Grafikzahlen &figures, Format format)
     return readableText(figures).toUtf8();
 }
 
-int runChart(const QString &programFolder, const ChartCommand &command)
+int runChart(const basic::WindowsPath &programFolder, const ChartCommand &command)
 {
     StartedProgram started(programFolder);
     if (!started.ready)

@@ -24,7 +24,7 @@ struct ChartCommand {
 
 /// Prints the figures and writes the picture where one is wanted, which needs a QGuiApplication. Returns the exit code;
 /// errors of the engine go to the caller.
-int runChart(const QString &programFolder, const ChartCommand &command);
+int runChart(const basic::WindowsPath &programFolder, const ChartCommand &command);
 
 /// "900x540", each side 1 to 20000; invalid for anything else.
 QSize pictureSize(const QString &word);

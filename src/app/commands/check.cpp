@@ -61,7 +61,7 @@ QString placeOf(const jet::Table &table)
 
 class Checker {
 public:
-    explicit Checker(const QString &programFolder) : m_host(programFolder, m_desktop)
+    explicit Checker(const basic::WindowsPath &programFolder) : m_host(programFolder, m_desktop)
     {
         m_host.Hostverzeichnis = host::uebergeordnetesverzeichnis(m_host.programFolder());
         m_host.Sprache = u"Deutsch"_s; // what start-up takes where no setting says otherwise
@@ -80,12 +80,12 @@ private:
 
     bool checkFolders();
     void checkOutputFolder();
-    void checkLanguageDatabase(const QString &file, bool holdsOurTexts);
+    void checkLanguageDatabase(const basic::WindowsPath &file, bool holdsOurTexts);
     void checkFamilyDatabase();
     void checkSideDatabase(data::HostDatabase side);
     void checkPersonTable(const std::shared_ptr<jet::Database> &database, const Table &persons);
     void checkTables(const std::shared_ptr<jet::Database> &database, data::HostDatabase which);
-    std::shared_ptr<jet::Database> open(const QString &path);
+    std::shared_ptr<jet::Database> open(const basic::WindowsPath &path);
     Table table(jet::Database &database, const QString &name);
     bool hasColumns(const jet::Table &table, const std::vector<NeededColumn> &columns);
     bool hasCounterIndex(const jet::Table &table);
@@ -138,7 +138,7 @@ bool Checker::checkFolders()
     else
         locked(program + u": the program's folder is read-only; print settings cannot be kept in it"_s);
 
-    const QString settings = m_host.hostSettingsFile();
+    const basic::WindowsPath settings = m_host.hostSettingsFile();
     if (m_host.dir(settings).isEmpty()) {
         missing(m_host.native(settings) + u": the host's settings file is not there, so no family database is known"_s);
         return true;
@@ -164,7 +164,7 @@ void Checker::checkOutputFolder()
         ok(folder + u": output folder, writable"_s);
 }
 
-std::shared_ptr<jet::Database> Checker::open(const QString &path)
+std::shared_ptr<jet::Database> Checker::open(const basic::WindowsPath &path)
 {
     if (m_host.hasUnmappedDrive(path)) {
         missing(unknownDrive(m_host, path, language::CatalogueLanguage::English));
@@ -223,7 +223,7 @@ bool Checker::hasCounterIndex(const jet::Table &table)
     return there;
 }
 
-void Checker::checkLanguageDatabase(const QString &file, bool holdsOurTexts)
+void Checker::checkLanguageDatabase(const basic::WindowsPath &file, bool holdsOurTexts)
 {
     const auto database = open(file);
     if (!database)
@@ -331,12 +331,12 @@ void Checker::checkPersonTable(const std::shared_ptr<jet::Database> &database, c
 
 } // namespace
 
-CheckResult checkInstallation(const QString &programFolder)
+CheckResult checkInstallation(const basic::WindowsPath &programFolder)
 {
     return Checker(programFolder).run();
 }
 
-int runCheck(const QString &programFolder)
+int runCheck(const basic::WindowsPath &programFolder)
 {
     const CheckResult result = checkInstallation(programFolder);
     for (const QString &line : result.good + result.notes + result.problems)

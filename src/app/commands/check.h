@@ -15,9 +15,9 @@ struct CheckResult {
 };
 
 /// Looks at everything the program needs of an installation and goes on behind each problem. Changes nothing.
-CheckResult checkInstallation(const QString &programFolder);
+CheckResult checkInstallation(const basic::WindowsPath &programFolder);
 
 /// The command: prints the lines, problems last. 0 where there is no problem, else 1.
-int runCheck(const QString &programFolder);
+int runCheck(const basic::WindowsPath &programFolder);
 
 } // namespace kalvenor::app

@@ -34,7 +34,7 @@ QString pathOf(const std::string &word)
     return absoluteNative(toText(word));
 }
 
-QString programFolder(const Words &words)
+basic::WindowsPath programFolder(const Words &words)
 {
     return basic::windowsPath(words.program.empty() ? QCoreApplication::applicationDirPath() : pathOf(words.program));
 }
@@ -181,7 +181,7 @@ QString pathOrNone(const std::string &word)
 
 int dispatch(const Words &words)
 {
-    const QString folder = programFolder(words);
+    const basic::WindowsPath folder = programFolder(words);
     switch (words.command) {
     case Command::Demo:
         return runDemo({pathOf(words.folder), words.persons, words.seed});

@@ -43,7 +43,7 @@ int runDemo(const DemoCommand &command)
     return Done;
 }
 
-int runList(const QString &programFolder, const ListCommand &command)
+int runList(const basic::WindowsPath &programFolder, const ListCommand &command)
 {
     StartedProgram started(programFolder);
     if (!started.ready)
@@ -59,7 +59,7 @@ int runList(const QString &programFolder, const ListCommand &command)
     return started.done();
 }
 
-int runMark(const QString &programFolder, const MarkCommand &command)
+int runMark(const basic::WindowsPath &programFolder, const MarkCommand &command)
 {
     StartedProgram started(programFolder);
     if (!started.ready)
@@ -89,7 +89,7 @@ int runMark(const QString &programFolder, const MarkCommand &command)
     return started.done();
 }
 
-int runAges(const QString &programFolder, const AgesCommand &command)
+int runAges(const basic::WindowsPath &programFolder, const AgesCommand &command)
 {
     StartedProgram started(programFolder);
     if (!started.ready)

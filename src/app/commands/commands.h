@@ -38,8 +38,8 @@ struct AgesCommand {
 };
 
 int runDemo(const DemoCommand &command);
-int runList(const QString &programFolder, const ListCommand &command);
-int runMark(const QString &programFolder, const MarkCommand &command);
-int runAges(const QString &programFolder, const AgesCommand &command);
+int runList(const basic::WindowsPath &programFolder, const ListCommand &command);
+int runMark(const basic::WindowsPath &programFolder, const MarkCommand &command);
+int runAges(const basic::WindowsPath &programFolder, const AgesCommand &command);
 
 } // namespace kalvenor::app

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
 
-int runReport(const QString &programFolder, const ReportCommand &command)
+int runReport(const basic::WindowsPath &programFolder, const ReportCommand &command)
 {
     StartedProgram started(programFolder);
     if (!started.ready)
@@ -44,7 +44,7 @@ int runReport(const QString &programFolder, const ReportCommand &command)
     print::ExportTarget target;
     if (ending != u"pdf")
         target = {ending == u"rtf" ? print::ExportFormat::Rtf : print::ExportFormat::Html, basic::windowsPath(output)};
-    const QString written = bericht.auswahldrucken(
+    const basic::WindowsPath written = bericht.auswahldrucken(
         {.statistik = statistik,
          .introductionFile = command.statistik.rtf ? command.statistik.introductionFile : command.vorlage,
          .list = list,

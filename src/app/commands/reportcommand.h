@@ -16,6 +16,6 @@ struct ReportCommand {
 };
 
 /// Returns the exit code; errors of the engine go to the caller. Needs a QApplication.
-int runReport(const QString &programFolder, const ReportCommand &command);
+int runReport(const basic::WindowsPath &programFolder, const ReportCommand &command);
 
 } // namespace kalvenor::app

@@ -35,7 +35,7 @@ QString lines(const statistics::Statistik &statistik)
 
 } // namespace
 
-int runTemplateSave(const QString &programFolder, const QString &file, const StatistikWords &words)
+int runTemplateSave(const basic::WindowsPath &programFolder, const QString &file, const StatistikWords &words)
 {
     StartedProgram started(programFolder);
     if (!started.ready)
@@ -50,7 +50,7 @@ int runTemplateSave(const QString &programFolder, const QString &file, const Sta
     return started.done();
 }
 
-int runTemplateOpen(const QString &programFolder, const QString &file, bool here)
+int runTemplateOpen(const basic::WindowsPath &programFolder, const QString &file, bool here)
 {
     StartedProgram started(programFolder);
     if (!started.ready)
@@ -58,7 +58,7 @@ int runTemplateOpen(const QString &programFolder, const QString &file, bool here
     Program &program = started.program;
     selection::UseOpenDatabase useOpenDatabase;
     if (here)
-        useOpenDatabase = [](const QString &) {
+        useOpenDatabase = [](const basic::WindowsPath &) {
             return true;
         };
     desktop::TerminalProgress terminal(started.progress(language::Text::OpeningTemplate));
@@ -80,15 +80,15 @@ int runTemplateOpen(const QString &programFolder, const QString &file, bool here
     return started.done();
 }
 
-int runTemplateReset(const QString &programFolder, const QString &file)
+int runTemplateReset(const basic::WindowsPath &programFolder, const QString &file)
 {
     desktop::TerminalDesktop desktop;
     const host::Host host(programFolder, desktop);
     const statistics::Statistik statistik = selection::vorlageclear(host);
     if (!file.isEmpty()) {
-        selection::Vorlage vorlage = selection::readVorlage(file);
+        selection::Vorlage vorlage = selection::readVorlage(basic::NativePath(file));
         vorlage.statistik = statistik;
-        selection::writeVorlage(file, vorlage);
+        selection::writeVorlage(basic::NativePath(file), vorlage);
     }
     printLine(lines(statistik));
     return Done;

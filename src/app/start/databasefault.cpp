@@ -26,12 +26,13 @@ bool isOtherVersion(const QString &nativeFile)
 /// There and allowed, but not to be had: another program holds it.
 bool isHeldElsewhere(const QString &nativeFile)
 {
-    return storage::File::open(nativeFile, storage::File::Mode::Read, nullptr).fault() == storage::FileFault::Other;
+    return storage::File::open(basic::NativePath(nativeFile), storage::File::Mode::Read, nullptr).fault() ==
+           storage::FileFault::Other;
 }
 
 } // namespace
 
-QString databaseFault(data::Session &session, const basic::Error &error, const QString &familienpfad)
+QString databaseFault(data::Session &session, const basic::Error &error, const basic::WindowsPath &familienpfad)
 {
     const host::Host &host = session.host;
     const QString &file = error.place().file;
@@ -39,9 +40,9 @@ QString databaseFault(data::Session &session, const basic::Error &error, const Q
     switch (error.kind()) {
     case basic::ErrorKind::FileNotFound:
         if (isFamily && host.hasUnmappedDrive(familienpfad))
-            return session.language.text(Text::FamilyMissing).arg(familienpfad) + u' ' +
+            return session.language.text(Text::FamilyMissing).arg(familienpfad.text()) + u' ' +
                    session.language.text(Text::UnknownDrive)
-                       .arg(familienpfad.left(2), host.native(host.ownSettingsFile()));
+                       .arg(familienpfad.text().left(2), host.native(host.ownSettingsFile()));
         if (isFamily)
             return session.language.text(Text::FamilyMissing).arg(file);
         if (file.endsWith(u"ADD-IN-LANGUAGE.MDB", Qt::CaseInsensitive))

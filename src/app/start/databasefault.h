@@ -10,6 +10,6 @@ namespace kalvenor::app {
 /// What hinders the opening of the databases, in the user's language: which file, what is wrong with it and what to do.
 /// `familienpfad` is the family database that was to be opened, in Windows notation. Where there are no plain words
 /// for it, the error's own.
-QString databaseFault(data::Session &session, const basic::Error &error, const QString &familienpfad);
+QString databaseFault(data::Session &session, const basic::Error &error, const basic::WindowsPath &familienpfad);
 
 } // namespace kalvenor::app

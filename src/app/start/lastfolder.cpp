@@ -23,7 +23,7 @@ QSettings userSettings()
 
 bool hasHost(const QString &programFolder)
 {
-    const QString host = basic::windowsPath(QFileInfo(programFolder).path());
+    const basic::WindowsPath host = basic::windowsPath(QFileInfo(programFolder).path());
     return !basic::directoryListing(host + u"\\programm.ini"_s).isEmpty() ||
            !basic::directoryListing(host + u"\\ADD-IN-LANGUAGE.MDB"_s).isEmpty();
 }

@@ -21,7 +21,7 @@ QWindow *activeForm()
                                                                                     : nullptr;
 }
 
-qint16 shortHelp(const host::Host &host, const QString &settings, const QString &view)
+qint16 shortHelp(const host::Host &host, const basic::WindowsPath &settings, const QString &view)
 {
     const QString text = host.inilesen(settings, view, u"Kurzhilfe"_s, u"1"_s);
     try {
@@ -37,7 +37,7 @@ qint16 shortHelp(const host::Host &host, const QString &settings, const QString 
 bool Program::Main(const ShowMainWindow &showMainWindow)
 {
     host.Hostverzeichnis = host::uebergeordnetesverzeichnis(host.programFolder());
-    const QString settings = host.hostSettingsFile();
+    const basic::WindowsPath settings = host.hostSettingsFile();
     const QString view = u"Ansicht"_s;
     host.Sprache = host.inilesen(settings, view, u"Sprache"_s, u"Deutsch"_s);
     host.Kurzhilfe = shortHelp(host, settings, view);

@@ -13,8 +13,8 @@ class Program : public data::Session {
 public:
     using Session::Session;
 
-    /// A family database for this run, in Windows notation, that takes the place of the one that the host names.
-    QString chosenFamily;
+    /// A family database for this run that takes the place of the one that the host names.
+    basic::WindowsPath chosenFamily;
 
     /// Makes and shows the main window and gives it back; a command has none.
     using ShowMainWindow = std::function<host::Hauptform *()>;

@@ -13,7 +13,7 @@ namespace {
 
 QString lookedFor(const host::Host &host, language::CatalogueLanguage language)
 {
-    const QString &path = host.Familienpfad;
+    const basic::WindowsPath &path = host.Familienpfad;
     if (path.isEmpty())
         return wording(Text::NoFamilyNamed, language).arg(host.native(host.hostSettingsFile()) + u" [QV-Files]"_s);
     return host.hasUnmappedDrive(path) ? unknownDrive(host, path, language)
@@ -22,7 +22,8 @@ QString lookedFor(const host::Host &host, language::CatalogueLanguage language)
 
 } // namespace
 
-StartedProgram::StartedProgram(const QString &programFolder) : program(programFolder, desktop), ready(program.Main())
+StartedProgram::StartedProgram(const basic::WindowsPath &programFolder)
+    : program(programFolder, desktop), ready(program.Main())
 {
     if (!ready) {
         const auto language = language::catalogueLanguage(program.host);
@@ -30,10 +31,10 @@ StartedProgram::StartedProgram(const QString &programFolder) : program(programFo
     }
 }
 
-QString unknownDrive(const host::Host &host, const QString &path, language::CatalogueLanguage language)
+QString unknownDrive(const host::Host &host, const basic::WindowsPath &path, language::CatalogueLanguage language)
 {
-    return path + u": "_s +
-           wording(Text::UnknownDrive, language).arg(path.left(2), host.native(host.ownSettingsFile()));
+    return path.text() + u": "_s +
+           wording(Text::UnknownDrive, language).arg(path.text().left(2), host.native(host.ownSettingsFile()));
 }
 
 QString progressLine(const QString &what, language::CatalogueLanguage language)

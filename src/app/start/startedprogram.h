@@ -16,7 +16,7 @@ inline constexpr int Misused = 2;
 /// A program started without windows; `ready` is false where start-up ended it with its own message, and a line on
 /// stderr says which database was looked for.
 struct StartedProgram {
-    explicit StartedProgram(const QString &programFolder);
+    explicit StartedProgram(const basic::WindowsPath &programFolder);
     desktop::TerminalDesktop desktop;
     Program program;
     bool ready;
@@ -28,7 +28,7 @@ struct StartedProgram {
 };
 
 /// That no folder is known for the path's drive, and where to name it.
-QString unknownDrive(const host::Host &host, const QString &path, language::CatalogueLanguage language);
+QString unknownDrive(const host::Host &host, const basic::WindowsPath &path, language::CatalogueLanguage language);
 
 /// What a command shows on the terminal while it does this.
 QString progressLine(const QString &what, language::CatalogueLanguage language);

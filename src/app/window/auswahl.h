@@ -43,7 +43,7 @@ public:
     FamilyDesk &family() { return m_family; }
     ReportDesk &report() { return m_report; }
 
-    std::optional<QString> auswahldrucken(const print::ExportTarget &target) override
+    std::optional<basic::WindowsPath> auswahldrucken(const print::ExportTarget &target) override
     {
         return m_report.auswahldrucken(target);
     }

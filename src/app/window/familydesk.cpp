@@ -36,7 +36,7 @@ void FamilyDesk::choose()
 
 bool FamilyDesk::openFile(const QString &nativeFile)
 {
-    const QString familienpfad = m_session.host.windows(nativeFile);
+    const basic::WindowsPath familienpfad = m_session.host.windows(nativeFile);
     const auto inPlainWords = [&](const basic::Error &error) {
         const QString plain = databaseFault(m_session, error, familienpfad);
         const QString exact = language::errorMessage(m_session.language, error);

@@ -66,7 +66,7 @@ StartProblem startProblem(Program &program, const std::optional<basic::Error> &e
         return {.text = program.language.text(Text::NoHostFound),
                 .details = program.language.text(Text::NoHostInFolder).arg(host.native(host.Hostverzeichnis)),
                 .noHost = true};
-    const QString &family = host.Familienpfad;
+    const basic::WindowsPath &family = host.Familienpfad;
     const QString settings = host.native(host.hostSettingsFile());
     if (error) {
         const bool inFamily = error->place().file == host.native(family) && !family.isEmpty();
@@ -169,7 +169,7 @@ void FirstRun::reject()
 void FirstRun::chooseFamily()
 {
     const host::Host &host = m_program.host;
-    const QString former = host.Familienpfad.isEmpty() ? host.Hostverzeichnis : host.Familienpfad;
+    const basic::WindowsPath former = host.Familienpfad.isEmpty() ? host.Hostverzeichnis : host.Familienpfad;
     const QString file = host.desktop().openFileName(this, {.title = m_program.language.text(Text::OpenFamily),
                                                             .folder = QFileInfo(host.native(former)).absolutePath(),
                                                             .filters = m_program.language.text(Text::FamilyDatabases)});

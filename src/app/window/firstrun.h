@@ -14,10 +14,10 @@ class QLabel;
 // What a user meets where the program cannot start: what is missing or wrong, and the ways on from there.
 namespace kalvenor::app {
 
-/// Where a start takes things from; paths in Windows notation.
+/// Where a start takes things from.
 struct StartPlace {
-    QString programFolder;
-    QString family = {}; ///< for this run; empty: the one that the host names
+    basic::WindowsPath programFolder;
+    basic::WindowsPath family = {}; ///< for this run; empty: the one that the host names
 };
 
 /// Why a start ended before there was a window.

@@ -58,11 +58,11 @@ report::ReportContent ReportDesk::content() const
                      .relatives = m_selection.relatives()}};
 }
 
-std::optional<QString> ReportDesk::auswahldrucken(const print::ExportTarget &target)
+std::optional<basic::WindowsPath> ReportDesk::auswahldrucken(const print::ExportTarget &target)
 {
     if (m_work.isRunning() || !m_panel.computeOutdated())
         return std::nullopt;
-    QString written;
+    basic::WindowsPath written;
     const bool done = language::runAndTell(
         m_work, m_session.host, m_session.language, m_session.language.text(Text::ComposingPages),
         [&](const basic::Progress &progress) { written = m_bericht.auswahldrucken(content(), target, progress); },

@@ -36,7 +36,7 @@ public:
     /// and is given the command ("drucker", "save") where there is one.
     void show(const QString &previewCommand = {});
     /// As Hauptform says.
-    std::optional<QString> auswahldrucken(const print::ExportTarget &target);
+    std::optional<basic::WindowsPath> auswahldrucken(const print::ExportTarget &target);
     void initladen() { m_bericht.initladen(); }
     bool initspeichern();
     /// The print settings dialog; what changes is in the preview's pages at once.

@@ -93,8 +93,8 @@ bool TemplateDesk::openFile(const QString &nativeFile)
     if (m_work.isRunning()) // a file dropped meanwhile
         return false;
     selection::OpenedVorlage opened;
-    const selection::UseOpenDatabase useOpenDatabase = [this](const QString &database) {
-        const QString question = m_session.language.text(Text::TemplateDatabaseMissing).arg(database);
+    const selection::UseOpenDatabase useOpenDatabase = [this](const basic::WindowsPath &database) {
+        const QString question = m_session.language.text(Text::TemplateDatabaseMissing).arg(database.text());
         return m_session.host.desktop().messageBox(question + u"\n\n"_s +
                                                        m_session.language.text(Text::OpenWithThisDatabase) + u'?',
                                                    desktop::ButtonsOkCancel + desktop::MessageQuestion,
@@ -129,7 +129,7 @@ bool TemplateDesk::openFile(const QString &nativeFile)
 void TemplateDesk::openDefault()
 {
     const host::Host &host = m_session.host;
-    const QString file = host.native(host.programFolder() + DefaultTemplate);
+    const basic::NativePath file = host.native(host.programFolder() + DefaultTemplate);
     selection::Vorlage vorlage;
     if (host.dir(host.programFolder() + DefaultTemplate).isEmpty() ||
         !perform(m_session.language.text(Text::OpeningTemplate),
@@ -210,8 +210,8 @@ QStringList TemplateDesk::recent() const
     const host::Host &host = m_session.host;
     QStringList files;
     for (qsizetype i = 1; i <= RecentTemplates; ++i) {
-        const QString file =
-            basic::pathFromStored(host.inilesen(host.ownSettingsFile(), RecentSection, QString::number(i), {}));
+        const basic::WindowsPath file(
+            basic::pathFromStored(host.inilesen(host.ownSettingsFile(), RecentSection, QString::number(i), {})));
         if (!file.isEmpty() && !host.dir(file).isEmpty())
             files << host.native(file);
     }
@@ -224,7 +224,7 @@ void TemplateDesk::remember(const QString &nativeFile)
     QStringList files = recent();
     files.removeAll(nativeFile);
     const auto entry = [](const QString &file) {
-        return basic::storedPath(basic::windowsPath(file));
+        return basic::storedPath(basic::windowsPath(file).text());
     };
     if (entry(nativeFile).size() <= LongestEntry)
         files.prepend(nativeFile);

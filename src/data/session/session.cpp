@@ -9,13 +9,13 @@ using namespace Qt::StringLiterals;
 
 namespace kalvenor::data {
 
-Session::Session(const QString &programFolder, desktop::Desktop &desktop) : host(programFolder, desktop)
+Session::Session(const basic::WindowsPath &programFolder, desktop::Desktop &desktop) : host(programFolder, desktop)
 {
 }
 
-void Session::exchangeDatabase(const QString &familienpfad, const std::function<void()> &first)
+void Session::exchangeDatabase(const basic::WindowsPath &familienpfad, const std::function<void()> &first)
 {
-    const QString former = host.Familienpfad;
+    const basic::WindowsPath former = host.Familienpfad;
     try {
         open(familienpfad);
         if (first)
@@ -28,7 +28,7 @@ void Session::exchangeDatabase(const QString &familienpfad, const std::function<
     Q_EMIT databaseExchanged(true);
 }
 
-void Session::goBack(const QString &former, const basic::Error &why)
+void Session::goBack(const basic::WindowsPath &former, const basic::Error &why)
 {
     try {
         open(former);
@@ -40,10 +40,10 @@ void Session::goBack(const QString &former, const basic::Error &why)
     throw why;
 }
 
-void Session::open(const QString &familienpfad)
+void Session::open(const basic::WindowsPath &familienpfad)
 {
     Q_EMIT databaseClosing();
-    language.datenbankenschliessen(familienpfad); // a name: the host's own texts stay closed
+    language.datenbankenschliessen(familienpfad.text()); // a name: the host's own texts stay closed
     databases.datenbankoeffnen(familienpfad);
     language.spracheoeffnen(host.Hostverzeichnis + u"\\ADD-IN-LANGUAGE.MDB"_s);
     host.Familienpfad = familienpfad;

@@ -16,7 +16,7 @@ class Session : public QObject {
     Q_OBJECT
 public:
     /// `programFolder`: the program's own folder, in Windows notation. Nothing is opened.
-    Session(const QString &programFolder, desktop::Desktop &desktop);
+    Session(const basic::WindowsPath &programFolder, desktop::Desktop &desktop);
 
     dao::Engine engine;
     host::Host host;
@@ -27,7 +27,7 @@ public:
     /// Closes all databases and opens this family database (Windows notation) with the host's own ones, loads the event
     /// kinds again and does `first`, before anybody hears of it. The host's settings file is not changed. Where any of
     /// that fails, the former database is open again and the Error is thrown, with a remark where even that failed.
-    void exchangeDatabase(const QString &familienpfad, const std::function<void()> &first = {});
+    void exchangeDatabase(const basic::WindowsPath &familienpfad, const std::function<void()> &first = {});
     /// Closes all databases. Throws the engine's Error.
     void close();
 
@@ -38,8 +38,8 @@ Q_SIGNALS:
     void databaseExchanged(bool other);
 
 private:
-    void open(const QString &familienpfad);
-    [[noreturn]] void goBack(const QString &former, const basic::Error &why);
+    void open(const basic::WindowsPath &familienpfad);
+    [[noreturn]] void goBack(const basic::WindowsPath &former, const basic::Error &why);
 };
 
 } // namespace kalvenor::data

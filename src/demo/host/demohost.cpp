@@ -37,14 +37,14 @@ void makeFolder(const QString &folder)
 void writeFile(const QString &path, const QByteArray &bytes)
 {
     QString reason;
-    if (!storage::replaceFileSafely(path, bytes, &reason, storage::Origin::NewHost))
+    if (!storage::replaceFileSafely(basic::NativePath(path), bytes, &reason, storage::Origin::NewHost))
         throw basic::Error(basic::Fault::NotWritten, {.file = path}, {reason});
 }
 
 /// The path as the settings file holds it; refused where a profile read would not give it back.
 QByteArray settingOf(const QString &nativePath)
 {
-    QByteArray bytes = basic::encodeAnsi(basic::storedPath(basic::windowsPath(nativePath)));
+    QByteArray bytes = basic::encodeAnsi(basic::storedPath(basic::windowsPath(nativePath).text()));
     if (bytes.size() > LongestSetting)
         throw basic::Error(basic::Fault::PathTooLong, {.file = nativePath});
     return bytes;

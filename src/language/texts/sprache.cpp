@@ -19,7 +19,7 @@ QLocale anzeigesprache(const host::Host &host)
     return host.Sprache.compare(u"Deutsch", Qt::CaseInsensitive) == 0 ? QLocale::German : QLocale::English;
 }
 
-void Sprachmodul::spracheoeffnen(const QString &file)
+void Sprachmodul::spracheoeffnen(const basic::WindowsPath &file)
 {
     m_database = m_engine.openDatabase(m_host.native(file));
     m_languages = m_database->openTable(u"Languages"_s);

@@ -31,7 +31,7 @@ public:
 
     /// Opens the language database (Windows notation) and its table `Languages`, replacing what was open.
     /// Throws the engine's Error.
-    void spracheoeffnen(const QString &file);
+    void spracheoeffnen(const basic::WindowsPath &file);
 
     /// The text in the current language, "????" where there is no such row, column or table. The placeholders
     /// #PROGNAME# and #APPNAME# are removed. An empty field gives null.

@@ -75,32 +75,31 @@ QString resolveCase(const QString &start, const QString &rest)
 
 } // namespace
 
-bool hasUnmappedDrive(const QString &windowsPath, const DriveMap &drives)
+bool hasUnmappedDrive(const WindowsPath &windowsPath, const DriveMap &drives)
 {
-    return !OnWindows && hasDrive(windowsPath) && !drives.contains(windowsPath[0].toUpper());
+    const QString &path = windowsPath.text();
+    return !OnWindows && hasDrive(path) && !drives.contains(path[0].toUpper());
 }
 
-QString nativePath(const QString &windowsPath, const DriveMap &drives)
+NativePath nativePath(const WindowsPath &windowsPath, const DriveMap &drives)
 {
-    QString path = windowsPath;
+    QString path = windowsPath.text();
     path.replace(u'\\', u'/');
     if (path.startsWith("//"_L1))
-        return path;
+        return NativePath(path);
     if (hasDrive(path)) {
         const auto folder = drives.constFind(path[0].toUpper());
         if (folder == drives.constEnd())
-            return OnWindows ? path : nowhere() + path;
+            return NativePath(OnWindows ? path : nowhere() + path);
         qsizetype from = 2;
         while (from < path.size() && path[from] == u'/')
             ++from;
-        return from == path.size() ? *folder : resolveCase(withEndSlash(*folder), path.mid(from));
+        return NativePath(from == path.size() ? *folder : resolveCase(withEndSlash(*folder), path.mid(from)));
     }
-    if (path.startsWith(u'/'))
-        return resolveCase(u"/"_s, path.mid(1));
-    return resolveCase({}, path);
+    return NativePath(path.startsWith(u'/') ? resolveCase(u"/"_s, path.mid(1)) : resolveCase({}, path));
 }
 
-QString windowsPath(const QString &nativePath, const DriveMap &drives)
+WindowsPath windowsPath(const QString &nativePath, const DriveMap &drives)
 {
     QString path = nativePath;
     if (!OnWindows && path.startsWith(nowhere()) && hasDrive(QStringView(path).mid(nowhere().size())))
@@ -116,12 +115,13 @@ QString windowsPath(const QString &nativePath, const DriveMap &drives)
     }
     if (longest > 0)
         path = drive + u":/"_s + path.mid(longest);
-    return path.replace(u'/', u'\\');
+    return WindowsPath(path.replace(u'/', u'\\'));
 }
 
-QString directoryListing(const QString &windowsPath, const DriveMap &drives)
+QString directoryListing(const WindowsPath &windowsPath, const DriveMap &drives)
 {
-    if (windowsPath.isEmpty() || windowsPath.endsWith(u'\\') || windowsPath.endsWith(u'/'))
+    const QString &path = windowsPath.text();
+    if (path.isEmpty() || path.endsWith(u'\\') || path.endsWith(u'/'))
         return {};
     const QFileInfo file(nativePath(windowsPath, drives));
     return file.isFile() && !file.isHidden() ? file.fileName() : QString();

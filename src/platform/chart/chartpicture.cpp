@@ -92,7 +92,7 @@ void writeChart(const ChartTable &table, const ChartLook &look, QSize pixels, co
     if (bytes.isEmpty())
         throw basic::Error(basic::Fault::PictureTooLarge, {.file = nativeFile});
     QString reason;
-    if (!storage::replaceFileSafely(nativeFile, bytes, &reason))
+    if (!storage::replaceFileSafely(basic::NativePath(nativeFile), bytes, &reason))
         throw basic::Error(basic::Fault::PictureNotWritten, {.file = nativeFile}, {reason});
 }
 

@@ -59,7 +59,7 @@ public:
         if (!writer.write(image))
             return outputFile + u": "_s + writer.errorString();
         QString reason;
-        if (!storage::replaceFileSafely(outputFile, bytes.data(), &reason, storage::Origin::Beside))
+        if (!storage::replaceFileSafely(basic::NativePath(outputFile), bytes.data(), &reason, storage::Origin::Beside))
             return outputFile + u": "_s + reason;
         return {};
     }

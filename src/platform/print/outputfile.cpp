@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace kalvenor::print {
 
 OutputFile::OutputFile(const QString &nativePath, const QString &kind)
-    : m_kind(kind), m_path(nativePath), m_file(nativePath)
+    : m_kind(kind), m_path(nativePath), m_file(basic::NativePath(nativePath))
 {
     const QFileInfo place(nativePath);
     if (place.exists() && !place.isFile()) // a device would be replaced, too

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/path.h"
 #include "platform/basic/progress.h"
 #include "platform/print/pagelayout.h"
 #include "platform/print/printdocument.h"
@@ -16,7 +17,7 @@ namespace kalvenor::print {
 enum class ExportFormat { Pages = 0, Html = 1, Rtf = 4, RtfPlain = 5 };
 struct ExportTarget {
     ExportFormat format = ExportFormat::Pages;
-    QString file = {}; ///< path text in Windows notation; empty for pages
+    basic::WindowsPath file = {}; ///< empty for pages
 };
 
 /// The print control: one for the life of the program. Report composition fills it, the preview shows its pages, the

@@ -176,7 +176,7 @@ QByteArray trimmedName(const QByteArray &name)
 // The bytes of a file; `fault` says why there are none.
 QByteArray readWhole(const QString &nativeFile, storage::FileFault &fault)
 {
-    const storage::File file = storage::File::open(nativeFile, storage::File::Mode::Read, nullptr);
+    const storage::File file = storage::File::open(basic::NativePath(nativeFile), storage::File::Mode::Read, nullptr);
     fault = file.fault();
     if (!file.isOpen())
         return {};
@@ -248,8 +248,8 @@ bool changeFile(const QString &nativeFile, const std::function<bool(Units &)> &e
     if (!lock.isHeld() || !file)
         return false;
     try {
-        return !edit(*file) ||
-               storage::replaceFileSafely(nativeFile, file->toBytes(), nullptr, storage::Origin::Settings);
+        return !edit(*file) || storage::replaceFileSafely(basic::NativePath(nativeFile), file->toBytes(), nullptr,
+                                                          storage::Origin::Settings);
     } catch (const basic::Error &) { // as the platform's functions, which know no reason
         return false;
     }

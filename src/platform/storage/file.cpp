@@ -29,7 +29,7 @@ QString faultText(FileFault fault, SystemError error)
 
 } // namespace
 
-File File::open(const QString &nativePath, Mode mode, QString *error)
+File File::open(const basic::NativePath &nativePath, Mode mode, QString *error)
 {
     Opened opened = currentStorage().open(nativePath, mode);
     Q_ASSERT((opened.file != nullptr) == (opened.fault == FileFault::None));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/path.h"
 #include "platform/storage/storage.h"
 
 namespace kalvenor::storage {
@@ -14,7 +15,7 @@ public:
 
     /// Opens an existing file; it is never created or truncated. On failure isOpen() is false, fault() names the kind
     /// and `error` (may be null) gets the reason in plain words, without the path.
-    static File open(const QString &nativePath, Mode mode, QString *error);
+    static File open(const basic::NativePath &nativePath, Mode mode, QString *error);
 
     bool isOpen() const { return m_open != nullptr; }
     FileFault fault() const { return m_fault; }

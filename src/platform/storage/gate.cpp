@@ -27,7 +27,7 @@ bool isNamedDatabase(const QFileInfo &file)
 
 } // namespace
 
-QString withoutLinks(const QString &nativeFile)
+QString withoutLinks(const basic::NativePath &nativeFile)
 {
     constexpr int mostLinks = 40;
     QString target = nativeFile;
@@ -36,7 +36,7 @@ QString withoutLinks(const QString &nativeFile)
     return target;
 }
 
-void checkTarget(const QString &nativeFile, Origin origin)
+void checkTarget(const basic::NativePath &nativeFile, Origin origin)
 {
     checkNames(nativeFile, origin);
     const File old = File::open(nativeFile, File::Mode::Read, nullptr);
@@ -44,7 +44,7 @@ void checkTarget(const QString &nativeFile, Origin origin)
         checkContent(nativeFile, old, origin); // what cannot be read now is told when it is to be written
 }
 
-void checkNames(const QString &nativeFile, Origin origin)
+void checkNames(const basic::NativePath &nativeFile, Origin origin)
 {
     if (origin == Origin::NewHost)
         return;
@@ -59,7 +59,7 @@ void checkNames(const QString &nativeFile, Origin origin)
         throw basic::Error(basic::Fault::TargetIsHostSettings, {.file = nativeFile}, {target.filePath()});
 }
 
-bool checkContent(const QString &nativeFile, const File &old, Origin origin)
+bool checkContent(const basic::NativePath &nativeFile, const File &old, Origin origin)
 {
     // No database can be opened without one of these names at this place, so that none that is open passes.
     constexpr qint64 namePlace = 4;

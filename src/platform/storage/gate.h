@@ -18,16 +18,16 @@ enum class Origin {
 };
 
 /// What the last of the links leads to, whether it is there or not.
-QString withoutLinks(const QString &nativeFile);
+QString withoutLinks(const basic::NativePath &nativeFile);
 
 /// Throws Error(Refused) where the file is a database by its name or its first bytes, is called as the host's settings
 /// file, or is a link and nobody named it. Looks at what a link leads to; a hard link to a database has its first
 /// bytes. For a look ahead: Replacement makes both checks itself.
-void checkTarget(const QString &nativeFile, Origin origin);
+void checkTarget(const basic::NativePath &nativeFile, Origin origin);
 
 /// The part of it that needs no file.
-void checkNames(const QString &nativeFile, Origin origin);
+void checkNames(const basic::NativePath &nativeFile, Origin origin);
 /// The other part: throws where `old`, the file that is to be replaced, holds a database. False where reading fails.
-bool checkContent(const QString &nativeFile, const File &old, Origin origin);
+bool checkContent(const basic::NativePath &nativeFile, const File &old, Origin origin);
 
 } // namespace kalvenor::storage

@@ -25,7 +25,7 @@ bool isLeftBehind(const QString &file)
 
 } // namespace
 
-Replacement::Replacement(const QString &nativeFile, Origin origin)
+Replacement::Replacement(const basic::NativePath &nativeFile, Origin origin)
 {
     if (nativeFile.isEmpty()) {
         fail(u"no file name was given"_s);
@@ -135,7 +135,7 @@ bool Replacement::commit()
     return true;
 }
 
-bool replaceFileSafely(const QString &nativeFile, QByteArrayView content, QString *whatFailed, Origin origin)
+bool replaceFileSafely(const basic::NativePath &nativeFile, QByteArrayView content, QString *whatFailed, Origin origin)
 {
     Replacement file(nativeFile, origin);
     file.append(content);

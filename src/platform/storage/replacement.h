@@ -15,7 +15,7 @@ namespace kalvenor::storage {
 class Replacement {
 public:
     /// `nativeFile` may be there or not. Fails where it cannot be written; throws as checkTarget.
-    explicit Replacement(const QString &nativeFile, Origin origin = Origin::Named);
+    explicit Replacement(const basic::NativePath &nativeFile, Origin origin = Origin::Named);
     ~Replacement();
     Replacement(const Replacement &) = delete;
     Replacement &operator=(const Replacement &) = delete;
@@ -43,7 +43,7 @@ private:
 
 /// The same for content that is at hand. On failure the old file is untouched and `whatFailed` (may be null) gets the
 /// reason. Throws as checkTarget.
-bool replaceFileSafely(const QString &nativeFile, QByteArrayView content, QString *whatFailed,
+bool replaceFileSafely(const basic::NativePath &nativeFile, QByteArrayView content, QString *whatFailed,
                        Origin origin = Origin::Named);
 
 } // namespace kalvenor::storage

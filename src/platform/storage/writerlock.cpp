@@ -20,7 +20,7 @@ constexpr auto BetweenAttempts = 3ms; ///< QLockFile's own waiting begins with 1
 
 } // namespace
 
-WriterLock::WriterLock(const QString &nativeFile) : m_lock(withoutLinks(nativeFile) + u".lock"_s)
+WriterLock::WriterLock(const QString &nativeFile) : m_lock(withoutLinks(basic::NativePath(nativeFile)) + u".lock"_s)
 {
     m_lock.setStaleLockTime(static_cast<int>(std::chrono::milliseconds(LongestHold).count()));
     const QDeadlineTimer deadline(LongestWait);

@@ -151,7 +151,7 @@ QString AgeListTable::link(qint32 counter)
 QString AgeListTable::pictureOf(const QString &page)
 {
     const host::Host &host = m_setup.session.host;
-    const QString folder = outputFolder(host);
+    const basic::WindowsPath folder = outputFolder(host);
     const QString name = basic::leftPart(page, page.lastIndexOf(u'.') + 1);
     for (const char *extension : {"JPG", "JPEG", "PNG", "GIF"}) {
         QString picture = inOutputFolder(name + QLatin1String(extension));
@@ -165,10 +165,10 @@ QString AgeListTable::pictureOf(const QString &page)
     if (picture.Image.isNull() || !m_converts)
         return bmp;
     // Under a name of its own: converting deletes the BMP of the same name, which is the host program's.
-    QString written = folder + u'~' + name + u"JPG"_s;
+    basic::WindowsPath written = folder + (u'~' + name + u"JPG"_s);
     QString type;
     m_setup.pictures.bildkonvertieren(picture, written, type);
-    QString converted = basic::leftPart(name, name.size() - 1) + written.mid(written.lastIndexOf(u'.'));
+    QString converted = basic::leftPart(name, name.size() - 1) + written.text().mid(written.text().lastIndexOf(u'.'));
     if (!host.dir(written).isEmpty() && type == u"JPG" &&
         QFile::rename(host.native(written), host.native(folder + converted)))
         return converted;
@@ -190,7 +190,7 @@ QString AgeListTable::symbol()
     for (const int y : {4, 7, 10})
         painter.drawLine(5, y, 10, y);
     painter.end();
-    QString file = symbolFile(m_setup.target.file);
+    basic::WindowsPath file = symbolFile(m_setup.target.file);
     QString type;
     m_setup.pictures.bildkonvertieren({.Image = drawing}, file, type);
     m_symbol = fileNameOf(file);

@@ -50,12 +50,17 @@ print::Twips printableWidth(const print::PageSetup &page)
     return (page.landscape ? page.paperHeight : page.paperWidth) - page.left - page.right;
 }
 
+basic::WindowsPath withoutEnding(const basic::WindowsPath &file)
+{
+    return basic::WindowsPath(basic::leftPart(file.text(), file.text().lastIndexOf(u'.')));
+}
+
 /// The pictures beside a report: those that a failed run has made go with it.
 class NewPictures {
 public:
-    NewPictures(const host::Host &host, const QStringList &files) : m_host(host)
+    NewPictures(const host::Host &host, const std::vector<basic::WindowsPath> &files)
     {
-        for (const QString &file : files) {
+        for (const basic::WindowsPath &file : files) {
             if (host.dir(file).isEmpty())
                 m_files << host.native(file);
         }
@@ -69,7 +74,6 @@ public:
     void keep() { m_files.clear(); }
 
 private:
-    const host::Host &m_host;
     QStringList m_files;
 };
 
@@ -90,8 +94,8 @@ bool Bericht::initspeichern() const
     return settings::initspeichern(m_session.host, vorgaben, m_print.page);
 }
 
-QString Bericht::auswahldrucken(const ReportContent &content, print::ExportTarget target,
-                                const basic::Progress &progress)
+basic::WindowsPath Bericht::auswahldrucken(const ReportContent &content, print::ExportTarget target,
+                                           const basic::Progress &progress)
 {
     const host::Host &host = m_session.host;
     host.desktop().setPointer(desktop::Pointer::Hourglass);
@@ -257,32 +261,32 @@ void Bericht::addAgeList(print::PrintDocument &document, const ReportContent &co
 }
 
 /// Beside the page in HTML, else in the host program's folder.
-QString Bericht::chartFile(const print::ExportTarget &target) const
+basic::WindowsPath Bericht::chartFile(const print::ExportTarget &target) const
 {
     if (target.format == print::ExportFormat::Html) // which has its suffix already
-        return basic::leftPart(target.file, target.file.lastIndexOf(u'.')) + u".jpg"_s;
+        return withoutEnding(target.file) + u".jpg"_s;
+    const basic::WindowsPath name(fileNameOf(target.file));
     return outputFolder(m_session.host) +
-           exportName(fileNameOf(target.file), reportName, m_session.language.text(Text::ReportName), u".jpg"_s);
+           exportName(name, reportName, m_session.language.text(Text::ReportName), u".jpg"_s).text();
 }
 
-QStringList Bericht::picturesBeside(const print::ExportTarget &target) const
+std::vector<basic::WindowsPath> Bericht::picturesBeside(const print::ExportTarget &target) const
 {
     if (target.format == print::ExportFormat::Pages)
         return {};
-    const QString chart = chartFile(target);
-    const QString base = basic::leftPart(chart, chart.lastIndexOf(u'.'));
+    const basic::WindowsPath base = withoutEnding(chartFile(target));
     return {base + u".JPG"_s, base + u".BMP"_s, symbolFile(target.file)};
 }
 
-/// The file that was written (Windows notation); empty where the picture could not be converted, which was told.
-QString Bericht::writePicture(const QImage &picture, const print::ExportTarget &target)
+/// The file that was written; empty where the picture could not be converted, which was told.
+basic::WindowsPath Bericht::writePicture(const QImage &picture, const print::ExportTarget &target)
 {
-    QString written = chartFile(target);
+    basic::WindowsPath written = chartFile(target);
     QString type;
     if (target.format != print::ExportFormat::Html)
         QDir().mkpath(m_session.host.native(folderOf(written))); // where that fails, writing says so
     m_pictures.bildkonvertieren({.Image = picture}, written, type);
-    return m_session.host.dir(written).isEmpty() ? QString() : written;
+    return m_session.host.dir(written).isEmpty() ? basic::WindowsPath() : written;
 }
 
 /// The picture in the host program's folder, which the report does without: a failure is told and ends nothing.

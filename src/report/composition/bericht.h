@@ -41,8 +41,8 @@ public:
 
     /// One run. With an export format the file is written and its final name is given back; the pages shown stay.
     /// Throws what went wrong, with the pointer restored; then nothing was handed over and no half file is left.
-    QString auswahldrucken(const ReportContent &content, print::ExportTarget target = {},
-                           const basic::Progress &progress = {});
+    basic::WindowsPath auswahldrucken(const ReportContent &content, print::ExportTarget target = {},
+                                      const basic::Progress &progress = {});
 
     /// As if the once-only hint had been shown.
     void hintShown() { m_hint = desktop::ResultOk; }
@@ -61,9 +61,9 @@ private:
     void addCriteria(print::PrintDocument &document, const ReportContent &content) const;
     void addAgeList(print::PrintDocument &document, const ReportContent &content, const print::ExportTarget &target,
                     const basic::Progress &progress);
-    QString chartFile(const print::ExportTarget &target) const;
-    QStringList picturesBeside(const print::ExportTarget &target) const;
-    QString writePicture(const QImage &picture, const print::ExportTarget &target);
+    basic::WindowsPath chartFile(const print::ExportTarget &target) const;
+    std::vector<basic::WindowsPath> picturesBeside(const print::ExportTarget &target) const;
+    basic::WindowsPath writePicture(const QImage &picture, const print::ExportTarget &target);
     void copyForHost(const QImage &picture, const print::ExportTarget &target);
     void showHint();
 

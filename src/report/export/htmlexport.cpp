@@ -18,9 +18,9 @@ namespace {
 
 constexpr QChar Quote(34);
 
-[[noreturn]] void failed(const QString &file, const QString &why)
+[[noreturn]] void failed(const basic::WindowsPath &file, const QString &why)
 {
-    throw basic::Error(basic::Fault::PageUnfinished, {.file = file}, {why});
+    throw basic::Error(basic::Fault::PageUnfinished, {.file = file.text()}, {why});
 }
 
 QByteArray withTags(const QByteArray &page)
@@ -43,35 +43,38 @@ QByteArray withTags(const QByteArray &page)
 
 } // namespace
 
-QString exportName(const QString &chosen, const QString &reportName, const QString &text, const QString &extension)
+basic::WindowsPath exportName(const basic::WindowsPath &chosen, const QString &reportName, const QString &text,
+                              const QString &extension)
 {
-    if (chosen.contains(u'*') || chosen.contains(u'?'))
-        throw basic::Error(basic::Fault::WildcardInName, {.file = chosen});
-    return basic::leftPart(chosen, chosen.lastIndexOf(u'.')) + u'-' + basic::fileNamePart(reportName + text) +
-           extension;
+    const QString &name = chosen.text();
+    if (name.contains(u'*') || name.contains(u'?'))
+        throw basic::Error(basic::Fault::WildcardInName, {.file = name});
+    return basic::WindowsPath(basic::leftPart(name, name.lastIndexOf(u'.')) + u'-' +
+                              basic::fileNamePart(reportName + text) + extension);
 }
 
-QString fileNameOf(const QString &path)
+QString fileNameOf(const basic::WindowsPath &path)
 {
-    return path.mid(path.lastIndexOf(u'\\') + 1);
+    return path.text().mid(path.text().lastIndexOf(u'\\') + 1);
 }
 
-QString folderOf(const QString &path)
+basic::WindowsPath folderOf(const basic::WindowsPath &path)
 {
-    return path.left(path.lastIndexOf(u'\\') + 1);
+    return basic::WindowsPath(path.text().left(path.text().lastIndexOf(u'\\') + 1));
 }
 
-QString outputFolder(const host::Host &host)
+basic::WindowsPath outputFolder(const host::Host &host)
 {
     return host.Hostverzeichnis + u"\\Ausdrucke\\"_s;
 }
 
-QString symbolFile(const QString &exportFile)
+basic::WindowsPath symbolFile(const basic::WindowsPath &exportFile)
 {
-    return basic::leftPart(exportFile, exportFile.lastIndexOf(u'.')) + u"-Person.JPG"_s;
+    return basic::WindowsPath(basic::leftPart(exportFile.text(), exportFile.text().lastIndexOf(u'.')) +
+                              u"-Person.JPG"_s);
 }
 
-QString chartTag(const QString &pictureFile)
+QString chartTag(const basic::WindowsPath &pictureFile)
 {
     return u"<img src="_s + Quote + u"./"_s + fileNameOf(pictureFile) + Quote + u" Border=0 Alt="_s + Quote + Quote +
            u'>';
@@ -88,12 +91,12 @@ QString personLink(const QString &page, const QString &pictureFile, const QStrin
            Quote + alternativeText + Quote + u'>';
 }
 
-QString rawPage(const QString &exportFile)
+basic::WindowsPath rawPage(const basic::WindowsPath &exportFile)
 {
-    return exportFile + u'x';
+    return exportFile + u"x"_s;
 }
 
-void htmlnachbearbeiten(const host::Host &host, const QString &exportFile)
+void htmlnachbearbeiten(const host::Host &host, const basic::WindowsPath &exportFile)
 {
     const QString copy = host.native(rawPage(exportFile));
     const auto removeCopy = qScopeGuard([&copy] { QFile::remove(copy); });

@@ -5,26 +5,27 @@
 #include "host/host.h"
 #include <QString>
 
-// What a page in HTML needs beyond the printed one. Paths are in Windows notation.
+// What a page in HTML needs beyond the printed one.
 namespace kalvenor::report {
 
 /// The chosen name up to its last ".", then "-", the report's name and the text, as far as they may stand in a file
 /// name, and the extension (".html", ".jpg").
 /// Throws Error(InvalidProcedureCall) for a name without a ".", or with "*" or "?", which stand for other files.
-QString exportName(const QString &chosen, const QString &reportName, const QString &text, const QString &extension);
+basic::WindowsPath exportName(const basic::WindowsPath &chosen, const QString &reportName, const QString &text,
+                              const QString &extension);
 
 /// Name without its folder.
-QString fileNameOf(const QString &path);
+QString fileNameOf(const basic::WindowsPath &path);
 /// Folder with its backslash at the end.
-QString folderOf(const QString &path);
+basic::WindowsPath folderOf(const basic::WindowsPath &path);
 
 /// Where the host program puts its pages, with its backslash at the end.
-QString outputFolder(const host::Host &host);
+basic::WindowsPath outputFolder(const host::Host &host);
 /// The picture for persons without one of their own, beside the page.
-QString symbolFile(const QString &exportFile);
+basic::WindowsPath symbolFile(const basic::WindowsPath &exportFile);
 
 /// The chart's picture, a file beside the page.
-QString chartTag(const QString &pictureFile);
+QString chartTag(const basic::WindowsPath &pictureFile);
 
 /// Name of the page that the host program writes for a person.
 QString personPage(qint32 counter, const QString &reportName);
@@ -33,10 +34,10 @@ QString personPage(qint32 counter, const QString &reportName);
 QString personLink(const QString &page, const QString &pictureFile, const QString &alternativeText);
 
 /// Where the page is written as it is, beside its place: an old page stays until the new one is whole.
-QString rawPage(const QString &exportFile);
+basic::WindowsPath rawPage(const basic::WindowsPath &exportFile);
 
 /// Makes the page of the raw one: turns every "&lt;" and "&gt;" back, so that the tags among the text are tags. Deletes
 /// every ".htmlx" file of the folder, the raw page among them. Throws Error(WriteFailed).
-void htmlnachbearbeiten(const host::Host &host, const QString &exportFile);
+void htmlnachbearbeiten(const host::Host &host, const basic::WindowsPath &exportFile);
 
 } // namespace kalvenor::report

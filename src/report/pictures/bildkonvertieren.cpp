@@ -47,7 +47,7 @@ QImage onPaper(const QImage &image)
     return paper;
 }
 
-void writeBmp(const QImage &image, const QString &nativeFile)
+void writeBmp(const QImage &image, const basic::NativePath &nativeFile)
 {
     QBuffer bytes;
     QImageWriter writer(&bytes, "bmp");
@@ -69,32 +69,32 @@ bool renameTo(const QString &nativeFile, const QString &name)
     return QFile::rename(nativeFile, renamed);
 }
 
-QString nameOf(const QString &windowsFile)
+QString nameOf(const basic::WindowsPath &file)
 {
-    return windowsFile.mid(windowsFile.lastIndexOf(u'\\') + 1);
+    return file.text().mid(file.text().lastIndexOf(u'\\') + 1);
 }
 
 } // namespace
 
-void Bildumwandlung::bildkonvertieren(const PictureControl &control, QString &file, QString &type)
+void Bildumwandlung::bildkonvertieren(const PictureControl &control, basic::WindowsPath &file, QString &type)
 {
     if (file.isEmpty())
         return;
     if (nameOf(file).lastIndexOf(u'.') < 0)
-        throw basic::Error(basic::Fault::PictureWithoutEnding, {.file = file});
+        throw basic::Error(basic::Fault::PictureWithoutEnding, {.file = file.text()});
     if (control.Image.isNull())
-        throw basic::Error(basic::Fault::NoPicture, {.file = file});
-    type = basic::rightPart(file, 3).toUpper();
+        throw basic::Error(basic::Fault::NoPicture, {.file = file.text()});
+    type = basic::rightPart(file.text(), 3).toUpper();
     if (type == u"BMP")
         type = u"JPG"_s;
 
-    const QString base = basic::leftPart(file, file.lastIndexOf(u'.') + 1);
-    const QString bmp = base + u"bmp"_s;
-    for (const QString &written : QStringList{bmp, base + type, base + u"BMP"_s}) // components know nothing of links
+    const basic::WindowsPath base(basic::leftPart(file.text(), file.text().lastIndexOf(u'.') + 1));
+    const basic::WindowsPath bmp = base + u"bmp"_s;
+    for (const basic::WindowsPath &written : {bmp, base + type, base + u"BMP"_s}) // components know nothing of links
         storage::checkTarget(m_host.native(written), storage::Origin::Beside);
     if (!m_host.dir(bmp).isEmpty())
         QFile::remove(m_host.native(bmp)); // where that fails, writing says so
-    const QString nativeBmp = m_host.native(bmp);
+    const basic::NativePath nativeBmp = m_host.native(bmp);
     writeBmp(control.Image, nativeBmp);
     file = base + type;
 
@@ -136,7 +136,7 @@ int Bildumwandlung::quality() const
     return basic::toLong32(std::clamp(basic::leadingNumber(text), 0.0, 100.0));
 }
 
-qint16 dllregistrieren(const host::Host &host, const QString &library, bool registrieren)
+qint16 dllregistrieren(const host::Host &host, const basic::WindowsPath &library, bool registrieren)
 {
     desktop::SharedLibrary loaded(host.native(library));
     if (!loaded.isLoaded())

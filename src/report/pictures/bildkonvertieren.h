@@ -24,13 +24,13 @@ class Bildumwandlung {
 public:
     Bildumwandlung(const host::Host &host, language::Sprachmodul &texts) : m_host(host), m_texts(texts) {}
 
-    /// Writes the control's picture. `file` (Windows notation) names the wanted file and on return the one written;
+    /// Writes the control's picture. `file` names the wanted file and on return the one written;
     /// `type` becomes its extension, in capitals. A ".bmp" becomes a "JPG". Where there is no component, even after
     /// registering "\Pictarex.dll" of the host's folder, the user is told and the picture is a ".BMP". What the
     /// component complains of is shown; then there is no picture, and none of a type other than JPG either.
     /// An empty name does nothing. Throws Error(InvalidProcedureCall) where the name has no extension or the control
     /// no picture, Error(WriteFailed) where the BMP cannot be written.
-    void bildkonvertieren(const PictureControl &control, QString &file, QString &type);
+    void bildkonvertieren(const PictureControl &control, basic::WindowsPath &file, QString &type);
 
 private:
     bool findComponent();
@@ -41,8 +41,8 @@ private:
     std::unique_ptr<desktop::ImageComponent> m_component;
 };
 
-/// Registers (or unregisters) the component in a library (Windows notation). -1 done, 0 failed.
-qint16 dllregistrieren(const host::Host &host, const QString &library, bool registrieren);
+/// Registers (or unregisters) the component in a library. -1 done, 0 failed.
+qint16 dllregistrieren(const host::Host &host, const basic::WindowsPath &library, bool registrieren);
 
 /// Fits the chart's picture into a width and a height, which is first raised to the host's least picture height; the
 /// picture keeps its shape, and `print` becomes its copy in the fitting size. Throws Error(InvalidProcedureCall) for a

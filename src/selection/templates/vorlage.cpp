@@ -21,7 +21,7 @@ namespace {
 /// Introductions hold pictures at times; nobody's template comes near this.
 constexpr qint64 LargestFile = 256LL * 1024 * 1024;
 
-QByteArray readWhole(const QString &nativeFile)
+QByteArray readWhole(const basic::NativePath &nativeFile)
 {
     QString reason;
     const storage::File file = storage::File::open(nativeFile, storage::File::Mode::Read, &reason);
@@ -72,7 +72,7 @@ QByteArray rtfBytes(const QString &text)
 /// The values of a template one by one, each checked. `what` names the value in errors.
 class VorlageReader {
 public:
-    explicit VorlageReader(const QString &file) : VorlageReader(readWhole(file), file) {}
+    explicit VorlageReader(const basic::NativePath &file) : VorlageReader(readWhole(file), file) {}
 
     bool atEnd() const { return m_reader.atEnd(); }
     QString databasePath();
@@ -85,7 +85,7 @@ public:
     bool lastIsOpen() const { return m_lastIsOpen; }
 
 private:
-    VorlageReader(const QByteArray &content, const QString &file)
+    VorlageReader(const QByteArray &content, const basic::NativePath &file)
         : m_isUtf8(content.startsWith(Utf8Mark)), m_reader(m_isUtf8 ? content.mid(Utf8Mark.size()) : content, file)
     {
         if (m_isUtf8 && !content.isValidUtf8())
@@ -175,7 +175,7 @@ bool VorlageReader::truth(Fault what)
 Vorlage readHead(VorlageReader &reader)
 {
     Vorlage vorlage;
-    vorlage.familienpfad = reader.databasePath();
+    vorlage.familienpfad = basic::WindowsPath(reader.databasePath());
     statistics::Statistik &statistik = vorlage.statistik;
     statistik.titel = reader.text(Fault::WordTitle);
     statistik.rtf = reader.rtf(Fault::WordIntroduction);
@@ -190,7 +190,7 @@ Vorlage readHead(VorlageReader &reader)
 
 /// Whatever the name: nothing but a template or an empty file gives way to one. What is damaged behind the first lines
 /// still counts.
-void checkReplaced(const QString &nativeFile)
+void checkReplaced(const basic::NativePath &nativeFile)
 {
     if (QFileInfo(nativeFile).size() == 0) // as where there is none
         return;
@@ -207,7 +207,7 @@ void checkReplaced(const QString &nativeFile)
 
 } // namespace
 
-Vorlage readVorlage(const QString &nativeFile)
+Vorlage readVorlage(const basic::NativePath &nativeFile)
 {
     VorlageReader reader(nativeFile);
     Vorlage vorlage = readHead(reader);
@@ -217,15 +217,15 @@ Vorlage readVorlage(const QString &nativeFile)
     return vorlage;
 }
 
-void writeVorlage(const QString &nativeFile, const Vorlage &vorlage)
+void writeVorlage(const basic::NativePath &nativeFile, const Vorlage &vorlage)
 {
     const statistics::Statistik &statistik = vorlage.statistik;
-    const bool ansi = fitsAnsi(vorlage.familienpfad) && fitsAnsi(statistik.titel);
+    const bool ansi = fitsAnsi(vorlage.familienpfad.text()) && fitsAnsi(statistik.titel);
     const auto encoded = [ansi](const QString &text) {
         return ansi ? basic::encodeAnsi(text) : text.toUtf8();
     };
     basic::SequentialWriter writer;
-    writer.writeText(encoded(vorlage.familienpfad));
+    writer.writeText(encoded(vorlage.familienpfad.text()));
     writer.writeText(encoded(statistik.titel));
     writer.writeText(ansi ? statistik.rtf : basic::decodeAnsi(statistik.rtf).toUtf8());
     writer.writeNumber(statistik.grafiktyp);

@@ -10,7 +10,7 @@ namespace kalvenor::selection {
 
 /// A selection template (.kvl): a statistic with the database it was made on and its persons.
 struct Vorlage {
-    QString familienpfad;            ///< line 1: of the family database, in Windows notation
+    basic::WindowsPath familienpfad; ///< line 1: of the family database
     statistics::Statistik statistik; ///< lines 2 to 10
     std::vector<qint32> counters;    ///< the marked persons, a line each
     bool lastIsOpen = false;         ///< read from a file that ends behind the last person's number without a line end
@@ -21,12 +21,12 @@ struct Vorlage {
 /// ten lines is refused. A number that ends the file without a line end is taken as it stands and told (lastIsOpen):
 /// such is what some editors leave, but a file cut inside the number would name another person, and nothing in it can
 /// tell. One that was cut behind a line cannot be told from a shorter template. Throws Error (FileNotFound,
-/// FileUnreadable, Damaged) naming file and line. `nativeFile` is a native path.
-Vorlage readVorlage(const QString &nativeFile);
+/// FileUnreadable, Damaged) naming file and line.
+Vorlage readVorlage(const basic::NativePath &file);
 
 /// Writes the file, in one step: the old or the new one is there, whatever happens. In Windows-1252 where path and
 /// title fit it, else in UTF-8 with a byte order mark. Throws Error: Refused where something else than a template or an
 /// empty file is there; WriteFailed.
-void writeVorlage(const QString &nativeFile, const Vorlage &vorlage);
+void writeVorlage(const basic::NativePath &file, const Vorlage &vorlage);
 
 } // namespace kalvenor::selection

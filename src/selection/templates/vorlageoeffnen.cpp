@@ -14,15 +14,15 @@ namespace {
 
 constexpr qint64 PersonsBetweenReports = 1024;
 
-bool isOpen(const data::Session &session, const QString &familienpfad)
+bool isOpen(const data::Session &session, const basic::WindowsPath &familienpfad)
 {
     const QString open = QFileInfo(session.databases.Familiendatenbank->file()).canonicalFilePath();
     return !open.isEmpty() && open == QFileInfo(session.host.native(familienpfad)).canonicalFilePath();
 }
 
 /// Whether the database has to be changed for the template's one.
-bool needsOtherDatabase(const data::Session &session, const QString &File, const QString &familienpfad,
-                        const UseOpenDatabase &useOpenDatabase)
+bool needsOtherDatabase(const data::Session &session, const basic::WindowsPath &File,
+                        const basic::WindowsPath &familienpfad, const UseOpenDatabase &useOpenDatabase)
 {
     if (isOpen(session, familienpfad))
         return false;
@@ -30,7 +30,7 @@ bool needsOtherDatabase(const data::Session &session, const QString &File, const
         return true;
     if (!useOpenDatabase) {
         const basic::Error missing(basic::Fault::TemplateFamilyMissing, {.file = session.host.native(File)},
-                                   {familienpfad});
+                                   {familienpfad.text()});
         throw session.host.hasUnmappedDrive(familienpfad) ? missing.with(basic::Fault::DriveUnknown) : missing;
     }
     if (!useOpenDatabase(familienpfad))
@@ -93,12 +93,12 @@ MarkStep markExactly(data::Datenbankmodul &databases, const std::vector<qint32> 
 
 } // namespace
 
-OpenedVorlage vorlageoeffnen(data::Session &session, const QString &File, const basic::Progress &progress,
+OpenedVorlage vorlageoeffnen(data::Session &session, const basic::WindowsPath &File, const basic::Progress &progress,
                              const UseOpenDatabase &useOpenDatabase)
 {
     OpenedVorlage opened;
     opened.vorlage = readVorlage(session.host.native(File));
-    const QString &familienpfad = opened.vorlage.familienpfad;
+    const basic::WindowsPath &familienpfad = opened.vorlage.familienpfad;
     const auto mark = [&] {
         const std::vector<qint32> persons = findPersons(session.databases, opened, progress);
         opened.found = static_cast<qsizetype>(persons.size());

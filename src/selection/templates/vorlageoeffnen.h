@@ -18,13 +18,13 @@ struct OpenedVorlage {
 };
 
 /// Asked where the template's database does not exist: true goes on with the open one, false gives up.
-using UseOpenDatabase = std::function<bool(const QString &familienpfad)>;
+using UseOpenDatabase = std::function<bool(const basic::WindowsPath &familienpfad)>;
 
-/// Opens a template; `File` is a path in Windows notation. Everything is read, checked and looked up before the first
+/// Opens a template; Everything is read, checked and looked up before the first
 /// mark changes; progress can cancel until then. Where anything fails, the open database and the marks are as before,
 /// or the error says what is not. Throws Error: as readVorlage and the engine, FileNotFound for a missing database
 /// where nobody is asked, Cancelled.
-OpenedVorlage vorlageoeffnen(data::Session &session, const QString &File, const basic::Progress &progress = {},
-                             const UseOpenDatabase &useOpenDatabase = {});
+OpenedVorlage vorlageoeffnen(data::Session &session, const basic::WindowsPath &File,
+                             const basic::Progress &progress = {}, const UseOpenDatabase &useOpenDatabase = {});
 
 } // namespace kalvenor::selection

@@ -14,8 +14,9 @@ constexpr qint64 PersonsBetweenReports = 4096;
 
 } // namespace
 
-qsizetype vorlagespeichern(const host::Host &host, const data::Datenbankmodul &databases, const QString &File,
-                           const statistics::Statistik &statistik, const basic::Progress &progress)
+qsizetype vorlagespeichern(const host::Host &host, const data::Datenbankmodul &databases,
+                           const basic::WindowsPath &File, const statistics::Statistik &statistik,
+                           const basic::Progress &progress)
 {
     if (File.isEmpty())
         return 0;

@@ -99,7 +99,7 @@ void PreviewCommands::print()
     if (!toFile && printer.printerName().isEmpty())
         throw basic::Error(basic::Fault::NoPrinter);
     if (toFile)
-        storage::checkTarget(printer.outputFileName(), storage::Origin::Named);
+        storage::checkTarget(basic::NativePath(printer.outputFileName()), storage::Origin::Named);
     const std::vector<int> pages = pagesToPrint(pageCount, printChoice(printer, m_view.currentPage()));
     if (pages.empty())
         throw basic::Error(basic::Fault::NoPagesInRange);

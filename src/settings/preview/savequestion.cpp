@@ -52,7 +52,7 @@ SavedAs savedAs(const QString &fileName)
     return ending == u"HTML" ? SavedAs::Html : SavedAs::Nothing;
 }
 
-QString printsFolder(const host::Host &host)
+basic::WindowsPath printsFolder(const host::Host &host)
 {
     return host.readPath(host.hostSettingsFile(), u"Verzeichnisse"_s, u"Prints"_s,
                          host.Hostverzeichnis + u"\\Ausdrucke"_s);

@@ -24,8 +24,8 @@ QString lastFour(const QString &fileName);
 /// What a file of this name is saved as. A name ending in .htm passes the filter and is nothing.
 SavedAs savedAs(const QString &fileName);
 
-/// Where reports are saved, in Windows notation: the host's setting, else its folder of printouts.
-QString printsFolder(const host::Host &host);
+/// Where reports are saved: the host's setting, else its folder of printouts.
+basic::WindowsPath printsFolder(const host::Host &host);
 
 /// Asks until the ending of the name occurs in the filter. The native path, empty where the user gives up.
 /// `parent` shows the hourglass afterwards.

@@ -103,7 +103,7 @@ private:
     }
 
     const host::Host &m_host;
-    QString m_file;
+    basic::WindowsPath m_file;
 };
 
 class Writer {
@@ -136,7 +136,7 @@ public:
 
 private:
     const host::Host &m_host;
-    QString m_file;
+    basic::WindowsPath m_file;
     std::vector<host::Host::Setting> m_changed;
 };
 
@@ -183,7 +183,7 @@ void visit(Access &access, Vorgaben &vorgaben, Page &page)
 
 void seed(const host::Host &host)
 {
-    const QString file = host.ownSettingsFile();
+    const basic::WindowsPath file = host.ownSettingsFile();
     if (basic::leadingNumber(host.inilesen(file, Spalten, SpaltenKeys[0], u"1"_s)) != 1)
         return;
     const ReportMeasures defaults;

@@ -167,7 +167,7 @@ void TextEditor::saveText()
     const QByteArray content = richtext::looksLikeRtf(rtf()) ? rtf() : richtext::writeRtf(*m_field->document());
     bool saved = false;
     try {
-        saved = storage::replaceFileSafely(file, content, &why);
+        saved = storage::replaceFileSafely(basic::NativePath(file), content, &why);
     } catch (const basic::Error &error) {
         why = language::errorSentence(m_texts, error);
     }

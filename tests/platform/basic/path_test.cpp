@@ -56,11 +56,11 @@ TEST_F(Paths, Native)
         {"gibt\\es\\nicht", "gibt/es/nicht"},
     };
     for (const auto &row : rows)
-        EXPECT_EQ(nativePath(row.text, drives).toStdString(), row.native.toStdString());
+        EXPECT_EQ(nativePath(WindowsPath(row.text), drives).text().toStdString(), row.native.toStdString());
 
-    const QString unmapped = nativePath(u"X:\\a\\b.txt"_s, drives);
+    const QString unmapped = nativePath(WindowsPath(u"X:\\a\\b.txt"_s), drives);
     EXPECT_FALSE(QFile(unmapped).open(QIODevice::ReadWrite)) << "it must not come to be in the current folder";
-    EXPECT_EQ(windowsPath(unmapped), u"X:\\a\\b.txt"_s);
+    EXPECT_EQ(windowsPath(unmapped).text(), u"X:\\a\\b.txt"_s);
 }
 
 TEST_F(Paths, Windows)
@@ -77,7 +77,7 @@ TEST_F(Paths, Windows)
         {"a/b", "a\\b"},
     };
     for (const auto &row : rows)
-        EXPECT_EQ(windowsPath(row.native, drives).toStdString(), row.text);
+        EXPECT_EQ(windowsPath(row.native, drives).text().toStdString(), row.text);
 }
 
 TEST_F(Paths, DirectoryListing)
@@ -101,7 +101,7 @@ TEST_F(Paths, DirectoryListing)
         {"\\Daten\\b.txt/", ""},
     };
     for (const auto &row : rows)
-        EXPECT_EQ(directoryListing(windowsRoot() + row.path).toStdString(), row.name) << row.path;
+        EXPECT_EQ(directoryListing(WindowsPath(windowsRoot() + row.path)).toStdString(), row.name) << row.path;
     EXPECT_EQ(directoryListing({}), QString());
 }
 

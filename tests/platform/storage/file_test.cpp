@@ -25,7 +25,10 @@ namespace {
 
 class Files : public testing::Test {
 protected:
-    QString path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
+    kalvenor::basic::NativePath path(const char *name) const
+    {
+        return kalvenor::basic::NativePath(m_folder.filePath(QString::fromLatin1(name)));
+    }
     void put(const char *name, const QByteArray &content) const
     {
         QFile file(path(name));
@@ -159,7 +162,7 @@ TEST_F(Files, Replace)
 
     EXPECT_FALSE(replaceFileSafely(path("nofolder/a"), "x", &why));
     EXPECT_FALSE(why.isEmpty());
-    EXPECT_FALSE(replaceFileSafely(m_folder.path(), "x", nullptr));
+    EXPECT_FALSE(replaceFileSafely(kalvenor::basic::NativePath(m_folder.path()), "x", nullptr));
     EXPECT_FALSE(replaceFileSafely({}, "x", nullptr));
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System).filter(u"a."_s).size(), 0)
         << "no temporary file stays";

@@ -27,7 +27,7 @@ namespace {
 const QByteArray Jet("\0\1\0\0Standard Jet DB\0\1\0\0\0", 24), Ace("\0\1\0\0Standard ACE DB\0\2\0\0\0", 24);
 
 struct Gate : testing::Test {
-    QString path(const QString &name) const { return folder.filePath(name); }
+    basic::NativePath path(const QString &name) const { return basic::NativePath(folder.filePath(name)); }
     void put(const QString &name, const QByteArray &content) const
     {
         QFile file(path(name));

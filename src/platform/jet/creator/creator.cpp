@@ -105,7 +105,7 @@ void Creator::write(const QString &file, std::uint32_t encodingKey)
     if (!m_impl->isComplete)
         m_impl->complete();
     PageStore &store = m_impl->store;
-    storage::Replacement out(file, storage::Origin::NewHost);
+    storage::Replacement out(basic::NativePath(file), storage::Origin::NewHost);
     const auto check = [&](bool success) {
         if (!success)
             throw basic::Error(basic::Fault::NotWritten, {.file = file}, {out.errorText()});

@@ -61,7 +61,7 @@ storage::File openForWriting(const QString &name)
     if (info.exists() && isFolderReadOnly(name))
         throw readOnly(basic::Fault::ReadOnlyFolder);
     QString reason;
-    storage::File file = storage::File::open(name, storage::File::Mode::ReadWrite, &reason);
+    storage::File file = storage::File::open(basic::NativePath(name), storage::File::Mode::ReadWrite, &reason);
     if (file.isOpen())
         return file;
     if (file.fault() == storage::FileFault::NotFound)

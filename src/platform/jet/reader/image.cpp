@@ -41,7 +41,7 @@ std::uint32_t pageSizeOf(std::span<const std::uint8_t> head)
 storage::File openForReading(const QString &file)
 {
     QString reason;
-    storage::File opened = storage::File::open(file, storage::File::Mode::Read, &reason);
+    storage::File opened = storage::File::open(basic::NativePath(file), storage::File::Mode::Read, &reason);
     if (opened.isOpen())
         return opened;
     if (opened.fault() == storage::FileFault::NotFound)
