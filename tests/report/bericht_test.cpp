@@ -363,6 +363,40 @@ TEST_F(BerichtTest, NonsenseInTheSettingsBreaksNothing)
     }
 }
 
+TEST_F(BerichtTest, SavingComposesOnlyWhatIsNotShown)
+{
+    const auto saved = [&](print::ExportFormat format, const char *name) {
+        return read(run(format, folder.filePath(QLatin1String(name))));
+    };
+    const QByteArray rtf = saved(print::ExportFormat::Rtf, "a.rtf");
+    const QByteArray html = saved(print::ExportFormat::Html, "a.html");
+    using Composed = Bericht::Compositions;
+    EXPECT_EQ(bericht.composed, (Composed{2, 2})) << "unnumbered results are never reused";
+    content.results = 1;
+    bericht.auswahldrucken(content);
+    EXPECT_EQ(bericht.composed, (Composed{3, 3}));
+    EXPECT_TRUE(saved(print::ExportFormat::Rtf, "a.rtf") == rtf);
+    EXPECT_EQ(bericht.composed, (Composed{3, 3}));
+    EXPECT_TRUE(saved(print::ExportFormat::Html, "a.html") == html);
+    EXPECT_EQ(bericht.composed, (Composed{3, 4})) << "its list has a cell more";
+    EXPECT_TRUE(saved(print::ExportFormat::Rtf, "a.rtf") == rtf);
+    EXPECT_EQ(bericht.composed, (Composed{3, 4}));
+
+    // Each of these makes another document.
+    const std::function<void()> changes[] = {[&] { content.results = 2; }, [&] { content.statistik.titel = u"T"_s; },
+                                             [&] { content.look.legend = false; },
+                                             [&] { content.criteria.filtered = true; },
+                                             [&] {
+                                                 settings("[Spalten]\r\n1=900");
+                                             }};
+    int heads = 3;
+    for (const auto &change : changes) {
+        change();
+        saved(print::ExportFormat::Rtf, "a.rtf");
+        EXPECT_EQ(bericht.composed.heads, ++heads);
+    }
+}
+
 TEST_F(BerichtTest, AnOldPageStaysUntilTheNewOneIsWhole)
 {
     using namespace test;

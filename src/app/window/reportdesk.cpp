@@ -48,6 +48,7 @@ report::ReportContent ReportDesk::content() const
         return m_lists.isFiltered(list);
     };
     return {
+        .results = m_statistics.results(),
         .statistik = m_panel.statistik(),
         .list = m_statistics.list(),
         .figures = m_statistics.figures(),

@@ -53,6 +53,8 @@ struct ChartLook {
     QString emptyText = {};     ///< shown instead of a chart where the table is empty
     QString valueFormat = {};   ///< of a figure under the mouse: "%1: %2 years" (series and row, figure)
     QLocale locale = {};        ///< how figures are written
+
+    bool operator==(const ChartLook &) const = default;
 };
 
 } // namespace kalvenor::chart

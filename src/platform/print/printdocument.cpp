@@ -63,6 +63,19 @@ StyleId PrintDocument::addStyle(const TextStyle &style)
     return id;
 }
 
+PrintDocument PrintDocument::withoutBlocks() const
+{
+    PrintDocument document;
+    document.title = title;
+    document.language = language;
+    document.page = page;
+    document.header = header;
+    document.footer = footer;
+    document.m_styles = m_styles;
+    document.m_styleIds = m_styleIds;
+    return document;
+}
+
 void PrintDocument::add(Block block)
 {
     std::visit([this](const auto &b) { check(b); }, block);

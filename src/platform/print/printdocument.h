@@ -150,6 +150,8 @@ struct PageSetup {
     /// From the paper's edge to the header's top and the footer's bottom. Where they reach into the text, it gives way.
     Twips headerDistance = 567;
     Twips footerDistance = 567;
+
+    bool operator==(const PageSetup &) const = default;
 };
 
 /// "left|centre|right"; "%d" is the page number.
@@ -178,6 +180,8 @@ public:
     /// or outline level that is none, a negative length, a picture without content.
     void add(Block block);
     const std::vector<Block> &blocks() const { return m_blocks; }
+    /// The same with its styles and running texts, but empty.
+    PrintDocument withoutBlocks() const;
 
 private:
     void checkCells(const std::vector<Cell> &cells, std::size_t columns) const;

@@ -108,29 +108,58 @@ basic::WindowsPath Bericht::auswahldrucken(const ReportContent &content, print::
     if (target.format == print::ExportFormat::Html)
         storage::checkTarget(host.native(rawPage(target.file)), storage::Origin::Beside);
     NewPictures newPictures(host, picturesBeside(target));
-    print::PrintDocument document = compose(content, target, progress);
-    showHint();
+    const Ingredients wanted = ingredients(content);
+    const bool isShown = content.results != 0 && m_shown == wanted;
     switch (target.format) {
-    case print::ExportFormat::Pages:
+    case print::ExportFormat::Pages: {
+        print::PrintDocument document = compose(content, target, progress);
+        showHint();
         m_print.setDocument(std::move(document), progress);
+        m_shown = wanted;
         break;
-    case print::ExportFormat::Html:
+    }
+    case print::ExportFormat::Html: {
+        const print::PrintDocument document = compose(content, target, progress);
+        showHint();
         print::writeHtmlFile(document, host.native(rawPage(target.file)), progress);
         htmlnachbearbeiten(host, target.file);
         break;
+    }
     case print::ExportFormat::Rtf:
-    case print::ExportFormat::RtfPlain:
-        print::writeRtfFile(document, host.native(target.file), progress);
+    case print::ExportFormat::RtfPlain: {
+        print::PrintDocument document;
+        if (!isShown)
+            document = compose(content, target, progress);
+        else if (vorgaben.Bildprint == 1)
+            copyForHost(std::get<print::Picture>(m_print.document().blocks()[head(content).chart]).image, target);
+        showHint();
+        print::writeRtfFile(isShown ? m_print.document() : document, host.native(target.file), progress);
         break;
+    }
     }
     newPictures.keep();
     return target.file;
 }
 
-print::PrintDocument Bericht::compose(const ReportContent &content, const print::ExportTarget &target,
-                                      const basic::Progress &progress)
+Bericht::Ingredients Bericht::ingredients(const ReportContent &content) const
 {
-    print::PrintDocument document;
+    return {content.results,
+            content.statistik,
+            content.look,
+            content.chartShape,
+            content.criteria,
+            vorgaben,
+            settings::ReportMeasures::read(m_session.host),
+            m_print.page};
+}
+
+const Bericht::Head &Bericht::head(const ReportContent &content)
+{
+    Ingredients wanted = ingredients(content);
+    if (content.results != 0 && m_head.of == wanted)
+        return m_head;
+    m_head = {};
+    print::PrintDocument &document = m_head.document;
     document.title =
         content.statistik.titel.isEmpty() ? m_session.language.text(Text::ReportName) : content.statistik.titel;
     document.language = language::anzeigesprache(m_session.host).bcp47Name().left(2);
@@ -143,10 +172,30 @@ print::PrintDocument Bericht::compose(const ReportContent &content, const print:
                                       .keepWithNext = true,
                                       .outlineLevel = Section});
     addIntroduction(document, content);
+    m_head.chart = document.blocks().size();
     if (vorgaben.Bildprint == 1)
-        addChart(document, content, target);
+        addChart(document, content);
     addCriteria(document, content);
+    m_head.of = std::move(wanted);
+    ++composed.heads;
+    return m_head;
+}
+
+print::PrintDocument Bericht::compose(const ReportContent &content, const print::ExportTarget &target,
+                                      const basic::Progress &progress)
+{
+    const Head &begin = head(content);
+    print::PrintDocument document = begin.document.withoutBlocks();
+    addRunningTexts(document, content); // with the time of now
+    for (std::size_t i = 0; i < begin.document.blocks().size(); ++i) {
+        const print::Block &block = begin.document.blocks()[i];
+        if (i == begin.chart && vorgaben.Bildprint == 1)
+            addPicture(document, std::get<print::Picture>(block), target);
+        else
+            document.add(block);
+    }
     addAgeList(document, content, target, progress);
+    ++composed.ageLists;
     document.add(print::Paragraph{.text = footerText() + u"  "_s + now(content),
                                   .style = document.addStyle(style(settings::Footer)),
                                   .spaceBefore = Gap});
@@ -185,7 +234,7 @@ void Bericht::addIntroduction(print::PrintDocument &document, const ReportConten
     document.add(print::Paragraph{.text = {}, .spaceAfter = Gap / 2});
 }
 
-void Bericht::addChart(print::PrintDocument &document, const ReportContent &content, const print::ExportTarget &target)
+void Bericht::addChart(print::PrintDocument &document, const ReportContent &content) const
 {
     const print::Twips width = printableWidth(document.page);
     const double shape = static_cast<double>(content.chartShape.height()) / std::max(content.chartShape.width(), 1);
@@ -202,19 +251,27 @@ void Bericht::addChart(print::PrintDocument &document, const ReportContent &cont
     PictureControl print;
     bildgroesse(m_session.host, chart, print, static_cast<qint16>(std::min(width, 32767)), height);
 
-    QString file;
-    if (target.format == print::ExportFormat::Html)
-        file = writePicture(print.Image, target);
-    else if (target.format != print::ExportFormat::Pages)
-        copyForHost(print.Image, target);
-    if (!file.isEmpty())
-        document.add(print::Paragraph{.text = chartTag(file), .spaceAfter = Gap});
     document.add(print::Picture{.image = print.Image,
                                 .width = static_cast<print::Twips>(std::lround(print.Width)),
                                 .height = static_cast<print::Twips>(std::lround(print.Height)),
                                 .alternativeText = content.look.title,
-                                .fileName = file,
                                 .spaceAfter = Gap});
+}
+
+/// The chart, with the file that this format wants of it.
+void Bericht::addPicture(print::PrintDocument &document, const print::Picture &picture,
+                         const print::ExportTarget &target)
+{
+    basic::WindowsPath file;
+    if (target.format == print::ExportFormat::Html)
+        file = writePicture(picture.image, target);
+    else if (target.format != print::ExportFormat::Pages)
+        copyForHost(picture.image, target);
+    if (!file.isEmpty())
+        document.add(print::Paragraph{.text = chartTag(file), .spaceAfter = Gap});
+    print::Picture placed = picture;
+    placed.fileName = file.text();
+    document.add(std::move(placed));
 }
 
 void Bericht::addCriteria(print::PrintDocument &document, const ReportContent &content) const

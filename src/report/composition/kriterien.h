@@ -15,6 +15,8 @@ struct Auswahlkriterien {
     selection::Filter filter = {};       ///< as the filter controls stand
     bool filtered = false;               ///< a list shows the filter at this moment
     selection::Relatives relatives = {}; ///< taken along when persons are moved
+
+    bool operator==(const Auswahlkriterien &) const = default;
 };
 
 /// One line for each criterion that is active, in fixed order: name pattern, sex, dates of birth, death, last change

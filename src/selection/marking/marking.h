@@ -12,6 +12,8 @@ namespace kalvenor::selection {
 struct Relatives {
     bool children = false; ///< all descendants of the direct line
     bool parents = false;  ///< all ancestors of the direct line
+
+    bool operator==(const Relatives &) const = default;
 };
 
 /// Related persons one walk takes along at most.

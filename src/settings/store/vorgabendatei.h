@@ -31,6 +31,8 @@ struct ReportMeasures {
     /// does not change; the page limits the height.
     int bildprozent = 100;
 
+    bool operator==(const ReportMeasures &) const = default;
+
     /// Never fails.
     static ReportMeasures read(const host::Host &host);
     /// Writes those that the file does not give already. False where that failed: none was then.

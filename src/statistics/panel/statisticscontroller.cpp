@@ -44,6 +44,7 @@ bool StatisticsController::alterslistenausgabe(const GeschlechtAlter &geschlecht
     if (m_work.isRunning())
         return false;
     m_list.clear();
+    ++m_results;
     Q_EMIT listCleared();
     m_listCurrent = geschlechtalter[0] == 0 && geschlechtalter[1] == 0;
     if (m_listCurrent) // nothing to wait for, the pointer stays as it is
@@ -74,6 +75,7 @@ bool StatisticsController::grafikermitteln(const Statistik &statistik)
 {
     const bool done = perform(m_session.language.text(Text::ComputingChart), [&](const basic::Progress &progress) {
         m_figures = statistics::grafikermitteln(m_session.databases, statistik, progress);
+        ++m_results;
     });
     m_figuresCurrent = done;
     if (done)

@@ -23,6 +23,8 @@ public:
     desktop::Work &work() const { return m_work; }
     const Altersliste &list() const { return m_list; }
     const Grafikzahlen &figures() const { return m_figures; }
+    /// Another number for every list and figures that were computed.
+    quint64 results() const { return m_results; }
 
     /// Rebuilds the age list. False where it was not begun, failed or was cancelled: what was added so far stays.
     bool alterslistenausgabe(const GeschlechtAlter &geschlechtalter);
@@ -58,6 +60,7 @@ private:
     Altersliste m_list;
     Grafikzahlen m_figures;
     qint64 m_marked = 0;
+    quint64 m_results = 1;
     bool m_listCurrent = false;
     bool m_figuresCurrent = false;
     bool m_mayFollow = true;

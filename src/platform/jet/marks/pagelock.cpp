@@ -33,7 +33,8 @@ PageLocks::PageLocks(storage::File &database, const QString &nativePath) : m_dat
 {
     const QString withoutEnding = nativePath.left(nativePath.lastIndexOf(u'.'));
     for (const QString &ending : {u".ldb"_s, u".LDB"_s}) {
-        storage::File file = storage::File::open(withoutEnding + ending, storage::File::Mode::ReadWrite, nullptr);
+        storage::File file =
+            storage::File::open(basic::NativePath(withoutEnding + ending), storage::File::Mode::ReadWrite, nullptr);
         // One that is there but closed to this user is what somebody else's session left.
         if (file.isOpen()) {
             m_lockFile = std::move(file);
