@@ -45,37 +45,34 @@ int guarded(const sqlite3_vtab *table, Work work)
     }
 }
 
+const char *typeOf(jet::ColumnType type)
+{
+    switch (type) {
+    case jet::ColumnType::Boolean:
+    case jet::ColumnType::Byte:
+    case jet::ColumnType::Integer:
+    case jet::ColumnType::Long:
+        return " INTEGER";
+    case jet::ColumnType::Money:
+    case jet::ColumnType::Float:
+    case jet::ColumnType::Double:
+    case jet::ColumnType::DateTime:
+    case jet::ColumnType::Numeric:
+        return " REAL";
+    case jet::ColumnType::Text:
+    case jet::ColumnType::Memo:
+    case jet::ColumnType::Guid:
+        return " TEXT COLLATE GENERAL";
+    default:
+        return " BLOB";
+    }
+}
+
 QString declaration(const TableView &view)
 {
     QStringList columns;
-    for (const jet::Column &column : view.table()->columns()) {
-        const QString name = u'"' + QString(column.name).replace(u'"', u"\"\""_s) + u'"';
-        switch (column.type) {
-        case jet::ColumnType::Boolean:
-        case jet::ColumnType::Byte:
-        case jet::ColumnType::Integer:
-        case jet::ColumnType::Long:
-            columns << name + u" INTEGER"_s;
-            break;
-        case jet::ColumnType::Money:
-        case jet::ColumnType::Float:
-        case jet::ColumnType::Double:
-        case jet::ColumnType::DateTime:
-        case jet::ColumnType::Numeric:
-            columns << name + u" REAL"_s;
-            break;
-        case jet::ColumnType::Text:
-        case jet::ColumnType::Memo:
-        case jet::ColumnType::Guid:
-            columns << name + u" TEXT COLLATE GENERAL"_s;
-            break;
-        case jet::ColumnType::Binary:
-        case jet::ColumnType::Ole:
-        case jet::ColumnType::Unreadable:
-            columns << name + u" BLOB"_s;
-            break;
-        }
-    }
+    for (const jet::Column &column : view.table()->columns())
+        columns << u'"' + QString(column.name).replace(u'"', u"\"\""_s) + u'"' + QLatin1StringView(typeOf(column.type));
     return u"CREATE TABLE x(%1)"_s.arg(columns.join(u','));
 }
 

@@ -262,31 +262,26 @@ void SelectionController::moveAll(PersonList from)
 
 void SelectionController::undo()
 {
-    if (!canUndo())
-        return;
-    bool finished = false;
-    changeMarks(m_session.language.text(Text::PleaseWait), [&](const basic::Progress &progress) {
-        m_history.undo(m_session.databases, progress);
-        finished = true;
-        return MarkStep{};
-    });
-    if (finished)
-        Q_EMIT said(m_session.language.text(Text::Undo));
-    Q_EMIT changed();
+    if (canUndo())
+        goThrough(Text::Undo, &MarkHistory::undo);
 }
 
 void SelectionController::redo()
 {
-    if (!canRedo())
-        return;
+    if (canRedo())
+        goThrough(Text::Redo, &MarkHistory::redo);
+}
+
+void SelectionController::goThrough(Text what, decltype(&MarkHistory::undo) step)
+{
     bool finished = false;
     changeMarks(m_session.language.text(Text::PleaseWait), [&](const basic::Progress &progress) {
-        m_history.redo(m_session.databases, progress);
+        (m_history.*step)(m_session.databases, progress);
         finished = true;
         return MarkStep{};
     });
     if (finished)
-        Q_EMIT said(m_session.language.text(Text::Redo));
+        Q_EMIT said(m_session.language.text(what));
     Q_EMIT changed();
 }
 

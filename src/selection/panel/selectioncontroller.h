@@ -103,6 +103,7 @@ private:
     void load(const std::array<QString, 2> &queries, bool all, const basic::Progress &progress, bool announce = false);
     std::array<QString, 2> queries() const { return {m_lists[0].query, m_lists[1].query}; }
     std::optional<MarkStep> changeMarks(const QString &what, const Change &change, bool announceLists = false);
+    void goThrough(language::Text what, decltype(&MarkHistory::undo) step);
     void runFilters();
     void tellMoved(const MarkStep &step);
     void letGo();

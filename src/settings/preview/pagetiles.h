@@ -42,7 +42,6 @@ public:
     /// Paints it. The pointer is good until the next call.
     const QPixmap *render(const TileKey &key);
     qsizetype bytes() const { return m_tiles.totalCost(); }
-    qsizetype largestBytes() const { return m_tiles.maxCost(); }
 
 private:
     std::shared_ptr<const print::PageLayout> m_layout;

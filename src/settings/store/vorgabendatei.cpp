@@ -5,6 +5,7 @@
 #include "platform/basic/error.h"
 #include "platform/basic/number.h"
 #include <cmath>
+#include <concepts>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +17,7 @@ constexpr double WidestColumn = 31680; // 22 inches
 constexpr double LargestFontfaktor = 20;
 constexpr int SmallestBildprozent = 50, LargestBildprozent = 600;
 const QString Grafik = u"Grafik"_s;
+const QString Rand = u"Druckrand"_s;
 const QString Fontfaktor = u"Fontfaktor"_s;
 const QString Bildgroesse = u"Bildgroesse"_s;
 const QString Spalten = u"Spalten"_s;
@@ -67,33 +69,28 @@ Integer wholeNumber(const QString &text, Integer fallback, Integer (*convert)(do
     }
 }
 
-double finiteNumber(const QString &text, double fallback)
-{
-    const double value = basic::leadingNumber(text);
-    return std::isfinite(value) ? value : fallback;
-}
-
 /// Reads each value with what it is given as its default.
 class Reader {
 public:
     explicit Reader(const host::Host &host) : m_host(host), m_file(host.ownSettingsFile()) {}
 
-    void text(const QString &section, const QString &key, QString &value) const { value = read(section, key, value); }
-    void integer(const QString &section, const QString &key, qint16 &value) const
+    void value(const QString &section, const QString &key, QString &text) const { text = read(section, key, text); }
+    void value(const QString &section, const QString &key, qint16 &number) const
     {
-        value = wholeNumber<qint16>(read(section, key, QString::number(value)), value, basic::toInteger16);
+        number = wholeNumber<qint16>(read(section, key, QString::number(number)), number, basic::toInteger16);
     }
-    void number(const QString &section, const QString &key, double &value) const
+    void value(const QString &section, const QString &key, double &number) const
     {
-        value = finiteNumber(read(section, key, basic::trimmedNumberText(value)), value);
+        const double given = basic::leadingNumber(read(section, key, basic::trimmedNumberText(number)));
+        number = std::isfinite(given) ? given : number;
     }
-    void twips(const QString &section, const QString &key, print::Twips &value) const
+    void value(const QString &section, const QString &key, print::Twips &length) const
     {
-        value = wholeNumber<qint32>(read(section, key, QString::number(value)), value, basic::toLong32);
+        length = wholeNumber<qint32>(read(section, key, QString::number(length)), length, basic::toLong32);
     }
-    void orientation(const QString &section, const QString &key, bool &landscape) const
+    void value(const QString &section, const QString &key, bool &isOn) const
     {
-        landscape = wholeNumber<qint32>(read(section, key, u"0"_s), 0, basic::toLong32) == 1;
+        isOn = wholeNumber<qint32>(read(section, key, u"0"_s), 0, basic::toLong32) == 1;
     }
 
 private:
@@ -110,27 +107,19 @@ class Writer {
 public:
     explicit Writer(const host::Host &host) : m_host(host), m_file(host.ownSettingsFile()) {}
 
-    void text(const QString &section, const QString &key, const QString &value)
+    void value(const QString &section, const QString &key, const QString &text)
     {
-        const QString other = value == u"?" ? u"!"_s : u"?"_s;
-        if (m_host.inilesen(m_file, section, key, other) != value)
-            m_changed.push_back({section, key, value});
+        const QString other = text == u"?" ? u"!"_s : u"?"_s;
+        if (m_host.inilesen(m_file, section, key, other) != text)
+            m_changed.push_back({section, key, text});
     }
-    void integer(const QString &section, const QString &key, qint16 value)
+    void value(const QString &section, const QString &key, std::integral auto number)
     {
-        text(section, key, QString::number(value));
+        value(section, key, QString::number(static_cast<int>(number)));
     }
-    void number(const QString &section, const QString &key, double value)
+    void value(const QString &section, const QString &key, double number)
     {
-        text(section, key, basic::trimmedNumberText(value));
-    }
-    void twips(const QString &section, const QString &key, print::Twips value)
-    {
-        text(section, key, QString::number(value));
-    }
-    void orientation(const QString &section, const QString &key, bool landscape)
-    {
-        text(section, key, QString::number(landscape ? 1 : 0));
+        value(section, key, basic::trimmedNumberText(number));
     }
     bool write() const { return m_host.inischreiben(m_file, m_changed); }
 
@@ -144,41 +133,38 @@ private:
 template <typename Access, typename Vorgaben, typename Page>
 void visit(Access &access, Vorgaben &vorgaben, Page &page)
 {
-    const auto integer = [&access](const QString &section, const char *key, auto &value) {
-        access.integer(section, QLatin1String(key), value);
-    };
-    const auto twips = [&access](const char *key, auto &value) {
-        access.twips(u"Druckrand"_s, QLatin1String(key), value);
+    const auto value = [&access](const QString &section, const char *key, auto &setting) {
+        access.value(section, QLatin1String(key), setting);
     };
     for (const Element element : FontElements) {
         const QString section = sectionOf(element);
         for (const FontKey &key : FontKeys)
-            access.text(section, QLatin1String(key.name), vorgaben.font(element).*key.text);
+            value(section, key.name, vorgaben.font(element).*key.text);
         switch (element) {
         case Titel:
-            integer(Grafik, "Bildprint", vorgaben.Bildprint);
+            value(Grafik, "Bildprint", vorgaben.Bildprint);
             break;
         case TitelKriterien:
         case Header:
         case Footer:
-            integer(section, "Print", vorgaben.print(element));
+            value(section, "Print", vorgaben.print(element));
             break;
         case TitelAltersliste:
-            integer(section, "Print", vorgaben.print(element));
-            integer(section, "Neueseite", vorgaben.print(NeueSeite));
+            value(section, "Print", vorgaben.print(element));
+            value(section, "Neueseite", vorgaben.print(NeueSeite));
             break;
         case Altersliste:
-            access.number(section, u"Abstand"_s, vorgaben.Abstand);
+            value(section, "Abstand", vorgaben.Abstand);
             break;
         default:
             break;
         }
     }
-    twips("Links", page.left);
-    twips("Oben", page.top);
-    twips("Rechts", page.right);
-    twips("Unten", page.bottom);
-    access.orientation(u"Format"_s, u"Ausrichtung"_s, page.landscape);
+    value(Rand, "Links", page.left);
+    value(Rand, "Oben", page.top);
+    value(Rand, "Rechts", page.right);
+    value(Rand, "Unten", page.bottom);
+    value(u"Format"_s, "Ausrichtung", page.landscape);
 }
 
 void seed(const host::Host &host)

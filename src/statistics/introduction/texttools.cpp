@@ -97,25 +97,40 @@ QAction *TextTools::makeTool(const char *name, Text caption, const QIcon &icon, 
 }
 
 QAction *TextTools::makeToggle(const char *name, Text caption, desktop::LineIcon icon, const QKeySequence &keys,
-                               void (TextTools::*apply)(bool))
+                               void (*apply)(QTextCharFormat &format, bool on))
 {
     QAction *action = makeTool(name, caption, desktop::lineIcon(icon), keys);
     action->setCheckable(true);
-    connect(action, &QAction::triggered, this, apply);
+    connect(action, &QAction::triggered, this, [this, apply](bool on) {
+        QTextCharFormat format;
+        apply(format, on);
+        merge(format);
+    });
     return action;
 }
 
 void TextTools::makeFormats()
 {
-    m_bold = makeToggle("Fett", Text::Bold, desktop::LineIcon::Bold, Qt::CTRL | Qt::Key_B, &TextTools::applyBold);
-    m_italic =
-        makeToggle("Kursiv", Text::Italic, desktop::LineIcon::Italic, Qt::CTRL | Qt::Key_I, &TextTools::applyItalic);
-    m_underline = makeToggle("Unterstrichen", Text::Underline, desktop::LineIcon::Underline, Qt::CTRL | Qt::Key_U,
-                             &TextTools::applyUnderline);
+    m_bold =
+        makeToggle("Fett", Text::Bold, desktop::LineIcon::Bold, Qt::CTRL | Qt::Key_B,
+                   [](QTextCharFormat &format, bool on) { format.setFontWeight(on ? QFont::Bold : QFont::Normal); });
+    m_italic = makeToggle("Kursiv", Text::Italic, desktop::LineIcon::Italic, Qt::CTRL | Qt::Key_I,
+                          [](QTextCharFormat &format, bool on) { format.setFontItalic(on); });
+    m_underline =
+        makeToggle("Unterstrichen", Text::Underline, desktop::LineIcon::Underline, Qt::CTRL | Qt::Key_U,
+                   [](QTextCharFormat &format, bool on) {
+                       format.setUnderlineStyle(on ? QTextCharFormat::SingleUnderline : QTextCharFormat::NoUnderline);
+                   });
     m_strikeOut = makeToggle("Durchgestrichen", Text::StrikeThrough, desktop::LineIcon::StrikeOut,
-                             Qt::CTRL | Qt::SHIFT | Qt::Key_X, &TextTools::applyStrikeOut);
-    m_bullets = makeToggle("Aufzaehlung", Text::Bullets, desktop::LineIcon::Bullets, Qt::CTRL | Qt::SHIFT | Qt::Key_L,
-                           &TextTools::applyBullets);
+                             Qt::CTRL | Qt::SHIFT | Qt::Key_X,
+                             [](QTextCharFormat &format, bool on) { format.setFontStrikeOut(on); });
+    m_bullets = makeTool("Aufzaehlung", Text::Bullets, desktop::lineIcon(desktop::LineIcon::Bullets),
+                         Qt::CTRL | Qt::SHIFT | Qt::Key_L);
+    m_bullets->setCheckable(true);
+    connect(m_bullets, &QAction::triggered, this, [this](bool on) {
+        m_field.setBullets(on);
+        showFormats();
+    });
     m_plain = makeTool("Formateentfernen", Text::RemoveFormats, desktop::lineIcon(desktop::LineIcon::Plain),
                        Qt::CTRL | Qt::Key_Space);
     connect(m_plain, &QAction::triggered, &m_field, &TextField::removeFormats);
@@ -254,40 +269,6 @@ void TextTools::merge(const QTextCharFormat &format)
 {
     m_field.mergeCurrentCharFormat(format);
     m_field.setFocus();
-    showFormats();
-}
-
-void TextTools::applyBold(bool on)
-{
-    QTextCharFormat format;
-    format.setFontWeight(on ? QFont::Bold : QFont::Normal);
-    merge(format);
-}
-
-void TextTools::applyItalic(bool on)
-{
-    QTextCharFormat format;
-    format.setFontItalic(on);
-    merge(format);
-}
-
-void TextTools::applyUnderline(bool on)
-{
-    QTextCharFormat format;
-    format.setUnderlineStyle(on ? QTextCharFormat::SingleUnderline : QTextCharFormat::NoUnderline);
-    merge(format);
-}
-
-void TextTools::applyStrikeOut(bool on)
-{
-    QTextCharFormat format;
-    format.setFontStrikeOut(on);
-    merge(format);
-}
-
-void TextTools::applyBullets(bool on)
-{
-    m_field.setBullets(on);
     showFormats();
 }
 

@@ -36,7 +36,7 @@ private:
     /// One with a button, which has a tooltip.
     QAction *makeTool(const char *name, language::Text caption, const QIcon &icon, const QKeySequence &keys = {});
     QAction *makeToggle(const char *name, language::Text caption, desktop::LineIcon icon, const QKeySequence &keys,
-                        void (TextTools::*apply)(bool));
+                        void (*apply)(QTextCharFormat &format, bool on));
     void makeFormats();
     void makeEditing();
     void makeAlignments();
@@ -45,11 +45,6 @@ private:
     void makeMenu();
     void arrange();
 
-    void applyBold(bool on);
-    void applyItalic(bool on);
-    void applyUnderline(bool on);
-    void applyStrikeOut(bool on);
-    void applyBullets(bool on);
     void applySize(const QString &text);
     void applyColor(const QColor &color);
     void merge(const QTextCharFormat &format);

@@ -16,8 +16,6 @@ inline constexpr std::uint32_t PageSize = 4096;
 inline constexpr std::uint32_t MaximumPages = 524'288; ///< 2 GiB
 inline constexpr std::uint32_t RowTableStart = 14;
 inline constexpr std::uint32_t MaximumRowsInPage = 255;
-/// The longest row that fits into an empty page.
-inline constexpr std::uint32_t MaximumRowLength = PageSize - RowTableStart - 2;
 
 template <typename Number>
 void put(std::uint8_t *to, Number number)
