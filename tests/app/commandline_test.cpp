@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program as a person or a script runs it.
+#include "support/files.h"
 #include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
@@ -51,12 +52,7 @@ protected:
         arguments.insert(2, folder->filePath("QV/Kalvenor"));
         return run(arguments);
     }
-    static QByteArray familyBytes()
-    {
-        QFile file(folder->filePath("QV/Daten/Familie.mdb"));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
+    static QByteArray familyBytes() { return kalvenor::test::contentOf(folder->filePath("QV/Daten/Familie.mdb")); }
     static qsizetype lineCount(const QString &text) { return text.count('\n'); }
     static QTemporaryDir *folder;
 };
@@ -331,10 +327,7 @@ TEST_F(CommandLine, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
                 {"Q:\\f.mdb", "Für das Laufwerk Q: ist kein Ordner bekannt"},
                 {"", "In " + settings + " [QV-Files] ist keine Familiendatenbank"}};
     for (const auto &row : rows) {
-        QFile file(settings);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("[QV-Files]\r\n0=" + row.path + "\r\n");
-        file.close();
+        kalvenor::test::writeFile(settings, "[QV-Files]\r\n0=" + row.path + "\r\n");
         const Outcome outcome = onDemo({"ages"});
         EXPECT_EQ(outcome.exitCode, 1);
         EXPECT_TRUE(outcome.out.isEmpty());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/start/program.h"
 
+#include "support/errors.h"
 #include "support/fakemainform.h"
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
@@ -75,15 +76,11 @@ TEST_F(Start, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
 TEST_F(Start, NamesTheSettingThatDoesNotFit)
 {
     set("Ansicht", "Kurzhilfe", "40000");
-    try {
-        program.Main();
-        FAIL();
-    } catch (const basic::Error &error) {
-        EXPECT_EQ(error.kind(), basic::ErrorKind::Overflow);
-        EXPECT_EQ(error.fault(), basic::Fault::SettingOutOfRange);
-        EXPECT_TRUE(error.place().file.endsWith("programm.ini"));
-        EXPECT_EQ(error.arguments(), QStringList({"Kurzhilfe", "40000", "Ansicht"}));
-    }
+    const auto error = test::errorOf([&] { program.Main(); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->fault(), basic::Fault::SettingOutOfRange);
+    EXPECT_TRUE(error->place().file.endsWith("programm.ini"));
+    EXPECT_EQ(error->arguments(), QStringList({"Kurzhilfe", "40000", "Ansicht"}));
 }
 
 TEST_F(Start, LeavesErrorsOfTheLanguageDatabaseToTheCaller)

@@ -3,6 +3,7 @@
 #include "selection/templates/vorlagespeichern.h"
 #include "statistics/introduction/texteditor.h"
 #include "statistics/panel/statisticspanel.h"
+#include "support/files.h"
 #include "support/openwindow.h"
 #include <QAction>
 #include <QCloseEvent>
@@ -27,12 +28,7 @@ struct Templates : OpenWindow, testing::Test {
     void trigger(const QString &action) { control<QAction>(action).trigger(); }
     bool isEnabled(const QString &action) { return control<QAction>(action).isEnabled(); }
     QString file(const char *name) const { return folder.filePath(name); }
-    void write(const QString &name, const QByteArray &bytes)
-    {
-        QFile made(name);
-        ASSERT_TRUE(made.open(QIODevice::WriteOnly));
-        made.write(bytes);
-    }
+    void write(const QString &name, const QByteArray &bytes) { test::writeFile(name, bytes); }
     /// Everything that a statistic shows, in one text.
     QString statistic()
     {

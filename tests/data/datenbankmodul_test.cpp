@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "data/datenbankmodul.h"
 
+#include "support/errors.h"
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
 #include <QFile>
@@ -32,13 +33,9 @@ QString refusal(const test::Installation &installation, basic::ErrorKind kind)
 {
     test::FakeDesktop desktop;
     app::Program program(installation.programFolder(), desktop);
-    try {
-        program.Main();
-    } catch (const basic::Error &error) {
-        EXPECT_EQ(error.kind(), kind);
-        return error.what();
-    }
-    return {};
+    const auto error = test::errorOf([&] { program.Main(); });
+    EXPECT_EQ(error.value().kind(), kind);
+    return error->what();
 }
 
 } // namespace

@@ -6,6 +6,8 @@
 #include "platform/basic/error.h"
 #include "platform/basic/path.h"
 #include "platform/profile/profile.h"
+#include "support/errors.h"
+#include "support/files.h"
 #include <map>
 #include <QDir>
 #include <QDirIterator>
@@ -21,8 +23,7 @@ using test::DemoTest;
 
 QByteArray contents(const QString &path)
 {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+    return kalvenor::test::contentOf(path);
 }
 
 /// All files below the folder but the settings, which name the folder itself.
@@ -60,8 +61,7 @@ TEST(DemoHost, RefusesWithAClearErrorAndLeavesNothingBehind)
     top.mkpath(u"full/QV"_s);
     top.mkpath(u"file"_s);
     for (const QString &name : {u"full/QV/.mine"_s, u"file/QV"_s, u"plain"_s}) {
-        QFile file(top.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        kalvenor::test::writeFile(top.filePath(name));
     }
     const struct {
         QString folder;
@@ -80,12 +80,8 @@ TEST(DemoHost, RefusesWithAClearErrorAndLeavesNothingBehind)
         SCOPED_TRACE(basic::nameOf(row.fault));
         const QString target = top.filePath(row.folder);
         const auto before = databasesAndPages(folder.path());
-        try {
-            makeDemoHost({.folder = target, .persons = row.persons});
-            ADD_FAILURE() << "was not refused";
-        } catch (const basic::Error &error) {
-            EXPECT_EQ(error.fault(), row.fault) << error.what();
-        }
+        EXPECT_EQ(kalvenor::test::faultOf([&] { makeDemoHost({.folder = target, .persons = row.persons}); }),
+                  row.fault);
         EXPECT_TRUE(before == databasesAndPages(folder.path()));
     }
 }
@@ -101,12 +97,8 @@ TEST(DemoHost, CancellingRemovesWhatWasBegun)
             last = done;
             return done < stopAt;
         };
-        try {
-            makeDemoHost({.folder = folder.filePath(u"a/b"_s), .persons = 10'000}, progress);
-            ADD_FAILURE() << "was not cancelled";
-        } catch (const basic::Error &error) {
-            EXPECT_EQ(error.kind(), basic::ErrorKind::Cancelled);
-        }
+        const DemoOptions wanted{.folder = folder.filePath(u"a/b"_s), .persons = 10'000};
+        EXPECT_EQ(kalvenor::test::kindOf([&] { makeDemoHost(wanted, progress); }), basic::ErrorKind::Cancelled);
         EXPECT_FALSE(QFile::exists(folder.filePath(u"a"_s))) << "folders that were made go, too";
     }
 }

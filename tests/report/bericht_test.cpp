@@ -10,8 +10,10 @@
 #include "platform/print/pdfwriter.h"
 #include "platform/richtext/rtfreader.h"
 #include "report/export/htmlexport.h"
+#include "support/errors.h"
 #include "support/fakedesktop.h"
 #include "support/faultystorage.h"
+#include "support/files.h"
 #include "support/fixtures.h"
 #include <gtest/gtest.h>
 #include <QDir>
@@ -51,17 +53,8 @@ struct BerichtTest : testing::Test {
             pages.remove(file);
     }
     void settings(const QString &text) const { write(demo.programFolder + u"/Kalvenor.ini"_s, text); }
-    static void write(const QString &path, const QString &text)
-    {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(basic::encodeAnsi(text));
-    }
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    static void write(const QString &path, const QString &text) { test::writeFile(path, basic::encodeAnsi(text)); }
+    static QByteArray read(const QString &path) { return test::contentOf(path); }
     print::PrintDocument compose()
     {
         bericht.initladen();
@@ -415,12 +408,7 @@ TEST_F(BerichtTest, AnOldPageStaysUntilTheNewOneIsWhole)
     for (const Fault fault : {Fault::Fails, Fault::CutShort}) {
         bool failed = false;
         const auto work = [&] {
-            failed = false;
-            try {
-                make();
-            } catch (const basic::Error &) {
-                failed = true;
-            }
+            failed = errorOf(make).has_value();
         };
         const auto check = [&](Call struck) {
             EXPECT_EQ(failed, fault == Fault::Fails && struck != Call::None);

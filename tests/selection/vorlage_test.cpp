@@ -3,7 +3,9 @@
 #include "selection/templates/vorlage.h"
 
 #include "platform/basic/error.h"
+#include "support/errors.h"
 #include "support/faultystorage.h"
+#include "support/files.h"
 #include <gtest/gtest.h>
 #include <QFile>
 #include <QTemporaryDir>
@@ -37,26 +39,12 @@ struct VorlageFile : testing::Test {
     QTemporaryDir folder;
     basic::NativePath file{folder.filePath("a.kvl")};
 
-    void put(const QByteArray &content) const
-    {
-        QFile out(file);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(content);
-    }
-    QByteArray content() const
-    {
-        QFile in(file);
-        return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray("nothing there");
-    }
+    void put(const QByteArray &content) const { test::writeFile(file, content); }
+    QByteArray content() const { return test::contentOf(file); }
     /// The fault that reading names, or "" where it succeeds.
     QString refusal() const
     {
-        try {
-            readVorlage(file);
-        } catch (const basic::Error &error) {
-            return error.what();
-        }
-        return {};
+        return test::refusalOf([&] { readVorlage(file); });
     }
 };
 
@@ -140,12 +128,7 @@ TEST_F(VorlageFile, ReplacesNothingButATemplate)
     };
     for (const auto &[old, fault] : rows) {
         put(old);
-        QString said;
-        try {
-            writeVorlage(file, wholeVorlage());
-        } catch (const basic::Error &error) {
-            said = error.what();
-        }
+        const QString said = test::refusalOf([&] { writeVorlage(file, wholeVorlage()); });
         EXPECT_EQ(said.isEmpty(), *fault == '\0') << said.toStdString();
         EXPECT_TRUE(said.contains(QLatin1StringView(fault))) << said.toStdString();
         EXPECT_EQ(content(), said.isEmpty() ? WholeFile : old);
@@ -199,12 +182,7 @@ TEST_F(VorlageFile, KeepsEveryDatabasePath)
 TEST_F(VorlageFile, SaysThatItCannotBeWritten)
 {
     file = basic::NativePath(folder.filePath("no/such/folder.kvl"));
-    try {
-        writeVorlage(file, wholeVorlage());
-        ADD_FAILURE() << "was written";
-    } catch (const basic::Error &error) {
-        EXPECT_EQ(error.fault(), basic::Fault::TemplateNotSaved);
-    }
+    EXPECT_EQ(test::faultOf([&] { writeVorlage(file, wholeVorlage()); }), basic::Fault::TemplateNotSaved);
 }
 
 TEST_F(VorlageFile, StaysWholeWhereSavingFails)
@@ -216,12 +194,7 @@ TEST_F(VorlageFile, StaysWholeWhereSavingFails)
     for (const Fault fault : {Fault::Fails, Fault::CutShort}) {
         bool failed = false;
         const auto save = [&] {
-            failed = false;
-            try {
-                writeVorlage(file, wholeVorlage());
-            } catch (const basic::Error &) {
-                failed = true;
-            }
+            failed = errorOf([&] { writeVorlage(file, wholeVorlage()); }).has_value();
         };
         const auto check = [&](Call struck) {
             EXPECT_EQ(failed, fault == Fault::Fails && struck != Call::None);

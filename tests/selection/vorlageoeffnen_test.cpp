@@ -4,7 +4,9 @@
 
 #include "selection/lists/listquery.h"
 #include "selection/templates/vorlagespeichern.h"
+#include "support/errors.h"
 #include "support/faultystorage.h"
+#include "support/files.h"
 #include "support/startedprogram.h"
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -57,12 +59,7 @@ struct Opening : testing::Test, test::StartedProgram {
     /// What opening says where it must fail; everything is then as before.
     QString refusal(const basic::WindowsPath &path, const basic::Progress &progress = {})
     {
-        QString said;
-        try {
-            open(path, progress);
-        } catch (const basic::Error &error) {
-            said = error.what();
-        }
+        const QString said = test::refusalOf([&] { open(path, progress); });
         EXPECT_EQ(marked(), (std::vector<qint32>{2, 3}));
         EXPECT_EQ(program.host.Familienpfad, family);
         EXPECT_EQ(program.databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked))->recordCount(), 2);
@@ -166,10 +163,7 @@ TEST_F(Opening, AFailureLeavesMarksAndDatabaseAsTheyWere)
     EXPECT_EQ(inFile(native(other)), std::vector<qint32>{5});
     test::writeFamily(native(other), {{.counter = 3, .listname = "C"}}, 0, "Galerie");
     EXPECT_TRUE(refusal(save(other, {3})).contains("Galerie"));
-    QFile broken(native(other));
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-    broken.write("no database");
-    broken.close();
+    test::writeFile(native(other), "no database");
     EXPECT_TRUE(refusal(save(other, {3})).contains("andere.mdb"));
     EXPECT_EQ(closings, 6); // there and back, three times
     EXPECT_EQ(news, std::vector<bool>(3, false));
@@ -188,12 +182,7 @@ TEST_F(Opening, AWriteThatFailsHalfWayIsTakenBack)
     };
     EXPECT_EQ(refusal(file, failOnceCleared), u"NotSynced (disk full)"_s);
     readOnly = true;
-    try {
-        open(file, failOnceCleared);
-        ADD_FAILURE() << "opened";
-    } catch (const basic::Error &error) {
-        EXPECT_TRUE(QString(error.what()).contains("MarksNotPutBack")) << error.what();
-    }
+    EXPECT_TRUE(test::refusalOf([&] { open(file, failOnceCleared); }).contains("MarksNotPutBack"));
     QFile::setPermissions(native(family), QFile::ReadOwner | QFile::WriteOwner);
 }
 
@@ -213,10 +202,7 @@ TEST_F(Opening, ResetTakesTheOptionsFromThePrintSettings)
         {"[Grafik]\nGebgest=-1\nGrafiktyp=1e99\nLegende=\n[Geschlecht]\na%=x\n", 1, false, 0, true},
     };
     for (const auto &row : rows) {
-        QFile ini(native(program.host.ownSettingsFile()));
-        ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
-        ini.write(row.ini);
-        ini.close();
+        test::writeFile(native(program.host.ownSettingsFile()), row.ini);
         const auto box = static_cast<qint16>(row.box);
         const statistics::Statistik expected{{}, {}, row.type, row.legend, {box, box, box, box}, row.byBirth};
         EXPECT_EQ(vorlageclear(program.host), expected) << row.ini;
@@ -255,12 +241,8 @@ TEST_F(Opening, AndUndoAreWholeOrAsBeforeWhereTheDiskFails)
                 database.setMarks("Daten", step.unmarked, true);
             };
             const auto work = [&] {
-                said.reset();
-                try {
-                    row.work();
-                } catch (const basic::Error &error) {
-                    said = error.message();
-                }
+                const auto error = test::errorOf(row.work);
+                said = error ? std::optional(error->message()) : std::nullopt;
             };
             const auto check = [&](test::Call struck) {
                 EXPECT_EQ(said.has_value(), (fault == test::Fault::Fails && struck != test::Call::None) ||

@@ -7,6 +7,7 @@
 #include "settings/dialog/fontsample.h"
 #include "settings/dialog/lengthbox.h"
 #include "settings/dialog/seiteneinrichtung.h"
+#include "support/files.h"
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QCheckBox>
@@ -33,17 +34,8 @@ namespace {
 struct InitformTest : testing::Test, test::Texts {
     InitformTest() : Texts(test::catalogueRows()) { QDir(folder.path()).mkdir("Kalvenor"); }
 
-    void write(const QByteArray &content) const
-    {
-        QFile file(path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-    QByteArray bytes() const
-    {
-        QFile file(path());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    void write(const QByteArray &content) const { test::writeFile(path(), content); }
+    QByteArray bytes() const { return test::contentOf(path()); }
     QString path() const { return folder.filePath("Kalvenor/Kalvenor.ini"); }
     QString setting(const char *section, const char *key) const
     {

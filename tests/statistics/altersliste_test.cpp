@@ -4,6 +4,7 @@
 
 #include "platform/basic/number.h"
 #include "statistics/ages/alter.h"
+#include "support/errors.h"
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
 
@@ -99,12 +100,10 @@ TEST(Alterslistenausgabe, IsEmptyWithoutMarksAndKeepsLinesWhenStopped)
         many.push_back({.counter = i, .listname = "P", .marked = true, .birth = 0, .death = 365});
     test::StartedProgram started(many);
     Altersliste list;
-    try {
-        alterslistenausgabe(started.program.databases, {1, 1, 0, 0}, list,
-                            [](qint64 done, qint64 total) { return total != 600 || done < 256; });
-        FAIL() << "not stopped";
-    } catch (const basic::Error &error) {
-        EXPECT_EQ(error.kind(), basic::ErrorKind::Cancelled);
-    }
+    EXPECT_EQ(test::kindOf([&] {
+                  alterslistenausgabe(started.program.databases, {1, 1, 0, 0}, list,
+                                      [](qint64 done, qint64 total) { return total != 600 || done < 256; });
+              }),
+              basic::ErrorKind::Cancelled);
     EXPECT_EQ(list.size(), 256U);
 }

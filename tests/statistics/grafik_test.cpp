@@ -4,6 +4,7 @@
 
 #include "platform/basic/date.h"
 #include "platform/basic/number.h"
+#include "support/errors.h"
 #include "support/startedprogram.h"
 #include <cmath>
 #include <gtest/gtest.h>
@@ -258,18 +259,12 @@ TEST(Grafikermitteln, NamesThePersonWhoseDateIsNoneAndCanBeStopped)
 {
     test::StartedProgram started(
         {{.counter = 4711, .listname = "Abel, Max", .marked = true, .birth = -9'000'000, .death = 5}});
-    const auto kindOf = [&](bool byBirth, const basic::Progress &progress) {
-        try {
-            grafikermitteln(started.program.databases, {.nachGeburtsjahr = byBirth}, progress);
-        } catch (const basic::Error &error) {
-            return QString("%1 %2").arg(int(error.kind())).arg(error.what());
-        }
-        return QString();
+    const auto refusal = [&](bool byBirth, const basic::Progress &progress = {}) {
+        return test::refusalOf(
+            [&] { grafikermitteln(started.program.databases, {.nachGeburtsjahr = byBirth}, progress); });
     };
-    const QString named = kindOf(true, {});
+    const QString named = refusal(true);
     EXPECT_TRUE(named.contains("Abel, Max (4711)") && named.contains("-9000000")) << named.toStdString();
-    EXPECT_EQ(kindOf(false, {}), "");
-    EXPECT_TRUE(kindOf(false, [](qint64, qint64) {
-                    return false;
-                }).startsWith(QString::number(int(basic::ErrorKind::Cancelled))));
+    EXPECT_EQ(refusal(false), "");
+    EXPECT_TRUE(refusal(false, [](qint64, qint64) { return false; }).contains("Stopped"));
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/basic/path.h"
+#include "support/files.h"
 
 #include <gtest/gtest.h>
 #include <QDir>
@@ -20,8 +21,7 @@ protected:
         ASSERT_TRUE(QDir(root()).mkpath(u"Daten/QV"_s));
         for (const char *name : {"Daten/Familie.MDB", "Daten/b.txt", "Daten/A.TXT", "Daten/.geheim", "Daten/[x].txt",
                                  "Daten/QV/x", "daten", "Daten/w?r*.kvl"}) {
-            QFile file(root() + u'/' + QString::fromLatin1(name));
-            ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << name;
+            test::writeFile(root() + u'/' + QString::fromLatin1(name));
         }
     }
     QString root() const { return m_folder.path(); }

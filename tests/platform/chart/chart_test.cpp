@@ -6,6 +6,7 @@
 #include "platform/chart/chartgeometry.h"
 #include "platform/chart/chartpicture.h"
 #include "platform/chart/charttables.h"
+#include "support/errors.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -317,13 +318,11 @@ TEST(Chart, FailedWriteIsAnErrorAndLeavesTheOldFile)
                  {u"none/c.png"_s, {30, 20}, basic::ErrorKind::WriteFailed},
                  {u"taken.png"_s, {30, 20}, basic::ErrorKind::WriteFailed}};
     for (const auto &[name, size, kind] : cases) {
-        try {
-            writeChart(centuries(1), {}, size, folder.filePath(name));
-            ADD_FAILURE() << name.toStdString();
-        } catch (const basic::Error &error) {
-            EXPECT_EQ(error.kind(), kind) << error.what();
-            EXPECT_EQ(error.place().file, folder.filePath(name));
-        }
+        const auto error = kalvenor::test::errorOf(
+            [&, file = name, sides = size] { writeChart(centuries(1), {}, sides, folder.filePath(file)); });
+        ASSERT_TRUE(error) << name.toStdString();
+        EXPECT_EQ(error->kind(), kind) << error->what();
+        EXPECT_EQ(error->place().file, folder.filePath(name));
     }
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{u"taken.png"_s});
 }

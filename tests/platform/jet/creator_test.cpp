@@ -7,6 +7,7 @@
 #include "platform/jet/reader/datapage.h"
 #include "platform/jet/reader/encoding.h"
 #include "samples.h"
+#include "support/errors.h"
 #include "support/fixtures.h"
 #include <algorithm>
 #include <cmath>
@@ -332,83 +333,36 @@ TEST_F(CreatorTest, givesTheSameBytesEachTime)
 
 TEST_F(CreatorTest, refusesWhatTheFormatCannotHold)
 {
-    const QString longName(65, u'n');
+    using basic::Fault;
     const struct {
-        const char *what;
-        std::function<void(Creator &)> act;
+        QString name;
+        std::vector<NewColumn> columns;
+        std::vector<NewIndex> indexes;
+        Fault fault;
     } tables[] = {
-        {"no name",
-         [](Creator &c) {
-             c.addTable("", {{"A"}});
-         }},
-        {"long name",
-         [&](Creator &c) {
-             c.addTable(longName, {{"A"}});
-         }},
-        {"bad character",
-         [](Creator &c) {
-             c.addTable("a.b", {{"A"}});
-         }},
-        {"blank in front",
-         [](Creator &c) {
-             c.addTable(" a", {{"A"}});
-         }},
-        {"outside the order",
-         [](Creator &c) {
-             c.addTable("Ωmega", {{"A"}});
-         }},
-        {"system name",
-         [](Creator &c) {
-             c.addTable("msysobjects", {{"A"}});
-         }},
-        {"twice",
-         [](Creator &c) {
-             c.addTable("T", {{"A"}}), c.addTable("t ", {{"A"}});
-         }},
-        {"no column",
-         [](Creator &c) {
-             c.addTable("T", {});
-         }},
-        {"256 columns",
-         [](Creator &c) {
-             c.addTable("T", std::vector<NewColumn>(256, {"A"}));
-         }},
-        {"column twice",
-         [](Creator &c) {
-             c.addTable("T", {{"A"}, {"a"}});
-         }},
-        {"text of 256",
-         [](Creator &c) {
-             c.addTable("T", {{"A", ColumnType::Text, 256}});
-         }},
-        {"binary of 511",
-         [](Creator &c) {
-             c.addTable("T", {{"A", ColumnType::Binary, 511}});
-         }},
-        {"no type",
-         [](Creator &c) {
-             c.addTable("T", {{"A", ColumnType::Unreadable}});
-         }},
-        {"autonumber text",
-         [](Creator &c) {
-             c.addTable("T", {{"A", ColumnType::Text, 9, true, true}});
-         }},
-        {"index over nothing",
-         [](Creator &c) {
-             c.addTable("T", {{"A"}}, {{"I", {"B"}}});
-         }},
-        {"index over a memo",
-         [](Creator &c) {
-             c.addTable("T", {{"A", ColumnType::Memo}}, {{"I", {"A"}}});
-         }},
-        {"two primary",
-         [](Creator &c) {
-             c.addTable("T", {{"A"}, {"B"}}, {{"I", {"A"}, true, true}, {"J", {"B"}, true, true}});
-         }},
+        {"", {{"A"}}, {}, Fault::NameUnsuited},
+        {QString(65, u'n'), {{"A"}}, {}, Fault::NameUnsuited},
+        {"a.b", {{"A"}}, {}, Fault::NameUnsuited},
+        {" a", {{"A"}}, {}, Fault::NameUnsuited},
+        {"Ωmega", {{"A"}}, {}, Fault::CharacterNotOrdered},
+        {"msysobjects", {{"A"}}, {}, Fault::NameTwice},
+        {"t ", {{"A"}}, {}, Fault::NameTwice},
+        {"U", {}, {}, Fault::TableTooWide},
+        {"U", std::vector<NewColumn>(256, {"A"}), {}, Fault::TableTooWide},
+        {"U", {{"A"}, {"a"}}, {}, Fault::NameTwice},
+        {"U", {{"A", ColumnType::Text, 256}}, {}, Fault::ColumnImpossible},
+        {"U", {{"A", ColumnType::Binary, 511}}, {}, Fault::ColumnImpossible},
+        {"U", {{"A", ColumnType::Unreadable}}, {}, Fault::ColumnImpossible},
+        {"U", {{"A", ColumnType::Text, 9, true, true}}, {}, Fault::ColumnImpossible},
+        {"U", {{"A"}}, {{"I", {"B"}}}, Fault::IndexImpossible},
+        {"U", {{"A", ColumnType::Memo}}, {{"I", {"A"}}}, Fault::IndexImpossible},
+        {"U", {{"A"}, {"B"}}, {{"I", {"A"}, true, true}, {"J", {"B"}, true, true}}, Fault::IndexImpossible},
     };
     for (const auto &row : tables) {
         Creator creator;
-        EXPECT_THROW(row.act(creator), basic::Error) << row.what;
+        creator.addTable("T", {{"A"}});
+        EXPECT_EQ(kalvenor::test::faultOf([&] { creator.addTable(row.name, row.columns, row.indexes); }), row.fault)
+            << row.name.toStdString();
     }
 
     const struct {
@@ -438,26 +392,25 @@ TEST_F(CreatorTest, refusesWhatTheFormatCannotHold)
     for (const auto &row : values) {
         Creator creator;
         auto &table = creator.addTable("T", {row.column});
-        EXPECT_THROW(table.addRow({row.value}), basic::Error) << static_cast<int>(row.column.type);
-        EXPECT_THROW(table.addRow({}), basic::Error);
+        EXPECT_EQ(kalvenor::test::faultOf([&] { table.addRow({row.value}); }), Fault::ValueUnsuited)
+            << static_cast<int>(row.column.type);
+        EXPECT_EQ(kalvenor::test::faultOf([&] { table.addRow({}); }), Fault::Misuse);
         EXPECT_EQ(table.rowCount(), 0U);
     }
 
     Creator creator;
     const NewValue wide(QString(255, u'\u20ac'));
-    auto &table = creator.addTable("T", std::vector<NewColumn>{{"A", ColumnType::Text},
-                                                               {"B", ColumnType::Text},
-                                                               {"C", ColumnType::Text},
-                                                               {"D", ColumnType::Text},
-                                                               {"E", ColumnType::Text},
-                                                               {"F", ColumnType::Text},
-                                                               {"G", ColumnType::Text},
-                                                               {"H", ColumnType::Text}});
-    EXPECT_THROW(table.addRow({wide, wide, wide, wide, wide, wide, wide, wide}), basic::Error);
-    table.addRow({wide, wide, wide, wide, wide, wide, wide, {}});
+    std::vector<NewColumn> texts;
+    for (const QChar name : u"ABCDEFGH"_s)
+        texts.push_back({QString(name), ColumnType::Text});
+    auto &table = creator.addTable("T", texts);
+    std::vector<NewValue> row(8, wide);
+    EXPECT_EQ(kalvenor::test::faultOf([&] { table.addRow(row); }), Fault::RowTooLong);
+    row.back() = {};
+    table.addRow(row);
     EXPECT_EQ(rowsOf(*written(creator), "T").size(), 1U);
-    EXPECT_THROW(table.addRow(std::vector<NewValue>(8)), basic::Error) << "after the file was written";
-    EXPECT_THROW(creator.write(folder.filePath("none/x.mdb")), basic::Error);
+    EXPECT_EQ(kalvenor::test::faultOf([&] { table.addRow(row); }), Fault::Misuse) << "after the file was written";
+    EXPECT_EQ(kalvenor::test::faultOf([&] { creator.write(folder.filePath("none/x.mdb")); }), Fault::NotWritten);
 }
 
 std::string outputOf(const QString &program, const QStringList &arguments)

@@ -6,6 +6,7 @@
 #include "platform/basic/error.h"
 #include "platform/jet/order/sortkey.h"
 #include "platform/jet/reader/database.h"
+#include "support/errors.h"
 #include <algorithm>
 #include <numeric>
 #include <QTemporaryDir>
@@ -162,21 +163,26 @@ TEST(CreatedIndex, refusesWhatItsKindForbids)
     };
     const NewIndex number{"I", {"Nr"}};
     const NewIndex name{"I", {"Name"}};
-    EXPECT_THROW(rowsTwice(number, 7, 7), basic::Error);
-    EXPECT_THROW(rowsTwice(name, QString("Weiß"), QString("WEISS ")), basic::Error);
-    EXPECT_THROW(rowsTwice({"I", {"Ja"}}, 1, 2), basic::Error);
-    EXPECT_THROW(rowsTwice({"I", {"Name"}, false}, QString("Ω"), {}), basic::Error);
-    EXPECT_THROW(rowsTwice({"I", {"Nr"}, true, true}, 7, {}), basic::Error);
-    EXPECT_NO_THROW(rowsTwice(number, {}, {}));
-    EXPECT_NO_THROW(rowsTwice({"I", {"Nr", "Name"}}, {}, {}));
-    EXPECT_NO_THROW(rowsTwice({"I", {"Nr"}, false}, 7, 7));
-    try {
-        rowsTwice(number, -5, -5);
-        ADD_FAILURE();
-    } catch (const basic::Error &error) {
-        EXPECT_EQ(error.arguments(), QStringList({"I", "-5"})) << error.what();
-        EXPECT_EQ(error.place().table, "Daten");
-    }
+    using basic::Fault;
+    const struct {
+        NewIndex index;
+        NewValue first, second;
+        Fault fault;
+    } rows[] = {
+        {number, 7, 7, Fault::IndexKeyTwice},
+        {name, QString("Weiß"), QString("WEISS "), Fault::IndexKeyTwice},
+        {{"I", {"Ja"}}, 1, 2, Fault::IndexKeyTwice},
+        {{"I", {"Name"}, false}, QString("Ω"), {}, Fault::CharacterNotOrdered},
+        {{"I", {"Nr"}, true, true}, 7, {}, Fault::KeyUnsuited},
+        {number, {}, {}, Fault::None},
+        {{"I", {"Nr", "Name"}}, {}, {}, Fault::None},
+        {{"I", {"Nr"}, false}, 7, 7, Fault::None},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(kalvenor::test::faultOf([&] { rowsTwice(row.index, row.first, row.second); }), row.fault);
+    const auto error = kalvenor::test::errorOf([&] { rowsTwice(number, -5, -5); });
+    EXPECT_EQ(error.value().arguments(), QStringList({"I", "-5"}));
+    EXPECT_EQ(error->place().table, "Daten");
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "platform/print/pagelayout.h"
 
 #include "platform/basic/error.h"
+#include "support/errors.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -205,16 +206,12 @@ TEST(PageLayout, CanBeStopped)
     document.add(TableStart{{{}}});
     addRows(document, 1, 5000);
     qint64 last = 0;
-    try {
-        const PageLayout layout(document, [&](qint64 done, qint64 total) {
-            EXPECT_EQ(total, 5001);
-            last = done;
-            return done < 2000;
-        });
-        FAIL() << "went on";
-    } catch (const basic::Error &error) {
-        EXPECT_EQ(error.kind(), basic::ErrorKind::Cancelled);
-    }
+    const auto watch = [&](qint64 done, qint64 total) {
+        EXPECT_EQ(total, 5001);
+        last = done;
+        return done < 2000;
+    };
+    EXPECT_EQ(kalvenor::test::kindOf([&] { const PageLayout layout(document, watch); }), basic::ErrorKind::Cancelled);
     EXPECT_LT(last, 4000);
 }
 

@@ -6,6 +6,8 @@
 #include "platform/print/htmlwriter.h"
 #include "platform/print/pdfwriter.h"
 #include "platform/print/rtffile.h"
+#include "support/errors.h"
+#include "support/files.h"
 
 #include <gtest/gtest.h>
 #include <QDir>
@@ -48,27 +50,18 @@ protected:
 
     QString path() const { return m_folder.filePath(u"out"_s); }
 
-    void writeOld() const
-    {
-        QFile file(path());
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
-    }
+    void writeOld() const { test::writeFile(path(), "old"); }
 
     /// The kind of the error of writing, after which the old file must stand there alone.
     basic::ErrorKind failure(Writer write, const basic::Progress &progress = {}) const
     {
-        std::optional<basic::ErrorKind> kind;
-        try {
-            write(m_document, path(), progress);
-        } catch (const basic::Error &error) {
-            kind = error.kind();
-            EXPECT_EQ(error.place().file, path());
-        }
+        const auto error = kalvenor::test::errorOf([&] { write(m_document, path(), progress); });
+        EXPECT_EQ(error.value().place().file, path());
         QFile file(path());
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         EXPECT_EQ(file.readAll(), "old");
         EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{u"out"_s});
-        return kind.value();
+        return error->kind();
     }
 
     PrintDocument m_document;
@@ -103,13 +96,10 @@ TEST_F(WriterFailure, UnwritablePlaceIsSaid)
 #endif
     for (const auto &writer : Writers) {
         for (const QString &place : places) {
-            try {
-                writer.write(m_document, place, {});
-                ADD_FAILURE() << writer.name << ' ' << qPrintable(place);
-            } catch (const basic::Error &error) {
-                EXPECT_EQ(error.kind(), basic::ErrorKind::WriteFailed) << error.what();
-                EXPECT_EQ(error.arguments().value(0), QLatin1String(writer.name)) << error.what();
-            }
+            const auto error = kalvenor::test::errorOf([&] { writer.write(m_document, place, {}); });
+            ASSERT_TRUE(error) << writer.name << ' ' << qPrintable(place);
+            EXPECT_EQ(error->kind(), basic::ErrorKind::WriteFailed) << error->what();
+            EXPECT_EQ(error->arguments().value(0), QLatin1String(writer.name)) << error->what();
         }
     }
 }
@@ -125,12 +115,8 @@ TEST_F(WriterFailure, EachFailingCallKeepsTheOldFile)
         for (const Fault fault : {Fault::Fails, Fault::CutShort}) {
             bool failed = false;
             const auto write = [&] {
-                failed = false;
-                try {
-                    writer.write(m_document, path(), {});
-                } catch (const basic::Error &error) {
-                    failed = error.kind() == basic::ErrorKind::WriteFailed;
-                }
+                failed = kalvenor::test::kindOf([&] { writer.write(m_document, path(), {}); }) ==
+                         basic::ErrorKind::WriteFailed;
             };
             const auto check = [&](Call struck) {
                 EXPECT_EQ(failed, fault == Fault::Fails && struck != Call::None);

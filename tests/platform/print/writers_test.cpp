@@ -4,6 +4,7 @@
 #include "platform/print/htmlwriter.h"
 #include "platform/print/pdfwriter.h"
 #include "platform/print/rtffile.h"
+#include "support/files.h"
 
 #include <gtest/gtest.h>
 #include <QFile>
@@ -66,12 +67,7 @@ protected:
 
     QString path(const QString &end) const { return m_folder.filePath(u"out."_s + end); }
 
-    QByteArray bytes(const QString &end) const
-    {
-        QFile file(path(end));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
+    QByteArray bytes(const QString &end) const { return test::contentOf(path(end)); }
 
     /// What a tool prints; nothing where it is not installed.
     static std::optional<QString> output(const QString &tool, const QStringList &arguments)

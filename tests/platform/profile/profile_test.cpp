@@ -3,6 +3,7 @@
 #include "platform/profile/profile.h"
 
 #include "../../support/faultystorage.h"
+#include "support/files.h"
 
 #include <gtest/gtest.h>
 #include <QDir>
@@ -29,17 +30,8 @@ QByteArray wide(QStringView text)
 
 class Profile : public testing::Test {
 protected:
-    void put(const QByteArray &content) const
-    {
-        QFile target(m_file);
-        ASSERT_TRUE(target.open(QIODevice::WriteOnly));
-        ASSERT_EQ(target.write(content), content.size());
-    }
-    QByteArray get() const
-    {
-        QFile source(m_file);
-        return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray("(none)");
-    }
+    void put(const QByteArray &content) const { test::writeFile(m_file, content); }
+    QByteArray get() const { return test::contentOf(m_file); }
     QByteArray read(const QByteArray &section, const QByteArray &key, const QByteArray &fallback = "dflt",
                     int size = 256) const
     {

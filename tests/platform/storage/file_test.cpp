@@ -3,6 +3,7 @@
 #include "platform/storage/replacement.h"
 
 #include "../../support/faultystorage.h"
+#include "support/files.h"
 
 #include <array>
 
@@ -29,17 +30,8 @@ protected:
     {
         return kalvenor::basic::NativePath(m_folder.filePath(QString::fromLatin1(name)));
     }
-    void put(const char *name, const QByteArray &content) const
-    {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        ASSERT_EQ(file.write(content), content.size());
-    }
-    QByteArray get(const char *name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
-    }
+    void put(const char *name, const QByteArray &content) const { test::writeFile(path(name), content); }
+    QByteArray get(const char *name) const { return test::contentOf(path(name)); }
 
     QTemporaryDir m_folder;
 };

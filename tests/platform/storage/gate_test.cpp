@@ -3,6 +3,8 @@
 #include "platform/basic/error.h"
 #include "platform/storage/replacement.h"
 #include "platform/storage/writerlock.h"
+#include "support/errors.h"
+#include "support/files.h"
 
 #include <gtest/gtest.h>
 #include <QDateTime>
@@ -28,32 +30,14 @@ const QByteArray Jet("\0\1\0\0Standard Jet DB\0\1\0\0\0", 24), Ace("\0\1\0\0Stan
 
 struct Gate : testing::Test {
     basic::NativePath path(const QString &name) const { return basic::NativePath(folder.filePath(name)); }
-    void put(const QString &name, const QByteArray &content) const
-    {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
-    QByteArray get(const QString &name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(nothing)");
-    }
+    void put(const QString &name, const QByteArray &content) const { test::writeFile(path(name), content); }
+    QByteArray get(const QString &name) const { return test::contentOf(path(name)); }
     QStringList files() const { return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
     /// What both the look ahead and the writing say.
     Fault refusal(const QString &name, Origin origin) const
     {
-        Fault ahead = Fault::None, written = Fault::None;
-        try {
-            checkTarget(path(name), origin);
-        } catch (const basic::Error &error) {
-            ahead = error.fault();
-        }
-        try {
-            replaceFileSafely(path(name), "new", nullptr, origin);
-        } catch (const basic::Error &error) {
-            written = error.fault();
-        }
+        const Fault ahead = test::faultOf([&] { checkTarget(path(name), origin); });
+        const Fault written = test::faultOf([&] { replaceFileSafely(path(name), "new", nullptr, origin); });
         EXPECT_EQ(ahead, written) << name.toStdString();
         return written;
     }
