@@ -76,7 +76,7 @@ TEST_F(Start, EndsWithMessageWhereTheFamilyDatabaseIsMissing)
 TEST_F(Start, NamesTheSettingThatDoesNotFit)
 {
     set("Ansicht", "Kurzhilfe", "40000");
-    const auto error = test::errorOf([&] { program.Main(); });
+    const auto error = test::thrownBy([&] { program.Main(); });
     ASSERT_TRUE(error);
     EXPECT_EQ(error->fault(), basic::Fault::SettingOutOfRange);
     EXPECT_TRUE(error->place().file.endsWith("programm.ini"));

@@ -33,7 +33,7 @@ QString refusal(const test::Installation &installation, basic::ErrorKind kind)
 {
     test::FakeDesktop desktop;
     app::Program program(installation.programFolder(), desktop);
-    const auto error = test::errorOf([&] { program.Main(); });
+    const auto error = test::thrownBy([&] { program.Main(); });
     EXPECT_EQ(error.value().kind(), kind);
     return error->what();
 }

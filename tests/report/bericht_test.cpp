@@ -408,7 +408,7 @@ TEST_F(BerichtTest, AnOldPageStaysUntilTheNewOneIsWhole)
     for (const Fault fault : {Fault::Fails, Fault::CutShort}) {
         bool failed = false;
         const auto work = [&] {
-            failed = errorOf(make).has_value();
+            failed = thrownBy(make).has_value();
         };
         const auto check = [&](Call struck) {
             EXPECT_EQ(failed, fault == Fault::Fails && struck != Call::None);

@@ -194,7 +194,7 @@ TEST_F(VorlageFile, StaysWholeWhereSavingFails)
     for (const Fault fault : {Fault::Fails, Fault::CutShort}) {
         bool failed = false;
         const auto save = [&] {
-            failed = errorOf([&] { writeVorlage(file, wholeVorlage()); }).has_value();
+            failed = thrownBy([&] { writeVorlage(file, wholeVorlage()); }).has_value();
         };
         const auto check = [&](Call struck) {
             EXPECT_EQ(failed, fault == Fault::Fails && struck != Call::None);

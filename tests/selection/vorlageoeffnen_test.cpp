@@ -241,7 +241,7 @@ TEST_F(Opening, AndUndoAreWholeOrAsBeforeWhereTheDiskFails)
                 database.setMarks("Daten", step.unmarked, true);
             };
             const auto work = [&] {
-                const auto error = test::errorOf(row.work);
+                const auto error = test::thrownBy(row.work);
                 said = error ? std::optional(error->message()) : std::nullopt;
             };
             const auto check = [&](test::Call struck) {

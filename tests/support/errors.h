@@ -8,7 +8,7 @@
 namespace kalvenor::test {
 
 /// What some work throws; nothing where it succeeds.
-std::optional<basic::Error> errorOf(auto &&work)
+std::optional<basic::Error> thrownBy(auto &&work)
 {
     try {
         work();
@@ -21,21 +21,21 @@ std::optional<basic::Error> errorOf(auto &&work)
 /// Its fault, or None.
 basic::Fault faultOf(auto &&work)
 {
-    const auto error = errorOf(work);
+    const auto error = thrownBy(work);
     return error ? error->fault() : basic::Fault::None;
 }
 
 /// Its kind; nothing where it succeeds.
 std::optional<basic::ErrorKind> kindOf(auto &&work)
 {
-    const auto error = errorOf(work);
+    const auto error = thrownBy(work);
     return error ? std::optional(error->kind()) : std::nullopt;
 }
 
 /// Its technical wording, or "".
 QString refusalOf(auto &&work)
 {
-    const auto error = errorOf(work);
+    const auto error = thrownBy(work);
     return error ? error->message() : QString();
 }
 

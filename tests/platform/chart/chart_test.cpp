@@ -318,7 +318,7 @@ TEST(Chart, FailedWriteIsAnErrorAndLeavesTheOldFile)
                  {u"none/c.png"_s, {30, 20}, basic::ErrorKind::WriteFailed},
                  {u"taken.png"_s, {30, 20}, basic::ErrorKind::WriteFailed}};
     for (const auto &[name, size, kind] : cases) {
-        const auto error = kalvenor::test::errorOf(
+        const auto error = kalvenor::test::thrownBy(
             [&, file = name, sides = size] { writeChart(centuries(1), {}, sides, folder.filePath(file)); });
         ASSERT_TRUE(error) << name.toStdString();
         EXPECT_EQ(error->kind(), kind) << error->what();

@@ -180,7 +180,7 @@ TEST(CreatedIndex, refusesWhatItsKindForbids)
     };
     for (const auto &row : rows)
         EXPECT_EQ(kalvenor::test::faultOf([&] { rowsTwice(row.index, row.first, row.second); }), row.fault);
-    const auto error = kalvenor::test::errorOf([&] { rowsTwice(number, -5, -5); });
+    const auto error = kalvenor::test::thrownBy([&] { rowsTwice(number, -5, -5); });
     EXPECT_EQ(error.value().arguments(), QStringList({"I", "-5"}));
     EXPECT_EQ(error->place().table, "Daten");
 }

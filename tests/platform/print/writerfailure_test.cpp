@@ -55,7 +55,7 @@ protected:
     /// The kind of the error of writing, after which the old file must stand there alone.
     basic::ErrorKind failure(Writer write, const basic::Progress &progress = {}) const
     {
-        const auto error = kalvenor::test::errorOf([&] { write(m_document, path(), progress); });
+        const auto error = kalvenor::test::thrownBy([&] { write(m_document, path(), progress); });
         EXPECT_EQ(error.value().place().file, path());
         QFile file(path());
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
@@ -96,7 +96,7 @@ TEST_F(WriterFailure, UnwritablePlaceIsSaid)
 #endif
     for (const auto &writer : Writers) {
         for (const QString &place : places) {
-            const auto error = kalvenor::test::errorOf([&] { writer.write(m_document, place, {}); });
+            const auto error = kalvenor::test::thrownBy([&] { writer.write(m_document, place, {}); });
             ASSERT_TRUE(error) << writer.name << ' ' << qPrintable(place);
             EXPECT_EQ(error->kind(), basic::ErrorKind::WriteFailed) << error->what();
             EXPECT_EQ(error->arguments().value(0), QLatin1String(writer.name)) << error->what();
