@@ -36,7 +36,7 @@ void makeFolder(const QString &folder)
 
 void writeFile(const QString &path, const QByteArray &bytes)
 {
-    QString reason;
+    basic::Argument reason;
     if (!storage::replaceFileSafely(basic::NativePath(path), bytes, &reason, storage::Origin::NewHost))
         throw basic::Error(basic::Fault::NotWritten, {.file = path}, {reason});
 }

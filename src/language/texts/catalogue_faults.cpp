@@ -469,6 +469,15 @@ constexpr CatalogueText Texts[] = {
      u"The unique index “%1” has the key %2 twice."},
     {of(Fault::DatabaseFull), u"Die Datenbank würde größer als 2 GB. Verteilen Sie ihre Zeilen auf mehrere Dateien.",
      u"The database would grow beyond 2 GB. Spread its rows over several files."},
+    // Words: why a file cannot be used
+    {of(Fault::WordNoFile), u"die Datei ist nicht vorhanden", u"the file was not found"},
+    {of(Fault::WordIsFolder), u"das ist ein Ordner, keine Datei", u"this is a folder, not a file"},
+    {of(Fault::WordNotPermitted), u"dieser Benutzer darf sie nicht lesen", u"this user may not read the file"},
+    {of(Fault::WordReadOnly), u"die Datei ist schreibgeschützt", u"the file is read-only"},
+    {of(Fault::WordFileEnds), u"die Datei endet vor der Stelle, die gelesen werden sollte",
+     u"the file ends before the place that was to be read"},
+    {of(Fault::WordLockedElsewhere), u"ein anderes Programm hat sie gesperrt", u"another program has locked it"},
+    {of(Fault::WordNoName), u"es ist kein Dateiname genannt", u"no file name was given"},
 };
 
 } // namespace

@@ -26,6 +26,11 @@ QString sentenceOf(const Lookup &texts, basic::Fault fault)
     return texts(static_cast<Text>(fault));
 }
 
+QString wordsOf(const Lookup &texts, const basic::Argument &argument)
+{
+    return argument.word == basic::Fault::None ? argument.text : sentenceOf(texts, argument.word);
+}
+
 /// Each place %1 to %9 becomes its argument, whatever signs that holds.
 QString filled(const Lookup &texts, const basic::Error::Part &part)
 {
@@ -38,7 +43,7 @@ QString filled(const Lookup &texts, const basic::Error::Part &part)
             continue;
         }
         const basic::Argument &argument = part.arguments[static_cast<std::size_t>(digit - 1)];
-        result += argument.word == basic::Fault::None ? argument.text : sentenceOf(texts, argument.word);
+        result += wordsOf(texts, argument);
         ++i;
     }
     return result;
@@ -77,6 +82,11 @@ QString message(const Lookup &texts, const basic::Error &error)
 QString errorSentence(Sprachmodul &texts, const basic::Error &error)
 {
     return sentences(lookupIn(texts), error);
+}
+
+QString inWords(Sprachmodul &texts, const basic::Argument &argument)
+{
+    return wordsOf(lookupIn(texts), argument);
 }
 
 QString errorMessage(Sprachmodul &texts, const basic::Error &error)

@@ -11,7 +11,9 @@ namespace kalvenor::language {
 
 /// What is said of an error in the host's language, without its place.
 QString errorSentence(Sprachmodul &texts, const basic::Error &error);
-/// The same behind the place in words: "C:/QV/a.kvl, line 3: …".
+/// An argument of one, such as the reason why a file cannot be used.
+QString inWords(Sprachmodul &texts, const basic::Argument &argument);
+/// The same as errorSentence behind the place in words: "C:/QV/a.kvl, line 3: …".
 QString errorMessage(Sprachmodul &texts, const basic::Error &error);
 /// The same in the catalogue's words, where no host's database is at hand.
 QString errorMessage(CatalogueLanguage language, const basic::Error &error);

@@ -26,6 +26,7 @@ struct Place {
 
 /// What stands for one of a sentence's places %1, %2, …: a text of the data, a number, or a word to be translated.
 struct Argument {
+    Argument() = default;
     Argument(QString shown) : text(std::move(shown)) {}
     Argument(QStringView shown) : text(shown.toString()) {}
     Argument(QChar shown) : text(shown) {}
@@ -37,6 +38,7 @@ struct Argument {
     QString text = {};
     Fault word = Fault::None;
 
+    bool isEmpty() const { return text.isEmpty() && word == Fault::None; }
     bool operator==(const Argument &) const = default;
 };
 

@@ -227,6 +227,14 @@ enum class ErrorKind {
     F(NoKeyColumn, 22293, NotMarkable)                        \
     F(RowNumbersHidden, 22294, NotMarkable)                   \
     F(PageLocked, 22295, WriteFailed)                         \
+    /* Words: why a file cannot be used */                    \
+    F(WordNoFile, 22330, Refused)                             \
+    F(WordIsFolder, 22331, Refused)                           \
+    F(WordNotPermitted, 22332, Refused)                       \
+    F(WordReadOnly, 22333, Refused)                           \
+    F(WordFileEnds, 22334, Refused)                           \
+    F(WordLockedElsewhere, 22335, Refused)                    \
+    F(WordNoName, 22336, Refused)                             \
     /* Databases that are made */                             \
     F(NameUnsuited, 22320, InvalidProcedureCall)              \
     F(NameTwice, 22321, InvalidProcedureCall)                 \

@@ -91,7 +91,7 @@ void writeChart(const ChartTable &table, const ChartLook &look, QSize pixels, co
                                  : pictureBytes(chartImage(table, look, pixels, dpi), jpeg ? "jpg" : "png", quality);
     if (bytes.isEmpty())
         throw basic::Error(basic::Fault::PictureTooLarge, {.file = nativeFile});
-    QString reason;
+    basic::Argument reason;
     if (!storage::replaceFileSafely(basic::NativePath(nativeFile), bytes, &reason))
         throw basic::Error(basic::Fault::PictureNotWritten, {.file = nativeFile}, {reason});
 }

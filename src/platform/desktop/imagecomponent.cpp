@@ -58,9 +58,9 @@ public:
         writer.setQuality(std::clamp(quality, 0, 100));
         if (!writer.write(image))
             return outputFile + u": "_s + writer.errorString();
-        QString reason;
+        basic::Argument reason;
         if (!storage::replaceFileSafely(basic::NativePath(outputFile), bytes.data(), &reason, storage::Origin::Beside))
-            return outputFile + u": "_s + reason;
+            return outputFile + u": "_s + (reason.text.isEmpty() ? u"cannot be written"_s : reason.text);
         return {};
     }
 };

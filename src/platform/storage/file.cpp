@@ -8,35 +8,35 @@ namespace kalvenor::storage {
 
 namespace {
 
-QString faultText(FileFault fault, SystemError error)
+basic::Argument reasonOf(FileFault fault, SystemError error)
 {
     switch (fault) {
     case FileFault::None:
-        break;
+        return {};
     case FileFault::NotFound:
-        return u"the file was not found"_s;
+        return basic::Fault::WordNoFile;
     case FileFault::IsFolder:
-        return u"this is a folder, not a file"_s;
+        return basic::Fault::WordIsFolder;
     case FileFault::PermissionDenied:
-        return u"permission denied: this user may not read the file"_s;
+        return basic::Fault::WordNotPermitted;
     case FileFault::ReadOnly:
-        return u"the file is read-only"_s;
+        return basic::Fault::WordReadOnly;
     case FileFault::Other:
-        return u"the file cannot be opened: "_s + qt_error_string(error);
+        break;
     }
-    return {};
+    return qt_error_string(error);
 }
 
 } // namespace
 
-File File::open(const basic::NativePath &nativePath, Mode mode, QString *error)
+File File::open(const basic::NativePath &nativePath, Mode mode, basic::Argument *error)
 {
     Opened opened = currentStorage().open(nativePath, mode);
     Q_ASSERT((opened.file != nullptr) == (opened.fault == FileFault::None));
     File file;
     file.m_open = std::move(opened.file);
     file.m_fault = opened.fault;
-    file.m_error = faultText(opened.fault, opened.error);
+    file.m_error = reasonOf(opened.fault, opened.error);
     if (error && !file.isOpen())
         *error = file.m_error;
     return file;
@@ -63,7 +63,7 @@ bool File::readAt(qint64 offset, std::span<std::uint8_t> into) const
         const qint64 count = m_open->read(offset, into);
         Q_ASSERT(count <= static_cast<qint64>(into.size()));
         if (count == 0)
-            m_error = u"the file ends before the place that was to be read"_s;
+            m_error = basic::Fault::WordFileEnds;
         if (count <= 0)
             return count == 0 ? false : succeeds(static_cast<SystemError>(-count));
         into = into.subspan(static_cast<std::size_t>(count));
@@ -97,7 +97,7 @@ File::Lock File::lock(qint64 offset, qint64 length)
     Q_ASSERT(isOpen());
     const SystemError error = m_open->lock(offset, length);
     if (error == LockedElsewhere) {
-        m_error = u"another program has locked it"_s;
+        m_error = basic::Fault::WordLockedElsewhere;
         return Lock::HeldElsewhere;
     }
     return succeeds(error) ? Lock::Taken : Lock::Failed;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/error.h"
 #include "platform/basic/path.h"
 #include "platform/storage/storage.h"
 
@@ -14,8 +15,8 @@ public:
     enum class Lock { Taken, HeldElsewhere, Failed };
 
     /// Opens an existing file; it is never created or truncated. On failure isOpen() is false, fault() names the kind
-    /// and `error` (may be null) gets the reason in plain words, without the path.
-    static File open(const basic::NativePath &nativePath, Mode mode, QString *error);
+    /// and `error` (may be null) gets the reason, without the path.
+    static File open(const basic::NativePath &nativePath, Mode mode, basic::Argument *error);
 
     bool isOpen() const { return m_open != nullptr; }
     FileFault fault() const { return m_fault; }
@@ -32,15 +33,15 @@ public:
     /// Locks a range of bytes against all other programs that lock, without waiting; it may lie behind the end.
     Lock lock(qint64 offset, qint64 length);
     bool unlock(qint64 offset, qint64 length);
-    /// The reason of the last failure in plain words.
-    const QString &errorText() const { return m_error; }
+    /// The reason of the last failure.
+    const basic::Argument &errorText() const { return m_error; }
 
 private:
     bool succeeds(SystemError error) const;
 
     std::unique_ptr<OpenFile> m_open;
     FileFault m_fault = FileFault::None;
-    mutable QString m_error;
+    mutable basic::Argument m_error;
 };
 
 } // namespace kalvenor::storage

@@ -28,12 +28,12 @@ bool isLeftBehind(const QString &file)
 Replacement::Replacement(const basic::NativePath &nativeFile, Origin origin)
 {
     if (nativeFile.isEmpty()) {
-        fail(u"no file name was given"_s);
+        fail(basic::Fault::WordNoName);
         return;
     }
     checkNames(nativeFile, origin);
     // A rename would replace even a file that may not be written, or a folder that is empty.
-    QString reason;
+    basic::Argument reason;
     const File old = File::open(nativeFile, File::Mode::ReadWrite, &reason);
     if (!old.isOpen() && old.fault() != FileFault::NotFound) {
         fail(reason);
@@ -74,7 +74,7 @@ bool Replacement::create()
     return fail(qt_error_string(error));
 }
 
-bool Replacement::fail(const QString &reason)
+bool Replacement::fail(const basic::Argument &reason)
 {
     if (m_error.isEmpty())
         m_error = reason;
@@ -135,7 +135,8 @@ bool Replacement::commit()
     return true;
 }
 
-bool replaceFileSafely(const basic::NativePath &nativeFile, QByteArrayView content, QString *whatFailed, Origin origin)
+bool replaceFileSafely(const basic::NativePath &nativeFile, QByteArrayView content, basic::Argument *whatFailed,
+                       Origin origin)
 {
     Replacement file(nativeFile, origin);
     file.append(content);

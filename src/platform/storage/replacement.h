@@ -24,11 +24,11 @@ public:
     bool append(QByteArrayView bytes);
     /// Syncs what was written and gives it the file's place. To be called once.
     bool commit();
-    /// The reason of the first failure in plain words.
-    const QString &errorText() const { return m_error; }
+    /// The reason of the first failure.
+    const basic::Argument &errorText() const { return m_error; }
 
 private:
-    bool fail(const QString &reason);
+    bool fail(const basic::Argument &reason);
     bool create();
     bool writeOut(QByteArrayView bytes);
     void drop();
@@ -38,12 +38,12 @@ private:
     std::unique_ptr<OpenFile> m_file;
     qint64 m_size = 0; ///< bytes in the file beside
     QByteArray m_waiting;
-    QString m_error;
+    basic::Argument m_error;
 };
 
 /// The same for content that is at hand. On failure the old file is untouched and `whatFailed` (may be null) gets the
 /// reason. Throws as checkTarget.
-bool replaceFileSafely(const basic::NativePath &nativeFile, QByteArrayView content, QString *whatFailed,
+bool replaceFileSafely(const basic::NativePath &nativeFile, QByteArrayView content, basic::Argument *whatFailed,
                        Origin origin = Origin::Named);
 
 } // namespace kalvenor::storage

@@ -18,7 +18,7 @@ namespace {
 
 constexpr QChar Quote(34);
 
-[[noreturn]] void failed(const basic::WindowsPath &file, const QString &why)
+[[noreturn]] void failed(const basic::WindowsPath &file, const basic::Argument &why)
 {
     throw basic::Error(basic::Fault::PageUnfinished, {.file = file.text()}, {why});
 }
@@ -107,7 +107,7 @@ void htmlnachbearbeiten(const host::Host &host, const basic::WindowsPath &export
     if (source.error() != QFileDevice::NoError)
         failed(exportFile, source.errorString());
     source.close();
-    QString why;
+    basic::Argument why;
     if (!storage::replaceFileSafely(host.native(exportFile), withTags(page), &why))
         failed(exportFile, why);
 

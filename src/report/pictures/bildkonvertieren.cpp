@@ -28,7 +28,7 @@ const QString ProgramId = u"Pictarex.Compendium"_s;
 constexpr double DefaultQuality = 70;
 constexpr qint16 DefaultLeastHeight = 2000;
 
-[[noreturn]] void cannotWrite(const QString &file, const QString &reason)
+[[noreturn]] void cannotWrite(const QString &file, const basic::Argument &reason)
 {
     throw basic::Error(basic::Fault::NotWritten, {.file = file}, {reason});
 }
@@ -53,7 +53,7 @@ void writeBmp(const QImage &image, const basic::NativePath &nativeFile)
     QImageWriter writer(&bytes, "bmp");
     if (!writer.write(onPaper(image)))
         cannotWrite(nativeFile, writer.errorString());
-    QString reason;
+    basic::Argument reason;
     if (!storage::replaceFileSafely(nativeFile, bytes.data(), &reason, storage::Origin::Beside))
         cannotWrite(nativeFile, reason);
 }

@@ -23,7 +23,7 @@ constexpr qint64 LargestFile = 256LL * 1024 * 1024;
 
 QByteArray readWhole(const basic::NativePath &nativeFile)
 {
-    QString reason;
+    basic::Argument reason;
     const storage::File file = storage::File::open(nativeFile, storage::File::Mode::Read, &reason);
     if (!file.isOpen())
         throw basic::Error(file.fault() == storage::FileFault::NotFound ? Fault::TemplateMissing
@@ -236,7 +236,7 @@ void writeVorlage(const basic::NativePath &nativeFile, const Vorlage &vorlage)
     for (const qint32 counter : vorlage.counters)
         writer.writeNumber(counter);
     checkReplaced(nativeFile);
-    QString reason;
+    basic::Argument reason;
     const QByteArray content = ansi ? writer.content() : Utf8Mark.toByteArray() + writer.content();
     if (!storage::replaceFileSafely(nativeFile, content, &reason))
         throw basic::Error(Fault::TemplateNotSaved, {.file = nativeFile}, {reason});

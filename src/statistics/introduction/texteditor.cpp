@@ -162,7 +162,7 @@ void TextEditor::saveText()
         this, {.title = m_texts.text(Text::SaveTextAs), .filters = m_texts.text(Text::RtfTexts), .suffix = u"rtf"_s});
     if (file.isEmpty())
         return;
-    QString why;
+    basic::Argument why;
     // Plain text or nothing, not edited, is not yet the RTF that the file's name promises.
     const QByteArray content = richtext::looksLikeRtf(rtf()) ? rtf() : richtext::writeRtf(*m_field->document());
     bool saved = false;
@@ -174,7 +174,8 @@ void TextEditor::saveText()
     if (saved)
         Q_EMIT said(m_texts.text(Text::TextSaved).arg(QDir::toNativeSeparators(file)));
     else
-        showError(m_texts.text(Text::TextNotSaved).arg(QDir::toNativeSeparators(file), why));
+        showError(
+            m_texts.text(Text::TextNotSaved).arg(QDir::toNativeSeparators(file), language::inWords(m_texts, why)));
 }
 
 void TextEditor::showError(const QString &message)

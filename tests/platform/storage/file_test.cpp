@@ -20,15 +20,16 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kalvenor;
 using namespace kalvenor::storage;
 
 namespace {
 
 class Files : public testing::Test {
 protected:
-    kalvenor::basic::NativePath path(const char *name) const
+    basic::NativePath path(const char *name) const
     {
-        return kalvenor::basic::NativePath(m_folder.filePath(QString::fromLatin1(name)));
+        return basic::NativePath(m_folder.filePath(QString::fromLatin1(name)));
     }
     void put(const char *name, const QByteArray &content) const { test::writeFile(path(name), content); }
     QByteArray get(const char *name) const { return test::contentOf(path(name)); }
@@ -59,9 +60,9 @@ private:
 TEST_F(Files, ReadAndWriteInPlace)
 {
     put("a", "0123456789");
-    QString error;
+    basic::Argument error;
     File file = File::open(path("a"), File::Mode::ReadWrite, &error);
-    ASSERT_TRUE(file.isOpen()) << error.toStdString();
+    ASSERT_TRUE(file.isOpen()) << error.text.toStdString();
     EXPECT_EQ(file.size(), 10);
     EXPECT_NEAR(static_cast<double>(file.state().modifiedNs) / 1e6,
                 static_cast<double>(QFileInfo(path("a")).lastModified().toMSecsSinceEpoch()), 2);
@@ -116,7 +117,7 @@ TEST_F(Files, WhyAFileCannotBeOpened)
 #endif
     };
     for (const auto &row : rows) {
-        QString error;
+        basic::Argument error;
         const File file = File::open(path(row.name), row.mode, &error);
         EXPECT_EQ(file.fault(), row.fault) << row.name;
         EXPECT_EQ(file.isOpen(), row.fault == FileFault::None) << row.name;
@@ -129,8 +130,8 @@ TEST_F(Files, Replace)
     put("a", "old and long");
     ASSERT_TRUE(QFile::setPermissions(path("a"), QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup));
     const auto mode = QFile::permissions(path("a"));
-    QString why;
-    ASSERT_TRUE(replaceFileSafely(path("a"), "new", &why)) << why.toStdString();
+    basic::Argument why;
+    ASSERT_TRUE(replaceFileSafely(path("a"), "new", &why)) << why.text.toStdString();
     EXPECT_EQ(get("a"), "new");
     EXPECT_EQ(QFile::permissions(path("a")), mode);
     EXPECT_TRUE(replaceFileSafely(path("fresh"), "", &why));
@@ -154,7 +155,7 @@ TEST_F(Files, Replace)
 
     EXPECT_FALSE(replaceFileSafely(path("nofolder/a"), "x", &why));
     EXPECT_FALSE(why.isEmpty());
-    EXPECT_FALSE(replaceFileSafely(kalvenor::basic::NativePath(m_folder.path()), "x", nullptr));
+    EXPECT_FALSE(replaceFileSafely(basic::NativePath(m_folder.path()), "x", nullptr));
     EXPECT_FALSE(replaceFileSafely({}, "x", nullptr));
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden | QDir::System).filter(u"a."_s).size(), 0)
         << "no temporary file stays";

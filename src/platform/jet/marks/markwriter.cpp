@@ -60,7 +60,7 @@ storage::File openForWriting(const QString &name)
         throw readOnly(basic::Fault::ReadOnlyFile);
     if (info.exists() && isFolderReadOnly(name))
         throw readOnly(basic::Fault::ReadOnlyFolder);
-    QString reason;
+    basic::Argument reason;
     storage::File file = storage::File::open(basic::NativePath(name), storage::File::Mode::ReadWrite, &reason);
     if (file.isOpen())
         return file;
@@ -162,7 +162,7 @@ public:
             std::uint8_t now = 0;
             const bool isRead = m_file.readAt(offset, std::span(&now, 1));
             if (!isRead || now != m_raw[target.inPage]) {
-                const QString reason = m_file.errorText();
+                const basic::Argument reason = m_file.errorText();
                 confirm(number, written);
                 if (!isRead)
                     fail(basic::Fault::PageNotRead, {number, reason});
@@ -171,7 +171,7 @@ public:
             m_raw[target.inPage] ^= target.bit;
             m_hasWritten = true;
             if (!m_file.writeAt(offset, std::span(&m_raw[target.inPage], 1))) {
-                const QString reason = m_file.errorText();
+                const basic::Argument reason = m_file.errorText();
                 confirm(number, written);
                 fail(basic::Fault::PageNotWritten, {number, reason});
             }

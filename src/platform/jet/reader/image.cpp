@@ -40,7 +40,7 @@ std::uint32_t pageSizeOf(std::span<const std::uint8_t> head)
 
 storage::File openForReading(const QString &file)
 {
-    QString reason;
+    basic::Argument reason;
     storage::File opened = storage::File::open(basic::NativePath(file), storage::File::Mode::Read, &reason);
     if (opened.isOpen())
         return opened;
