@@ -3,6 +3,7 @@
 #include "demo/host/demohost.h"
 
 #include "demo/demofixture.h"
+#include "language/texts/catalogue.h"
 #include "platform/basic/error.h"
 #include "platform/basic/path.h"
 #include "platform/profile/profile.h"
@@ -154,6 +155,10 @@ TEST_F(DemoTest, AllTablesOfAHostAreThere)
             EXPECT_GT(database->table(entry->name)->rowCount(), 0u) << name;
         }
         EXPECT_TRUE(database->warnings().isEmpty());
+        if (const auto *texts = database->entry(u"Languages"_s)) {
+            EXPECT_EQ(database->table(texts->name)->rowCount(), language::catalogue().size());
+            EXPECT_EQ(database->table(texts->name)->indexes().at(0).name, u"Counter"_s);
+        }
     }
 }
 

@@ -5,6 +5,7 @@
 #include "language/texts/sprache.h"
 #include "language/texts/textfile.h"
 #include "platform/basic/codepage.h"
+#include "platform/basic/path.h"
 #include <gtest/gtest.h>
 #include <map>
 #include <QDirIterator>
@@ -105,6 +106,28 @@ TEST(Catalogue, HoldsNoTextThatNobodyShows)
         // What belongs to the host is written for it, used by us or not.
         EXPECT_TRUE(number < FirstOwnText || used.contains(name)) << name.toStdString();
     }
+}
+
+TEST(Catalogue, HoldsWhatTheHostsNumbersStandFor)
+{
+    for (const int id : {36,   100,  116,  120,  180,  181,  182,  183,  184,  185,  186,  187,  188,  189,  190,
+                         191,  192,  193,  194,  911,  926,  930,  1201, 1204, 1205, 1206, 1207, 1208, 1209, 1215,
+                         1216, 1217, 1218, 1219, 1220, 1221, 1222, 1223, 1224, 1225, 1226, 1227, 1228, 1229})
+        EXPECT_FALSE(wording(static_cast<Text>(id), CatalogueLanguage::German).isNull()) << id;
+    // Captions that forms carry at design time.
+    const std::pair<int, const char *> captions[] = {{180, "&Drucken"},
+                                                     {181, "&Speichern"},
+                                                     {182, "&Druckvorlage"},
+                                                     {183, "&Fenster schließen"},
+                                                     {184, "&Hilfe"},
+                                                     {1204, "Liste auf neuer Seite beginnen"},
+                                                     {1217, "Liste aller Personen nach Alter sortiert"}};
+    for (const auto &[id, caption] : captions)
+        EXPECT_EQ(wording(static_cast<Text>(id), CatalogueLanguage::German), QString::fromUtf8(caption));
+    EXPECT_EQ(wording(static_cast<Text>(189), CatalogueLanguage::German).count(u'|'), 3) << "the zooms";
+    EXPECT_EQ(basic::fileNamePart(wording(Text::ReportName, CatalogueLanguage::German)),
+              wording(Text::ReportName, CatalogueLanguage::German))
+        << "an exported file is named with it";
 }
 
 TEST(Catalogue, SaysTheSameInBothLanguages)
