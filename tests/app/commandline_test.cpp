@@ -180,14 +180,15 @@ TEST_F(CommandLine, SaysHowDatesAreRead)
         const char *said;
     } rows[] = {
         {"de_DE.UTF-8", "01-02-1950", ">= 18295", ""},
-        {"de_DE.UTF-8", "02-13-1950", ">= 18307", "13 February 1950, because dates on this system are dd-mm-yyyy"},
+        {"de_DE.UTF-8", "02-13-1950", ">= 18307",
+         "13. Februar 1950 gelesen, weil ein Datum auf diesem System dd-mm-yyyy"},
         {"en_US.UTF-8", "01-02-1950", ">= 18265", "2 January 1950, because dates on this system are mm-dd-yyyy"},
         {"en_US.UTF-8", "13-02-1950", ">= 18307", ""},
         {"en_US.UTF-8", "1950-02-01", ">= 18295", ""},
         {"sv_SE.UTF-8", "01-02-1950", ">= 18265", "2 January 1950, because dates on this system are mm-dd-yyyy"},
-        {"de_DE.UTF-8", "31-02-1950", "", "write dd-mm-yyyy or yyyy-mm-dd"},
+        {"de_DE.UTF-8", "31-02-1950", "", "schreiben Sie dd-mm-yyyy oder yyyy-mm-dd"},
         {"en_US.UTF-8", "31-02-1950", "", "write mm-dd-yyyy or yyyy-mm-dd"},
-        {"de_DE.UTF-8", "0099-01-01", "", "before the year 100"},
+        {"de_DE.UTF-8", "0099-01-01", "", "vor dem Jahr 100"},
         {"de_DE.UTF-8", "0100-01-01", ">= -657434", ""},
     };
     for (const auto &row : rows) {
@@ -356,7 +357,8 @@ TEST_F(CommandLine, TellsErrorsInTheHostsLanguageAndTheirTechnicalWordingWhereAs
         {{"report", "--output", file, "--verbose"},
          1,
          sentence,
-         file + ": PlaceNotWritable (PDF, No such file or directory) [run-time error 57, platform/storage/"},
+         file +
+             ": PlaceNotWritable (PDF, No such file or directory) [run-time error 57, platform/print/outputfile.cpp:"},
         {{"list", "--dates", "birth", "--from", "morgen"}, 2, "kalvenor: --from: „morgen“ ist kein Datum; ", {}},
         {{"mark", "--counter", "2147483647"}, 1, "Eine Person mit dem Counter 2147483647 gibt es nicht; ", {}},
     };
@@ -402,7 +404,7 @@ TEST_F(CommandLine, SaysInOneLineWhyNoWindowCanBeOpened)
     const struct {
         QProcessEnvironment environment;
         QString named;
-    } rows[] = {{bare, "--help"}, {unusable, "no window can be opened"}, {offscreen, "ADD-IN-LANGUAGE.MDB"}};
+    } rows[] = {{bare, "--help"}, {unusable, "No window can be opened"}, {offscreen, "ADD-IN-LANGUAGE.MDB"}};
     for (const auto &row : rows) {
         const Outcome outcome = run({"--program", empty.path() + "/QV/Kalvenor"}, row.environment);
         EXPECT_EQ(outcome.exitCode, 1) << row.named.toStdString();

@@ -140,7 +140,7 @@ TEST_F(Templates, NothingUnsavedIsLostWithoutAQuestion)
     desktop.fileAnswers = {file("neu.kvl")};
     window->close();
     EXPECT_FALSE(window->isVisible());
-    EXPECT_EQ(selection::readVorlage(file("neu.kvl")).statistik.titel, "Neu");
+    EXPECT_EQ(selection::readVorlage(basic::NativePath(file("neu.kvl"))).statistik.titel, "Neu");
 }
 
 TEST_F(Templates, TheDefaultOneLeavesTheMarks)

@@ -248,9 +248,11 @@ TEST_F(BerichtTest, HintComesOnceAndFailuresRestoreThePointer)
 
 TEST_F(BerichtTest, HtmlHasItsNamesTagsAndLinks)
 {
-    EXPECT_EQ(exportName("C:\\a.b\\Liste.v1.htm", "X", "T", ".html"), "C:\\a.b\\Liste.v1-XT.html");
-    EXPECT_EQ(exportName("C:\\a\\r.rtf", "/..", "\\..\\.\\X\n", ".jpg"), "C:\\a\\r-X.jpg") << "no other folder";
-    EXPECT_EQ(chartTag("C:\\a\\b.JPG"), R"(<img src="./b.JPG" Border=0 Alt="">)");
+    using basic::WindowsPath;
+    EXPECT_EQ(exportName(WindowsPath("C:\\a.b\\Liste.v1.htm"), "X", "T", ".html").text(), "C:\\a.b\\Liste.v1-XT.html");
+    EXPECT_EQ(exportName(WindowsPath("C:\\a\\r.rtf"), "/..", "\\..\\.\\X\n", ".jpg").text(), "C:\\a\\r-X.jpg")
+        << "no other folder";
+    EXPECT_EQ(chartTag(WindowsPath("C:\\a\\b.JPG")), R"(<img src="./b.JPG" Border=0 Alt="">)");
     EXPECT_EQ(personLink("1-D.html", "p.JPG", "Text"), R"(<a href=./1-D.html><img src="./p.JPG" Border=0 Alt="Text">)");
 
     write(pages.filePath("1-D.html"), "page");
@@ -264,7 +266,7 @@ TEST_F(BerichtTest, HtmlHasItsNamesTagsAndLinks)
         (QStringList{"1-D.JPG", "1-D.bmp", "1-D.html", "Liste-Altersstatistik.JPG", "Liste-Altersstatistik.html"}));
     EXPECT_EQ(read(pages.filePath("1-D.bmp")), hostPicture);
     const QString html = QString::fromUtf8(read(page));
-    EXPECT_TRUE(html.contains(chartTag("Liste-Altersstatistik.JPG")));
+    EXPECT_TRUE(html.contains(chartTag(WindowsPath("Liste-Altersstatistik.JPG"))));
     EXPECT_TRUE(
         html.contains("<td>" + personLink("1-D.html", "1-D.JPG", text(Text::ToPersonsPage)) + "Hans Adler</td>"));
     EXPECT_TRUE(html.contains("<td>Bär<i>, Eva</td><td>Eva Bär<i></td>")) << "brackets of names come back, too";

@@ -166,7 +166,7 @@ TEST_F(VorlageFile, RefusalsNameTheLineAndWhatIsWrong)
     ASSERT_TRUE(QFile::remove(file));
     EXPECT_TRUE(refusal().contains("TemplateMissing"));
     file = basic::NativePath(folder.path());
-    EXPECT_TRUE(refusal().contains("folder"));
+    EXPECT_TRUE(refusal().contains("WordIsFolder"));
 }
 
 TEST_F(VorlageFile, KeepsEveryDatabasePath)

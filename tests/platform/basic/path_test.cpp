@@ -21,7 +21,7 @@ protected:
         ASSERT_TRUE(QDir(root()).mkpath(u"Daten/QV"_s));
         for (const char *name : {"Daten/Familie.MDB", "Daten/b.txt", "Daten/A.TXT", "Daten/.geheim", "Daten/[x].txt",
                                  "Daten/QV/x", "daten", "Daten/w?r*.kvl"}) {
-            test::writeFile(root() + u'/' + QString::fromLatin1(name));
+            kalvenor::test::writeFile(root() + u'/' + QString::fromLatin1(name));
         }
     }
     QString root() const { return m_folder.path(); }

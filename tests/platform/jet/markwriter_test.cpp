@@ -328,12 +328,13 @@ TEST_F(MarkWriterTest, WaitsForWhoeverHasLockedThePage)
         EXPECT_EQ(readAll(m_file), before);
     };
     { // as the engine does it: 256 bytes and its user's number
-        storage::File engine = storage::File::open(lockFile, storage::File::Mode::ReadWrite, nullptr);
+        storage::File engine =
+            storage::File::open(basic::NativePath(lockFile), storage::File::Mode::ReadWrite, nullptr);
         ASSERT_EQ(engine.lock(0x20000001 + page * 0x200, 256 + 7), storage::File::Lock::Taken);
         expectLocked();
     }
     ASSERT_TRUE(QFile::remove(lockFile));
-    storage::File other = storage::File::open(m_file, storage::File::Mode::ReadWrite, nullptr);
+    storage::File other = storage::File::open(basic::NativePath(m_file), storage::File::Mode::ReadWrite, nullptr);
     PageLocks locks(other, m_file);
     {
         const PageLock lock(locks, page);

@@ -30,8 +30,8 @@ QByteArray wide(QStringView text)
 
 class Profile : public testing::Test {
 protected:
-    void put(const QByteArray &content) const { test::writeFile(m_file, content); }
-    QByteArray get() const { return test::contentOf(m_file); }
+    void put(const QByteArray &content) const { kalvenor::test::writeFile(m_file, content); }
+    QByteArray get() const { return kalvenor::test::contentOf(m_file); }
     QByteArray read(const QByteArray &section, const QByteArray &key, const QByteArray &fallback = "dflt",
                     int size = 256) const
     {
