@@ -134,7 +134,15 @@ TEST(FirstRun, TheFolderUsedLastCountsWhileItsHostIsThere)
     app::rememberFolder(ownFolder, bin);
     EXPECT_EQ(app::startFolder(bin), ownFolder);
     const Installation another;
+    app::rememberFolder(another.hostFolder() + "/Kalvenor", bin);
+    app::rememberFolder(ownFolder, bin);
+    EXPECT_EQ(app::recentFolders(), (QStringList{ownFolder, another.hostFolder() + "/Kalvenor"}));
+    Meeting welcome("Zuletzt_1");
+    const auto program = welcome.start(basic::windowsPath(bin + "/Kalvenor"));
+    ASSERT_NE(program, nullptr);
+    EXPECT_EQ(program->host.programFolder(), another.programFolder());
     EXPECT_EQ(app::startFolder(another.hostFolder() + "/Kalvenor"), another.hostFolder() + "/Kalvenor");
     ASSERT_TRUE(QDir(own.hostFolder()).removeRecursively());
     EXPECT_EQ(app::startFolder(bin), bin);
+    EXPECT_EQ(app::recentFolders().size(), 1);
 }

@@ -1,9 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "demo/host/sidedatabases.h"
+#include "selection/filter/filterpanel.h"
+#include "statistics/panel/statisticspanel.h"
 #include "support/openwindow.h"
+#include <map>
+#include <QAction>
 #include <QApplication>
 #include <QLineEdit>
+#include <QMenuBar>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QTabWidget>
+#include <QToolButton>
 
 using namespace kalvenor;
 using namespace kalvenor::test;
@@ -31,17 +39,6 @@ void tabTo(const std::string &name, const QString &typed = {})
     QTest::keyClicks(QApplication::focusWidget(), typed);
 }
 
-/// The window with the program's own texts in one of their languages.
-struct Translated : OpenWindow {
-    explicit Translated(const char *language)
-        : OpenWindow(smallFamily(), [language](OpenWindow &open) {
-              demo::writeLanguageDatabase(open.hostFolder() + "/ADD-IN-LANGUAGE.MDB");
-              open.program.host.inischreiben(open.settings(), "Ansicht", "Sprache", language);
-          })
-    {
-    }
-};
-
 } // namespace
 
 TEST(Keyboard, MnemonicsOfBothLanguages)
@@ -49,15 +46,14 @@ TEST(Keyboard, MnemonicsOfBothLanguages)
     const struct {
         const char *language, *focus;
         int key, shown;
-    } rows[] = {{"Deutsch", "Presse", Qt::Key_N, 7},
-                {"English", "Presse", Qt::Key_N, 7},
-                {"Deutsch", "Presse_Datum_1", Qt::Key_I, 7},
+    } rows[] = {{"Deutsch", "Presse_Datum_1", Qt::Key_I, 7},
                 {"English", "Presse_Datum_1", Qt::Key_T, 7},
                 {"Deutsch", "Geschlechtfilter_1", Qt::Key_F, 3},
                 {"English", "Geschlechtfilter_1", Qt::Key_W, 3}};
     for (const auto &row : rows) {
         SCOPED_TRACE(std::string(row.language) + " " + row.focus);
-        Translated open(row.language);
+        TranslatedWindow open(row.language);
+        press(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier); // unfolds the filter
         press(row.key, Qt::AltModifier);
         EXPECT_EQ(focused(), row.focus);
         const auto &model = open.window->controller().model(PersonList::Unmarked);
@@ -106,6 +102,7 @@ TEST(Keyboard, Filters)
     };
     press(Qt::Key_F, Qt::ControlModifier);
     ASSERT_EQ(focused(), "Presse");
+    tabTo("Mehrfilter", " ");
     tabTo("Presse", "a");
     press(Qt::Key_Return);
     EXPECT_EQ(open.shown(PersonList::Unmarked), (Counters{1, 2, 3, 4, 6}));
@@ -122,7 +119,7 @@ TEST(Keyboard, Filters)
     tabTo("Filteraufheben", " ");
     EXPECT_EQ(open.shown(PersonList::Unmarked).size(), 7U);
     tabTo("Filterliste_0");
-    press(Qt::Key_Right);
+    press(Qt::Key_Down);
     EXPECT_EQ(focused(), "Filterliste_1");
     press(Qt::Key_F, Qt::ControlModifier);
     tabTo("Presse", "x");
@@ -130,19 +127,104 @@ TEST(Keyboard, Filters)
     EXPECT_TRUE(open.controller().isFiltered(PersonList::Marked));
 }
 
-TEST(Keyboard, TabGoesInReadingOrder)
+TEST(Keyboard, TabPassesEachControlOnceBothWays)
 {
-    OpenWindow open(smallFamily());
-    const QStringList wanted =
-        QString("Ladepersonenliste_0 liste_0 RM RMA RM2 RM2A quellenpincl_0 quellenpincl_1 Ladepersonenliste_1 liste_1 "
-                "Presse Filtern Filteraufheben Geschlechtfilter_0 Geschlechtfilter_1 Datumfilter_0 Datumfilter_1 "
-                "Datumfilter_2 Presse_Datum_0 Presse_Datum_1 Filterliste_0")
-            .split(' ');
-    QStringList found;
-    QWidget *first = &open.control<QWidget>(wanted.front());
-    for (QWidget *widget = first; found.isEmpty() || widget != first; widget = widget->nextInFocusChain()) {
-        if (wanted.contains(widget->objectName()))
-            found << widget->objectName();
+    for (const bool unfolded : {false, true}) {
+        OpenWindow open(smallFamily());
+        open.controller().moveAll(PersonList::Unmarked);
+        open.controller().move(PersonList::Marked, {1, 2}, {});
+        open.window->selectionPanel().filterPanel().setUnfolded(unfolded);
+        for (int tab = 0; tab < 3; ++tab) {
+            SCOPED_TRACE(tab);
+            open.window->statisticsPanel().tabs().setCurrentIndex(tab);
+            open.view(PersonList::Unmarked).selectAll();
+            open.view(PersonList::Marked).selectAll();
+            open.control<QWidget>("Presse").setFocus();
+            const auto walk = [](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+                QList<QWidget *> passed;
+                for (int i = 0; i < 100 && !passed.contains(QApplication::focusWidget()); ++i) {
+                    passed << QApplication::focusWidget();
+                    press(key, modifiers);
+                }
+                return passed;
+            };
+            QList<QWidget *> there = walk(Qt::Key_Tab, {});
+            EXPECT_EQ(focused(), "Presse") << "the round ends where it began";
+            QList<QWidget *> back = walk(Qt::Key_Backtab, Qt::ShiftModifier);
+            EXPECT_EQ(focused(), "Presse");
+            std::reverse(back.begin() + 1, back.end());
+            QStringList names;
+            for (const QWidget *widget : there)
+                names << widget->objectName();
+            EXPECT_TRUE(there == back) << names.join(' ').toStdString();
+
+            const QString fields = unfolded ? "Geschlechtfilter_0 Geschlechtfilter_1 Datumfilter_0 Datumfilter_1 "
+                                              "Datumfilter_2 Presse_Datum_0 Presse_Datum_1 Filterliste_0 Filtern "
+                                              "Filteraufheben "
+                                            : "";
+            const QString wanted = "Presse Mehrfilter " + fields +
+                                   "Ladepersonenliste_0 liste_0 RM RMA RM2 RM2A Ladepersonenliste_1 liste_1 "
+                                   "quellenpincl_0 quellenpincl_1 Statistiktitel";
+            EXPECT_TRUE(names.join(' ').startsWith(wanted)) << names.join(' ').toStdString();
+
+            // Nobody who can be reached by Tab alone is left out.
+            for (QWidget *widget : open.window->findChildren<QWidget *>()) {
+                const bool reachable = widget->isVisible() && widget->isEnabled() &&
+                                       (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr;
+                const auto *radio = qobject_cast<QRadioButton *>(widget);
+                if (reachable && (radio == nullptr || radio->isChecked())) {
+                    EXPECT_TRUE(there.contains(widget))
+                        << widget->objectName().toStdString() << ' ' << widget->metaObject()->className();
+                }
+            }
+        }
     }
-    EXPECT_EQ(found.join(' ').toStdString(), wanted.join(' ').toStdString());
+}
+
+TEST(Keyboard, AccessKeysAreUnique)
+{
+    static const QRegularExpression key("&([^& ])");
+    const auto keyOf = [](const QString &text) {
+        return key.match(text).captured(1).toLower();
+    };
+    for (const char *language : {"Deutsch", "English"}) {
+        TranslatedWindow open(language);
+        open.window->selectionPanel().filterPanel().setUnfolded(true);
+        const auto checkUnique = [&](const QStringList &captions, const char *where, bool allHave) {
+            std::map<QString, QString> taken;
+            for (const QString &caption : captions) {
+                const QString found = keyOf(caption);
+                if (!found.isEmpty()) {
+                    EXPECT_TRUE(taken.insert({found, caption}).second)
+                        << language << ", " << where << ": " << caption.toStdString() << " and "
+                        << taken[found].toStdString();
+                }
+                EXPECT_TRUE(!allHave || !found.isEmpty()) << caption.toStdString();
+            }
+        };
+        QStringList bar;
+        for (QAction *action : open.window->menuBar()->actions()) {
+            bar << action->text();
+            QStringList entries;
+            for (const QAction *entry : action->menu()->actions()) {
+                if (!entry->isSeparator())
+                    entries << entry->text();
+            }
+            checkUnique(entries, "menu", true);
+        }
+        for (int tab = 0; tab < 3; ++tab) {
+            open.window->statisticsPanel().tabs().setCurrentIndex(tab);
+            QStringList captions = bar;
+            for (const QAbstractButton *button : open.window->findChildren<QAbstractButton *>()) {
+                const auto *tool = qobject_cast<const QToolButton *>(button);
+                if (button->isVisible() && (tool == nullptr || tool->defaultAction() == nullptr))
+                    captions << button->text();
+            }
+            for (const QLabel *label : open.window->findChildren<QLabel *>()) {
+                if (label->isVisible() && label->buddy() != nullptr)
+                    captions << label->text();
+            }
+            checkUnique(captions, "window", false);
+        }
+    }
 }

@@ -34,7 +34,7 @@ struct Report : testing::Test, OpenWindow {
     template <typename Act>
     void whileComposing(Act act)
     {
-        QObject::connect(window->statusBar(), &QStatusBar::messageChanged, &preview(), [act](const QString &text) {
+        QObject::connect(&controller().work(), &desktop::Work::began, &preview(), [act](const QString &text) {
             if (text.startsWith(u"Die Seiten werden"_s))
                 act();
         });

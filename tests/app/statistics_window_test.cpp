@@ -23,6 +23,7 @@ namespace {
 struct MarkedFamily : OpenWindow {
     explicit MarkedFamily(const std::vector<TestPerson> &persons = smallFamily()) : OpenWindow(persons)
     {
+        showTab(StatisticsPanel::Introduction); // where nothing is computed
         controller().moveAll(PersonList::Unmarked);
     }
     StatisticsController &statistics() { return window->statisticsController(); }

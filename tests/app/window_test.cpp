@@ -111,8 +111,8 @@ TEST(Window, EndsTheDatabasesAndKeepsItsPlace)
     OpenWindow open(smallFamily());
     open.window->resize(open.window->minimumSizeHint().width(), 700);
     const QSize size = open.window->size();
-    const QList<int> sizes{300, 140, 400};
-    open.window->selectionPanel().listSplitter().setSizes(sizes);
+    QCoreApplication::processEvents();
+    open.window->selectionPanel().setListSizes({300, 30, 400});
     const QList<int> laidOut = open.window->selectionPanel().listSplitter().sizes();
     const auto family = open.program.databases.Familiendatenbank;
     EXPECT_TRUE(open.window->close());

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/window/auswahl.h"
+#include "demo/host/sidedatabases.h"
 #include "selection/panel/personlistpanel.h"
 #include "selection/panel/selectionpanel.h"
 #include "support/startedprogram.h"
@@ -79,11 +80,24 @@ struct OpenWindow : Installation {
         view(list).selectionModel()->setCurrentIndex(selection.first().topLeft(), QItemSelectionModel::NoUpdate);
         view(list).selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
     }
-    QString statusText() { return window->statusBar()->currentMessage(); }
+    QString statusText() { return control<QLabel>("Meldungszeile").text(); }
 
     FakeDesktop desktop;
     app::Program program{programFolder(), desktop};
     std::unique_ptr<app::Auswahl> window;
+};
+
+inline std::vector<TestPerson> smallFamily();
+
+/// The window with the program's own texts in one of their languages.
+struct TranslatedWindow : OpenWindow {
+    explicit TranslatedWindow(const char *language)
+        : OpenWindow(smallFamily(), [language](OpenWindow &open) {
+              demo::writeLanguageDatabase(open.hostFolder() + u"/ADD-IN-LANGUAGE.MDB"_s);
+              open.program.host.inischreiben(open.settings(), u"Ansicht"_s, u"Sprache"_s, QLatin1String(language));
+          })
+    {
+    }
 };
 
 inline void markElsewhere(const OpenWindow &open, const QString &statement)

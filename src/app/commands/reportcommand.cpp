@@ -34,7 +34,9 @@ int runReport(const basic::WindowsPath &programFolder, const ReportCommand &comm
     const statistics::Grafikzahlen figures =
         statistics::grafikermitteln(program.databases, statistik, terminal.progress());
     chart::ChartLook look = statistics::grafiklook(program.language, program.host, statistik);
-    look.emptyText = program.language.text(statistics::leerGrund(figures.zahlen));
+    const language::Text reason = statistics::leerGrund(figures.zahlen);
+    look.emptyText = program.language.text( // what to do next does not belong on paper
+        reason == language::Text::MarkPersonsFirst ? language::Text::NobodyMarked : reason);
 
     print::PrintControl print;
     report::Bericht bericht(program, print);

@@ -13,6 +13,8 @@ namespace kalvenor::app {
 namespace {
 
 const QString FolderKey = u"Programmordner"_s;
+const QString RecentKey = u"ZuletztBenutzt"_s;
+constexpr qsizetype RecentKept = 4;
 
 QSettings userSettings()
 {
@@ -36,8 +38,19 @@ QString startFolder(const QString &executableFolder)
     return !last.isEmpty() && hasHost(last) ? last : executableFolder;
 }
 
+QStringList recentFolders()
+{
+    QStringList folders = userSettings().value(RecentKey).toStringList();
+    folders.removeIf([](const QString &folder) { return !hasHost(folder); });
+    return folders;
+}
+
 void rememberFolder(const QString &programFolder, const QString &executableFolder)
 {
+    QStringList folders = recentFolders();
+    folders.removeAll(programFolder);
+    folders.prepend(programFolder);
+    userSettings().setValue(RecentKey, folders.mid(0, RecentKept));
     if (programFolder != executableFolder && startFolder(executableFolder) != programFolder)
         userSettings().setValue(FolderKey, programFolder);
 }

@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
-// The program folder that was used last, kept in the user's own settings (Kalvenor/Kalvenor.ini, its one key), for a
+// The program folders that were used last, kept in the user's own settings (Kalvenor/Kalvenor.ini), for a
 // program that is installed away from its host. All paths are native.
 namespace kalvenor::app {
 
@@ -14,7 +14,9 @@ bool hasHost(const QString &programFolder);
 /// The folder to start with where none is named: the executable's, or, where no host lies above that, the one used
 /// last if its host is still there.
 QString startFolder(const QString &executableFolder);
-/// Keeps the folder for the next start; one that startFolder() finds anyway is not kept.
+/// The folders used last, the latest first, whose hosts are still there.
+QStringList recentFolders();
+/// Keeps the folder as the latest, and for the next start unless startFolder() finds it anyway.
 void rememberFolder(const QString &programFolder, const QString &executableFolder);
 
 } // namespace kalvenor::app

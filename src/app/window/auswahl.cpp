@@ -4,6 +4,7 @@
 
 #include "app/window/helpwindow.h"
 #include "app/window/mainactions.h"
+#include "app/window/shortcutwindow.h"
 #include "app/window/windowstate.h"
 #include "language/about/infoform.h"
 #include "language/forms/widgetform.h"
@@ -18,10 +19,10 @@
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMenu>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTimer>
 #include <QToolBar>
 #include <QUrl>
@@ -37,7 +38,9 @@ using selection::PersonList;
 namespace {
 
 constexpr int SayMs = 8000;
-constexpr int SayUntilNext = 0;
+constexpr QSize FirstSize(1280, 760);
+constexpr int ListsShare = 52; ///< per cent of the width
+constexpr int StackedShare = 42;
 const QString ListsKey = u"Listen"_s;
 const QString PanelsKey = u"Teiler"_s;
 
@@ -50,7 +53,8 @@ Auswahl::Auswahl(data::Session &session, QWidget *parent)
       m_templates(session, m_work, m_controller, *m_statisticsPanel, this),
       m_family(session, m_work, m_templates, this),
       m_report(session, m_work, m_controller, *m_selection, m_statistics, *m_statisticsPanel),
-      m_splitter(new QSplitter(this)), m_actions(std::make_unique<MainActions>(*this)), m_panels(*statusBar(), m_work)
+      m_splitter(new QSplitter(this)), m_actions(std::make_unique<MainActions>(*this)),
+      m_message(new MessageLine(*m_actions->undo, this)), m_panels(*statusBar(), *m_message, m_work)
 {
     setObjectName(u"Auswahl"_s);
     language::setDesignText(this, Text::AgeStatistic);
@@ -61,6 +65,7 @@ Auswahl::Auswahl(data::Session &session, QWidget *parent)
     m_splitter->addWidget(m_statisticsPanel);
     m_splitter->setStretchFactor(0, 1);
     m_splitter->setStretchFactor(1, 1);
+    m_statisticsPanel->tabs().setCurrentIndex(statistics::StatisticsPanel::Chart);
     setCentralWidget(m_splitter);
     connectActions();
     language::formuebersetzen(*this, session.language, session.host);
@@ -70,9 +75,10 @@ Auswahl::Auswahl(data::Session &session, QWidget *parent)
 
     m_controller.reloadLists();
     m_selection->listPanel(PersonList::Unmarked).view().setFocus();
-    resize(1240, 720);
+    resize(FirstSize);
     restoreWindow(*this, session.host);
-    restoreSplitter(m_selection->listSplitter(), ListsKey, session.host);
+    giveFirstSizes();
+    m_selection->setListSizes(keptSizes(ListsKey, m_selection->listSplitter().count(), session.host));
     restoreSplitter(*m_splitter, PanelsKey, session.host);
 }
 
@@ -80,6 +86,16 @@ Auswahl::~Auswahl()
 {
     if (m_session.host.Hauptform == this)
         m_session.host.Hauptform = nullptr;
+}
+
+/// The lists get the room of usual names as far as they stand side by side in half of the window; else they stand one
+/// above the other in less.
+void Auswahl::giveFirstSizes()
+{
+    const int half = width() * ListsShare / 100;
+    const int wanted = std::min(m_selection->sizeHint().width(), half);
+    const int lists = half >= m_selection->leastWidthSideBySide() ? wanted : width() * StackedShare / 100;
+    m_splitter->setSizes({lists, width() - lists});
 }
 
 void Auswahl::connectActions()
@@ -99,33 +115,30 @@ void Auswahl::connectActions()
     on(actions.markAll, [this] { m_selection->moveAll(PersonList::Unmarked); });
     on(actions.unmarkAll, [this] { m_selection->moveAll(PersonList::Marked); });
     on(actions.reload, [this] { m_controller.reloadLists(); });
-    on(actions.find, [this] {
-        m_actions->showFilter->setChecked(true);
-        m_selection->filterPanel().focusName();
+    on(actions.find, [this] { m_selection->filterPanel().focusName(); });
+    on(actions.shortcuts, [this] {
+        ShortcutWindow keys(m_session, *this);
+        m_session.host.desktop().runDialog(keys);
     });
-    on(actions.shortcuts, [this] { showShortcuts(); });
     connect(actions.showTools, &QAction::toggled, actions.tools, &QWidget::setVisible);
     connect(actions.showStatus, &QAction::toggled, statusBar(), &QWidget::setVisible);
-    connect(actions.showFilter, &QAction::toggled, &m_selection->filterPanel(), &QWidget::setVisible);
+    selection::FilterPanel &filter = m_selection->filterPanel();
+    connect(actions.showFilter, &QAction::toggled, &filter, &selection::FilterPanel::setUnfolded);
+    connect(&filter, &selection::FilterPanel::unfolded, actions.showFilter, &QAction::setChecked);
     for (QAction *action : {actions.copy, actions.selectAll, actions.mark, actions.unmark})
         m_selection->addListAction(action);
 
-    const auto progress = [this](const QString &what) {
-        m_progressText = what;
-        say(what, SayUntilNext);
-    };
-    connect(&m_work, &desktop::Work::began, this, progress);
-    connect(&m_work, &desktop::Work::announced, this, progress);
+    connect(&m_work, &desktop::Work::began, m_message, &MessageLine::sayRunning);
+    connect(&m_work, &desktop::Work::announced, m_message, &MessageLine::sayRunning);
     connect(&m_work, &desktop::Work::ended, this, [this] {
-        if (statusBar()->currentMessage() == m_progressText)
-            statusBar()->clearMessage();
+        m_message->sayRunning({});
         if (m_closing)
             QTimer::singleShot(0, this, &QWidget::close);
     });
-    connect(&m_controller, &SelectionController::said, this, [this](const QString &what) { say(what, SayMs); });
-    connect(m_selection, &selection::SelectionPanel::said, this, [this](const QString &what) { say(what, SayMs); });
-    connect(&m_controller, &SelectionController::filterRefused, this,
-            [this](const QString &why) { say(why, SayUntilNext); });
+    connect(&m_controller, &SelectionController::said, this, &Auswahl::say);
+    connect(&m_controller, &SelectionController::moved, this,
+            [this](const QString &what) { m_message->say(what, SayMs, true); });
+    connect(m_selection, &selection::SelectionPanel::said, this, &Auswahl::say);
     connect(&m_controller, &SelectionController::changed, this, &Auswahl::updateState);
     connect(m_selection, &selection::SelectionPanel::selectionChanged, this, &Auswahl::updateState);
     connectStatistic();
@@ -158,21 +171,18 @@ void Auswahl::connectStatistic()
     });
     connect(actions.recent, &QMenu::aboutToShow, this, &Auswahl::fillRecent);
 
-    const auto saySome = [this](const QString &what) {
-        say(what, SayMs);
-    };
     connect(&m_controller, &SelectionController::personsChanged, m_statisticsPanel, &StatisticsPanel::personsChanged);
-    connect(m_statisticsPanel, &StatisticsPanel::said, this, saySome);
+    connect(m_statisticsPanel, &StatisticsPanel::said, this, &Auswahl::say);
     connect(m_statisticsPanel, &StatisticsPanel::personWanted, this, &Auswahl::showMarkedPerson);
     connect(m_statisticsPanel, &StatisticsPanel::unmarkWanted, this,
             [this](const std::vector<qint32> &counters) { m_controller.move(PersonList::Marked, counters, {}); });
     connect(m_statisticsPanel, &StatisticsPanel::personsWanted, this,
             [this] { m_selection->listPanel(PersonList::Unmarked).view().setFocus(); });
     connect(m_statisticsPanel, &StatisticsPanel::edited, this, &Auswahl::updateTitle);
-    connect(&m_report, &ReportDesk::said, this, saySome);
-    connect(&m_templates, &TemplateDesk::said, this, saySome);
+    connect(&m_report, &ReportDesk::said, this, &Auswahl::say);
+    connect(&m_templates, &TemplateDesk::said, this, &Auswahl::say);
     connect(&m_templates, &TemplateDesk::currentChanged, this, &Auswahl::updateTitle);
-    connect(&m_family, &FamilyDesk::said, this, saySome);
+    connect(&m_family, &FamilyDesk::said, this, &Auswahl::say);
 }
 
 /// Which template is current, and whether title or introduction still want saving.
@@ -265,9 +275,9 @@ void Auswahl::showMarkedPerson(qint32 counter)
     }
 }
 
-void Auswahl::say(const QString &what, int milliseconds)
+void Auswahl::say(const QString &what)
 {
-    statusBar()->showMessage(what, milliseconds);
+    m_message->say(what, SayMs);
 }
 
 void Auswahl::updateState()
@@ -276,31 +286,30 @@ void Auswahl::updateState()
     const auto count = [this](PersonList list) {
         return m_controller.model(list).rowCount();
     };
+    const bool writable = !m_controller.isReadOnly();
     actions.undo->setEnabled(m_controller.canUndo());
     actions.redo->setEnabled(m_controller.canRedo());
-    actions.mark->setEnabled(m_selection->hasSelection(PersonList::Unmarked));
-    actions.unmark->setEnabled(m_selection->hasSelection(PersonList::Marked));
-    actions.markAll->setEnabled(count(PersonList::Unmarked) > 0);
-    actions.unmarkAll->setEnabled(count(PersonList::Marked) > 0);
+    actions.mark->setEnabled(writable && m_selection->hasSelection(PersonList::Unmarked));
+    actions.unmark->setEnabled(writable && m_selection->hasSelection(PersonList::Marked));
+    actions.markAll->setEnabled(writable && count(PersonList::Unmarked) > 0);
+    actions.unmarkAll->setEnabled(writable && count(PersonList::Marked) > 0);
+    updateReportActions();
     m_panels.update(m_session, m_controller);
 }
 
-void Auswahl::showShortcuts()
+/// A report on nobody would be empty.
+void Auswahl::updateReportActions()
 {
-    QString rows;
-    for (const QAction *action : m_actions->all) {
-        if (action->shortcut().isEmpty())
-            continue;
-        rows += u"<tr><td>%1&nbsp;&nbsp;&nbsp;</td><td>%2</td></tr>"_s.arg(
-            action->shortcut().toString(QKeySequence::NativeText).toHtmlEscaped(),
-            QString(action->text()).remove(u'&').toHtmlEscaped());
+    const MainActions &actions = *m_actions;
+    const bool anybody = m_controller.markedCount() > 0;
+    const std::array<std::pair<QAction *, Text>, 3> reports{{{actions.preview, Text::ToolPreviewTip},
+                                                             {actions.print, Text::ToolPrintTip},
+                                                             {actions.exportFile, Text::ToolExportTip}}};
+    for (const auto &[action, tip] : reports) {
+        action->setEnabled(anybody);
+        if (m_session.host.Kurzhilfe == 1)
+            action->setToolTip(m_session.language.text(anybody ? tip : Text::MarkPersonsFirst));
     }
-    QMessageBox box(
-        QMessageBox::NoIcon, m_session.language.text(Text::Shortcuts),
-        u"<table>%1</table><p>%2</p>"_s.arg(rows, m_session.language.text(Text::MovingHelp).toHtmlEscaped()),
-        QMessageBox::Ok, this);
-    box.setTextFormat(Qt::RichText);
-    m_session.host.desktop().runDialog(box);
 }
 
 void Auswahl::showEvent(QShowEvent *event)
@@ -310,6 +319,21 @@ void Auswahl::showEvent(QShowEvent *event)
         m_shown = true;
         m_session.host.fensteroben(windowHandle(), -1, true);
     }
+}
+
+void Auswahl::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    fitTools();
+}
+
+/// The tool bar does without its captions where they do not fit.
+void Auswahl::fitTools()
+{
+    QToolBar &tools = *m_actions->tools;
+    tools.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    if (tools.sizeHint().width() > width())
+        tools.setToolButtonStyle(Qt::ToolButtonIconOnly);
 }
 
 void Auswahl::changeEvent(QEvent *event)

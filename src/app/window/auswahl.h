@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/window/familydesk.h"
+#include "app/window/messageline.h"
 #include "app/window/reportdesk.h"
 #include "app/window/statuspanels.h"
 #include "app/window/templatedesk.h"
@@ -57,14 +58,17 @@ protected:
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
 private:
     void connectActions();
     void updateState();
-    void say(const QString &text, int milliseconds);
-    void showShortcuts();
+    void updateReportActions();
+    void say(const QString &text);
+    void fitTools();
+    void giveFirstSizes();
     void showMarkedPerson(qint32 counter);
     void connectStatistic();
     void fillRecent();
@@ -81,9 +85,9 @@ private:
     ReportDesk m_report;
     QSplitter *m_splitter;
     std::unique_ptr<MainActions> m_actions;
+    MessageLine *m_message;
     StatusPanels m_panels;
     std::unique_ptr<HelpWindow> m_help; ///< from the first call on
-    QString m_progressText;             ///< in the status bar while work runs
     bool m_closing = false;             ///< as soon as the running work has ended
     bool m_closed = false;
     bool m_shown = false;

@@ -31,6 +31,7 @@ namespace {
 
 constexpr int PictureSide = 48;
 constexpr int TextWidth = 460;
+constexpr qreal HeadingScale = 1.5;
 const QString OwnFolder = u"/Kalvenor"_s;
 
 /// A path may be broken behind each folder, so that it fits the dialog.
@@ -63,9 +64,7 @@ StartProblem startProblem(Program &program, const std::optional<basic::Error> &e
 {
     const host::Host &host = program.host;
     if (!hasHost(host.native(host.programFolder())))
-        return {.text = program.language.text(Text::NoHostFound),
-                .details = program.language.text(Text::NoHostInFolder).arg(host.native(host.Hostverzeichnis)),
-                .noHost = true};
+        return {.noHost = true};
     const basic::WindowsPath &family = host.Familienpfad;
     const QString settings = host.native(host.hostSettingsFile());
     if (error) {
@@ -97,30 +96,82 @@ FirstRun::FirstRun(Program &program, const StartProblem &problem, QWidget *paren
     showProblem(problem.text, problem.details);
 }
 
+QLayout *FirstRun::makeWelcome()
+{
+    auto *heading = makeLabel("Willkommen", this);
+    QFont large = heading->font();
+    large.setPointSizeF(large.pointSizeF() * HeadingScale);
+    large.setBold(true);
+    heading->setFont(large);
+    language::setDesignText(heading, Text::WelcomeHeading);
+    auto *what = makeLabel("Worum", this);
+    language::setDesignText(what, Text::WelcomeText);
+    auto *safe = makeLabel("Unveraendert", this);
+    language::setDesignText(safe, Text::WelcomeSafe);
+    auto *column = new QVBoxLayout;
+    column->addWidget(heading);
+    column->addWidget(what);
+    column->addWidget(safe);
+    return column;
+}
+
+QPushButton *FirstRun::addWay(const char *name, const QString &description)
+{
+    auto *button = new QCommandLinkButton(this);
+    button->setObjectName(QLatin1String(name));
+    button->setDescription(description);
+    button->setMinimumHeight(button->sizeHint().height()); // its own minimum leaves the description out
+    m_ways->addWidget(button);
+    return button;
+}
+
+/// The hosts used last, none that could not be used now.
+void FirstRun::addRecentHosts(const StartProblem &problem)
+{
+    QStringList folders = recentFolders();
+    if (!problem.noHost)
+        folders.removeAll(m_program.host.native(m_program.host.programFolder()));
+    if (folders.isEmpty())
+        return;
+    auto *caption = new QLabel(this);
+    language::setDesignText(caption, Text::HostsUsedLast);
+    m_ways->addWidget(caption);
+    for (qsizetype i = 0; i < folders.size(); ++i) {
+        const QString folder = folders[i];
+        const QString host = QFileInfo(folder).path();
+        QPushButton *button = addWay("Zuletzt", QDir::toNativeSeparators(host));
+        button->setObjectName(u"Zuletzt_%1"_s.arg(i));
+        const QString family = QFileInfo(QFileInfo(host).path()).fileName(); // host folders are mostly called the same
+        button->setText(QString(family + QDir::separator() + QFileInfo(host).fileName()).replace(u'&', u"&&"_s));
+        connect(button, &QPushButton::clicked, this, [this, folder] { leadOn({basic::windowsPath(folder)}); });
+    }
+}
+
 void FirstRun::build(const StartProblem &problem)
 {
     auto *picture = new QLabel(this);
     picture->setPixmap(windowIcon().pixmap(QSize(PictureSide, PictureSide), devicePixelRatioF()));
     auto *column = new QVBoxLayout;
+    if (problem.noHost)
+        column->addLayout(makeWelcome());
     column->addWidget(m_problem);
     column->addWidget(m_details);
     column->addSpacing(8);
-    const auto addWay = [&](const char *name, Text caption, const QString &description, auto slot) {
-        auto *button = new QCommandLinkButton(this);
-        button->setObjectName(QLatin1String(name));
-        button->setDescription(description);
-        language::setDesignText(button, caption);
-        connect(button, &QPushButton::clicked, this, slot);
-        column->addWidget(button);
-        return button;
-    };
-    auto *family = addWay("Familiewaehlen", Text::ChooseFamily, m_program.language.text(Text::ChooseFamilyTip),
-                          &FirstRun::chooseFamily);
-    auto *host = addWay("Hostwaehlen", Text::ChooseHostFolder, m_program.language.text(Text::HostFolderTip),
-                        &FirstRun::chooseHost);
-    addWay("Beispieldaten", Text::MakeDemo, m_program.language.text(Text::MakeDemoTip), &FirstRun::makeDemonstration);
+    m_ways = new QVBoxLayout;
+    column->addLayout(m_ways);
+    addRecentHosts(problem);
+    auto *family = addWay("Familiewaehlen", m_program.language.text(Text::ChooseFamilyTip));
+    language::setDesignText(family, Text::ChooseFamily);
+    connect(family, &QPushButton::clicked, this, &FirstRun::chooseFamily);
+    auto *host = addWay("Hostwaehlen", m_program.language.text(Text::HostFolderTip));
+    language::setDesignText(host, Text::ChooseHostFolder);
+    connect(host, &QPushButton::clicked, this, &FirstRun::chooseHost);
+    auto *demo = addWay("Beispieldaten", m_program.language.text(Text::MakeDemoTip));
+    language::setDesignText(demo, Text::MakeDemo);
+    connect(demo, &QPushButton::clicked, this, &FirstRun::makeDemonstration);
     family->setVisible(problem.anotherFamilyHelps);
-    QPushButton *first = problem.anotherFamilyHelps ? family : host;
+    auto *recent = findChild<QPushButton *>(u"Zuletzt_0"_s);
+    QPushButton *first = problem.anotherFamilyHelps ? family : recent != nullptr ? recent : host;
     first->setDefault(true);
     first->setFocus();
 
@@ -148,6 +199,7 @@ void FirstRun::build(const StartProblem &problem)
 void FirstRun::showProblem(const QString &what, const QString &details)
 {
     m_problem->setText(breakable(what));
+    m_problem->setVisible(!what.isEmpty());
     m_details->setText(breakable(details));
     m_details->setVisible(!details.isEmpty() && details != what);
 }

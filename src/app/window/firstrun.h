@@ -10,6 +10,8 @@
 #include <QDialog>
 
 class QLabel;
+class QPushButton;
+class QVBoxLayout;
 
 // What a user meets where the program cannot start: what is missing or wrong, and the ways on from there.
 namespace kalvenor::app {
@@ -22,17 +24,18 @@ struct StartPlace {
 
 /// Why a start ended before there was a window.
 struct StartProblem {
-    QString text;
+    QString text = {};
     QString details = {};            ///< the technical reason, may be empty
-    bool noHost = false;             ///< nothing of a host lies above the program's folder
+    bool noHost = false;             ///< nothing of a host lies above the program's folder; no text then
     bool anotherFamilyHelps = false; ///< all else is there
 };
 
 /// `error` is what start-up threw; nothing: it found no family database.
 StartProblem startProblem(Program &program, const std::optional<basic::Error> &error);
 
-/// Says what the problem is. Each button asks for what it needs and accepts the dialog when that leads on; what goes
-/// wrong there takes the place of the problem's text.
+/// A welcome that says what the program does, or what the problem is; then the hosts used last and other ways on. Each
+/// button asks for what it needs and accepts the dialog when that leads on; what goes wrong there takes the place of
+/// the problem's text.
 class FirstRun : public QDialog {
     Q_OBJECT
 public:
@@ -47,6 +50,9 @@ public Q_SLOTS:
 
 private:
     void build(const StartProblem &problem);
+    QLayout *makeWelcome();
+    void addRecentHosts(const StartProblem &problem);
+    QPushButton *addWay(const char *name, const QString &description);
     void chooseHost();
     void chooseFamily();
     void makeDemonstration();
@@ -57,6 +63,7 @@ private:
     desktop::Work m_work;
     StartPlace m_place;
     QLabel *m_problem, *m_details;
+    QVBoxLayout *m_ways = nullptr;
 };
 
 /// Starts the program; while that fails it is told as start-up does and the user may choose another way. Nothing where

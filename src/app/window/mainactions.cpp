@@ -72,13 +72,14 @@ void MainActions::makeStatistic()
     settings = make("Druckeinstellungen", Text::MenuPrintSettings);
     quit = make("Beenden", Text::MenuQuit, Qt::CTRL | Qt::Key_Q);
     quit->setMenuRole(QAction::QuitRole);
-    giveToolButton(openTemplate, desktop::LineIcon::Open, Text::Open, Text::ToolOpenTip);
+    giveToolButton(openTemplate, desktop::LineIcon::Open, Text::OpenTemplate, Text::ToolOpenTip);
     giveToolButton(saveTemplate, desktop::LineIcon::Save, Text::ToolSave, Text::ToolSaveTip);
-    giveToolButton(reset, desktop::LineIcon::Reset, Text::ToolReset, Text::ToolResetTip);
+    reset->setIcon(desktop::lineIcon(desktop::LineIcon::Reset));
     giveToolButton(preview, desktop::LineIcon::Preview, Text::PrintPreview, Text::ToolPreviewTip);
     giveToolButton(print, desktop::LineIcon::Print, Text::ToolPrint, Text::ToolPrintTip);
     giveToolButton(settings, desktop::LineIcon::Sliders, Text::PrintSettings, Text::ToolSettingsTip);
-    giveToolButton(quit, desktop::LineIcon::Quit, Text::Quit, Text::ToolQuitTip);
+    giveToolButton(exportFile, desktop::LineIcon::Save, Text::ToolExport, Text::ToolExportTip);
+    quit->setIcon(desktop::lineIcon(desktop::LineIcon::Quit));
 
     QMenu *menu = makeMenu(Text::MenuStatistic, {openTemplate});
     recent = menu->addMenu(QString());
@@ -99,7 +100,8 @@ void MainActions::makeEdit()
     redo = make("Wiederherstellen", Text::MenuRedo, Qt::CTRL | Qt::SHIFT | Qt::Key_Z);
     copy = make("Kopieren", Text::MenuCopy, Qt::CTRL | Qt::Key_C);
     copy->setShortcutContext(Qt::WidgetShortcut); // chart, age list and text have a copying of their own
-    selectAll = make("Allesauswaehlen", Text::MenuSelectAll);
+    selectAll = make("Allesauswaehlen", Text::MenuSelectAll, Qt::CTRL | Qt::Key_A);
+    selectAll->setShortcutContext(Qt::WidgetShortcut); // entry fields select all of their own
     mark = make("Markieren", Text::MenuMarkPerson, Qt::CTRL | Qt::Key_M);
     unmark = make("Aufheben", Text::MenuUnmarkPerson, Qt::CTRL | Qt::Key_D);
     markAll = make("Allemarkieren", Text::MenuMarkAll, Qt::CTRL | Qt::SHIFT | Qt::Key_M);
@@ -124,13 +126,13 @@ void MainActions::makeView()
     ageList = make("Alterslistezeigen", Text::MenuAgeList, Qt::ALT | Qt::Key_3);
     showTools = make("Werkzeugleiste", Text::MenuToolBar);
     showStatus = make("Statusleiste", Text::MenuStatusBar);
-    showFilter = make("Filteranzeigen", Text::MenuFilter);
+    showFilter = make("Filteranzeigen", Text::MenuFilter, Qt::CTRL | Qt::SHIFT | Qt::Key_F);
     reload = make("Neuladen", Text::MenuReloadLists, Qt::Key_F5);
     for (QAction *shown : {showTools, showStatus, showFilter}) {
         shown->setCheckable(true);
-        shown->setChecked(true);
+        shown->setChecked(shown != showFilter);
     }
-    giveToolButton(reload, desktop::LineIcon::Reload, Text::ToolReload, Text::ToolReloadTip);
+    reload->setIcon(desktop::lineIcon(desktop::LineIcon::Reload));
     makeMenu(Text::MenuView,
              {introduction, chart, ageList, nullptr, showTools, showStatus, showFilter, nullptr, reload});
 }
@@ -153,13 +155,15 @@ void MainActions::makeToolBar()
     tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     tools->setContextMenuPolicy(Qt::PreventContextMenu);
     language::setDesignText(tools, Text::MenuToolBar);
-    tools->addActions({openTemplate, saveTemplate, reset});
+    tools->addActions({openTemplate, saveTemplate});
     tools->addSeparator();
-    tools->addActions({preview, print, settings});
+    tools->addActions({preview, print, exportFile, settings});
     tools->addSeparator();
-    tools->addActions({undo, redo, reload});
-    tools->addSeparator();
-    tools->addActions({manual, quit});
+    tools->addActions({undo, redo});
+    auto *gap = new QWidget(tools);
+    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    tools->addWidget(gap);
+    tools->addAction(manual);
     m_window.addToolBar(tools);
 }
 

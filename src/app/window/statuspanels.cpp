@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/statuspanels.h"
 
+#include "app/window/messageline.h"
 #include "language/forms/widgetform.h"
 #include "language/progress/progresspanel.h"
-#include "platform/jet/marks/markwriter.h"
 #include <array>
 #include <QFileInfo>
 #include <QLabel>
@@ -22,8 +22,9 @@ constexpr qsizetype DamageLinesShown = 12;
 
 } // namespace
 
-StatusPanels::StatusPanels(QStatusBar &bar, desktop::Work &work) : m_bar(bar)
+StatusPanels::StatusPanels(QStatusBar &bar, MessageLine &message, desktop::Work &work) : m_bar(bar), m_message(message)
 {
+    bar.addWidget(&message, 1);
     bar.addPermanentWidget(new language::ProgressPanel(work, &bar));
     m_database = makePanel("PanelDatenbank", Text::FamilyDatabaseTip);
     m_readOnly = makePanel("PanelNurlesen", Text::ReadOnlyTip);
@@ -33,8 +34,7 @@ StatusPanels::StatusPanels(QStatusBar &bar, desktop::Work &work) : m_bar(bar)
     m_marked = makePanel("PanelMarkiert", Text::MarkedCountTip);
     m_readOnly->hide();
     m_damage->hide();
-    QObject::connect(&bar, &QStatusBar::messageChanged, m_database,
-                     [this](const QString &message) { makeRoom(message); });
+    QObject::connect(&message, &MessageLine::changed, m_database, [this] { makeRoom(); });
 }
 
 QLabel *StatusPanels::makePanel(const char *name, Text tooltip)
@@ -48,39 +48,30 @@ QLabel *StatusPanels::makePanel(const char *name, Text tooltip)
 }
 
 /// A long message takes the room of the panels.
-void StatusPanels::makeRoom(const QString &message)
+void StatusPanels::makeRoom()
 {
     const std::array<QLabel *, 3> labels{m_database, m_persons, m_marked};
-    int room = m_bar.width() - m_bar.fontMetrics().horizontalAdvance(message) - 40;
+    int room = m_bar.width() - m_message.wantedWidth() - 40;
     for (const QLabel *label : labels)
         room -= label->sizeHint().width();
     for (QLabel *label : labels)
-        label->setVisible(message.isEmpty() || room > 0);
-    m_bar.setToolTip(message);
+        label->setVisible(m_message.text().isEmpty() || room > 0);
 }
 
 void StatusPanels::update(data::Session &session, selection::SelectionController &lists)
 {
-    using selection::PersonList;
     const dao::Database &family = *session.databases.Familiendatenbank;
     if (!family.isOpen())
         return; // while another one is being opened
     m_database->setText(QFileInfo(family.file()).fileName());
-    m_readOnly->setVisible(jet::isWriteProtected(family.file()));
+    m_readOnly->setVisible(lists.isReadOnly());
     const QStringList damage = family.warnings();
     m_damage->setVisible(!damage.isEmpty());
     m_damage->setText(session.language.text(Text::DamageCount).arg(lists.numberText(damage.size())));
     m_damage->setToolTip(damage.mid(0, DamageLinesShown).join(u'\n'));
 
-    const auto count = [&lists](PersonList list) {
-        return lists.model(list).rowCount();
-    };
-    const qint64 all = lists.personCount();
-    // A filter narrows one list at most; the other one tells how many are marked.
-    const qint64 marked =
-        lists.isFiltered(PersonList::Marked) ? all - count(PersonList::Unmarked) : count(PersonList::Marked);
-    m_persons->setText(session.language.text(Text::PersonsCount).arg(lists.numberText(all)));
-    m_marked->setText(session.language.text(Text::MarkedCount).arg(lists.numberText(marked)));
+    m_persons->setText(session.language.text(Text::PersonsCount).arg(lists.numberText(lists.personCount())));
+    m_marked->setText(session.language.text(Text::MarkedCount).arg(lists.numberText(lists.markedCount())));
 }
 
 } // namespace kalvenor::app

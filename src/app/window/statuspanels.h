@@ -10,20 +10,23 @@ class QStatusBar;
 
 namespace kalvenor::app {
 
+class MessageLine;
+
 /// The panels of the status bar: family database, whether it can be written or is damaged, persons, marked ones.
 class StatusPanels {
 public:
     /// Their texts are design-time texts.
-    StatusPanels(QStatusBar &bar, desktop::Work &work);
+    StatusPanels(QStatusBar &bar, MessageLine &message, desktop::Work &work);
 
     /// Everything anew.
     void update(data::Session &session, selection::SelectionController &lists);
 
 private:
     QLabel *makePanel(const char *name, language::Text tooltip);
-    void makeRoom(const QString &message);
+    void makeRoom();
 
     QStatusBar &m_bar;
+    MessageLine &m_message;
     QLabel *m_database, *m_readOnly, *m_damage, *m_persons, *m_marked;
 };
 

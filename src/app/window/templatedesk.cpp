@@ -56,9 +56,11 @@ bool TemplateDesk::mayDiscard()
 {
     if (!isModified())
         return true;
-    switch (m_session.host.desktop().messageBox(m_session.language.text(Text::SaveChangedTemplate),
-                                                desktop::ButtonsYesNoCancel + desktop::MessageQuestion,
-                                                m_session.language.text(Text::Question))) {
+    language::Sprachmodul &texts = m_session.language;
+    switch (m_session.host.desktop().ask({.text = texts.text(Text::SaveChangedTemplate),
+                                          .title = texts.text(Text::ToolSave),
+                                          .yes = texts.text(Text::SaveVerb),
+                                          .no = texts.text(Text::DiscardVerb)})) {
     case desktop::ResultYes:
         return save();
     case desktop::ResultNo:
@@ -94,11 +96,10 @@ bool TemplateDesk::openFile(const QString &nativeFile)
         return false;
     selection::OpenedVorlage opened;
     const selection::UseOpenDatabase useOpenDatabase = [this](const basic::WindowsPath &database) {
-        const QString question = m_session.language.text(Text::TemplateDatabaseMissing).arg(database.text());
-        return m_session.host.desktop().messageBox(question + u"\n\n"_s +
-                                                       m_session.language.text(Text::OpenWithThisDatabase) + u'?',
-                                                   desktop::ButtonsOkCancel + desktop::MessageQuestion,
-                                                   m_session.language.text(Text::OpenTemplate)) == desktop::ResultOk;
+        language::Sprachmodul &texts = m_session.language;
+        return m_session.host.desktop().ask({.text = texts.text(Text::TemplateDatabaseMissing).arg(database.text()),
+                                             .title = texts.text(Text::OpenTemplate),
+                                             .yes = texts.text(Text::OpenWithThisDatabase)}) == desktop::ResultYes;
     };
     const bool done = perform(m_session.language.text(Text::OpeningTemplate), [&](const basic::Progress &progress) {
         opened = selection::vorlageoeffnen(m_session, basic::windowsPath(nativeFile), progress, useOpenDatabase);

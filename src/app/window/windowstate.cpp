@@ -15,6 +15,8 @@ namespace kalvenor::app {
 
 namespace {
 
+/// What a window manager puts around a window, at most.
+constexpr QSize WindowFrame(16, 48);
 const QString Section = u"Fenster"_s;
 const QString Maximized = u"Maximiert"_s;
 const std::array<QString, 4> Place{u"Links"_s, u"Oben"_s, u"Breite"_s, u"Hoehe"_s};
@@ -51,12 +53,15 @@ void restoreWindow(QMainWindow &window, const host::Host &host)
         window.resize(wanted.size().boundedTo(space.size()).expandedTo(window.minimumSizeHint()));
         if (screen != nullptr)
             window.move(wanted.topLeft());
+    } else {
+        const QSize room = window.screen()->availableSize() - WindowFrame;
+        window.resize(window.size().boundedTo(room));
     }
     if (read(host, Maximized) == u"1")
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
 }
 
-void restoreSplitter(QSplitter &splitter, const QString &key, const host::Host &host)
+QList<int> keptSizes(const QString &key, qsizetype parts, const host::Host &host)
 {
     QList<int> sizes;
     const QStringList texts = read(host, key).split(u',');
@@ -64,9 +69,14 @@ void restoreSplitter(QSplitter &splitter, const QString &key, const host::Host &
         bool isNumber = false;
         sizes << text.toInt(&isNumber);
         if (!isNumber || sizes.last() < 0)
-            return;
+            return {};
     }
-    if (sizes.size() == splitter.count())
+    return sizes.size() == parts ? sizes : QList<int>();
+}
+
+void restoreSplitter(QSplitter &splitter, const QString &key, const host::Host &host)
+{
+    if (const QList<int> sizes = keptSizes(key, splitter.count(), host); !sizes.isEmpty())
         splitter.setSizes(sizes);
 }
 

@@ -351,6 +351,11 @@ void nameButton(QAbstractButton *button, Sprachmodul &texts)
     const qint16 id = textProperty(carrier, TooltipTag).toShort(&isNumber);
     if (button->text().isEmpty() && isNumber)
         button->setAccessibleName(texts.shownText(id).toString());
+    // Those that Qt makes by itself.
+    if (button->objectName() == u"qt_toolbar_ext_button")
+        button->setAccessibleName(texts.text(Text::MoreTools));
+    else if (button->actions().size() == 1 && button->actions().first()->objectName() == u"_q_qlineeditclearaction")
+        button->setAccessibleName(texts.text(Text::ClearField));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "language/progress/progresspanel.h"
 
 #include "language/forms/widgetform.h"
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QProgressBar>
 #include <QPushButton>
@@ -25,7 +26,6 @@ ProgressPanel::ProgressPanel(desktop::Work &work, QWidget *parent) : QWidget(par
     setDesignText(cancel, Text::Cancel);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred); // a status bar would draw the button out
     m_bar->setFixedWidth(160);
-    m_bar->setTextVisible(false);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_bar);
@@ -38,12 +38,27 @@ ProgressPanel::ProgressPanel(desktop::Work &work, QWidget *parent) : QWidget(par
     connect(&work, &desktop::Work::ended, this, &QWidget::hide);
 }
 
+/// The window in front, or the one that its dialogs belong to, shows how far the work is; those behind are quiet. Where
+/// another program is in front, all stays as it is.
+void ProgressPanel::showInFront()
+{
+    const QWidget *front = QApplication::activeWindow();
+    if (front == nullptr) {
+        show();
+        return;
+    }
+    while (front != window() && front->parentWidget() != nullptr)
+        front = front->parentWidget()->window();
+    setVisible(front == window());
+}
+
 void ProgressPanel::advance(qint64 done, qint64 total)
 {
     m_bar->setRange(0, total > 0 ? Steps : 0);
     if (total > 0)
         m_bar->setValue(static_cast<int>(static_cast<double>(done) / static_cast<double>(total) * Steps));
-    show();
+    m_bar->setTextVisible(total > 0); // the percentage
+    showInFront();
 }
 
 } // namespace kalvenor::language

@@ -9,7 +9,8 @@ class QProgressBar;
 
 namespace kalvenor::language {
 
-/// How far long work is, with a button to cancel it; hidden unless work takes longer than a moment.
+/// How far long work is, with a button to cancel it; hidden unless work takes longer than a moment, and where another
+/// window of the program is in front.
 class ProgressPanel : public QWidget {
     Q_OBJECT
 public:
@@ -17,6 +18,7 @@ public:
 
 private:
     void advance(qint64 done, qint64 total);
+    void showInFront();
     QProgressBar *m_bar;
 };
 

@@ -9,9 +9,10 @@ namespace {
 constexpr CatalogueText Texts[] = {
     // Buttons
     {Text::Close, u"Schließen", u"Close"},
+    {Text::SaveVerb, u"&Speichern", u"&Save"},
+    {Text::DiscardVerb, u"&Nicht speichern", u"Do&n’t save"},
     // Titles of messages
     {Text::Error, u"Fehler", u"Error"},
-    {Text::Question, u"Frage", u"Question"},
     // Messages: databases and files
     {Text::FileNotFound, u"Die Datei wurde nicht gefunden: %1", u"The file was not found: %1"},
     {Text::FileNotReadable, u"Die Datei kann nicht gelesen werden: %1", u"The file cannot be read: %1"},
@@ -43,9 +44,6 @@ constexpr CatalogueText Texts[] = {
     {Text::EventName, u"Ereignis", u"Event"},
     // First run
     {Text::Welcome, u"Willkommen", u"Welcome"},
-    {Text::NoHostFound,
-     u"Kalvenor wird aus einem Ordner unterhalb des Hauptprogramms gestartet. Hier wurde kein Hauptprogramm gefunden.",
-     u"Kalvenor is started from a folder below the main program. No main program was found here."},
     {Text::ChooseFamily, u"Familiendatenbank wählen…", u"Choose family database…"},
     {Text::MakeDemo, u"Beispieldaten anlegen…", u"Make demonstration data…"},
     {Text::FamilyMissing, u"Die Familiendatenbank %1 ist nicht vorhanden.", u"The family database %1 does not exist."},
@@ -73,6 +71,15 @@ constexpr CatalogueText Texts[] = {
      u"For this time only; the main program keeps its own"},
     {Text::MakeDemoTip, u"Ein Hauptprogramm mit einer erfundenen Familie, zum Ausprobieren",
      u"A main program with an invented family, to try things out"},
+    {Text::WelcomeText,
+     u"Wie alt sind sie geworden? Kalvenor liest die Familiendatenbank Ihres Genealogieprogramms. Sie wählen Personen "
+     u"aus; daraus entstehen eine Grafik der Lebensalter, eine Altersliste und ein Bericht zum Drucken.",
+     u"How old did they grow? Kalvenor reads the family database of your genealogy program. You choose persons; from "
+     u"them come a chart of ages at death, an age list and a report to print."},
+    {Text::WelcomeSafe, u"In der Datenbank ändert Kalvenor nur, wer markiert ist.",
+     u"In the database Kalvenor changes nothing but who is marked."},
+    {Text::HostsUsedLast, u"Zuletzt benutzt", u"Used recently"},
+    {Text::WelcomeHeading, u"Willkommen bei Kalvenor", u"Welcome to Kalvenor"},
     // Help
     {Text::HelpBack, u"Zurück", u"Back"},
     {Text::HelpForward, u"Vorwärts", u"Forward"},

@@ -29,6 +29,13 @@ bool Desktop::setStackPlace(QWindow *window, StackPlace place, bool activate)
     return true;
 }
 
+int Desktop::ask(const Question &question)
+{
+    const int buttons = question.no.isEmpty() ? ButtonsOkCancel : ButtonsYesNoCancel;
+    const int answer = messageBox(question.text, buttons + MessageQuestion, question.title);
+    return answer == ResultOk ? ResultYes : answer;
+}
+
 QString Desktop::openFileName(QWidget *, const FileQuestion &)
 {
     return {};

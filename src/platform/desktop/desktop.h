@@ -28,6 +28,14 @@ inline constexpr int ResultNo = 7;
 /// Where a window is put in the stack.
 enum class StackPlace { TopMost, NotTopMost, Top };
 
+/// A question that is answered by verbs. Cancel is always a third answer.
+struct Question {
+    QString text;
+    QString title;
+    QString yes;     ///< on the button that answers ResultYes
+    QString no = {}; ///< and ResultNo; empty: no such button
+};
+
 /// What a file dialog asks.
 struct FileQuestion {
     QString title;
@@ -45,6 +53,9 @@ public:
     /// Shows a message and waits for the answer (a result number, 1 = OK). The style is the sum of buttons and icon; a
     /// closed box answers Cancel where there is such a button, else OK or No.
     virtual int messageBox(const QString &text, int style, const QString &title) = 0;
+    /// Asks and waits for the answer: ResultYes, ResultNo or ResultCancel, which closing means, too. A desktop without
+    /// such boxes asks by messageBox().
+    virtual int ask(const Question &question);
     /// The report of an error that nothing in the program caught; the program ends after it. The title holds its
     /// number.
     virtual void runtimeError(const QString &title, const QString &message) = 0;

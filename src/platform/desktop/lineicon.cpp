@@ -72,6 +72,9 @@ constexpr Drawing Drawings[] = {
     {LineIcon::TextColor, "M7 15.5L12 3.5L17 15.5M8.8 11.3H15.2M5 20.2H19"},
     {LineIcon::Values, "M5 20V13H8V20ZM10.5 20V9H13.5V20ZM16 20V15H19V20ZM5.5 10H7.5M11 6H13M16.5 12H18.5"},
     {LineIcon::Table, "M4 5H20V19H4ZM4 9.7H20M4 14.3H20M10 5V19"},
+    {LineIcon::AllDown, "M6 6L12 12L18 6M6 13L12 19L18 13"},
+    {LineIcon::AllUp, "M6 18L12 12L18 18M6 11L12 5L18 11"},
+    {LineIcon::Funnel, "M4 5H20L14 12.5V19L10 17V12.5Z"},
 };
 // clang-format on
 
@@ -82,7 +85,7 @@ constexpr bool inOrder()
         if (drawing.icon != static_cast<LineIcon>(place++))
             return false;
     }
-    return place == static_cast<std::size_t>(LineIcon::Table) + 1;
+    return place == static_cast<std::size_t>(LineIcon::Funnel) + 1;
 }
 static_assert(inOrder());
 

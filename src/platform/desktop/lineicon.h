@@ -48,6 +48,9 @@ enum class LineIcon {
     TextColor,
     Values,
     Table,
+    AllDown,
+    AllUp,
+    Funnel,
 };
 
 /// A line drawing, sharp at any size, in the colour that the palette gives to texts of buttons at that moment.

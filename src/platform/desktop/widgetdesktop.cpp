@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QWindow>
 
@@ -57,22 +58,32 @@ bool anyWindowOnTop()
     return false;
 }
 
+/// The active window; while there is none, as when a dialog has just closed, the one that was made last.
+QWidget *windowInFront()
+{
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    QWidget *last = nullptr;
+    qsizetype place = -1;
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        const Qt::WindowType type = window->windowType();
+        const qsizetype at = windows.indexOf(window->windowHandle());
+        if (window->isVisible() && (type == Qt::Window || type == Qt::Dialog) && at > place) {
+            last = window;
+            place = at;
+        }
+    }
+    return last;
+}
+
 } // namespace
 
 int WidgetDesktop::messageBox(const QString &text, int style, const QString &title)
 {
-    const bool hourglass = m_hourglass;
-    setPointer(Pointer::Default);
     QMessageBox box(iconOf(style), title.isEmpty() ? QApplication::applicationDisplayName() : title, text,
-                    buttonsOf(style), QApplication::activeWindow());
-    box.setObjectName(u"Meldung"_s);
-    box.setTextFormat(Qt::PlainText); // file names and names of persons are no markup
-    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    // Behind a window that stays on top nobody would see it.
-    box.setWindowFlag(Qt::WindowStaysOnTopHint, anyWindowOnTop());
-    const int answer = box.exec();
-    setPointer(hourglass ? Pointer::Hourglass : Pointer::Default);
-    switch (answer) {
+                    buttonsOf(style), windowInFront());
+    switch (showBox(box)) {
     case QMessageBox::Yes:
         return ResultYes;
     case QMessageBox::No:
@@ -82,6 +93,32 @@ int WidgetDesktop::messageBox(const QString &text, int style, const QString &tit
     default:
         return ResultOk;
     }
+}
+
+int WidgetDesktop::ask(const Question &question)
+{
+    QMessageBox box(QMessageBox::Question, question.title, question.text, QMessageBox::Cancel, windowInFront());
+    QPushButton *yes = box.addButton(question.yes, QMessageBox::AcceptRole);
+    const QAbstractButton *no =
+        question.no.isEmpty() ? nullptr : box.addButton(question.no, QMessageBox::DestructiveRole);
+    box.setDefaultButton(yes);
+    showBox(box);
+    const QAbstractButton *clicked = box.clickedButton();
+    return clicked == yes ? ResultYes : clicked != nullptr && clicked == no ? ResultNo : ResultCancel;
+}
+
+int WidgetDesktop::showBox(QMessageBox &box)
+{
+    const bool hourglass = m_hourglass;
+    setPointer(Pointer::Default);
+    box.setObjectName(u"Meldung"_s);
+    box.setTextFormat(Qt::PlainText); // file names and names of persons are no markup
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // Behind a window that stays on top nobody would see it.
+    box.setWindowFlag(Qt::WindowStaysOnTopHint, anyWindowOnTop());
+    const int answer = box.exec();
+    setPointer(hourglass ? Pointer::Hourglass : Pointer::Default);
+    return answer;
 }
 
 void WidgetDesktop::runtimeError(const QString &title, const QString &message)

@@ -5,14 +5,17 @@
 #include "platform/desktop/desktop.h"
 
 class QFileDialog;
+class QMessageBox;
 
 namespace kalvenor::desktop {
 
 /// The desktop of a program with windows. A QApplication must exist.
 class WidgetDesktop : public Desktop {
 public:
-    /// A box over the active window. While it is open the pointer is the usual one.
+    /// A box over the window in front. While it is open the pointer is the usual one.
     int messageBox(const QString &text, int style, const QString &title) override;
+    /// Asks with the verbs on the buttons.
+    int ask(const Question &question) override;
     void runtimeError(const QString &title, const QString &message) override;
     /// The pointer over all windows. `Custom` shows none of its own here: windows set it where they need it.
     void setPointer(Pointer pointer) override;
@@ -23,6 +26,7 @@ public:
     bool runDialog(QDialog &dialog) override;
 
 private:
+    int showBox(QMessageBox &box);
     QString askForFile(QFileDialog &dialog, const FileQuestion &question);
 
     bool m_hourglass = false;

@@ -49,6 +49,15 @@ QString boundClause(const QString &bound, basic::DateOrder order, const QString 
 
 } // namespace
 
+PatternProblem patternProblem(const QString &pattern)
+{
+    if (pattern.contains(u'\''))
+        return {language::Text::NoApostrophe, QString(pattern).replace(u'\'', u'?')};
+    if (pattern.lastIndexOf(u'[') > pattern.lastIndexOf(u']'))
+        return {language::Text::BracketOpen};
+    return {};
+}
+
 std::optional<qint64> boundDay(const QString &bound, basic::DateOrder order)
 {
     if (!basic::isDate(bound, order))

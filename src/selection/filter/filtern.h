@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "language/texts/text.h"
 #include "platform/basic/date.h"
 #include "selection/lists/listquery.h"
 #include <array>
@@ -26,6 +27,14 @@ struct FilterQueries {
     QString pattern;
     std::array<QString, 2> queries; ///< by PersonList
 };
+
+/// Why a pattern that the engine refuses is wrong, where that is plain to see; Text::None otherwise. `better` is what
+/// can be typed instead.
+struct PatternProblem {
+    language::Text text = language::Text::None;
+    QString better{};
+};
+PatternProblem patternProblem(const QString &pattern);
 
 /// The day that a bound is taken for; nothing where it is no date and so bounds nothing.
 std::optional<qint64> boundDay(const QString &bound, basic::DateOrder order);

@@ -3,27 +3,32 @@
 #pragma once
 
 #include "selection/filter/filtern.h"
-#include <array>
-#include <QGroupBox>
 #include <QTimer>
+#include <QWidget>
 
-class QCheckBox;
-class QLabel;
 class QLineEdit;
-class QPushButton;
-class QRadioButton;
+class QToolButton;
 
+namespace kalvenor::desktop {
+class ProblemFrame;
+class ProblemLabel;
+} // namespace kalvenor::desktop
 namespace kalvenor::language {
 class Sprachmodul;
 }
 
 namespace kalvenor::selection {
 
-/// The filter controls. Beside each date stands how it is read, or in which `order` it is to be typed. Typing and
-/// ticking filter by themselves after a pause; Return and the button at once.
-class FilterPanel : public QGroupBox {
+class ConditionChips;
+class FilterFields;
+
+/// The filter: the name as a search field, the other controls folded below it; those that are set stand there as chips
+/// while they are folded. Typing and ticking filter by themselves after a pause; Return and the button at once. What is
+/// wrong is told beside its field.
+class FilterPanel : public QWidget {
     Q_OBJECT
 public:
+    /// `order`: in which dates are typed.
     FilterPanel(language::Sprachmodul &texts, basic::DateOrder order, QWidget *parent = nullptr);
 
     /// The controls as they stand; date texts with the mask's underscores.
@@ -35,12 +40,19 @@ public:
     void setPattern(const QString &pattern);
     /// Entry fields that take typing while a filter runs.
     QList<QWidget *> entries() const;
-    /// The first text that was begun and is no date, else empty.
-    QString unsoundDate() const;
     /// To the name, its text selected.
     void focusName();
     /// What was typed and waits for its pause is wanted now.
     void flush();
+    /// Tells beside the name why the filter cannot be carried out; empty: it could.
+    void setProblem(const QString &why);
+    /// Empties all controls but the list's choice.
+    void clear();
+    /// Which Tab reaches last.
+    QWidget &lastControl();
+
+public Q_SLOTS:
+    void setUnfolded(bool unfolded);
 
 Q_SIGNALS:
     /// Something is changing; wanted() follows.
@@ -48,28 +60,23 @@ Q_SIGNALS:
     /// `typed`: without Return or button.
     void wanted(const Filter &filter, bool typed);
     void clearWanted();
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
+    void unfolded(bool unfolded);
 
 private:
-    void build();
+    void makeSearch();
     void layOut();
-    void showHowRead(std::size_t bound);
+    void showConditions();
     void later(int milliseconds);
     void now();
-    void clear();
 
     language::Sprachmodul &m_texts;
-    basic::DateOrder m_order;
     QLineEdit *m_name;
-    std::array<QCheckBox *, 2> m_sexes;
-    std::array<QCheckBox *, 3> m_dates;
-    std::array<QLineEdit *, 2> m_bounds;
-    std::array<QLabel *, 2> m_read; ///< how the bounds are read
-    std::array<QRadioButton *, 2> m_lists;
-    QPushButton *m_filter;
-    QPushButton *m_clear;
+    desktop::ProblemFrame *m_nameFrame;
+    QToolButton *m_more;
+    desktop::ProblemLabel *m_problem;
+    ConditionChips *m_chips;
+    FilterFields *m_fields;
+    QWidget *m_folded; ///< holds the fields
     QTimer m_pause;
     bool m_filling = false; ///< by the program, not by the user
 };

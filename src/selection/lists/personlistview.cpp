@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/lists/personlistview.h"
 
+#include "selection/lists/personlistaccess.h"
 #include "selection/lists/rowtracking.h"
 #include <algorithm>
 #include <QApplication>
@@ -15,6 +16,11 @@
 
 namespace kalvenor::selection {
 
+namespace {
+constexpr int TargetFrame = 2;
+constexpr int DragOffset = 8;
+} // namespace
+
 PersonListView::PersonListView(PersonListModel &model, QWidget *parent) : QAbstractItemView(parent), m_persons(model)
 {
     setModel(&model);
@@ -25,7 +31,8 @@ PersonListView::PersonListView(PersonListModel &model, QWidget *parent) : QAbstr
     setDefaultDropAction(Qt::MoveAction);
     setDropIndicatorShown(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setTextElideMode(Qt::ElideRight);
+    setTextElideMode(Qt::ElideMiddle);
+    PersonListAccess::install();
     measure();
     connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, &PersonListView::remember);
     connect(&model, &PersonListModel::replaced, this, &PersonListView::restore);
@@ -40,13 +47,6 @@ void PersonListView::measure()
 QSize PersonListView::sizeHint() const
 {
     return {fontMetrics().averageCharWidth() * 36, m_rowHeight * 14};
-}
-
-void PersonListView::setPlaceholder(const QString &text)
-{
-    m_placeholder = text;
-    if (m_persons.rowCount() == 0)
-        viewport()->update();
 }
 
 // Geometry
@@ -127,13 +127,6 @@ void PersonListView::paintEvent(QPaintEvent *event)
     QStyleOptionViewItem option;
     initViewItemOption(&option);
     const int count = m_persons.rowCount();
-    if (count == 0) {
-        painter.setPen(palette().color(QPalette::PlaceholderText));
-        const int margin = m_rowHeight / 2;
-        painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
-                         Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, m_placeholder);
-        return;
-    }
     const QRect area = event->rect();
     const int first = std::max(0, (area.top() + verticalOffset()) / m_rowHeight);
     const int last = std::min(count - 1, (area.bottom() + verticalOffset()) / m_rowHeight);
@@ -147,6 +140,10 @@ void PersonListView::paintEvent(QPaintEvent *event)
         if (index == currentIndex() && hasFocus())
             option.state |= QStyle::State_HasFocus;
         itemDelegateForIndex(index)->paint(&painter, option, index);
+    }
+    if (m_target) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), TargetFrame));
+        painter.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
     }
 }
 
@@ -162,18 +159,25 @@ void PersonListView::changeEvent(QEvent *event)
 
 bool PersonListView::viewportEvent(QEvent *event)
 {
-    // A name that is too long for the list can be read whole.
     if (event->type() == QEvent::ToolTip) {
-        const auto *help = static_cast<QHelpEvent *>(event);
-        const QModelIndex index = indexAt(help->pos());
-        const QString name = index.isValid() ? m_persons.nameAt(index.row()) : QString();
-        if (fontMetrics().horizontalAdvance(name) + 8 > viewport()->width())
-            QToolTip::showText(help->globalPos(), name.toHtmlEscaped(), this, visualRect(index));
-        else
-            QToolTip::hideText();
+        showTooltip(*static_cast<QHelpEvent *>(event));
         return true;
     }
     return QAbstractItemView::viewportEvent(event);
+}
+
+void PersonListView::showTooltip(const QHelpEvent &help)
+{
+    const QModelIndex index = indexAt(help.pos());
+    QString tip;
+    if (index.isValid() && m_card) {
+        tip = m_card(m_persons.counterAt(index.row()));
+    } else if (index.isValid()) {
+        const QString name = m_persons.nameAt(index.row());
+        if (fontMetrics().horizontalAdvance(name) + 8 > viewport()->width())
+            tip = name.toHtmlEscaped();
+    }
+    QToolTip::showText(help.globalPos(), tip, this, visualRect(index));
 }
 
 // Selection
@@ -243,7 +247,21 @@ void PersonListView::selectionChanged(const QItemSelection &selected, const QIte
 {
     QAbstractItemView::selectionChanged(selected, deselected);
     viewport()->update();
+    if (QAccessible::isActive()) {
+        QAccessibleEvent event(this, QAccessible::SelectionWithin);
+        QAccessible::updateAccessibility(&event);
+    }
     Q_EMIT selectionCountChanged();
+}
+
+void PersonListView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QAbstractItemView::currentChanged(current, previous);
+    if (!current.isValid() || !QAccessible::isActive())
+        return;
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild(current.row());
+    QAccessible::updateAccessibility(&event);
 }
 
 qint64 PersonListView::selectedCount() const
@@ -384,7 +402,51 @@ void PersonListView::startDrag(Qt::DropActions supportedActions)
         return;
     auto *drag = new QDrag(this); // Qt deletes it
     drag->setMimeData(m_persons.mimeDataOf(counters));
+    const QPixmap picture = dragPicture(counters);
+    drag->setPixmap(picture);
+    drag->setHotSpot({-DragOffset, -DragOffset});
     drag->exec(supportedActions, Qt::MoveAction);
+}
+
+/// Who, or how many, is dragged.
+QPixmap PersonListView::dragPicture(const std::vector<qint32> &counters) const
+{
+    const auto count = static_cast<qint64>(counters.size());
+    const QModelIndex first = selectionModel()->selection().first().topLeft();
+    const QString text = count > 1 && m_dragCaption ? m_dragCaption(count) : first.data().toString();
+    const QSize size(fontMetrics().horizontalAdvance(text) + 2 * DragOffset, m_rowHeight + DragOffset / 2);
+    QPixmap picture(size * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    picture.fill(palette().color(QPalette::Highlight));
+    QPainter painter(&picture);
+    painter.setFont(font());
+    painter.setPen(palette().color(QPalette::HighlightedText));
+    painter.drawText(QRect({}, size), Qt::AlignCenter, text);
+    return picture;
+}
+
+void PersonListView::showTarget(bool target)
+{
+    m_target = target;
+    viewport()->update();
+}
+
+void PersonListView::dragEnterEvent(QDragEnterEvent *event)
+{
+    QAbstractItemView::dragEnterEvent(event);
+    showTarget(m_persons.canDropMimeData(event->mimeData(), Qt::MoveAction, -1, -1, {}));
+}
+
+void PersonListView::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    QAbstractItemView::dragLeaveEvent(event);
+    showTarget(false);
+}
+
+void PersonListView::dropEvent(QDropEvent *event)
+{
+    showTarget(false);
+    QAbstractItemView::dropEvent(event);
 }
 
 } // namespace kalvenor::selection

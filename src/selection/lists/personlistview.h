@@ -3,9 +3,12 @@
 #pragma once
 
 #include "selection/lists/personlistmodel.h"
+#include <functional>
 #include <QAbstractItemView>
 #include <QElapsedTimer>
 #include <vector>
+
+class QHelpEvent;
 
 namespace kalvenor::selection {
 
@@ -18,8 +21,10 @@ class PersonListView : public QAbstractItemView {
 public:
     explicit PersonListView(PersonListModel &model, QWidget *parent = nullptr);
 
-    /// What stands in an empty list.
-    void setPlaceholder(const QString &text);
+    /// Gives the tooltip of a person, as HTML; without it a name that is too long can be read whole.
+    void setCard(const std::function<QString(qint32 counter)> &card) { m_card = card; }
+    /// What follows the pointer where more than one person is dragged: "%1 persons", with their number.
+    void setDragCaption(const std::function<QString(qint64 count)> &caption) { m_dragCaption = caption; }
     std::vector<qint32> selectedCounters() const;
     qint64 selectedCount() const;
     /// Names of the selected persons, a line each.
@@ -49,7 +54,11 @@ protected:
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
     void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void startDrag(Qt::DropActions supportedActions) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -69,10 +78,15 @@ private:
     void restore(const std::shared_ptr<dao::Recordset> &before);
     void measure();
     int rowAt(int y) const;
+    void showTooltip(const QHelpEvent &help);
+    void showTarget(bool target);
+    QPixmap dragPicture(const std::vector<qint32> &counters) const;
     int pageRows() const;
 
     PersonListModel &m_persons;
-    QString m_placeholder;
+    std::function<QString(qint32)> m_card;
+    std::function<QString(qint64)> m_dragCaption;
+    bool m_target = false; ///< persons are dragged over the list that may be dropped here
     State m_state;
     QString m_typed;
     QElapsedTimer m_typedClock;

@@ -33,6 +33,12 @@ void DatabaseWatcher::watch(std::shared_ptr<dao::Database> database)
     m_database = std::move(database);
     m_watcher.addPath(QFileInfo(m_database->file()).absolutePath());
     watchFile();
+    setSeen();
+}
+
+void DatabaseWatcher::setSeen()
+{
+    m_seen = m_database->generation();
 }
 
 void DatabaseWatcher::watchFile()
@@ -46,7 +52,7 @@ void DatabaseWatcher::look()
 {
     bool changed = false;
     try {
-        changed = m_database->isOpen() && m_database->isStale();
+        changed = m_database->isOpen() && (m_database->isStale() || m_database->generation() != m_seen);
     } catch (const basic::Error &) {
         // While a file is being replaced there is none for a moment. Whoever reads it next says what is wrong.
         return;

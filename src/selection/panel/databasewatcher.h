@@ -20,6 +20,8 @@ public:
     void watch(std::shared_ptr<dao::Database> database);
     /// Looks at once, for file systems that tell nothing.
     void look();
+    /// What the database holds now is known.
+    void setSeen();
 
 Q_SIGNALS:
     /// The file is no longer as it was read.
@@ -29,6 +31,7 @@ private:
     void watchFile();
 
     std::shared_ptr<dao::Database> m_database;
+    quint64 m_seen = 0; ///< generation; others may have read the file anew since
     QFileSystemWatcher m_watcher;
     QTimer m_pause; ///< a program writes more than once
 };

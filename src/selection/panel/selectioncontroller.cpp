@@ -4,6 +4,7 @@
 
 #include "language/progress/userwork.h"
 #include "language/texts/errormessage.h"
+#include "platform/jet/marks/markwriter.h"
 #include <QTimer>
 #include <utility>
 
@@ -44,6 +45,12 @@ qint64 SelectionController::personCount() const
     return m_lists[0].model.personCount();
 }
 
+/// A filter narrows one list at most; the other one tells how many are marked.
+qint64 SelectionController::markedCount() const
+{
+    return isFiltered(PersonList::Marked) ? personCount() - m_lists[0].model.rowCount() : m_lists[1].model.rowCount();
+}
+
 /// False where the task was not begun or failed; a failure was told.
 bool SelectionController::perform(const QString &what, const desktop::Work::Task &task, desktop::Work::Input input)
 {
@@ -57,6 +64,7 @@ void SelectionController::load(const std::array<QString, 2> &queries, bool all, 
 {
     const std::shared_ptr<dao::Database> database = m_session.databases.Familiendatenbank;
     database->refresh();
+    m_readOnly = jet::isWriteProtected(database->file());
     std::array<std::shared_ptr<dao::Recordset>, 2> results;
     quint64 generation = 0;
     // Where another program changes the file between the two queries, both lists must show the newer state.
@@ -78,6 +86,7 @@ void SelectionController::load(const std::array<QString, 2> &queries, bool all, 
             m_lists[i].generation = generation;
         }
     }
+    m_watcher.setSeen();
     if (newer)
         Q_EMIT personsChanged();
     Q_EMIT changed();
@@ -123,6 +132,15 @@ void SelectionController::giveUpFilter()
         m_work.cancel();
 }
 
+QString SelectionController::refusal(const QString &typed, const basic::Error &error)
+{
+    language::Sprachmodul &texts = m_session.language;
+    const PatternProblem problem = patternProblem(typed);
+    if (problem.text == Text::None)
+        return texts.text(Text::FilterNotUnderstood).arg(language::errorSentence(texts, error));
+    return problem.better.isEmpty() ? texts.text(problem.text) : texts.text(problem.text).arg(problem.better);
+}
+
 void SelectionController::runFilters()
 {
     while (m_wanted && !m_work.isRunning()) {
@@ -139,8 +157,7 @@ void SelectionController::runFilters()
                 } catch (const basic::Error &error) {
                     if (error.kind() == basic::ErrorKind::InvalidSql ||
                         error.kind() == basic::ErrorKind::InvalidPattern || error.kind() == basic::ErrorKind::Refused)
-                        Q_EMIT filterRefused(m_session.language.text(Text::FilterNotUnderstood)
-                                                 .arg(language::errorSentence(m_session.language, error)));
+                        Q_EMIT filterRefused(refusal(wanted.filter.Presse, error));
                     else if (error.kind() == basic::ErrorKind::Cancelled ? !m_wanted : !wanted.typed)
                         throw;
                     else if (error.kind() != basic::ErrorKind::Cancelled)
@@ -199,9 +216,10 @@ std::optional<MarkStep> SelectionController::changeMarks(const QString &what, co
 void SelectionController::tellMoved(const MarkStep &step)
 {
     if (!step.marked.empty())
-        Q_EMIT said(m_session.language.text(Text::Marked).arg(numberText(static_cast<qint64>(step.marked.size()))));
+        Q_EMIT moved(m_session.language.text(Text::Marked).arg(numberText(static_cast<qint64>(step.marked.size()))));
     else if (!step.unmarked.empty())
-        Q_EMIT said(m_session.language.text(Text::Unmarked).arg(numberText(static_cast<qint64>(step.unmarked.size()))));
+        Q_EMIT moved(
+            m_session.language.text(Text::Unmarked).arg(numberText(static_cast<qint64>(step.unmarked.size()))));
 }
 
 void SelectionController::move(PersonList from, const std::vector<qint32> &counters, Relatives relatives)

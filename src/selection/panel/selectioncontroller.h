@@ -33,8 +33,11 @@ public:
     bool agrees(PersonList list) const { return m_filterShown || (list != m_latestList && !isFiltered(list)); }
     /// All persons of the database, whatever the lists show.
     qint64 personCount() const;
-    bool canUndo() const { return m_history.canUndo(); }
-    bool canRedo() const { return m_history.canRedo(); }
+    qint64 markedCount() const;
+    /// Nobody can be marked: the database's file, or its folder, is write-protected. As the lists were loaded last.
+    bool isReadOnly() const { return m_readOnly; }
+    bool canUndo() const { return m_history.canUndo() && !m_readOnly; }
+    bool canRedo() const { return m_history.canRedo() && !m_readOnly; }
     data::Session &session() const { return m_session; }
     desktop::Work &work() const { return m_work; }
     /// A number as the interface language writes it.
@@ -81,6 +84,8 @@ Q_SIGNALS:
     void arrived(PersonList list, const std::vector<quint32> &tableRows);
     /// What was done, for the status bar.
     void said(const QString &text);
+    /// The same of persons that were moved, which can be undone.
+    void moved(const QString &text);
     /// Another program changed the database; nothing is reloaded yet.
     void changedElsewhere();
 
@@ -105,6 +110,7 @@ private:
     std::optional<MarkStep> changeMarks(const QString &what, const Change &change, bool announceLists = false);
     void goThrough(language::Text what, decltype(&MarkHistory::undo) step);
     void runFilters();
+    QString refusal(const QString &typed, const basic::Error &error);
     void tellMoved(const MarkStep &step);
     void letGo();
     void takeOver(bool otherDatabase);
@@ -117,6 +123,7 @@ private:
     DatabaseWatcher m_watcher;
     std::optional<WantedFilter> m_wanted;
     bool m_filtering = false;
+    bool m_readOnly = false;
     PersonList m_latestList = PersonList::Unmarked; ///< of the latest filter
     bool m_filterShown = true; ///< the latest filter was carried out, or the lists were made plain since
 };

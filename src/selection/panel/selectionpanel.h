@@ -6,16 +6,18 @@
 #include <array>
 #include <QWidget>
 
-class QAbstractButton;
 class QCheckBox;
 class QSplitter;
 
 namespace kalvenor::selection {
 
 class FilterPanel;
+class MoveButtons;
+class NoticeBar;
 class PersonListPanel;
 
-/// Both lists side by side, what moves persons between them, and the filter below.
+/// The search with its filter, both lists and what moves persons between them. The lists stand side by side, or one
+/// above the other where there is no room for that.
 class SelectionPanel : public QWidget {
     Q_OBJECT
 public:
@@ -24,9 +26,18 @@ public:
     PersonListPanel &listPanel(PersonList list) { return *m_lists[static_cast<std::size_t>(list)]; }
     FilterPanel &filterPanel() { return *m_filter; }
     QSplitter &listSplitter() { return *m_splitter; }
+    /// The lists' shares of the room, also where they come to stand another way; none: equal.
+    void setListSizes(const QList<int> &sizes);
     /// Which relatives the boxes `quellenpincl` take along.
     Relatives relatives() const;
     bool hasSelection(PersonList list) const;
+
+    /// With less width the lists stand one above the other.
+    int leastWidthSideBySide() const;
+    /// Wide enough for both lists side by side with usual names.
+    QSize sizeHint() const override;
+    /// The same whether or not the lists are side by side now.
+    QSize minimumSizeHint() const override;
 
     void moveSelected(PersonList from);
     void moveAll(PersonList from);
@@ -40,24 +51,32 @@ Q_SIGNALS:
     void selectionChanged();
     void said(const QString &text);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     bool showsWhatIsMeant(PersonList list);
+    bool mayMark();
     void takeFocusFromFilter(PersonList to);
-    QWidget *makeMoveColumn();
-    QWidget *makeNoticeBar();
+    QWidget *makeRelatives();
+    void connectLists();
     void connectFilter();
+    void arrange();
+    int listWidth(const QString &name) const;
+    int widthSideBySide(const QString &name, int between) const;
+    void explain(QWidget &button, language::Text usual, language::Text why, PersonList list);
     void orderTabs();
     void updateAll();
     PersonListPanel &lastList();
 
     SelectionController &m_controller;
     std::array<PersonListPanel *, 2> m_lists;
-    std::array<QAbstractButton *, 2> m_move; ///< by the list that is moved from
-    std::array<QAbstractButton *, 2> m_moveAll;
-    std::array<QCheckBox *, 2> m_relatives;
     QSplitter *m_splitter;
+    QList<int> m_listSizes{1000, 1, 1000};
+    MoveButtons *m_moves;
+    std::array<QCheckBox *, 2> m_relatives;
     FilterPanel *m_filter;
-    QWidget *m_notice;
+    NoticeBar *m_readOnly, *m_changed;
     PersonList m_last = PersonList::Unmarked;
 };
 

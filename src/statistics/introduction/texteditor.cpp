@@ -49,7 +49,6 @@ TextEditor::TextEditor(language::Sprachmodul &texts, host::Host &host, QWidget *
     layout->setSpacing(2);
     layout->addWidget(tools);
     layout->addWidget(m_field, 1);
-    setFocusProxy(m_field);
     connect(tools, &TextTools::openWanted, this, &TextEditor::openText);
     connect(tools, &TextTools::saveWanted, this, &TextEditor::saveText);
     connect(m_field, &QTextEdit::textChanged, this, [this] {
@@ -57,6 +56,11 @@ TextEditor::TextEditor(language::Sprachmodul &texts, host::Host &host, QWidget *
             Q_EMIT changed();
     });
     setRtf({});
+}
+
+QWidget &TextEditor::entry() const
+{
+    return *m_field;
 }
 
 QByteArray TextEditor::rtf() const

@@ -28,6 +28,8 @@ class TextEditor : public QWidget {
 public:
     TextEditor(language::Sprachmodul &texts, host::Host &host, QWidget *parent = nullptr);
 
+    /// What has the focus when the page is shown. No focus proxy: it would hold Tab in the page.
+    QWidget &entry() const;
     /// As long as the text is not edited, or all editing was undone, the very bytes that were set or opened; else what
     /// writeRtf makes of it.
     QByteArray rtf() const;

@@ -281,7 +281,8 @@ void TextTools::applySize(const QString &text)
         format.setFontPointSize(std::clamp(std::round(size * 2) / 2, SmallestSize, LargestSize));
         m_field.mergeCurrentCharFormat(format);
     }
-    m_field.setFocus();
+    if (m_size->hasFocus()) // not where Tab has just left it, which ends its editing, too
+        m_field.setFocus();
     showFormats();
 }
 

@@ -116,7 +116,7 @@ void StatisticsPanel::showTab(Tab tab)
         m_list->focusFirst();
         break;
     default:
-        m_tabs->currentWidget()->setFocus();
+        m_introduction->entry().setFocus();
     }
 }
 

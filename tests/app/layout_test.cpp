@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The Kalvenor authors
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "selection/filter/filterpanel.h"
+#include "statistics/panel/statisticspanel.h"
+#include "support/openwindow.h"
+#include <QApplication>
+#include <QSplitter>
+#include <QTabWidget>
+
+using namespace kalvenor;
+using namespace kalvenor::test;
+
+namespace {
+
+constexpr QSize SmallScreen(960, 540);
+
+/// The size of text that many desktops use.
+struct LargerText {
+    LargerText()
+    {
+        QFont larger = before;
+        larger.setPointSize(11);
+        QApplication::setFont(larger);
+    }
+    ~LargerText() { QApplication::setFont(before); }
+    const QFont before = QApplication::font();
+};
+
+std::vector<TestPerson> manyPersons(int count)
+{
+    std::vector<TestPerson> persons;
+    for (qint32 i = 1; i <= count; ++i)
+        persons.push_back({.counter = i, .listname = QString("Person %1").arg(i)});
+    return persons;
+}
+
+std::map<QString, QRect> places(const QWidget &window)
+{
+    std::map<QString, QRect> found;
+    for (const QWidget *widget : window.findChildren<QWidget *>()) {
+        if (widget->isVisible() && !widget->objectName().isEmpty())
+            found[widget->objectName()] = {widget->mapTo(&window, QPoint()), widget->size()};
+    }
+    return found;
+}
+
+} // namespace
+
+TEST(Layout, FitsASmallScreenInBothLanguages)
+{
+    const LargerText eleven;
+    for (const char *language : {"Deutsch", "English"}) {
+        SCOPED_TRACE(language);
+        TranslatedWindow open(language);
+        for (QLabel *label : open.window->findChildren<QLabel *>()) {
+            if (label->text().contains(QChar(u'7'))) // seven persons
+                label->setText(label->text().replace(u'7', u"1.234.567"_s));
+        }
+        for (int tab = 0; tab < 3; ++tab) {
+            open.window->statisticsPanel().tabs().setCurrentIndex(tab);
+            const QSize least = open.window->minimumSizeHint();
+            EXPECT_LE(least.width(), SmallScreen.width()) << tab;
+            EXPECT_LE(least.height(), SmallScreen.height()) << tab;
+        }
+    }
+}
+
+TEST(Layout, ListsStandAboveEachOtherWhereThereIsNoRoomBeside)
+{
+    OpenWindow open(smallFamily());
+    QSplitter &lists = open.window->selectionPanel().listSplitter();
+    for (const auto &[size, orientation] :
+         {std::pair(QSize(1600, 800), Qt::Horizontal), std::pair(SmallScreen, Qt::Vertical),
+          std::pair(QSize(1600, 800), Qt::Horizontal)}) {
+        open.window->resize(size);
+        QSplitter &halves = open.control<QSplitter>("Teiler");
+        halves.setSizes({size.width() * 45 / 100, size.width() * 55 / 100});
+        EXPECT_TRUE(QTest::qWaitFor([&] { return lists.orientation() == orientation; }));
+        for (const PersonList list : {PersonList::Unmarked, PersonList::Marked})
+            EXPECT_GE(open.view(list).viewport()->height(), 3 * open.view(list).fontMetrics().height());
+    }
+}
+
+TEST(Layout, NothingMovesWhileASelectionGrows)
+{
+    OpenWindow open(manyPersons(2000));
+    for (const QSize size : {SmallScreen, QSize(1400, 800)}) {
+        open.window->resize(size);
+        QCoreApplication::processEvents();
+        open.view(PersonList::Unmarked).clearSelection();
+        const auto before = places(*open.window);
+        open.view(PersonList::Unmarked).selectAll();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(open.control<QLabel>("Zahl_0").text(), "2.000 ausgewählt · 2.000 von 2.000");
+        EXPECT_TRUE(places(*open.window) == before);
+        open.control<QLabel>("Zahl_0").setText("200.000 ausgewählt · 200.000 von 2.000.000");
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(places(*open.window) == before);
+    }
+}
+
+TEST(Layout, FirstOpensOnTheChartWithinTheScreen)
+{
+    OpenWindow open(smallFamily());
+    EXPECT_EQ(open.window->statisticsPanel().tabs().currentIndex(), statistics::StatisticsPanel::Chart);
+    const QSize screen = open.window->screen()->availableSize();
+    EXPECT_LE(open.window->width(), screen.width());
+    EXPECT_LE(open.window->height(), screen.height());
+}
