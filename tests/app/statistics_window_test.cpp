@@ -165,7 +165,7 @@ TEST(Statistic, TellsWhoIsLeftOutAndWhatToDoWhereNothingIsShown)
     persons[0].sex = "?";
     MarkedFamily open(persons);
     open.showTab(StatisticsPanel::Chart);
-    EXPECT_EQ(open.label("Ausgelassen"), "(1 ohne Angabe des Geschlechts)");
+    EXPECT_EQ(open.label("Ausgelassen"), "1 ohne Angabe des Geschlechts");
     QStringList rows;
     open.desktop.dialogAnswer = [&](QDialog &dialog) {
         auto &list = *dialog.findChild<QTableView *>("Ausgelassene");

@@ -25,6 +25,7 @@
 #include <QSpinBox>
 #include <QStatusBar>
 #include <QTest>
+#include <QToolBar>
 
 using namespace Qt::StringLiterals;
 
@@ -92,7 +93,11 @@ TEST_F(Preview, KeepsItsSizeAndZoomAndFitsTheScreen)
         window->show();
     };
     QDir(folder.path()).mkdir(u"Kalvenor"_s); // where the settings are
+    const auto &tools = child<QToolBar>("Toolbar");
+    window->resize(1600, 400);
+    EXPECT_EQ(tools.toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
     window->resize(500, 400);
+    EXPECT_EQ(tools.toolButtonStyle(), Qt::ToolButtonIconOnly);
     for (const Fit fit : {Fit::PageWidth, Fit::None, Fit::Thumbnails}) {
         if (fit == Fit::None)
             window->pageView().setZoom(75);

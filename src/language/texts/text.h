@@ -223,8 +223,6 @@ enum class Text : qint16 {
     FiguresAverage = 20509,
     FiguresRange = 20510,
     FiguresLeftOut = 20511,
-    MenListed = 20512,
-    WomenListed = 20513,
     ByBirth = 20516,
     ByDeath = 20517,
     ByBirthTip = 20518,

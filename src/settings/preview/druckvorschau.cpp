@@ -234,6 +234,12 @@ void Druckvorschau::changeEvent(QEvent *event)
     m_host.fensteroben(windowHandle(), OnTop, false);
 }
 
+void Druckvorschau::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    m_actions->fitInto(width());
+}
+
 void Druckvorschau::closeEvent(QCloseEvent *event)
 {
     if (m_busy || m_work.isRunning()) {

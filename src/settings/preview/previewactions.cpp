@@ -135,18 +135,25 @@ void PreviewActions::makeMenus(QMainWindow &window)
 
 void PreviewActions::makeToolBars(QMainWindow &window)
 {
-    QToolBar *tools = makeToolBar(window, "Toolbar", Text::MenuToolBar, Qt::ToolButtonTextBesideIcon);
-    tools->addActions(commands);
-    QToolBar *pages = makeToolBar(window, "Seiten", Text::Pages, Qt::ToolButtonIconOnly);
-    pages->addActions({first, previous});
-    pages->addWidget(page);
-    pages->addActions({next, last});
-    pages->addSeparator();
-    pages->addAction(smaller);
-    pages->addWidget(zoom);
-    pages->addAction(larger);
-    pages->addSeparator();
-    pages->addAction(find);
+    m_tools = makeToolBar(window, "Toolbar", Text::MenuToolBar, Qt::ToolButtonTextBesideIcon);
+    m_tools->addActions(commands);
+    m_pages = makeToolBar(window, "Seiten", Text::Pages, Qt::ToolButtonIconOnly);
+    m_pages->addActions({first, previous});
+    m_pages->addWidget(page);
+    m_pages->addActions({next, last});
+    m_pages->addSeparator();
+    m_pages->addAction(smaller);
+    m_pages->addWidget(zoom);
+    m_pages->addAction(larger);
+    m_pages->addSeparator();
+    m_pages->addAction(find);
+}
+
+void PreviewActions::fitInto(int width)
+{
+    m_tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    if (m_tools->sizeHint().width() + m_pages->sizeHint().width() > width)
+        m_tools->setToolButtonStyle(Qt::ToolButtonIconOnly);
 }
 
 void PreviewActions::showZoomChoices(const ControlTexts &texts)

@@ -37,10 +37,15 @@ struct PreviewActions {
     void follow(const PageView &view, const QString &pageOf);
     /// Sets the view's zoom to the choice in the list.
     void choose(PageView &view, int choice) const;
+    /// Lets the commands' buttons go without their captions where the tool bars would be wider than the window.
+    void fitInto(int width);
 
 private:
     void makeMenus(QMainWindow &window);
     void makeToolBars(QMainWindow &window);
+
+    QToolBar *m_tools = nullptr;
+    QToolBar *m_pages = nullptr;
 };
 
 } // namespace kalvenor::settings

@@ -27,8 +27,8 @@ using language::Text;
 
 AgeListPanel::AgeListPanel(StatisticsController &controller, QWidget *parent)
     : QWidget(parent), m_controller(controller),
-      m_model(new AgeListModel(controller.list(), this)), m_sexes{makeSexBox(this, 0, Text::MenListed),
-                                                                  makeSexBox(this, 1, Text::WomenListed)},
+      m_model(new AgeListModel(controller.list(), this)), m_sexes{makeSexBox(this, 0, Text::Men),
+                                                                  makeSexBox(this, 1, Text::Women)},
       m_view(new QTableView(this)), m_figures(new QLabel(this))
 {
     m_view->setObjectName(u"Altersliste"_s);

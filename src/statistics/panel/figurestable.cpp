@@ -19,6 +19,7 @@ namespace {
 
 enum Row { Groups, Counts, Averages, Range, LeftOut };
 constexpr int GroupColumns = 3;
+constexpr int WideHeading = 2; ///< columns, where one figure stands for all groups
 
 } // namespace
 
@@ -41,27 +42,27 @@ FiguresTable::FiguresTable(data::Session &session, QWidget *parent)
     }
     addHeading(*grid, Counts, 0, Text::FiguresCount);
     addHeading(*grid, Averages, 0, Text::FiguresAverage);
-    addHeading(*grid, Range, 0, Text::FiguresRange);
-    addHeading(*grid, LeftOut, 0, Text::FiguresLeftOut);
-    m_range = addFigure(*grid, Range, GroupColumns, u"Altersspanne"_s, Text::FiguresRange);
-    m_withoutDate = addFigure(*grid, LeftOut, 1, u"OhneDatum"_s, Text::FiguresLeftOut);
+    addHeading(*grid, Range, 0, Text::FiguresRange, WideHeading);
+    m_range = addFigure(*grid, Range, WideHeading, u"Altersspanne"_s, Text::FiguresRange);
+    addHeading(*grid, LeftOut, 0, Text::FiguresLeftOut, WideHeading);
+    m_withoutDate = addFigure(*grid, LeftOut, WideHeading, u"OhneDatum"_s, Text::FiguresLeftOut);
     m_leftOut = addFigure(*grid, LeftOut + 1, 1, u"Ausgelassen"_s, Text::FiguresLeftOut);
     m_leftOut->setWordWrap(true);
     m_who->setObjectName(u"Auslassungen"_s);
     language::setDesignText(m_who, Text::LeftOutWho);
-    grid->addWidget(m_who, LeftOut, 0, 2, 1, Qt::AlignLeft | Qt::AlignBottom);
+    grid->addWidget(m_who, LeftOut + 1, 0, Qt::AlignLeft | Qt::AlignTop);
     for (int column = 0; column <= GroupColumns; ++column)
-        grid->setColumnStretch(column, 1);
+        grid->setColumnStretch(column, column == 0 ? 2 : 1);
     connect(m_who, &QPushButton::clicked, this, &FiguresTable::leftOutWanted);
 }
 
-void FiguresTable::addHeading(QGridLayout &grid, int row, int column, Text caption)
+void FiguresTable::addHeading(QGridLayout &grid, int row, int column, Text caption, int columns)
 {
     auto *label = new QLabel(this);
     language::setDesignText(label, caption);
     label->setWordWrap(true);
     label->setAlignment(column == 0 ? Qt::AlignLeft : Qt::AlignRight);
-    grid.addWidget(label, row, column);
+    grid.addWidget(label, row, column, 1, columns);
 }
 
 QLabel *FiguresTable::addFigure(QGridLayout &grid, int row, int column, const QString &name, Text what, Text group)
@@ -95,7 +96,7 @@ void FiguresTable::setFigures(const Grafikzahlen &figures)
         if (count > 0)
             others << m_session.language.text(text).arg(locale.toString(count));
     }
-    m_leftOut->setText(others.join(u'\n'));
+    m_leftOut->setText(others.join(u", "_s));
     m_leftOut->setVisible(!others.isEmpty());
     m_who->setVisible(persons.ohneDatum > 0 || !others.isEmpty());
 }

@@ -26,7 +26,7 @@ Q_SIGNALS:
     void leftOutWanted();
 
 private:
-    void addHeading(QGridLayout &grid, int row, int column, language::Text caption);
+    void addHeading(QGridLayout &grid, int row, int column, language::Text caption, int columns = 1);
     QLabel *addFigure(QGridLayout &grid, int row, int column, const QString &name, language::Text what,
                       language::Text group = language::Text::None);
 
