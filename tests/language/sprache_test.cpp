@@ -74,7 +74,7 @@ TEST(ShownText, ComesFromTheHostOrForOurOwnFromTheCatalogue)
     } cases[] = {
         {"English", 5, "%1 of %2"},      {"Deutsch", 5, ""},
         {"Deutsch", 6, "????"},          {"English", 20005, "%1 out of %2"},
-        {"Deutsch", 20005, "%1 von %2"}, {"English", 20006, "Load the list anew"},
+        {"Deutsch", 20005, "%1 von %2"}, {"English", 20006, "Reload the list"},
         {"Suomi", 20005, "%1 of %2"},    {"deutsch", 20001, "Nicht markierte Personen"},
         {"English", 180, "????"},        {"Deutsch", 29999, "????"},
         {"Deutsch", 21412, "Unbenannt"},

@@ -110,7 +110,7 @@ constexpr CatalogueText Texts[] = {
      u"eine andere Person gemeint.",
      u"The last line of the template, person %1, has no line end. If the file was cut off, another person may be "
      u"meant."},
-    {Text::SavingTemplate, u"Die Vorlage wird gespeichert …", u"The template is being saved …"},
+    {Text::SavingTemplate, u"Die Vorlage wird gespeichert…", u"Saving the template…"},
     // Commands
     {Text::RuntimeError, u"Laufzeitfehler %1", u"Run-time error %1"},
     {Text::SeeCommandHelp, u"%1 (kalvenor --help nennt Befehle und Optionen)",

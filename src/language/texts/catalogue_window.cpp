@@ -14,7 +14,7 @@ constexpr CatalogueText Texts[] = {
     {Text::ReloadList, u"Liste neu laden", u"Reload list"},
     {Text::FilteredList, u"Filter Liste", u"Filtered list"},
     {Text::CountOf, u"%1 von %2", u"%1 of %2"},
-    {Text::ReloadListTip, u"Die Liste neu laden", u"Load the list anew"},
+    {Text::ReloadListTip, u"Die Liste neu laden", u"Reload the list"},
     {Text::MarkPersonTip, u"Person markieren", u"Mark person"},
     {Text::MarkAllTip, u"Alle Personen der Liste markieren", u"Mark all persons in the list"},
     {Text::UnmarkPersonTip, u"Markierung der Person aufheben", u"Unmark person"},
