@@ -10,6 +10,7 @@
 #include "language/progress/progresspanel.h"
 #include "language/texts/errormessage.h"
 #include "platform/desktop/appicon.h"
+#include "platform/desktop/lineicon.h"
 #include "platform/desktop/terminal.h"
 #include <new>
 #include <QCommandLinkButton>
@@ -32,6 +33,7 @@ namespace {
 constexpr int PictureSide = 48;
 constexpr int TextWidth = 460;
 constexpr qreal HeadingScale = 1.5;
+constexpr int WayMargins = 24;
 const QString OwnFolder = u"/Kalvenor"_s;
 
 /// A path may be broken behind each folder, so that it fits the dialog.
@@ -120,7 +122,8 @@ QPushButton *FirstRun::addWay(const char *name, const QString &description)
     auto *button = new QCommandLinkButton(this);
     button->setObjectName(QLatin1String(name));
     button->setDescription(description);
-    button->setMinimumHeight(button->sizeHint().height()); // its own minimum leaves the description out
+    // Its own minimum leaves the description out, its hint reckons with many lines of it.
+    button->setFixedHeight(2 * button->fontMetrics().lineSpacing() + WayMargins);
     m_ways->addWidget(button);
     return button;
 }
@@ -138,11 +141,15 @@ void FirstRun::addRecentHosts(const StartProblem &problem)
     m_ways->addWidget(caption);
     for (qsizetype i = 0; i < folders.size(); ++i) {
         const QString folder = folders[i];
-        const QString host = QFileInfo(folder).path();
-        QPushButton *button = addWay("Zuletzt", QDir::toNativeSeparators(host));
+        auto *button = new QPushButton(this);
         button->setObjectName(u"Zuletzt_%1"_s.arg(i));
-        const QString family = QFileInfo(QFileInfo(host).path()).fileName(); // host folders are mostly called the same
-        button->setText(QString(family + QDir::separator() + QFileInfo(host).fileName()).replace(u'&', u"&&"_s));
+        button->setIcon(desktop::lineIcon(desktop::LineIcon::Open));
+        button->setText(QDir::toNativeSeparators(QFileInfo(folder).path()).replace(u'&', u"&&"_s));
+        button->setFlat(true);
+        button->setStyleSheet(u"text-align: left"_s);
+        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a path may be long
+        button->setToolTip(button->text());
+        m_ways->addWidget(button);
         connect(button, &QPushButton::clicked, this, [this, folder] { leadOn({basic::windowsPath(folder)}); });
     }
 }

@@ -32,7 +32,7 @@ void ConditionChips::setConditions(const std::vector<Condition> &conditions)
     for (const Condition &condition : conditions) {
         auto *chip = new QToolButton(this);
         chip->setObjectName(u"Bedingung_%1"_s.arg(m_chips.size()));
-        chip->setText(condition.text);
+        chip->setText(u' ' + condition.text); // away from the edge
         chip->setIcon(desktop::lineIcon(desktop::LineIcon::Clear));
         chip->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         chip->setLayoutDirection(Qt::RightToLeft); // the cross behind the text

@@ -9,6 +9,7 @@
 #include "selection/filter/filterfields.h"
 #include <algorithm>
 #include <QAction>
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QResizeEvent>
@@ -140,6 +141,8 @@ QWidget &FilterPanel::lastControl()
 
 void FilterPanel::setUnfolded(bool unfold)
 {
+    if (!unfold && m_folded->isAncestorOf(QApplication::focusWidget()))
+        m_more->setFocus();
     m_folded->setVisible(unfold);
     m_more->setChecked(unfold);
     showConditions();
