@@ -34,6 +34,7 @@ constexpr int PictureSide = 48;
 constexpr int TextWidth = 460;
 constexpr qreal HeadingScale = 1.5;
 constexpr int WayMargins = 24;
+constexpr int WaySpacing = 4;
 const QString OwnFolder = u"/Kalvenor"_s;
 
 /// A path may be broken behind each folder, so that it fits the dialog.
@@ -165,6 +166,7 @@ void FirstRun::build(const StartProblem &problem)
     column->addWidget(m_details);
     column->addSpacing(8);
     m_ways = new QVBoxLayout;
+    m_ways->setSpacing(WaySpacing);
     column->addLayout(m_ways);
     addRecentHosts(problem);
     auto *family = addWay("Familiewaehlen", m_program.language.text(Text::ChooseFamilyTip));
