@@ -5,6 +5,7 @@
 #include "memorystorage.h"
 #include "platform/basic/error.h"
 #include "platform/jet/marks/markwriter.h"
+#include "platform/jet/reader/record.h"
 #include <bit>
 #include <cstdlib>
 
@@ -54,18 +55,16 @@ void mark(MemoryStorage &storage, const std::shared_ptr<jet::Database> &database
     std::vector<jet::Mark> marks;
     for (std::uint32_t row = 0; row < table->rowCount(); ++row)
         marks.push_back({row, row % 3 != 0});
-    std::vector<std::uint32_t> rows;
-    try {
-        rows = writer.write(marks);
-    } catch (const basic::Error &) {
-        // Rows that cannot be marked do not hinder the others, one by one.
-        if (changed() != 0)
-            std::abort();
-        marks.resize(std::min<std::size_t>(marks.size(), 1));
-        rows = writer.write(marks);
-    }
-    if (changed() != static_cast<int>(rows.size()))
+    const std::uint16_t number = table->columns()[static_cast<std::size_t>(column)].number;
+    bool raises = false; // more than a bit a row
+    for (const jet::Mark &wish : marks)
+        raises = raises || !jet::Record(table->layout(), table->record(wish.row)).has(number);
+    const jet::MarksWritten written = writer.write(marks);
+    const std::vector<std::uint32_t> &rows = written.changed;
+    if (!raises && changed() != static_cast<int>(rows.size()))
         std::abort();
+    for (const jet::LeftRow &left : written.left)
+        std::erase_if(marks, [&left](const jet::Mark &wish) { return wish.row == left.row; });
     const auto again = jet::Database::open(File)->table(name);
     if (otherValues(*again, column) != otherValues(*table, column))
         std::abort();
@@ -77,7 +76,7 @@ void mark(MemoryStorage &storage, const std::shared_ptr<jet::Database> &database
         back.on = !back.on;
     std::erase_if(marks, [&](const jet::Mark &back) { return std::ranges::find(rows, back.row) == rows.end(); });
     writer.write(marks);
-    if (changed() != 0)
+    if (!raises && changed() != 0)
         std::abort();
 }
 

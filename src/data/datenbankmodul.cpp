@@ -61,4 +61,14 @@ void Datenbankmodul::datenbankoeffnen(const basic::WindowsPath &familyDatabase)
     }
 }
 
+std::vector<jet::Damage> Datenbankmodul::damage() const
+{
+    std::vector<jet::Damage> all = Familiendatenbank->damage();
+    for (const auto &side : m_sideDatabases) {
+        const std::vector<jet::Damage> more = side->damage();
+        all.insert(all.end(), more.begin(), more.end());
+    }
+    return all;
+}
+
 } // namespace kalvenor::data

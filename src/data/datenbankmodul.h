@@ -38,6 +38,9 @@ public:
     /// engine's Error, naming the file or table, at the first one that is missing or damaged.
     void datenbankoeffnen(const basic::WindowsPath &familyDatabase);
 
+    /// What damage was passed over so far in any of the databases.
+    std::vector<jet::Damage> damage() const;
+
 private:
     const host::Host &m_host;
     dao::Engine &m_engine;

@@ -31,7 +31,7 @@ TEST(Check, FindsAWholeInstallationSound)
     const test::Installation installation(Persons);
     const auto result = app::checkInstallation(installation.programFolder());
     EXPECT_TRUE(result.problems.isEmpty()) << result.problems.join('\n').toStdString();
-    EXPECT_TRUE(result.good.join('\n').contains("2 persons, 1 of them marked"));
+    EXPECT_TRUE(result.good.join('\n').contains("2 Personen, davon 1 markiert"));
 }
 
 TEST(Check, SaysEachThingInALineOfItsOwn)
@@ -57,13 +57,13 @@ TEST(Check, SaysEachThingInALineOfItsOwn)
         QString word;
         QStringList names;
     } rows[] = {
-        {"missing", {"orte.mdb"}},
-        {"missing", {"ADD-IN-LANGUAGE.MDB"}},
-        {"damaged", {"namen.mdb"}},
-        {"missing", {"Baum_DS"}},
-        {"missing", {"“Adressen_DS ”"}},
-        {"missing", {"Daten", "Geburtsdatum"}},
-        {"missing", {"Daten", "index", "Counter"}},
+        {"fehlt", {"orte.mdb"}},
+        {"fehlt", {"ADD-IN-LANGUAGE.MDB"}},
+        {"beschädigt", {"namen.mdb"}},
+        {"fehlt", {"Baum_DS"}},
+        {"fehlt", {"Adressen_DS "}},
+        {"fehlt", {"Daten", "Geburtsdatum"}},
+        {"fehlt", {"Daten", "Index", "Counter"}},
     };
     for (const auto &row : rows) {
         const auto says = [&](const QString &line) {
@@ -96,19 +96,19 @@ TEST(Check, NamesWhatIsWrongWithEachPart)
         QStringList words; ///< all of them in one line, which begins with the first
         QString unsaid;    ///< in no line
     } rows[] = {
-        {"no settings", remove("programm.ini"), {"missing", "programm.ini"}, "\"\""},
-        {"no host texts", remove("language.mdb"), {"missing", "language.mdb"}, {}},
-        {"no output folder", setting("Verzeichnisse", "Prints", "\\nirgends"), {"missing", "/nirgends"}, {}},
-        {"no path", setting("QV-Files", "0", ""), {"missing", "QV-Files"}, {}},
+        {"no settings", remove("programm.ini"), {"fehlt", "programm.ini"}, "\"\""},
+        {"no host texts", remove("language.mdb"), {"fehlt", "language.mdb"}, {}},
+        {"no output folder", setting("Verzeichnisse", "Prints", "\\nirgends"), {"fehlt", "/nirgends"}, {}},
+        {"no path", setting("QV-Files", "0", ""), {"fehlt", "QV-Files"}, {}},
         {"unmapped drive",
          setting("QV-Files", "0", "C:\\Daten\\f.mdb"),
-         {"missing", "C:\\Daten\\f.mdb", "Laufwerke"},
+         {"fehlt", "C:\\Daten\\f.mdb", "Laufwerke"},
          "/dev/null"},
         {"other language", setting("Ansicht", "Sprache", "Suomi"), {"missing", "Ereignis.mdb", "Suomi"}, {}},
         {"read-only database",
          [](const test::Installation &it) { QFile::setPermissions(familyFile(it), QFile::ReadOwner); },
-         {"locked", "familie.mdb", "write-protected"},
-         "can be marked"},
+         {"gesperrt", "familie.mdb", "schreibgeschützt"},
+         "können markiert werden"},
         {"damaged page",
          [](const test::Installation &it) {
              const auto table = jet::Database::open(familyFile(it))->table("Daten");
@@ -117,14 +117,14 @@ TEST(Check, NamesWhatIsWrongWithEachPart)
              file.seek(qint64{table->place(0).firstPage} * 4096 + 12);
              file.write("\xff\xff", 2);
          },
-         {"damaged", "familie.mdb", "\"Daten\"", "page"},
+         {"beschädigt", "familie.mdb", "Tabelle Daten", "Seite"},
          {}},
         {"persons twice",
          [](const test::Installation &it) {
              test::writeFamily(familyFile(it), {{.counter = 1, .listname = "A"}, {.counter = 1, .listname = "B"}});
          },
-         {"damaged", "familie.mdb", "two persons have the Counter 1"},
-         "can be marked"},
+         {"beschädigt", "familie.mdb", "1 Personen haben einen Counter"},
+         "können markiert werden"},
     };
     for (const auto &row : rows) {
         const test::Installation installation(Persons);

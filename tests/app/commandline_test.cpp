@@ -309,10 +309,32 @@ TEST_F(CommandLine, SaysWhereDamageMadeTheResultShort)
     EXPECT_EQ(outcome.exitCode, 0);
     EXPECT_LT(lineCount(outcome.out), 400);
     EXPECT_EQ(lineCount(outcome.err), 1) << outcome.err.toStdString();
-    EXPECT_TRUE(outcome.err.contains("Familie.mdb") && outcome.err.contains("not complete"));
+    EXPECT_TRUE(outcome.err.contains("Familie.mdb") && outcome.err.contains("fehlt im Ergebnis"));
     EXPECT_EQ(onDemo({"check"}).exitCode, 1);
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     file.write(sound);
+}
+
+TEST_F(CommandLine, WritesNoMarkIntoAFileThatWasCut)
+{
+    for (const QString &name : {QString("Daten/Familie.mdb"), QString("orte.mdb")}) {
+        QFile file(folder->filePath("QV/" + name));
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        const QByteArray sound = file.readAll();
+        for (const int percent : {30, 60, 95}) {
+            SCOPED_TRACE(name.toStdString() + std::to_string(percent));
+            ASSERT_TRUE(file.resize(sound.size() / 100 * percent));
+            const Outcome list = onDemo({"list", "--limit", "1"});
+            EXPECT_TRUE(list.err.contains(name.section('/', -1)) && list.err.contains("unvollständig"))
+                << list.err.toStdString();
+            const QByteArray before = familyBytes();
+            const Outcome mark = onDemo({"mark", "--all"});
+            EXPECT_EQ(mark.exitCode, name == "orte.mdb" ? list.exitCode : 1) << mark.err.toStdString();
+            EXPECT_TRUE(name == "orte.mdb" || familyBytes() == before);
+            ASSERT_TRUE(file.resize(0) && file.seek(0) && file.write(sound) == sound.size() && file.flush());
+        }
+    }
+    EXPECT_EQ(onDemo({"unmark", "--all"}).exitCode, 0);
 }
 
 TEST_F(CommandLine, EndsWithMessageWhereTheFamilyDatabaseIsMissing)

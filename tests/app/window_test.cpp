@@ -103,7 +103,7 @@ TEST(Window, SaysThatTheDatabaseIsDamaged)
     open.controller().reloadLists();
     const auto &label = open.control<QLabel>("PanelSchaden");
     EXPECT_TRUE(label.isVisible());
-    EXPECT_TRUE(label.toolTip().contains("familie.mdb") && label.toolTip().contains("page"));
+    EXPECT_TRUE(label.toolTip().contains("familie.mdb") && label.toolTip().contains("Seite"));
 }
 
 TEST(Window, EndsTheDatabasesAndKeepsItsPlace)

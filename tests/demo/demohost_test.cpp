@@ -154,7 +154,7 @@ TEST_F(DemoTest, AllTablesOfAHostAreThere)
             EXPECT_EQ(entry->name, QString::fromLatin1(name));
             EXPECT_GT(database->table(entry->name)->rowCount(), 0u) << name;
         }
-        EXPECT_TRUE(database->warnings().isEmpty());
+        EXPECT_TRUE(database->damage().empty());
         if (const auto *texts = database->entry(u"Languages"_s)) {
             EXPECT_EQ(database->table(texts->name)->rowCount(), language::catalogue().size());
             EXPECT_EQ(database->table(texts->name)->indexes().at(0).name, u"Counter"_s);

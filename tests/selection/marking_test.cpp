@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/marking/marking.h"
 
+#include "platform/jet/reader/database.h"
 #include "selection/lists/listquery.h"
+#include "selection/marking/leftpersons.h"
 #include "selection/marking/markhistory.h"
 #include "support/startedprogram.h"
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <QFile>
 
 using namespace kalvenor;
 using namespace kalvenor::selection;
@@ -51,6 +54,37 @@ TEST(MarkPersons, ChangesThoseThatDiffer)
     app::Program other(started.programFolder(), desktop);
     ASSERT_TRUE(other.Main());
     EXPECT_EQ(other.databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Unmarked))->recordCount(), 0);
+}
+
+TEST(MarkPersons, NamesThoseWhoKeepTheirMark)
+{
+    const test::Installation installation({{.counter = 1, .listname = "A"}, {.counter = 5, .listname = "B"}});
+    const QString file = installation.folder.path() + "/QV/Familie/familie.mdb";
+    {
+        // As if the column had been made later than all rows, where their null mask has no room for it.
+        const auto table = jet::Database::open(file)->table("Daten");
+        const qint64 definition = qint64{table->definitionPage()} * 4096;
+        const int mark = table->columns()[static_cast<std::size_t>(table->columnOf(u"Markierung"))].number;
+        QFile family(file);
+        ASSERT_TRUE(family.open(QIODevice::ReadWrite) && family.seek(definition + 51));
+        const int indexes = family.read(1)[0];
+        const auto put = [&](qint64 at, char value) {
+            ASSERT_TRUE(family.seek(definition + at) && family.putChar(value));
+        };
+        put(41, 65);
+        put(63 + 12 * indexes + 25 * mark + 5, 64);
+    }
+    test::FakeDesktop desktop;
+    app::Program program(installation.programFolder(), desktop);
+    ASSERT_TRUE(program.Main());
+    const auto left = markPersons(program.databases, std::vector<qint32>{1, 5}, true).left;
+    const QString told = leftPersons(program.language, program.databases, left);
+    EXPECT_TRUE(left.size() == 2 && told.startsWith("2 Personen") && told.endsWith(": A (1); B (5)"))
+        << told.toStdString();
+    EXPECT_TRUE(leftPersons(program.language, program.databases, {}).isEmpty());
+    EXPECT_TRUE(markPersons(program.databases, std::vector<qint32>{1, 5}, false).left.empty()) << "they are unmarked";
+    EXPECT_TRUE(markPersons(program.databases, std::vector<qint32>{1}, false).changed.empty());
+    EXPECT_THROW(markPersons(program.databases, std::vector<qint32>{1}, true), basic::Error);
 }
 
 namespace {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/commands/check.h"
 
+#include "app/start/hostlanguage.h"
 #include "app/start/startedprogram.h"
 #include "data/datenbankmodul.h"
 #include "host/host.h"
@@ -9,7 +10,6 @@
 #include "platform/desktop/terminal.h"
 #include "platform/jet/marks/markwriter.h"
 #include "platform/jet/reader/database.h"
-#include "platform/jet/reader/record.h"
 #include <algorithm>
 #include <QFileInfo>
 #include <unordered_set>
@@ -21,6 +21,7 @@ namespace kalvenor::app {
 namespace {
 
 using jet::ColumnType;
+using language::Text;
 
 struct NeededColumn {
     QString name;
@@ -54,16 +55,27 @@ std::vector<NeededColumn> eventColumns()
     return {{u"Index"_s, Numbers}, {u"txtzeichen"_s, Texts}, {u"Art"_s, Texts}, {u"Icon_Druck"_s, {}}};
 }
 
-QString placeOf(const jet::Table &table)
-{
-    return u"%1, table \"%2\""_s.arg(table.image().file(), table.name());
-}
+constexpr qsizetype ExamplesShown = 3;
+
+/// The first ones, and how many there are.
+struct Found {
+    qint64 count = 0;
+    QStringList examples{};
+
+    void add(const QString &example)
+    {
+        if (++count <= ExamplesShown)
+            examples << example;
+    }
+    QString first() const { return examples.join(u", "_s) + (count > ExamplesShown ? u" …"_s : QString()); }
+};
 
 class Checker {
 public:
     explicit Checker(const basic::WindowsPath &programFolder) : m_host(programFolder, m_desktop)
     {
-        m_host.Hostverzeichnis = host::uebergeordnetesverzeichnis(m_host.programFolder());
+        speakAsHost(m_host);
+        m_language = language::catalogueLanguage(m_host);
         m_host.Sprache = u"Deutsch"_s; // what start-up takes where no setting says otherwise
     }
     CheckResult run();
@@ -71,12 +83,21 @@ public:
 private:
     using Table = std::shared_ptr<const jet::Table>;
 
-    void ok(const QString &line) { m_result.good << u"ok       "_s + line; }
-    void note(const QString &line) { m_result.notes << u"note     "_s + line; }
-    void missing(const QString &line) { m_result.problems << u"missing  "_s + line; }
-    void damaged(const QString &line) { m_result.problems << u"damaged  "_s + line; }
-    void locked(const QString &line) { m_result.problems << u"locked   "_s + line; }
+    QString text(Text id) const { return language::wording(id, m_language); }
+    template <class... Values>
+    QString text(Text id, const QString &first, const Values &...values) const
+    {
+        return text(id).arg(first, values...);
+    }
+    QString line(Text kind, const QString &what) const;
+    void ok(const QString &what) { m_result.good << line(Text::CheckOk, what); }
+    void note(const QString &what) { m_result.notes << line(Text::CheckNote, what); }
+    void missing(const QString &what) { m_result.problems << line(Text::CheckMissing, what); }
+    void damaged(const QString &what) { m_result.problems << line(Text::CheckDamaged, what); }
+    void locked(const QString &what) { m_result.problems << line(Text::CheckLocked, what); }
     void report(const basic::Error &error);
+    void report(const std::vector<jet::Damage> &damage);
+    QString placeOf(const jet::Table &table) const;
 
     bool checkFolders();
     void checkOutputFolder();
@@ -92,24 +113,45 @@ private:
 
     desktop::TerminalDesktop m_desktop;
     host::Host m_host;
+    language::CatalogueLanguage m_language = language::CatalogueLanguage::English;
     CheckResult m_result;
 };
 
-/// In English, as the lines around it.
+/// The first words of all lines are equally wide.
+QString Checker::line(Text kind, const QString &what) const
+{
+    qsizetype width = 0;
+    for (const Text word : {Text::CheckOk, Text::CheckNote, Text::CheckMissing, Text::CheckDamaged, Text::CheckLocked})
+        width = std::max(width, text(word).size());
+    return text(kind).leftJustified(width + 2) + what;
+}
+
 void Checker::report(const basic::Error &error)
 {
+    const QString what = language::errorMessage(m_language, error);
     switch (error.kind()) {
     case basic::ErrorKind::FileNotFound:
     case basic::ErrorKind::TableNotFound:
     case basic::ErrorKind::ColumnNotFound:
-        return missing(language::errorMessage(language::CatalogueLanguage::English, error));
+        return missing(what);
     case basic::ErrorKind::FileUnreadable:
     case basic::ErrorKind::ReadOnly:
     case basic::ErrorKind::NotMarkable:
-        return locked(language::errorMessage(language::CatalogueLanguage::English, error));
+        return locked(what);
     default:
-        return damaged(language::errorMessage(language::CatalogueLanguage::English, error));
+        return damaged(what);
     }
+}
+
+void Checker::report(const std::vector<jet::Damage> &damage)
+{
+    for (const jet::Damage &kind : damage)
+        damaged(language::damageLine(m_language, kind));
+}
+
+QString Checker::placeOf(const jet::Table &table) const
+{
+    return u"%1, %2"_s.arg(table.image().file(), text(Text::PlaceTable, table.name()));
 }
 
 CheckResult Checker::run()
@@ -130,17 +172,17 @@ bool Checker::checkFolders()
 {
     const QString program = m_host.native(m_host.programFolder());
     if (!QFileInfo(program).isDir()) {
-        missing(program + u": the program's folder is not there"_s);
+        missing(text(Text::CheckNoProgramFolder, program));
         return false;
     }
     if (QFileInfo(program).isWritable())
-        ok(program + u": program folder, writable"_s);
+        ok(text(Text::CheckProgramFolder, program));
     else
-        locked(program + u": the program's folder is read-only; print settings cannot be kept in it"_s);
+        locked(text(Text::CheckProgramFolderReadOnly, program));
 
     const basic::WindowsPath settings = m_host.hostSettingsFile();
     if (m_host.dir(settings).isEmpty()) {
-        missing(m_host.native(settings) + u": the host's settings file is not there, so no family database is known"_s);
+        missing(text(Text::CheckNoSettings, m_host.native(settings)));
         return true;
     }
     const auto setting = [&](const char *section, const char *key, const QString &fallback) {
@@ -148,7 +190,7 @@ bool Checker::checkFolders()
     };
     m_host.Sprache = setting("Ansicht", "Sprache", u"Deutsch"_s);
     m_host.Familienpfad = m_host.readPath(settings, u"QV-Files"_s, u"0"_s, {});
-    ok(u"%1: host settings, language \"%2\""_s.arg(m_host.native(settings), m_host.Sprache));
+    ok(text(Text::CheckSettings, m_host.native(settings), m_host.Sprache));
     return true;
 }
 
@@ -157,23 +199,22 @@ void Checker::checkOutputFolder()
     const QString folder = m_host.native(m_host.readPath(m_host.hostSettingsFile(), u"Verzeichnisse"_s, u"Prints"_s,
                                                          m_host.Hostverzeichnis + u"\\Ausdrucke"_s));
     if (!QFileInfo(folder).isDir())
-        missing(folder + u": the output folder is not there"_s);
+        missing(text(Text::CheckNoOutputFolder, folder));
     else if (!QFileInfo(folder).isWritable())
-        locked(folder + u": the output folder is read-only"_s);
+        locked(text(Text::CheckOutputFolderReadOnly, folder));
     else
-        ok(folder + u": output folder, writable"_s);
+        ok(text(Text::CheckOutputFolder, folder));
 }
 
 std::shared_ptr<jet::Database> Checker::open(const basic::WindowsPath &path)
 {
     if (m_host.hasUnmappedDrive(path)) {
-        missing(unknownDrive(m_host, path, language::CatalogueLanguage::English));
+        missing(unknownDrive(m_host, path, m_language));
         return nullptr;
     }
     try {
         auto database = jet::Database::open(m_host.native(path));
-        for (const QString &warning : database->warnings())
-            damaged(u"%1: %2"_s.arg(database->file(), warning));
+        report(database->damage());
         return database;
     } catch (const basic::Error &error) {
         report(error);
@@ -185,8 +226,7 @@ Checker::Table Checker::table(jet::Database &database, const QString &name)
 {
     try {
         Table found = database.table(name);
-        for (const QString &warning : found->warnings())
-            damaged(u"%1: %2"_s.arg(placeOf(*found), warning));
+        report(found->damage());
         return found;
     } catch (const basic::Error &error) {
         report(error);
@@ -201,12 +241,12 @@ bool Checker::hasColumns(const jet::Table &table, const std::vector<NeededColumn
         const QString place = placeOf(table);
         const int column = table.columnOf(needed.name);
         if (column < 0) {
-            missing(u"%1: there is no column \"%2\""_s.arg(place, needed.name));
+            missing(text(Text::CheckColumnMissing, place, needed.name));
             complete = false;
         } else if (const auto type = table.columns()[static_cast<std::size_t>(column)].type;
                    !needed.types.empty() &&
                    std::find(needed.types.begin(), needed.types.end(), type) == needed.types.end()) {
-            damaged(u"%1: the column \"%2\" has a type that cannot be used"_s.arg(place, needed.name));
+            damaged(text(Text::CheckColumnUnusable, place, needed.name));
             complete = false;
         }
     }
@@ -219,7 +259,7 @@ bool Checker::hasCounterIndex(const jet::Table &table)
         return index.name.compare(u"Counter", Qt::CaseInsensitive) == 0;
     });
     if (!there)
-        missing(placeOf(table) + u": there is no index \"Counter\""_s);
+        missing(text(Text::CheckIndexMissing, placeOf(table)));
     return there;
 }
 
@@ -236,14 +276,13 @@ void Checker::checkLanguageDatabase(const basic::WindowsPath &file, bool holdsOu
     if (holdsOurTexts)
         sound = hasColumns(*languages, {{m_host.Sprache, Texts}}) && sound;
     if (sound)
-        ok(u"%1: %2 texts"_s.arg(database->file(), QString::number(languages->rowCount())));
+        ok(text(Text::CheckTexts, database->file(), QString::number(languages->rowCount())));
 }
 
 void Checker::checkFamilyDatabase()
 {
     if (m_host.Familienpfad.isEmpty()) {
-        missing(m_host.native(m_host.hostSettingsFile()) +
-                u": no family database is named (section QV-Files, key 0); open one in the host program"_s);
+        missing(text(Text::CheckNoFamilyNamed, m_host.native(m_host.hostSettingsFile())));
         return;
     }
     const auto database = open(m_host.Familienpfad);
@@ -252,7 +291,7 @@ void Checker::checkFamilyDatabase()
     checkTables(database, data::HostDatabase::Family);
     const QString lockFile = database->file().left(database->file().lastIndexOf(u'.')) + u".ldb"_s;
     if (QFileInfo::exists(lockFile))
-        note(lockFile + u": the family database is open in another program, or was not closed cleanly"_s);
+        note(text(Text::CheckOpenElsewhere, lockFile));
 }
 
 void Checker::checkSideDatabase(data::HostDatabase side)
@@ -281,10 +320,12 @@ void Checker::checkTables(const std::shared_ptr<jet::Database> &database, data::
     }
     if (sound < needed)
         return;
-    const QString what = needed == 0   ? u"readable"_s
-                         : needed == 1 ? u"its table is there"_s
-                                       : u"all %1 tables are there"_s.arg(needed);
-    ok(u"%1: %2"_s.arg(database->file(), what));
+    if (needed == 0)
+        ok(text(Text::CheckReadable, database->file()));
+    else if (needed == 1)
+        ok(text(Text::CheckTableThere, database->file()));
+    else
+        ok(text(Text::CheckTablesThere, database->file(), QString::number(needed)));
 }
 
 void Checker::checkPersonTable(const std::shared_ptr<jet::Database> &database, const Table &persons)
@@ -294,36 +335,36 @@ void Checker::checkPersonTable(const std::shared_ptr<jet::Database> &database, c
         return;
     const int counter = persons->columnOf(u"Counter");
     const int mark = persons->columnOf(u"Markierung");
-    std::unordered_set<qint32> counters;
-    counters.reserve(persons->rowCount());
-    quint32 marked = 0;
-    quint32 without = 0;
-    quint32 older = 0;
     const qsizetype problemsBefore = m_result.problems.size();
-    const std::uint16_t markNumber = persons->columns()[static_cast<std::size_t>(mark)].number;
-    for (quint32 row = 0; row < persons->rowCount(); ++row) {
-        const auto value = persons->integer(row, counter);
-        without += value ? 0 : 1;
-        if (value && !counters.insert(*value).second)
-            damaged(u"%1: two persons have the Counter %2"_s.arg(placeOf(*persons), QString::number(*value)));
-        marked += persons->boolean(row, mark) ? 1 : 0;
-        older += jet::Record(persons->layout(), persons->record(row)).has(markNumber) ? 0 : 1;
-    }
-    const auto lines = [&](quint32 count, const char *what) {
-        if (count > 0)
-            damaged(u"%1: %2 %3"_s.arg(placeOf(*persons), QString::number(count), QLatin1String(what)));
-    };
-    lines(without, "persons have no Counter");
-    lines(older,
-          "persons are older than the column \"Markierung\" and cannot be marked until the host saves them again");
-    ok(u"%1: %2 persons, %3 of them marked"_s.arg(database->file(), QString::number(persons->rowCount()),
-                                                  QString::number(marked)));
     try {
         const jet::MarkWriter writer(database, persons, mark, counter);
+        std::unordered_set<qint32> counters;
+        counters.reserve(persons->rowCount());
+        qint64 marked = 0;
+        qint64 without = 0;
+        Found repeated;
+        Found older;
+        for (quint32 row = 0; row < persons->rowCount(); ++row) {
+            const auto value = persons->integer(row, counter);
+            without += value ? 0 : 1;
+            if (value && !counters.insert(*value).second)
+                repeated.add(QString::number(*value));
+            marked += persons->boolean(row, mark) ? 1 : 0;
+            if (!writer.canMark(row))
+                older.add(QString::number(value.value_or(0)));
+        }
+        const QString place = placeOf(*persons);
+        if (repeated.count > 0)
+            damaged(text(Text::CheckCounterRepeated, place, QString::number(repeated.count), repeated.first()));
+        if (without > 0)
+            damaged(text(Text::CheckNoCounter, place, QString::number(without)));
+        if (older.count > 0)
+            damaged(text(Text::CheckTooOld, place, QString::number(older.count), older.first()));
+        ok(text(Text::CheckPersons, database->file(), QString::number(persons->rowCount()), QString::number(marked)));
         if (m_result.problems.size() > problemsBefore)
             return;
         writer.requireWritable();
-        ok(database->file() + u": writable, persons can be marked"_s);
+        ok(text(Text::CheckWritable, database->file()));
     } catch (const basic::Error &error) {
         report(error);
     }

@@ -7,6 +7,7 @@
 #include "demo/host/demohost.h"
 #include "platform/desktop/terminal.h"
 #include "selection/lists/listquery.h"
+#include "selection/marking/leftpersons.h"
 
 using namespace Qt::StringLiterals;
 
@@ -67,11 +68,13 @@ int runMark(const basic::WindowsPath &programFolder, const MarkCommand &command)
     data::Datenbankmodul &databases = started.program.databases;
     desktop::TerminalProgress terminal(started.progress(command.mark ? Text::MarkingPersons : Text::UnmarkingAll));
     std::size_t changed = 0;
+    std::vector<dao::LeftRow> left;
     if (command.query) {
         const auto from = command.mark ? selection::PersonList::Unmarked : selection::PersonList::Marked;
-        changed =
-            databases.Familiendatenbank->execute(selection::markAllStatement(from, *command.query), terminal.progress())
-                .changedKeys.size();
+        dao::Execution done = databases.Familiendatenbank->execute(selection::markAllStatement(from, *command.query),
+                                                                   terminal.progress());
+        changed = done.changedKeys.size();
+        left = std::move(done.left);
     } else {
         const auto unknown = selection::unknownPersons(databases, command.counters);
         if (!unknown.empty()) {
@@ -79,13 +82,16 @@ int runMark(const basic::WindowsPath &programFolder, const MarkCommand &command)
                                     .arg(databases.Familiendatenbank->file(), numbers(unknown)));
             return Failed;
         }
-        const auto result =
+        auto result =
             selection::markPersons(databases, command.counters, command.mark, command.relatives, terminal.progress());
         changed = result.changed.size();
+        left = std::move(result.left);
         if (result.limitReached)
             tellLimitReached(started.program);
     }
     printLine(u"%1 rows changed"_s.arg(changed));
+    if (!left.empty())
+        desktop::writeError(selection::leftPersons(started.program.language, databases, left));
     return started.done();
 }
 

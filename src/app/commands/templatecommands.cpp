@@ -3,6 +3,7 @@
 #include "app/commands/templatecommands.h"
 
 #include "app/start/startedprogram.h"
+#include "selection/marking/leftpersons.h"
 #include "selection/templates/vorlageoeffnen.h"
 #include "selection/templates/vorlagespeichern.h"
 #include "statistics/options/statistik.h"
@@ -77,6 +78,8 @@ int runTemplateOpen(const basic::WindowsPath &programFolder, const QString &file
     if (opened.vorlage.lastIsOpen)
         printLine(u"last line:     has no end; if the file was cut, another person than %1 may be meant"_s.arg(
             opened.vorlage.counters.back()));
+    if (!opened.left.empty())
+        desktop::writeError(selection::leftPersons(program.language, program.databases, opened.left));
     return started.done();
 }
 

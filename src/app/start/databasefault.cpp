@@ -53,6 +53,8 @@ QString databaseFault(data::Session &session, const basic::Error &error, const b
             return session.language.text(Text::FamilyLocked) + u' ' + session.language.text(Text::FileInUse);
         return session.language.text(Text::FileNotReadable).arg(file);
     case basic::ErrorKind::NotADatabase:
+        if (isOtherVersion(file) && error.fault() == basic::Fault::FileTooShort)
+            return language::errorMessage(session.language, error); // what is left of a database
         if (isOtherVersion(file))
             return session.language.text(Text::UnknownDatabaseFormat).arg(file);
         if (isFamily)
@@ -63,6 +65,8 @@ QString databaseFault(data::Session &session, const basic::Error &error, const b
             return session.language.text(Text::NoFamilyDatabase).arg(file);
         return session.language.text(Text::HostTableMissing).arg(error.arguments().value(0), file);
     case basic::ErrorKind::Damaged:
+        if (error.fault() == basic::Fault::FileCutShort)
+            return language::errorMessage(session.language, error);
         return session.language.text(Text::FileDamaged).arg(file);
     default:
         return language::errorMessage(session.language, error);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/start/startedprogram.h"
 
+#include "language/texts/errormessage.h"
+
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::app {
@@ -18,6 +20,16 @@ QString lookedFor(const host::Host &host, language::CatalogueLanguage language)
         return wording(Text::NoFamilyNamed, language).arg(host.native(host.hostSettingsFile()) + u" [QV-Files]"_s);
     return host.hasUnmappedDrive(path) ? unknownDrive(host, path, language)
                                        : wording(Text::LookedFor, language).arg(host.native(path));
+}
+
+/// Somebody else has written to the file, or taken it away.
+bool hasChanged(const dao::Database &database)
+{
+    try {
+        return database.isStale();
+    } catch (const basic::Error &) {
+        return true;
+    }
 }
 
 } // namespace
@@ -47,14 +59,17 @@ QString StartedProgram::progress(Text what)
     return progressLine(program.language.text(what), language::catalogueLanguage(program.host));
 }
 
-int StartedProgram::done() const
+int StartedProgram::done()
 {
-    const dao::Database &family = *program.databases.Familiendatenbank;
-    const QStringList damage = family.warnings();
-    if (!damage.isEmpty())
-        desktop::writeError(u"%1 is damaged and what could not be read was left out, so the result is not "
-                            "complete (%2 places, the first: %3); kalvenor check lists them"_s.arg(
-                                family.file(), QString::number(damage.size()), damage.first()));
+    const std::vector<jet::Damage> damage = program.databases.damage();
+    qint64 places = 0;
+    for (const jet::Damage &kind : damage)
+        places += kind.count;
+    if (places > 0)
+        desktop::writeError(program.language.text(Text::DamagedResult)
+                                .arg(QString::number(places), language::damageLine(program.language, damage.front())));
+    if (hasChanged(*program.databases.Familiendatenbank))
+        desktop::writeError(program.language.text(Text::ChangedMeanwhile));
     return Done;
 }
 

@@ -23,8 +23,9 @@ struct StartedProgram {
 
     /// What is shown on the terminal while the command does this.
     QString progress(language::Text what);
-    /// The exit code of a command that did its work; says on stderr where damage of the file made the result short.
-    int done() const;
+    /// The exit code of a command that did its work; says on stderr where damage of a file made the result short,
+    /// and where another program changed the family database meanwhile.
+    int done();
 };
 
 /// That no folder is known for the path's drive, and where to name it.

@@ -5,6 +5,7 @@
 #include "app/window/messageline.h"
 #include "language/forms/widgetform.h"
 #include "language/progress/progresspanel.h"
+#include "language/texts/errormessage.h"
 #include <array>
 #include <QFileInfo>
 #include <QLabel>
@@ -65,10 +66,17 @@ void StatusPanels::update(data::Session &session, selection::SelectionController
         return; // while another one is being opened
     m_database->setText(QFileInfo(family.file()).fileName());
     m_readOnly->setVisible(lists.isReadOnly());
-    const QStringList damage = family.warnings();
-    m_damage->setVisible(!damage.isEmpty());
-    m_damage->setText(session.language.text(Text::DamageCount).arg(lists.numberText(damage.size())));
-    m_damage->setToolTip(damage.mid(0, DamageLinesShown).join(u'\n'));
+    const std::vector<jet::Damage> damage = session.databases.damage();
+    qint64 places = 0;
+    QStringList lines;
+    for (const jet::Damage &kind : damage) {
+        places += kind.count;
+        if (lines.size() < DamageLinesShown)
+            lines << language::damageLine(session.language, kind);
+    }
+    m_damage->setVisible(!damage.empty());
+    m_damage->setText(session.language.text(Text::DamageCount).arg(lists.numberText(places)));
+    m_damage->setToolTip(lines.join(u'\n'));
 
     m_persons->setText(session.language.text(Text::PersonsCount).arg(lists.numberText(lists.personCount())));
     m_marked->setText(session.language.text(Text::MarkedCount).arg(lists.numberText(lists.markedCount())));

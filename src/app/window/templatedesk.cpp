@@ -5,6 +5,7 @@
 #include "language/progress/userwork.h"
 #include "language/texts/sprache.h"
 #include "platform/basic/codepage.h"
+#include "selection/marking/leftpersons.h"
 #include "selection/templates/vorlageoeffnen.h"
 #include "selection/templates/vorlagespeichern.h"
 #include <QFileInfo>
@@ -124,6 +125,10 @@ bool TemplateDesk::openFile(const QString &nativeFile)
             m_session.language.text(Text::TemplatePersonsMissing)
                 .arg(language::anzeigesprache(m_session.host).toString(static_cast<qlonglong>(opened.missing.size()))),
             0, m_session.language.text(Text::OpenTemplate));
+    if (!opened.left.empty())
+        m_session.host.desktop().messageBox(
+            selection::leftPersons(m_session.language, m_session.databases, opened.left), 0,
+            m_session.language.text(Text::OpenTemplate));
     return true;
 }
 

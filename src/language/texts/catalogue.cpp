@@ -12,7 +12,7 @@ std::span<const CatalogueText> catalogue()
     static const std::vector<CatalogueText> all = [] {
         std::vector<CatalogueText> texts;
         for (const auto group :
-             {hostTexts(), windowTexts(), statisticsTexts(), printTexts(), messageTexts(), faultTexts()})
+             {hostTexts(), windowTexts(), statisticsTexts(), printTexts(), messageTexts(), faultTexts(), damageTexts()})
             texts.insert(texts.end(), group.begin(), group.end());
         std::ranges::sort(texts, {}, &CatalogueText::id);
         return texts;

@@ -22,6 +22,7 @@ std::span<const CatalogueText> statisticsTexts(); ///< 20500–20799: tabs, figu
 std::span<const CatalogueText> printTexts();      ///< 20800–20999: print settings, preview, report
 std::span<const CatalogueText> messageTexts();    ///< 21000 and up: messages, about, first run, help, templates
 std::span<const CatalogueText> faultTexts();      ///< 22000 and up: the sentences of errors, by basic::Fault
+std::span<const CatalogueText> damageTexts();     ///< from 21600 and 22350 on: damage, the check of an installation
 
 /// All of them, in the order of their numbers.
 std::span<const CatalogueText> catalogue();

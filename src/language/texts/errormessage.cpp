@@ -21,6 +21,13 @@ Lookup lookupIn(Sprachmodul &texts)
     };
 }
 
+Lookup lookupIn(CatalogueLanguage language)
+{
+    return [language](Text id) {
+        return wording(id, language);
+    };
+}
+
 QString sentenceOf(const Lookup &texts, basic::Fault fault)
 {
     return texts(static_cast<Text>(fault));
@@ -77,6 +84,16 @@ QString message(const Lookup &texts, const basic::Error &error)
     return (place.isEmpty() ? QString() : place + u": "_s) + sentences(texts, error);
 }
 
+QString line(const Lookup &texts, const jet::Damage &damage)
+{
+    QStringList examples;
+    for (const basic::Error &example : damage.examples)
+        examples << message(texts, example);
+    const QString first = examples.join(u' ');
+    return placeInWords(texts, damage.place) + u": "_s +
+           (damage.count == 1 ? first : texts(Text::DamageTimes).arg(QString::number(damage.count), first));
+}
+
 } // namespace
 
 QString errorSentence(Sprachmodul &texts, const basic::Error &error)
@@ -96,7 +113,17 @@ QString errorMessage(Sprachmodul &texts, const basic::Error &error)
 
 QString errorMessage(CatalogueLanguage language, const basic::Error &error)
 {
-    return message([language](Text id) { return wording(id, language); }, error);
+    return message(lookupIn(language), error);
+}
+
+QString damageLine(Sprachmodul &texts, const jet::Damage &damage)
+{
+    return line(lookupIn(texts), damage);
+}
+
+QString damageLine(CatalogueLanguage language, const jet::Damage &damage)
+{
+    return line(lookupIn(language), damage);
 }
 
 void reportError(desktop::Desktop &desktop, Sprachmodul &texts, const basic::Error &error)

@@ -6,6 +6,7 @@
 #include "language/texts/sprache.h"
 #include "platform/basic/error.h"
 #include "platform/desktop/desktop.h"
+#include "platform/jet/reader/damage.h"
 
 namespace kalvenor::language {
 
@@ -20,5 +21,8 @@ QString errorMessage(CatalogueLanguage language, const basic::Error &error);
 
 /// The report of an error that nothing caught: its number as users of the classic runtime know it, and its message.
 void reportError(desktop::Desktop &desktop, Sprachmodul &texts, const basic::Error &error);
+/// Damage of one kind in a line: where it is and what, or how often and the first places.
+QString damageLine(Sprachmodul &texts, const jet::Damage &damage);
+QString damageLine(CatalogueLanguage language, const jet::Damage &damage);
 
 } // namespace kalvenor::language

@@ -246,6 +246,33 @@ enum class ErrorKind {
     F(KeyUnsuited, 22327, InvalidProcedureCall)               \
     F(IndexKeyTwice, 22328, InvalidProcedureCall)             \
     F(DatabaseFull, 22329, InvalidProcedureCall)              \
+    /* Damage that is passed over, or not */                  \
+    F(FileCutShort, 22350, Damaged)                           \
+    F(IncompleteNotMarked, 22351, NotMarkable)                \
+    F(PartialPage, 22352, Damaged)                            \
+    F(TableWithoutPage, 22353, Damaged)                       \
+    F(TableTwice, 22354, Damaged)                             \
+    F(TablePageTaken, 22355, Damaged)                         \
+    F(RowsMissing, 22356, Damaged)                            \
+    F(TooManyRows, 22357, Damaged)                            \
+    F(RowsWithoutPlace, 22358, Damaged)                       \
+    F(RowLeftOut, 22359, Damaged)                             \
+    F(FieldBeyondRow, 22360, Damaged)                         \
+    F(ValueSize, 22361, Damaged)                              \
+    F(LongValueDamaged, 22362, Damaged)                       \
+    F(LongValuesShared, 22363, Damaged)                       \
+    F(TypeUnknown, 22364, Damaged)                            \
+    F(ColumnTwice, 22365, Damaged)                            \
+    /* Words: what is damaged in a row */                     \
+    F(WordMovedAway, 22370, Damaged)                          \
+    F(WordRecordTaken, 22371, Damaged)                        \
+    F(WordUnknownFlag, 22372, Damaged)                        \
+    F(WordOffsets, 22373, Damaged)                            \
+    F(WordLongPartMissing, 22374, Damaged)                    \
+    F(WordLongTooShort, 22375, Damaged)                       \
+    F(WordLongCircle, 22376, Damaged)                         \
+    F(WordLongHead, 22377, Damaged)                           \
+    F(WordLongKind, 22378, Damaged)                           \
     /* Words: what is damaged in the definition of a table */ \
     F(WordPageBeyondEnd, 22300, Damaged)                      \
     F(WordOtherPage, 22301, Damaged)                          \

@@ -22,6 +22,8 @@ void Database::Private::reload()
 {
     session = std::make_shared<SqlSession>(std::make_shared<Snapshot>(jet::Database::open(file)));
     ++generation;
+    for (const std::shared_ptr<Recordset> &recordset : recordsets)
+        recordset->d->letGo();
 }
 
 bool Database::Private::reloadIfStale()
@@ -122,11 +124,14 @@ Execution Database::writeMarks(const std::function<UpdateResult(SqlSession &)> &
         const int keyColumn = keyColumnOf(table);
         const Bits old = view.marks(markColumn);
         try {
-            for (const quint32 row : session->snapshot()->write(view, markColumn, update.marks, progress)) {
+            const jet::MarksWritten written = session->snapshot()->write(view, markColumn, update.marks, progress);
+            for (const quint32 row : written.changed) {
                 table.fetchAhead(row);
                 if (const auto key = table.integer(row, keyColumn); key && !before.contains(*key))
                     execution.changedKeys.push_back(*key);
             }
+            for (const jet::LeftRow &row : written.left)
+                execution.left.push_back({row.why, table.integer(row.row, keyColumn)});
             if (!before.empty()) {
                 for (const jet::Mark &mark : update.marks)
                     before.erase(table.integer(mark.row, keyColumn).value_or(0));
@@ -171,9 +176,9 @@ quint64 Database::generation() const
     return d->generation;
 }
 
-QStringList Database::warnings() const
+std::vector<jet::Damage> Database::damage() const
 {
-    return d->open().snapshot()->warnings();
+    return d->open().snapshot()->damage();
 }
 
 const std::vector<std::shared_ptr<Recordset>> &Database::recordsets() const

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/fault.h"
 #include "platform/basic/progress.h"
 #include "platform/dao/marksnapshot.h"
 #include "platform/dao/recordset.h"
+#include "platform/jet/reader/damage.h"
 #include <functional>
 #include <memory>
 #include <optional>
@@ -19,10 +21,17 @@ namespace kalvenor::dao {
 class SqlSession;
 struct UpdateResult;
 
+/// A row that cannot take the mark it should have.
+struct LeftRow {
+    basic::Fault why;               ///< RowWithoutKey, KeyRepeated or RecordTooOld
+    std::optional<qint32> key = {}; ///< its `Counter`
+};
+
 /// What an UPDATE did.
 struct Execution {
     qint64 matched = 0;                ///< rows the statement selected
     std::vector<qint32> changedKeys{}; ///< `Counter` of the rows whose mark really changed, in row order
+    std::vector<LeftRow> left{};       ///< those that stayed as they were though they should not
 };
 
 class Database : public std::enable_shared_from_this<Database> {
@@ -52,14 +61,15 @@ public:
     /// The marks of a table as they are in memory. Throws TableNotFound, ColumnNotFound.
     MarkSnapshot marks(const QString &table);
 
-    /// Reads the file anew where another program changed it. True where it did. Open recordsets keep their state.
+    /// Reads the file anew where another program changed it. True where it did. Query recordsets keep
+    /// their state, the others let go of theirs.
     bool refresh();
     /// True where another program changed the file since it was read. Throws as refresh, where the file is gone.
     bool isStale() const;
     /// Counts up with each reload; a model compares it to know that its rows are old.
     quint64 generation() const;
-    /// What damage was passed over so far, a line each.
-    QStringList warnings() const;
+    /// What damage was passed over so far, in the file and in the tables read.
+    std::vector<jet::Damage> damage() const;
 
     /// The open ones. A query recordset that nobody else holds is dropped when the next one is opened.
     const std::vector<std::shared_ptr<Recordset>> &recordsets() const;

@@ -25,8 +25,9 @@ struct Database::Private {
 struct Recordset::Private {
     std::weak_ptr<Database> database;
     bool isTable = false;
+    bool isOpen = true;
     basic::Place place;
-    std::shared_ptr<Snapshot> snapshot; ///< none once closed
+    std::shared_ptr<Snapshot> snapshot; ///< none once closed, and in a table recordset that was not used since a reload
     QueryResult result;                 ///< of a table recordset: the view and all its columns, no rows
     qint64 count = 0;
     qint64 position = 0;
@@ -37,11 +38,11 @@ struct Recordset::Private {
     bool editing = false;
     std::optional<bool> edited{};
 
-    /// Throw ObjectClosed, NoCurrentRow.
-    void requireOpen() const;
-    void requireRow() const;
+    /// Throw ObjectClosed, NoCurrentRow. A table recordset goes over to the present state where it let go of its own.
+    void requireOpen();
+    void requireRow();
     /// Throws Refused for a query recordset.
-    void requireTable() const;
+    void requireTable();
     quint32 row() const
     {
         Q_ASSERT(valid && (isTable || position < static_cast<qint64>(result.rows.size())));
@@ -53,12 +54,14 @@ struct Recordset::Private {
         return result.cells[static_cast<std::size_t>(position * result.names.size() + field)];
     }
     int column(int field) const { return result.columns[static_cast<std::size_t>(field)]; }
-    void requireField(int field) const;
+    void requireField(int field);
     void stand(qint64 where);
     /// A sorted query leads all over the file: lets the processor fetch what the next rows need.
     void fetchAhead() const;
     /// Goes over to another state of the file; the current row is then none.
     void adopt(const std::shared_ptr<Snapshot> &other);
+    /// A table recordset's part of a reload: nothing of the former state is kept in memory.
+    void letGo();
     void setResult(QueryResult &&given);
 };
 

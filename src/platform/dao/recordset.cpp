@@ -11,27 +11,42 @@ namespace kalvenor::dao {
 
 using namespace Qt::StringLiterals;
 
-void Recordset::Private::requireOpen() const
+void Recordset::Private::requireOpen()
 {
-    if (!snapshot)
+    if (!isOpen)
         throw basic::Error(basic::Fault::RecordsetClosed, place);
+    if (snapshot)
+        return;
+    const std::shared_ptr<Database> owner = database.lock();
+    if (!owner || !owner->isOpen())
+        throw basic::Error(basic::Fault::DatabaseClosed, place);
+    adopt(owner->d->session->snapshot());
 }
 
-void Recordset::Private::requireRow() const
+void Recordset::Private::letGo()
+{
+    if (!isTable)
+        return;
+    snapshot.reset();
+    result.view.reset();
+    stand(-1);
+}
+
+void Recordset::Private::requireRow()
 {
     requireOpen();
     if (!valid)
         throw basic::Error(basic::Fault::NoRow, place);
 }
 
-void Recordset::Private::requireTable() const
+void Recordset::Private::requireTable()
 {
     requireOpen();
     if (!isTable)
         throw basic::Error(basic::Fault::NotATable, place);
 }
 
-void Recordset::Private::requireField(int field) const
+void Recordset::Private::requireField(int field)
 {
     requireRow();
     if (field < 0 || field >= result.names.size())
@@ -76,7 +91,7 @@ void Recordset::Private::adopt(const std::shared_ptr<Snapshot> &other)
         return;
     const QString indexName = indexColumn < 0 ? QString() : result.names[indexColumn];
     QueryResult next;
-    next.view = other->view(result.view->table()->name());
+    next.view = other->view(place.table);
     const jet::Table &table = *next.view->table();
     for (int i = 0; i < static_cast<int>(table.columns().size()); ++i) {
         next.names << table.columns()[static_cast<std::size_t>(i)].name;
@@ -96,13 +111,14 @@ Recordset::~Recordset() = default;
 
 bool Recordset::isOpen() const
 {
-    return d->snapshot != nullptr;
+    return d->isOpen;
 }
 
 void Recordset::close()
 {
     if (!isOpen())
         return;
+    d->isOpen = false;
     d->snapshot.reset();
     d->result = {};
     d->valid = false;
@@ -243,7 +259,9 @@ bool Recordset::update()
     const auto key = table.integer(d->row(), keyColumn);
     if (!key)
         throw basic::Error(basic::Fault::RowWithoutKey, d->place, {d->row()});
-    const Execution done = database->setMarks(table.name(), {&*key, 1}, *value);
+    const Execution done = database->setMarks(d->place.table, {&*key, 1}, *value);
+    if (!done.left.empty())
+        throw basic::Error(done.left.front().why, d->place, {*key, MarkColumnName});
     // The row may be another one in a newer state of the file; its key says which.
     d->adopt(database->d->open().snapshot());
     const auto rows = d->result.view->index(keyColumnOf(*d->result.view->table())).rows(*key);

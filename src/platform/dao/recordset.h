@@ -33,8 +33,8 @@ public:
     void moveTo(qint64 position);
     qint64 position() const;
 
-    // Table type only. The rows are in the file's order, whatever the index. After a reload of the file, moveFirst and
-    // seekEqual go over to the new state; until then the recordset stays with the old one.
+    // Table type only. The rows are in the file's order, whatever the index. A reload of the file takes
+    // their current row away: there is none until the next move or seek, which finds the new state.
     /// Throws IndexNotFound; the name counts without case.
     void setIndex(const QString &name);
     /// Seek with the comparison "=" on a one-column unique or plain index over a Long column. noMatch() says whether

@@ -107,18 +107,18 @@ std::shared_ptr<TableView> Snapshot::view(const QString &name)
     return view;
 }
 
-QStringList Snapshot::warnings() const
+std::vector<jet::Damage> Snapshot::damage() const
 {
-    QStringList lines = m_database->warnings();
+    std::vector<jet::Damage> all = m_database->damage();
     for (const auto &[name, view] : m_views) {
-        for (const QString &line : view->table()->warnings())
-            lines << u"%1, table %2: "_s.arg(m_database->file(), name) + line;
+        const std::vector<jet::Damage> &kinds = view->table()->damage();
+        all.insert(all.end(), kinds.begin(), kinds.end());
     }
-    return lines;
+    return all;
 }
 
-std::vector<quint32> Snapshot::write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
-                                     const basic::Progress &progress)
+jet::MarksWritten Snapshot::write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
+                                  const basic::Progress &progress)
 {
     auto writer = m_writers.find({&view, markColumn});
     if (writer == m_writers.end())
@@ -127,11 +127,11 @@ std::vector<quint32> Snapshot::write(TableView &view, int markColumn, std::span<
                               jet::MarkWriter(m_database, view.table(), markColumn, keyColumnOf(*view.table())))
                      .first;
     try {
-        std::vector<quint32> changed = writer->second.write(marks, progress);
-        view.flipMarks(markColumn, changed);
-        if (!std::is_sorted(changed.begin(), changed.end()))
-            std::sort(changed.begin(), changed.end());
-        return changed;
+        jet::MarksWritten written = writer->second.write(marks, progress);
+        view.flipMarks(markColumn, written.changed);
+        if (!std::ranges::is_sorted(written.changed))
+            std::ranges::sort(written.changed);
+        return written;
     } catch (...) {
         view.forgetMarks(markColumn);
         throw;

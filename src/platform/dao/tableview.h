@@ -63,13 +63,12 @@ public:
     const std::shared_ptr<jet::Database> &database() const { return m_database; }
     /// Throws TableNotFound or Damaged.
     std::shared_ptr<TableView> view(const QString &name);
-    /// What damage was passed over in the catalogue and in the tables read so far, a line each.
-    QStringList warnings() const;
-    /// Writes marks and keeps the view's marks right, also where writing fails half-way. Returns the rows that changed,
-    /// ascending.
-    /// Throws NotMarkable, and as jet::MarkWriter::write.
-    std::vector<quint32> write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
-                               const basic::Progress &progress);
+    /// What damage was passed over in the file and in the tables read so far.
+    std::vector<jet::Damage> damage() const;
+    /// Writes marks and keeps the view's marks right, also where writing fails half-way. The rows that changed come
+    /// ascending. Throws NotMarkable, and as jet::MarkWriter::write.
+    jet::MarksWritten write(TableView &view, int markColumn, std::span<const jet::Mark> marks,
+                            const basic::Progress &progress);
 
 private:
     std::shared_ptr<jet::Database> m_database;

@@ -135,7 +135,9 @@ MarkingResult markPersons(data::Datenbankmodul &databases, std::span<const qint3
             result.changed = all;
         return result;
     }
-    result.changed = databases.Familiendatenbank->setMarks(u"Daten"_s, all, marked, progress).changedKeys;
+    dao::Execution done = databases.Familiendatenbank->setMarks(u"Daten"_s, all, marked, progress);
+    result.changed = std::move(done.changedKeys);
+    result.left = std::move(done.left);
     return result;
 }
 

@@ -20,12 +20,14 @@ struct Relatives {
 inline constexpr int RelativesLimit = 1000;
 
 struct MarkingResult {
-    std::vector<qint32> changed; ///< `Counter` of those whose mark really changed
-    bool limitReached = false;   ///< the walk ended at the limit; the marks written so far stay
+    std::vector<qint32> changed;    ///< `Counter` of those whose mark really changed
+    std::vector<dao::LeftRow> left; ///< those whose mark could not be changed
+    bool limitReached = false;      ///< the walk ended at the limit; the marks written so far stay
 };
 
 /// Sets the mark of these persons and of their relatives. A person that is not found changes nothing. Each person is
-/// taken once, so loops in the data are harmless. Throws the engine's Error; marks written before stay.
+/// taken once, so loops in the data are harmless. Throws the engine's Error, also for a single person that cannot be
+/// marked; marks written before stay.
 MarkingResult markPersons(data::Datenbankmodul &databases, std::span<const qint32> counters, bool marked,
                           Relatives relatives = {}, const basic::Progress &progress = {});
 

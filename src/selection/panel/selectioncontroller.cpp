@@ -5,6 +5,7 @@
 #include "language/progress/userwork.h"
 #include "language/texts/errormessage.h"
 #include "platform/jet/marks/markwriter.h"
+#include "selection/marking/leftpersons.h"
 #include <QTimer>
 #include <utility>
 
@@ -187,9 +188,11 @@ void SelectionController::clearFilter()
 std::optional<MarkStep> SelectionController::changeMarks(const QString &what, const Change &change, bool announceLists)
 {
     std::optional<MarkStep> done;
+    m_metOthers = false;
     perform(what, [&](const basic::Progress &progress) {
         dao::Database &family = *m_session.databases.Familiendatenbank;
         const dao::MarkSnapshot before = family.marks(u"Daten"_s);
+        const quint64 generation = family.generation();
         // The marks are set; lists that did not show them would be wrong.
         const basic::Progress toTheEnd = [&progress](qint64 steps, qint64 total) {
             progress(steps, total);
@@ -209,17 +212,27 @@ std::optional<MarkStep> SelectionController::changeMarks(const QString &what, co
             std::rethrow_exception(failure);
         }
         load(queries(), true, toTheEnd, announceLists);
+        m_metOthers = family.generation() != generation;
     });
     return done;
 }
 
-void SelectionController::tellMoved(const MarkStep &step)
+void SelectionController::tellMoved(const MarkStep &step, std::span<const dao::LeftRow> left)
 {
+    QString what;
     if (!step.marked.empty())
-        Q_EMIT moved(m_session.language.text(Text::Marked).arg(numberText(static_cast<qint64>(step.marked.size()))));
+        what = m_session.language.text(Text::Marked).arg(numberText(static_cast<qint64>(step.marked.size())));
     else if (!step.unmarked.empty())
-        Q_EMIT moved(
-            m_session.language.text(Text::Unmarked).arg(numberText(static_cast<qint64>(step.unmarked.size()))));
+        what = m_session.language.text(Text::Unmarked).arg(numberText(static_cast<qint64>(step.unmarked.size())));
+    const QString others = m_metOthers ? m_session.language.text(Text::ChangedMeanwhile) : QString();
+    if (!what.isEmpty())
+        Q_EMIT moved((what + u' ' + others).trimmed());
+    else if (m_metOthers)
+        Q_EMIT said(others);
+    Q_EMIT changed();
+    if (!left.empty())
+        m_session.host.desktop().messageBox(leftPersons(m_session.language, m_session.databases, left), 0,
+                                            m_session.language.text(Text::MarkingPersons));
 }
 
 void SelectionController::move(PersonList from, const std::vector<qint32> &counters, Relatives relatives)
@@ -228,11 +241,13 @@ void SelectionController::move(PersonList from, const std::vector<qint32> &count
         return;
     const bool mark = from == PersonList::Unmarked;
     bool limitReached = false;
+    std::vector<dao::LeftRow> left;
     const QString what = relatives.children || relatives.parents ? m_session.language.text(Text::SearchingRelatives)
                                                                  : m_session.language.text(Text::MarkingPersons);
     const auto step = changeMarks(what, [&](const basic::Progress &progress) {
         MarkingResult result = markPersons(m_session.databases, counters, mark, relatives, progress);
         limitReached = result.limitReached;
+        left = std::move(result.left);
         return mark ? MarkStep{std::move(result.changed), {}} : MarkStep{{}, std::move(result.changed)};
     });
     if (!step)
@@ -250,8 +265,7 @@ void SelectionController::move(PersonList from, const std::vector<qint32> &count
         }
         Q_EMIT arrived(to, tableRows);
     }
-    tellMoved(*step);
-    Q_EMIT changed();
+    tellMoved(*step, left);
     if (limitReached)
         m_session.host.desktop().messageBox(m_session.language.text(Text::RelativesLimitReached), 0,
                                             m_session.language.text(Text::MarkRelatives));
@@ -262,20 +276,20 @@ void SelectionController::moveAll(PersonList from)
     const bool mark = from == PersonList::Unmarked;
     const QString what =
         mark ? m_session.language.text(Text::MarkingPersons) : m_session.language.text(Text::UnmarkingAll);
+    std::vector<dao::LeftRow> left;
     const auto step = changeMarks(
         what,
         [&](const basic::Progress &progress) {
-            std::vector<qint32> keys =
-                m_session.databases.Familiendatenbank->execute(markAllStatement(from, query(from)), progress)
-                    .changedKeys;
-            return mark ? MarkStep{std::move(keys), {}} : MarkStep{{}, std::move(keys)};
+            dao::Execution done =
+                m_session.databases.Familiendatenbank->execute(markAllStatement(from, query(from)), progress);
+            left = std::move(done.left);
+            return mark ? MarkStep{std::move(done.changedKeys), {}} : MarkStep{{}, std::move(done.changedKeys)};
         },
         true);
     if (!step)
         return;
     m_history.record(*step);
-    tellMoved(*step);
-    Q_EMIT changed();
+    tellMoved(*step, left);
 }
 
 void SelectionController::undo()

@@ -111,7 +111,7 @@ private:
     void goThrough(language::Text what, decltype(&MarkHistory::undo) step);
     void runFilters();
     QString refusal(const QString &typed, const basic::Error &error);
-    void tellMoved(const MarkStep &step);
+    void tellMoved(const MarkStep &step, std::span<const dao::LeftRow> left);
     void letGo();
     void takeOver(bool otherDatabase);
     void showPlain();
@@ -122,6 +122,7 @@ private:
     MarkHistory m_history;
     DatabaseWatcher m_watcher;
     std::optional<WantedFilter> m_wanted;
+    bool m_metOthers = false; ///< another program changed the database before or while the latest marks were set
     bool m_filtering = false;
     bool m_readOnly = false;
     PersonList m_latestList = PersonList::Unmarked; ///< of the latest filter

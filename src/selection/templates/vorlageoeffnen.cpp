@@ -64,7 +64,7 @@ std::vector<qint32> findPersons(data::Datenbankmodul &databases, OpenedVorlage &
 
 /// Marks exactly these persons, and gives back what that changed. Once begun, it is not cancelled.
 MarkStep markExactly(data::Datenbankmodul &databases, const std::vector<qint32> &persons,
-                     const basic::Progress &progress)
+                     std::vector<dao::LeftRow> &left, const basic::Progress &progress)
 {
     const std::shared_ptr<dao::Database> family = databases.Familiendatenbank;
     const QString table = u"Daten"_s;
@@ -75,8 +75,9 @@ MarkStep markExactly(data::Datenbankmodul &databases, const std::vector<qint32> 
     };
     const dao::MarkSnapshot before = family->marks(table);
     try {
-        family->execute(u"Update Daten SET Markierung = 0 Where Markierung = -1 ;"_s, watch);
-        family->setMarks(table, persons, true, watch);
+        left = family->execute(u"Update Daten SET Markierung = 0 Where Markierung = -1 ;"_s, watch).left;
+        const dao::Execution marked = family->setMarks(table, persons, true, watch);
+        left.insert(left.end(), marked.left.begin(), marked.left.end());
     } catch (const basic::Error &error) {
         try {
             family->refresh(); // what was written, whether it could be confirmed or not
@@ -102,7 +103,7 @@ OpenedVorlage vorlageoeffnen(data::Session &session, const basic::WindowsPath &F
     const auto mark = [&] {
         const std::vector<qint32> persons = findPersons(session.databases, opened, progress);
         opened.found = static_cast<qsizetype>(persons.size());
-        return markExactly(session.databases, persons, progress);
+        return markExactly(session.databases, persons, opened.left, progress);
     };
     opened.otherDatabase = needsOtherDatabase(session, File, familienpfad, useOpenDatabase);
     if (opened.otherDatabase) {

@@ -11,10 +11,11 @@ namespace kalvenor::selection {
 
 struct OpenedVorlage {
     Vorlage vorlage;
-    qsizetype found = 0;         ///< persons marked now
-    std::vector<qint32> missing; ///< persons that the database does not hold
-    MarkStep changes;            ///< for undo, where the database stayed the same
-    bool otherDatabase = false;  ///< another one is open now; steps before this one belong to the former
+    qsizetype found = 0;            ///< persons marked now
+    std::vector<qint32> missing;    ///< persons that the database does not hold
+    std::vector<dao::LeftRow> left; ///< persons whose mark could not be changed
+    MarkStep changes;               ///< for undo, where the database stayed the same
+    bool otherDatabase = false;     ///< another one is open now; steps before this one belong to the former
 };
 
 /// Asked where the template's database does not exist: true goes on with the open one, false gives up.

@@ -120,7 +120,7 @@ TEST_F(Family, RefusesUseAfterClosing)
         [&] { (void)database->openQuery(AllPersons); },
         [&] { (void)database->execute(u"UPDATE Daten SET Markierung = 0"_s); },
         [&] { (void)database->refresh(); },
-        [&] { (void)database->warnings(); },
+        [&] { (void)database->damage(); },
         [&] { (void)query->recordCount(); },
         [&] { (void)query->eof(); },
         [&] { query->moveFirst(); },
@@ -166,7 +166,9 @@ TEST_F(Family, SeesWhatAnotherProgramChanged)
     EXPECT_EQ(before->recordCount(), 3);
     before->moveTo(2);
     EXPECT_EQ(before->text(1), u"zu Berg, Karl"_s);
-    // … and a table goes over at the next seek.
+    // … and a table lets go of its row and goes over at the next seek.
+    EXPECT_EQ(errorOf([&] { (void)table->text(1); }), basic::ErrorKind::NoCurrentRow);
+    EXPECT_EQ(table->recordCount(), 8);
     table->seekEqual(90);
     ASSERT_FALSE(table->noMatch());
     EXPECT_EQ(table->text(1), u"Neu, Nina"_s);

@@ -249,7 +249,11 @@ TEST(Update, NeedsAKeyOfWholeNumbers)
     const QByteArray before = bytesOf(file);
     dao::Engine engine;
     const auto database = engine.openDatabase(file);
-    for (const char *table : {"NoKey", "TextKey", "NoMark", "Twice"}) {
+    const dao::Execution left = database->execute(u"UPDATE Twice SET Markierung = -1"_s);
+    EXPECT_TRUE(left.matched == 2 && left.changedKeys.empty());
+    ASSERT_EQ(left.left.size(), 2U);
+    EXPECT_TRUE(left.left[1].why == basic::Fault::KeyRepeated && left.left[1].key == 1);
+    for (const char *table : {"NoKey", "TextKey", "NoMark"}) {
         QString message;
         const QString name = QString::fromUtf8(table);
         EXPECT_EQ(errorOf([&] { (void)database->execute(u"UPDATE %1 SET Markierung = -1"_s.arg(name)); }, &message),

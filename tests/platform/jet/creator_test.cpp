@@ -29,7 +29,7 @@ protected:
     {
         creator.write(file, key);
         auto database = Database::open(file);
-        EXPECT_TRUE(database->warnings().isEmpty()) << database->warnings().join(u'\n').toStdString();
+        EXPECT_TRUE(database->damage().empty());
         return database;
     }
 
@@ -41,7 +41,7 @@ protected:
 std::vector<std::vector<QVariant>> rowsOf(Database &database, const QString &name)
 {
     const auto table = database.table(name);
-    EXPECT_TRUE(table->warnings().isEmpty()) << table->warnings().join(u'\n').toStdString();
+    EXPECT_TRUE(table->damage().empty());
     std::vector<std::vector<QVariant>> rows(table->rowCount());
     for (std::uint32_t row = 0; row < table->rowCount(); ++row) {
         for (int column = 0; column < static_cast<int>(table->columns().size()); ++column)

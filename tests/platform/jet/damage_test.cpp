@@ -3,6 +3,7 @@
 #include "fixtures.h"
 #include "jet3fixture.h"
 #include "platform/basic/error.h"
+#include "platform/jet/marks/markwriter.h"
 #include <array>
 #include <chrono>
 #include <QTemporaryDir>
@@ -83,7 +84,7 @@ TEST(Damage, EachCaseEndsInItsErrorOrWarning)
         const char *text; ///< a part of the error or the warnings
         std::function<void(Pages &, const Places &)> damage;
     };
-    const std::array<Case, 27> cases{{
+    const std::array<Case, 29> cases{{
         {"catalogue page", 3343, 0, "page 2: DefinitionDamaged",
          [](Pages &p, const Places &) {
              p.at(2, 0) = 1;
@@ -131,15 +132,15 @@ TEST(Damage, EachCaseEndsInItsErrorOrWarning)
          [](Pages &p, const Places &at) {
              p.put(at.definition, 51, 4, 0x7fffffff);
          }},
-        {"column type", 0, 0, "unknown type 14",
+        {"column type", 0, 0, "TypeUnknown (1, 14)",
          [](Pages &p, const Places &at) {
              p.at(at.definition, 63 + 12 + 25) = 14;
          }},
-        {"column twice", 0, 0, "twice",
+        {"column twice", 0, 0, "ColumnTwice",
          [](Pages &p, const Places &at) {
              p.at(at.definition, 63 + 12 + 25 + 5) = 0;
          }},
-        {"fixed offset", 0, 0, "no room",
+        {"fixed offset", 0, 0, "FieldBeyondRow",
          [](Pages &p, const Places &at) {
              p.put(at.definition, 63 + 12 + 21, 2, 0xfff0);
          }},
@@ -151,55 +152,73 @@ TEST(Damage, EachCaseEndsInItsErrorOrWarning)
          [](Pages &p, const Places &at) {
              p.at(at.map, at.mapRow) = 2;
          }},
-        {"map first page", 0, 60, "0 of 60 rows",
+        {"map first page", 0, 60, "RowsMissing (0, 60)",
          [](Pages &p, const Places &at) {
              p.put(at.map, at.mapRow + 1, 4, 0xfffffff8);
          }},
-        {"slot count", 0, 14, "more than it can have",
+        {"slot count", 0, 14, "TooManyRows",
          [](Pages &p, const Places &at) {
              p.put(at.first.firstPage, 12, 2, 0xffff);
          }},
-        {"slot in the slot table", 0, 14, "row 0 and those behind",
+        {"slot in the slot table", 0, 14, "RowsWithoutPlace (0)",
          [](Pages &p, const Places &at) {
              p.put(at.first.firstPage, p.slotAt(0), 2, 15);
          }},
-        {"slot flag", 0, 1, "unknown flag",
+        {"slot flag", 0, 1, "WordUnknownFlag",
          [](Pages &p, const Places &at) {
              p.put(at.first.firstPage, p.slotAt(1), 2, at.second.recordStart | 0x2000U);
          }},
-        {"overflow to itself", 0, 1, "moved",
+        {"overflow to itself", 0, 1, "WordMovedAway",
          [](Pages &p, const Places &at) {
              testing::makeOverflow(p, at.first, at.first);
              p.put(at.first.firstPage, p.slotAt(0), 2, at.first.recordStart | 0x4000U);
          }},
-        {"overflow to another table", 0, 1, "moved",
+        {"overflow to another table", 0, 1, "WordMovedAway",
          [](Pages &p, const Places &at) {
              testing::makeOverflow(p, at.first, at.second);
              p.put(at.second.firstPage, p.slotAt(1), 2, at.second.recordStart);
              p.put(at.first.firstPage, at.first.recordStart, 4, at.map << 8);
          }},
-        {"record count", 0, 1, "do not fit",
+        {"two rows with one record", 0, 2, "WordRecordTaken",
+         [](Pages &p, const Places &at) {
+             testing::makeOverflow(p, at.first, at.second);
+             testing::makeOverflow(p, at.longChain, at.second);
+         }},
+        {"one long value for all", 3343, 0, "LongValuesShared",
+         [](Pages &p, const Places &at) {
+             const auto memoOf = [&p](const RowPlace &row) {
+                 return row.recordStart + p.get(row.firstPage, row.recordStart + row.recordLength - 7U, 2);
+             };
+             const auto table = Database::open(Image::fromBytes({}, p.bytes()))->table(u"Daten"_s);
+             const std::size_t head = memoOf(at.longChain);
+             for (std::uint32_t row = 0; row < table->rowCount(); ++row) {
+                 for (std::size_t i = 0; i < 12; ++i)
+                     p.at(table->place(row).firstPage, memoOf(table->place(row)) + i) =
+                         p.at(at.longChain.firstPage, head + i);
+             }
+         }},
+        {"record count", 0, 1, "WordOffsets",
          [](Pages &p, const Places &at) {
              p.put(at.first.firstPage, at.first.recordStart, 2, 7777);
          }},
-        {"offsets descend", 0, 1, "do not fit",
+        {"offsets descend", 0, 1, "WordOffsets",
          [](Pages &p, const Places &at) {
              const std::size_t end = at.first.recordStart + at.first.recordLength;
              p.put(at.first.firstPage, end - 5, 2, 0x0fff);
          }},
-        {"long value kind 3", 0, 0, "unknown kind",
+        {"long value kind 3", 0, 0, "WordLongKind",
          [](Pages &p, const Places &at) {
              const std::size_t end = at.longChain.recordStart + at.longChain.recordLength;
              const std::size_t memo = at.longChain.recordStart + p.get(at.longChain.firstPage, end - 7, 2);
              p.at(at.longChain.firstPage, memo + 3) |= 0xc0;
          }},
-        {"long value length", 0, 0, "before its stated length",
+        {"long value length", 0, 0, "WordLongTooShort",
          [](Pages &p, const Places &at) {
              const std::size_t end = at.longChain.recordStart + at.longChain.recordLength;
              const std::size_t memo = at.longChain.recordStart + p.get(at.longChain.firstPage, end - 7, 2);
              p.put(at.longChain.firstPage, memo, 4, 0x3fffffff);
          }},
-        {"long value loop", 0, 0, "circle",
+        {"long value loop", 0, 0, "WordLongCircle",
          [](Pages &p, const Places &at) {
              const std::size_t end = at.longChain.recordStart + at.longChain.recordLength;
              const std::size_t memo = at.longChain.recordStart + p.get(at.longChain.firstPage, end - 7, 2);
@@ -280,6 +299,41 @@ TEST(Damage, EveryPrefixEndsInAnErrorOrInAWarning)
             const Outcome outcome = readAllOf(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
             EXPECT_TRUE(outcome.error == 3343 || !outcome.text.isEmpty()) << size;
             EXPECT_LE(outcome.rows, rows);
+        }
+    }
+}
+
+TEST(Damage, AMapOfFreePagesMayRunAheadOfTheEnd)
+{
+    Pages pages(persons(), 4096);
+    const std::size_t map = pages.get(1, pages.slotAt(0), 2) & 0x1fff;
+    for (std::size_t page = pages.count(); page < pages.count() + 20; ++page)
+        pages.at(1, map + 5 + page / 8) &= static_cast<std::uint8_t>(~(1U << page % 8)); // in use
+    EXPECT_TRUE(readAllOf(pages.bytes()).text.isEmpty());
+}
+
+TEST(Damage, AFileThatWasCutSaysHowMuchIsMissing)
+{
+    const std::size_t pages = persons().size() / 4096;
+    for (std::size_t left = pages - 1; left > 3; --left) {
+        SCOPED_TRACE(left);
+        std::shared_ptr<Database> database;
+        try {
+            database = Database::open(Image::fromBytes(
+                {}, Bytes(persons().begin(), persons().begin() + static_cast<std::ptrdiff_t>(left * 4096))));
+        } catch (const basic::Error &) {
+            continue; // not even a catalogue
+        }
+        EXPECT_GT(database->missingPages(), 0U);
+        EXPECT_LE(database->missingPages(), pages - left);
+        try {
+            const auto table = database->table(u"Daten"_s);
+            jet::MarkWriter(database, table, table->columnOf(u"Markierung"), 0);
+            ADD_FAILURE() << "would be written to";
+        } catch (const basic::Error &error) {
+            EXPECT_TRUE(error.fault() == basic::Fault::FileCutShort ||
+                        error.fault() == basic::Fault::IncompleteNotMarked)
+                << error.what();
         }
     }
 }

@@ -95,11 +95,22 @@ inline void makeOverflow(Pages &pages, const jet::RowPlace &from, const jet::Row
     pages.put(to.firstPage, pages.slotAt(to.firstSlot), 2, to.recordStart | 0x8000U);
 }
 
+/// Damage as logs would show it, an example a line.
+inline QStringList linesOf(const std::vector<jet::Damage> &damage)
+{
+    QStringList lines;
+    for (const jet::Damage &kind : damage) {
+        for (const basic::Error &example : kind.examples)
+            lines << QString::fromUtf8(example.what());
+    }
+    return lines;
+}
+
 /// Reads everything a database has; the number of rows.
-inline std::size_t readEverything(jet::Database &database, QStringList *warnings = nullptr)
+inline std::size_t readEverything(jet::Database &database, QStringList *damage = nullptr)
 {
     std::size_t rows = 0;
-    QStringList all = database.warnings();
+    QStringList all = linesOf(database.damage());
     for (const jet::CatalogueEntry &entry : database.entries()) {
         if (!entry.linkedTo.isEmpty())
             continue;
@@ -110,10 +121,10 @@ inline std::size_t readEverything(jet::Database &database, QStringList *warnings
                 table->value(row, column);
         }
         rows += table->rowCount();
-        all += table->warnings();
+        all += linesOf(table->damage());
     }
-    if (warnings != nullptr)
-        *warnings = all;
+    if (damage != nullptr)
+        *damage = all;
     return rows;
 }
 

@@ -81,6 +81,8 @@ private:
         std::copy(bytes.begin(), bytes.end(), m_bytes.begin() + static_cast<std::ptrdiff_t>(at + start));
         put(page, 8, 2, static_cast<std::uint32_t>(rows + 1));
         put(page, 10 + 2 * rows, 2, static_cast<std::uint32_t>(start));
+        if (const std::size_t table = m_bytes[at + 4]; table > 1)
+            put(table, 12, 4, static_cast<std::uint32_t>(rows + 1));
     }
 
     void definition(std::size_t page, std::uint32_t map, char kind, const std::vector<NewColumn> &columns)

@@ -59,7 +59,7 @@ void makeFamily(const QString &file)
 /// one, over and over.
 void follow(const QString &name, const std::vector<MaskByte> &bytes, bool locks, Shared &shared)
 {
-    storage::File file = storage::File::open(name, storage::File::Mode::ReadWrite, nullptr);
+    storage::File file = storage::File::open(basic::NativePath(name), storage::File::Mode::ReadWrite, nullptr);
     jet::PageLocks pages(file, name);
     constexpr std::size_t ahead = 12;
     std::size_t front = 0;
@@ -139,7 +139,7 @@ Outcome runOnce(const QString &name, bool locks, Shared &shared)
     shared.end = true;
     ::waitpid(second, nullptr, 0);
     outcome.changes = shared.changes;
-    const storage::File file = storage::File::open(name, storage::File::Mode::Read, nullptr);
+    const storage::File file = storage::File::open(basic::NativePath(name), storage::File::Mode::Read, nullptr);
     for (std::size_t person = 0; person < bytes.size(); ++person) {
         std::uint8_t byte = 0;
         file.readAt(bytes[person].offset, std::span(&byte, 1));

@@ -8,6 +8,7 @@
 #include "platform/jet/reader/encoding.h"
 #include "platform/storage/file.h"
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <QFileInfo>
 #include <QScopeGuard>
@@ -21,9 +22,18 @@ namespace kalvenor::jet {
 struct MarkTarget {
     std::uint32_t row = 0;
     bool on = false;
+    std::uint8_t bit = 0; ///< as a mask
+    std::uint8_t unknown =
+        0; ///< bits of the same byte that mean nothing yet and are to be 0; only where the row is raised
+    std::uint8_t columns = 0; ///< what its count of columns is raised to; 0 where it is not
     RowPlace place;
     std::size_t inPage = 0; ///< the byte of the null mask, from the start of the record's page
-    std::uint8_t bit = 0;   ///< as a mask
+
+    bool isAsWished(std::uint8_t mask) const { return columns == 0 && ((mask & bit) != 0) == on; }
+    std::uint8_t newMask(std::uint8_t mask) const
+    {
+        return static_cast<std::uint8_t>((on ? mask | bit : mask & ~bit) & ~unknown);
+    }
 };
 
 namespace {
@@ -105,6 +115,27 @@ std::vector<std::int32_t> repeatedKeys(const Table &table, int keyColumn)
     return repeated;
 }
 
+/// The row's null mask has room for the column's bit, and the columns between its own and that one need no bytes: they
+/// are Yes/No, or have their (empty) place among those of variable length already.
+bool canBeRaised(const Table &table, const Record &record, std::uint16_t column)
+{
+    const std::uint32_t own = record.columnCount();
+    if (own == 0 || (own - 1) / 8 != column / 8U || column >= table.layout().greatestColumns)
+        return false;
+    std::uint32_t next = own;
+    for (const Column &between : table.columns()) {
+        if (between.number < own || between.number >= column)
+            continue;
+        if (between.number != next++) // one that was deleted; nobody knows what it was
+            return false;
+        const bool isEmpty = between.type == ColumnType::Boolean ||
+                             (!between.isFixed() && between.variableIndex < record.variableCount());
+        if (!isEmpty)
+            return false;
+    }
+    return next == column;
+}
+
 /// The writes of one call: page by page, each locked, verified before and after.
 class Run {
 public:
@@ -155,25 +186,17 @@ public:
 
         std::vector<const MarkTarget *> written;
         for (const MarkTarget &target : targets) {
-            if (((m_plain[target.inPage] & target.bit) != 0) == target.on)
+            const std::uint8_t mask = m_plain[target.inPage];
+            if (target.isAsWished(mask))
                 continue;
-            const qint64 offset = offsetOf(number) + static_cast<qint64>(target.inPage);
-            // Whoever knows no locks can change another bit of the byte until here, and loses nothing by it.
-            std::uint8_t now = 0;
-            const bool isRead = m_file.readAt(offset, std::span(&now, 1));
-            if (!isRead || now != m_raw[target.inPage]) {
-                const basic::Argument reason = m_file.errorText();
-                confirm(number, written);
-                if (!isRead)
-                    fail(basic::Fault::PageNotRead, {number, reason});
-                changedElsewhere(target);
-            }
-            m_raw[target.inPage] ^= target.bit;
-            m_hasWritten = true;
-            if (!m_file.writeAt(offset, std::span(&m_raw[target.inPage], 1))) {
-                const basic::Argument reason = m_file.errorText();
-                confirm(number, written);
-                fail(basic::Fault::PageNotWritten, {number, reason});
+            try {
+                writeByte(target, target.inPage, target.newMask(mask));
+                // Only now the row has the bit: what is half done says the same as before.
+                if (target.columns != 0)
+                    writeByte(target, target.place.recordStart, target.columns);
+            } catch (const basic::Error &error) {
+                confirm(number, written); // the message counts what was changed
+                fail(error.fault(), error.parts().front().arguments);
             }
             written.push_back(&target);
         }
@@ -197,24 +220,41 @@ private:
             encodePage(page, m_image.encodingKey(), number);
     }
 
-    /// Reads the page again; rows whose byte is there as written count as changed, in the image too. Where it cannot
+    void writeByte(const MarkTarget &target, std::size_t inPage, std::uint8_t plain)
+    {
+        const std::uint32_t number = target.place.recordPage;
+        const qint64 offset = offsetOf(number) + static_cast<qint64>(inPage);
+        // Whoever knows no locks can change another bit of the byte until here, and loses nothing by it.
+        std::uint8_t now = 0;
+        if (!m_file.readAt(offset, std::span(&now, 1)))
+            fail(basic::Fault::PageNotRead, {number, m_file.errorText()});
+        if (now != m_raw[inPage])
+            changedElsewhere(target);
+        m_raw[inPage] = static_cast<std::uint8_t>(m_raw[inPage] ^ m_plain[inPage] ^ plain);
+        m_plain[inPage] = plain;
+        m_hasWritten = true;
+        if (!m_file.writeAt(offset, std::span(&m_raw[inPage], 1)))
+            fail(basic::Fault::PageNotWritten, {number, m_file.errorText()});
+    }
+
+    /// Reads the page again; rows whose bytes are there as written count as changed, in the image too. Where it cannot
     /// be read, they count as written, but the image keeps what it knows.
     bool confirm(std::uint32_t number, const std::vector<const MarkTarget *> &written)
     {
-        if (!readPage(number, m_other)) {
-            for (const MarkTarget *target : written)
-                m_changed.push_back(target->row);
-            return false;
-        }
-        bool all = true;
+        const bool isRead = readPage(number, m_other);
+        bool all = isRead;
         for (const MarkTarget *target : written) {
-            if (m_other[target->inPage] != m_raw[target->inPage]) {
-                all = false;
-                continue;
+            std::array<std::size_t, 2> bytes{target->inPage,
+                                             target->columns != 0 ? target->place.recordStart : target->inPage};
+            const bool isThere =
+                isRead && std::ranges::all_of(bytes, [this](std::size_t byte) { return m_other[byte] == m_raw[byte]; });
+            all = all && isThere;
+            for (const std::size_t byte : bytes) {
+                if (isThere)
+                    m_image.patch(static_cast<std::size_t>(offsetOf(number)) + byte, m_plain[byte]);
             }
-            const std::uint8_t plain = m_plain[target->inPage] ^ target->bit;
-            m_image.patch(static_cast<std::size_t>(offsetOf(number)) + target->inPage, plain);
-            m_changed.push_back(target->row);
+            if (isThere || !isRead)
+                m_changed.push_back(target->row);
         }
         return all;
     }
@@ -277,7 +317,7 @@ private:
     PageLocks m_locks;
     std::vector<std::uint32_t> m_pages; ///< those written
     std::vector<std::uint8_t> m_raw;    ///< the page as the file has it, with the bits set as they are written
-    std::vector<std::uint8_t> m_plain;  ///< decoded, as it was before
+    std::vector<std::uint8_t> m_plain;  ///< the same decoded
     std::vector<std::uint8_t> m_other;
     std::vector<std::uint32_t> m_changed;
     bool m_hasWritten = false;
@@ -308,6 +348,8 @@ MarkWriter::MarkWriter(std::shared_ptr<Database> database, std::shared_ptr<const
     const Column &key = columns[static_cast<std::size_t>(keyColumn)];
     if (&m_table->image() != m_database->image().get())
         throw basic::Error(basic::Fault::TableOutdated, place());
+    if (m_database->missingPages() > 0)
+        throw m_database->incomplete(basic::Fault::IncompleteNotMarked);
     if (mark.type != ColumnType::Boolean)
         throw basic::Error(basic::Fault::NoYesNoColumn, place(), {mark.name});
     if (m_table->isIndexed(mark.number))
@@ -318,40 +360,68 @@ MarkWriter::MarkWriter(std::shared_ptr<Database> database, std::shared_ptr<const
         throw basic::Error(basic::Fault::MarkCalculated, place(), {mark.name});
 }
 
-std::vector<MarkTarget> MarkWriter::plan(std::span<const Mark> marks)
+basic::Fault MarkWriter::obstacle(std::uint32_t row)
 {
-    const Column &mark = m_table->columns()[static_cast<std::size_t>(m_markColumn)];
     if (!m_repeatedKeys)
         m_repeatedKeys = repeatedKeys(*m_table, m_keyColumn);
+    const std::optional<std::int32_t> key = m_table->integer(row, m_keyColumn);
+    if (!key)
+        return basic::Fault::RowWithoutKey;
+    if (std::ranges::binary_search(*m_repeatedKeys, *key))
+        return basic::Fault::KeyRepeated;
+    return canMark(row) ? basic::Fault::None : basic::Fault::RecordTooOld;
+}
+
+bool MarkWriter::canMark(std::uint32_t row) const
+{
+    const Record record(m_table->layout(), m_table->record(row));
+    const std::uint16_t mark = m_table->columns()[static_cast<std::size_t>(m_markColumn)].number;
+    return record.has(mark) || canBeRaised(*m_table, record, mark);
+}
+
+std::vector<MarkTarget> MarkWriter::plan(std::span<const Mark> marks, std::vector<LeftRow> &left)
+{
+    const std::uint16_t mark = m_table->columns()[static_cast<std::size_t>(m_markColumn)].number;
+    std::vector<Mark> wishes(marks.begin(), marks.end());
+    const auto isNotBefore = [](const Mark &a, const Mark &b) {
+        return a.row >= b.row;
+    };
+    if (std::ranges::adjacent_find(wishes, isNotBefore) != wishes.end()) { // statements give them in order
+        std::ranges::stable_sort(wishes, {}, &Mark::row);
+        // Of several wishes for one row the last one counts.
+        const auto behind =
+            std::unique(wishes.rbegin(), wishes.rend(), [](const Mark &a, const Mark &b) { return a.row == b.row; });
+        wishes.erase(wishes.begin(), behind.base());
+    }
     std::vector<MarkTarget> targets;
-    targets.reserve(marks.size());
-    bool inOrder = true; // as statements give them
-    for (const Mark &wish : marks) {
+    targets.reserve(wishes.size());
+    bool inOrder = true;
+    for (const Mark &wish : wishes) {
         if (wish.row >= m_table->rowCount())
             throw basic::Error(basic::Fault::RowMissing, place(), {wish.row});
         m_table->fetchAhead(wish.row);
-        const std::optional<std::int32_t> key = m_table->integer(wish.row, m_keyColumn);
-        if (!key)
-            throw basic::Error(basic::Fault::RowWithoutKey, place(), {wish.row});
-        if (std::ranges::binary_search(*m_repeatedKeys, *key))
-            throw basic::Error(basic::Fault::KeyRepeated, place(), {*key});
         const Record record(m_table->layout(), m_table->record(wish.row));
-        if (!record.has(mark.number))
-            throw basic::Error(basic::Fault::RecordTooOld, place(), {*key, mark.name});
-        const RowPlace &at = m_table->place(wish.row);
-        if (!targets.empty())
-            inOrder &= targets.back().row < wish.row && targets.back().place.recordPage <= at.recordPage;
-        targets.push_back({wish.row, wish.on, at, at.recordStart + record.maskByte(mark.number),
-                           static_cast<std::uint8_t>(1U << (mark.number % 8))});
+        const bool isAsWished = record.bit(mark) == wish.on;
+        const basic::Fault why = obstacle(wish.row);
+        if (why != basic::Fault::None && !isAsWished)
+            left.push_back({wish.row, why});
+        if (why != basic::Fault::None || (isAsWished && !record.has(mark)))
+            continue;
+        MarkTarget target{.row = wish.row,
+                          .on = wish.on,
+                          .bit = static_cast<std::uint8_t>(1U << (mark % 8)),
+                          .place = m_table->place(wish.row)};
+        target.inPage = target.place.recordStart + record.maskByte(mark);
+        if (!record.has(mark)) {
+            target.columns = static_cast<std::uint8_t>(mark + 1);
+            target.unknown = static_cast<std::uint8_t>((0xffU << (record.columnCount() % 8)) & (target.bit - 1U));
+        }
+        inOrder = inOrder && (targets.empty() || targets.back().place.recordPage <= target.place.recordPage);
+        targets.push_back(target);
     }
-    if (inOrder)
-        return targets;
-    std::ranges::stable_sort(
-        targets, {}, [](const MarkTarget &target) { return std::pair(target.place.recordPage, target.inPage); });
-    // Of several wishes for one row the last one counts.
-    const auto behind = std::unique(targets.rbegin(), targets.rend(),
-                                    [](const MarkTarget &a, const MarkTarget &b) { return a.row == b.row; });
-    targets.erase(targets.begin(), behind.base());
+    if (!inOrder)
+        std::ranges::stable_sort(
+            targets, {}, [](const MarkTarget &target) { return std::pair(target.place.recordPage, target.inPage); });
     return targets;
 }
 
@@ -360,7 +430,7 @@ basic::Place MarkWriter::place() const
     return {.file = m_database->file(), .table = m_table->name()};
 }
 
-std::vector<std::uint32_t> MarkWriter::write(std::span<const Mark> marks, const basic::Progress &progress)
+MarksWritten MarkWriter::write(std::span<const Mark> marks, const basic::Progress &progress)
 {
     storage::File file = openForWriting(m_database->file());
     Image &image = *m_database->image();
@@ -372,7 +442,8 @@ std::vector<std::uint32_t> MarkWriter::write(std::span<const Mark> marks, const 
     if (before != image.stamp())
         run.fail(basic::Fault::FileChanged);
 
-    const std::vector<MarkTarget> targets = plan(marks);
+    MarksWritten result;
+    const std::vector<MarkTarget> targets = plan(marks, result.left);
     const auto total = static_cast<qint64>(targets.size());
     auto afterFailure = qScopeGuard([&] { // whatever it was; it is the one to tell
         if (!run.hasWritten())
@@ -401,7 +472,8 @@ std::vector<std::uint32_t> MarkWriter::write(std::span<const Mark> marks, const 
     afterFailure.dismiss();
     if (progress)
         progress(total, total);
-    return run.takeChanged();
+    result.changed = run.takeChanged();
+    return result;
 }
 
 void MarkWriter::requireWritable() const

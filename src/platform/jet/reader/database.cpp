@@ -3,7 +3,9 @@
 #include "platform/jet/reader/database.h"
 
 #include "platform/basic/error.h"
+#include "platform/jet/reader/definition.h"
 #include "platform/jet/reader/usagemap.h"
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -13,7 +15,6 @@ namespace {
 
 constexpr std::uint32_t CataloguePage = 2;
 constexpr std::uint32_t SystemFlags = 0x80000002;
-constexpr qsizetype MaxWarnings = 50;
 
 /// Types of catalogue rows that name tables.
 constexpr int LocalTable = 1;
@@ -48,6 +49,19 @@ QString linkTarget(const Table &catalogue, const CatalogueColumns &columns, std:
     return table.isEmpty() ? file : u"%1 (table %2)"_s.arg(file, table);
 }
 
+/// The page for lack of which a table could not be read; 0 where it was something else.
+std::uint32_t lackedBy(const basic::Error &error)
+{
+    const std::vector<basic::Argument> &arguments = error.parts().front().arguments;
+    std::uint32_t page = 0;
+    if (error.fault() == basic::Fault::UsageMapMissing)
+        page = arguments.front().text.toUInt();
+    else if (error.fault() == basic::Fault::DefinitionDamaged &&
+             arguments.front().word == basic::Fault::WordPageBeyondEnd)
+        page = static_cast<std::uint32_t>(error.place().page);
+    return page < MostPages ? page : 0;
+}
+
 } // namespace
 
 std::shared_ptr<Database> Database::open(const QString &file)
@@ -59,12 +73,18 @@ std::shared_ptr<Database> Database::open(std::shared_ptr<Image> image)
 {
     auto database = std::make_shared<Database>();
     database->m_image = std::move(image);
+    try {
+        database->readCatalogue();
+    } catch (const basic::Error &error) {
+        const std::uint32_t count = database->m_image->pageCount();
+        if (lackedBy(error) < count)
+            throw;
+        database->m_missingPages = lackedBy(error) + 1 - count;
+        throw database->incomplete().with(error);
+    }
     const qint64 rest = database->m_image->stamp().size % database->m_image->pageSize();
-    if (rest != 0)
-        database->warn(u"the last %1 bytes of the file are no whole page; it may be cut short"_s.arg(rest));
-    if (isCutShort(*database->m_image))
-        database->warn(u"the file lacks pages at its end that were in use; it was cut short"_s);
-    database->readCatalogue();
+    if (rest != 0 && database->m_missingPages == 0)
+        database->note(basic::Fault::PartialPage, {rest});
     return database;
 }
 
@@ -86,7 +106,7 @@ void Database::readCatalogue()
             entry.definitionPage =
                 static_cast<std::uint32_t>(catalogue->integer(row, columns.id).value_or(0)) & 0xffffff;
             if (entry.definitionPage == 0) {
-                warn(u"table %1 is left out: the catalogue names no page for it"_s.arg(entry.name));
+                note(basic::Fault::TableWithoutPage, {entry.name});
                 continue;
             }
         } else {
@@ -94,22 +114,59 @@ void Database::readCatalogue()
         }
         addEntry(std::move(entry));
     }
-    for (const QString &warning : catalogue->warnings())
-        warn(u"table MSysObjects, %1"_s.arg(warning));
+    findMissingPages(*catalogue);
+    for (const Damage &damage : catalogue->damage())
+        m_damage.note(damage);
+}
+
+void Database::findMissingPages(const Table &catalogue)
+{
+    const std::uint32_t count = m_image->pageCount();
+    std::uint32_t end = std::max(count, catalogue.pagesNeeded());
+    const auto needs = [&end](std::uint32_t page) {
+        end = std::max(end, page + 1);
+    };
+    for (const CatalogueEntry &entry : m_entries) {
+        if (entry.definitionPage == 0)
+            continue;
+        try {
+            const Definition definition = readDefinition(*m_image, entry.name, entry.definitionPage);
+            const auto goesBeyond = [this, count](std::uint32_t map) {
+                return readUsageMap(*m_image, map).end > count;
+            };
+            const auto isBeyond = [count](std::uint32_t page) {
+                return page >= count;
+            };
+            // Only then it is worth while to look for the rows.
+            if (goesBeyond(definition.ownedPages) || std::ranges::any_of(definition.indexPages, isBeyond) ||
+                std::ranges::any_of(definition.otherMaps, goesBeyond))
+                end = std::max(end, table(entry.name)->pagesNeeded());
+        } catch (const basic::Error &error) {
+            needs(lackedBy(error)); // whoever reads the table hears of the rest
+        }
+    }
+    m_missingPages = end - count;
+    if (m_missingPages > 0)
+        note(basic::Fault::FileCutShort, incomplete().parts().front().arguments);
+}
+
+basic::Error Database::incomplete(basic::Fault fault) const
+{
+    const qint64 pageSize = m_image->pageSize();
+    const qint64 bytes = m_missingPages * pageSize - m_image->stamp().size % pageSize;
+    return basic::Error(fault, {.file = file()}, {m_missingPages, bytes});
 }
 
 void Database::addEntry(CatalogueEntry entry)
 {
     const QString folded = withoutCase(entry.name);
     if (m_byName.contains(folded)) {
-        warn(u"table %1 is in the catalogue twice; the first counts"_s.arg(entry.name));
+        note(basic::Fault::TableTwice, {entry.name});
         return;
     }
     if (entry.definitionPage != 0) {
         if (m_byPage.contains(entry.definitionPage)) {
-            warn(u"table %1 is left out: its page %2 is that of table %3"_s.arg(entry.name)
-                     .arg(entry.definitionPage)
-                     .arg(m_entries[m_byPage.value(entry.definitionPage)].name));
+            note(basic::Fault::TablePageTaken, {entry.name, m_entries[m_byPage.value(entry.definitionPage)].name});
             return;
         }
         m_byPage.insert(entry.definitionPage, m_entries.size());
@@ -118,10 +175,9 @@ void Database::addEntry(CatalogueEntry entry)
     m_entries.push_back(std::move(entry));
 }
 
-void Database::warn(const QString &warning)
+void Database::note(basic::Fault fault, std::vector<basic::Argument> arguments)
 {
-    if (m_warnings.size() < MaxWarnings)
-        m_warnings.append(warning);
+    m_damage.note({.file = file()}, -1, fault, std::move(arguments));
 }
 
 const CatalogueEntry *Database::entry(const QString &name) const
@@ -134,13 +190,19 @@ std::shared_ptr<const Table> Database::table(const QString &name)
 {
     const CatalogueEntry *const found = entry(name);
     if (found == nullptr)
-        throw basic::Error(basic::Fault::TableMissing, {.file = file()}, {name});
+        throw m_missingPages > 0 ? incomplete() : basic::Error(basic::Fault::TableMissing, {.file = file()}, {name});
     if (!found->linkedTo.isEmpty())
         throw basic::Error(basic::Fault::TableLinked, {.file = file()}, {name, found->linkedTo});
-    std::shared_ptr<const Table> &table = m_tables[found->name];
-    if (!table)
-        table = Table::read(m_image, found->name, found->definitionPage);
-    return table;
+    const auto read = m_tables.find(found->name);
+    if (read != m_tables.end())
+        return read->second;
+    try {
+        return m_tables.emplace(found->name, Table::read(m_image, found->name, found->definitionPage)).first->second;
+    } catch (const basic::Error &error) {
+        if (m_missingPages > 0)
+            throw incomplete().with(error);
+        throw;
+    }
 }
 
 bool Database::isStale() const

@@ -44,6 +44,7 @@ public:
         readColumns();
         readPhysicalIndexes();
         readLogicalIndexes();
+        readLongValueMaps();
         return std::move(m_result);
     }
 
@@ -147,8 +148,8 @@ private:
         else if (type == 17)
             column.type = ColumnType::Binary;
         else
-            m_result.warnings.append(
-                u"page %1: column %2 is of the unknown type %3"_s.arg(m_firstPage).arg(column.number).arg(type));
+            m_result.damage.emplace_back(basic::Fault::TypeUnknown, basic::Place(),
+                                         std::vector<basic::Argument>{column.number, type});
         return column;
     }
 
@@ -166,10 +167,8 @@ private:
             if (numbers.insert(column.number).second && names.insert(column.name.toCaseFolded()).second)
                 m_result.columns.push_back(std::move(column));
             else
-                m_result.warnings.append(
-                    u"page %1: column \"%2\" (number %3) is there twice; the first counts"_s.arg(m_firstPage)
-                        .arg(column.name)
-                        .arg(column.number));
+                m_result.damage.emplace_back(basic::Fault::ColumnTwice, basic::Place(),
+                                             std::vector<basic::Argument>{column.name, column.number});
         }
         std::ranges::sort(m_result.columns, {}, &Column::number);
     }
@@ -191,8 +190,9 @@ private:
                 index.columns.push_back({number, ascending});
                 indexed.insert(number);
             }
-            c.skip(4);
+            m_result.otherMaps.push_back(c.u32());
             index.rootPage = c.u32();
+            m_result.indexPages.push_back(index.rootPage);
             c.skip(m_jet4 ? 4 : 0);
             index.flags = c.u8();
             c.skip(m_jet4 ? 5 : 0);
@@ -219,6 +219,17 @@ private:
         }
         for (Index &index : m_result.indexes)
             index.name = readName();
+    }
+
+    /// What is not there is no damage: nobody needs it to read.
+    void readLongValueMaps()
+    {
+        while (!m_cursor.failed() && m_cursor.u16() != NoColumn) {
+            const std::uint32_t map = m_cursor.u32();
+            m_cursor.skip(4);
+            if (!m_cursor.failed())
+                m_result.otherMaps.push_back(map);
+        }
     }
 
     const Image &m_image;

@@ -6,8 +6,6 @@
 #include "platform/jet/reader/datapage.h"
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
-
 namespace kalvenor::jet {
 
 namespace {
@@ -28,16 +26,10 @@ std::optional<Bytes> longValueRow(const Image &image, std::uint32_t rowPointer)
     return page.bytes(*slot);
 }
 
-QString missingRow(std::uint32_t rowPointer)
-{
-    const RowPointer pointer(rowPointer);
-    return u"a long value's part at page %1 row %2 is not there"_s.arg(pointer.page).arg(pointer.slot);
-}
-
 /// Loops are found by looking back at a link whose distance doubles (Brent's method), so that a value costs no more
 /// than its chain is long.
 void readChain(const Image &image, std::uint32_t first, std::size_t length, std::vector<std::uint8_t> &into,
-               QString *problem)
+               basic::Fault *problem)
 {
     into.clear();
     std::uint32_t next = first;
@@ -46,14 +38,14 @@ void readChain(const Image &image, std::uint32_t first, std::size_t length, std:
     for (std::uint32_t links = 0; into.size() < length; ++links) {
         const std::optional<Bytes> row = next == 0 ? std::nullopt : longValueRow(image, next);
         if (!row || row->size() <= 4) {
-            *problem = next == 0 ? u"a long value ends before its stated length"_s : missingRow(next);
+            *problem = next == 0 ? basic::Fault::WordLongTooShort : basic::Fault::WordLongPartMissing;
             return;
         }
         const Bytes part = row->subspan(4, std::min(row->size() - 4, length - into.size()));
         into.insert(into.end(), part.begin(), part.end());
         next = load32(row->data());
         if (next != 0 && next == lookedBackAt) {
-            *problem = u"a long value's chain runs in a circle"_s;
+            *problem = basic::Fault::WordLongCircle;
             return;
         }
         if (links == lookAgainAfter) {
@@ -65,12 +57,13 @@ void readChain(const Image &image, std::uint32_t first, std::size_t length, std:
 
 } // namespace
 
-std::optional<Bytes> longValue(const Image &image, Bytes field, std::vector<std::uint8_t> &scratch, QString *problem)
+std::optional<Bytes> longValue(const Image &image, Bytes field, std::vector<std::uint8_t> &scratch,
+                               basic::Fault *problem)
 {
     if (field.empty())
         return field;
     if (field.size() < 12) {
-        *problem = u"a long value's head is too short"_s;
+        *problem = basic::Fault::WordLongHead;
         return std::nullopt;
     }
     const std::uint32_t word = load32(field.data());
@@ -80,7 +73,7 @@ std::optional<Bytes> longValue(const Image &image, Bytes field, std::vector<std:
     case Kind::Inline: {
         const Bytes rest = field.subspan(12);
         if (length > rest.size())
-            *problem = u"a long value ends before its stated length"_s;
+            *problem = basic::Fault::WordLongTooShort;
         return rest.first(std::min(length, rest.size()));
     }
     case Kind::SingleRow: {
@@ -88,11 +81,11 @@ std::optional<Bytes> longValue(const Image &image, Bytes field, std::vector<std:
             return Bytes(field.data(), 0);
         const std::optional<Bytes> row = longValueRow(image, rowPointer);
         if (!row) {
-            *problem = missingRow(rowPointer);
+            *problem = basic::Fault::WordLongPartMissing;
             return std::nullopt;
         }
         if (length > row->size())
-            *problem = u"a long value ends before its stated length"_s;
+            *problem = basic::Fault::WordLongTooShort;
         return row->first(std::min(length, row->size()));
     }
     case Kind::Chain:
@@ -103,7 +96,7 @@ std::optional<Bytes> longValue(const Image &image, Bytes field, std::vector<std:
     case Kind::Unknown:
         break;
     }
-    *problem = u"a long value is of an unknown kind"_s;
+    *problem = basic::Fault::WordLongKind;
     return std::nullopt;
 }
 

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/basic/fault.h"
 #include "platform/jet/reader/image.h"
 #include <cstdint>
 #include <optional>
-#include <QString>
 #include <span>
 #include <vector>
 
@@ -15,6 +15,6 @@ namespace kalvenor::jet {
 /// The value behind a field. It lies in the image or, where it is a chain, in `scratch`. Nothing where it cannot be
 /// read; a chain that ends early gives what there is. In both cases `problem` says what is wrong.
 std::optional<std::span<const std::uint8_t>> longValue(const Image &image, std::span<const std::uint8_t> field,
-                                                       std::vector<std::uint8_t> &scratch, QString *problem);
+                                                       std::vector<std::uint8_t> &scratch, basic::Fault *problem);
 
 } // namespace kalvenor::jet

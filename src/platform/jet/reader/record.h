@@ -67,6 +67,14 @@ public:
 
     /// Columns the table had when the row was written; 0 for a record that cannot be one.
     std::uint32_t columnCount() const { return m_count; }
+    /// Columns of variable length the row has places for.
+    std::size_t variableCount() const
+    {
+        const std::size_t width = head();
+        if (!m_layout.hasVariable || m_mask < 2 * width)
+            return 0;
+        return width == 2 ? load16(&m_bytes[m_mask - 2]) : m_bytes[m_mask - 1];
+    }
     bool has(std::uint16_t number) const { return number < m_count; }
     /// The byte of the null mask that holds the column's bit (number mod 8). Only where has(number).
     std::size_t maskByte(std::uint16_t number) const { return m_mask + number / 8; }

@@ -12,14 +12,13 @@
 #include <bit>
 #include <cmath>
 #include <QUuid>
+#include <unordered_set>
 
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::jet {
 
 namespace {
-
-constexpr qsizetype MaxWarnings = 50;
 
 using Bytes = std::span<const std::uint8_t>;
 
@@ -102,8 +101,8 @@ public:
     std::shared_ptr<const Table> read()
     {
         Definition definition = readDefinition(m_image, m_table->m_name, m_table->m_definitionPage);
-        for (const QString &warning : std::as_const(definition.warnings))
-            m_table->warn(warning);
+        for (const basic::Error &damage : definition.damage)
+            m_table->note(m_table->m_definitionPage, damage.fault(), damage.parts().front().arguments);
         m_table->m_columns = std::move(definition.columns);
         m_table->m_indexes = std::move(definition.indexes);
         m_table->m_indexedColumns = std::move(definition.indexedColumns);
@@ -126,9 +125,19 @@ private:
         m_table->m_rows.reserve(std::min<std::size_t>(definition.rowCount, map.pages.size() * MaxSlots));
         for (const std::uint32_t page : map.pages)
             locateRowsOf(page);
-        if (map.goesBeyondEnd && m_table->m_rows.size() < definition.rowCount)
-            m_table->warn(u"the file has %1 of %2 rows; it may be cut short"_s.arg(m_table->m_rows.size())
-                              .arg(definition.rowCount));
+        const bool lacksRows = map.end > m_image.pageCount() && m_table->m_rows.size() < definition.rowCount;
+        if (lacksRows)
+            note(-1, basic::Fault::RowsMissing, {m_table->m_rows.size(), definition.rowCount});
+        const auto needs = [this](std::uint32_t end) {
+            if (end > m_image.pageCount() && end <= MostPages)
+                m_table->m_pagesNeeded = std::max(m_table->m_pagesNeeded, end);
+        };
+        if (lacksRows)
+            needs(map.end);
+        for (const std::uint32_t page : definition.indexPages)
+            needs(page + 1);
+        for (const std::uint32_t other : definition.otherMaps)
+            needs(readUsageMap(m_image, other).end);
         if (m_table->m_rows.capacity() > 2 * m_table->m_rows.size())
             m_table->m_rows.shrink_to_fit();
     }
@@ -139,14 +148,14 @@ private:
         if (!page.isDataOf(m_table->m_definitionPage))
             return;
         if (!page.slotTableFits() || page.statedSlots() > MaxSlots)
-            m_table->warn(u"page %1: states %2 rows, more than it can have"_s.arg(number).arg(page.statedSlots()));
+            note(number, basic::Fault::TooManyRows, {page.statedSlots()});
         if (!page.slotTableFits())
             return;
         const std::uint32_t slots = std::min(page.statedSlots(), MaxSlots);
         for (std::uint32_t index = 0; index < slots; ++index) {
             const std::optional<Slot> slot = page.slot(index);
             if (!slot) {
-                m_table->warn(u"page %1: row %2 and those behind it have no place"_s.arg(number).arg(index));
+                note(number, basic::Fault::RowsWithoutPlace, {index});
                 return;
             }
             if ((slot->flags & Slot::Hidden) != 0)
@@ -156,13 +165,17 @@ private:
                 const auto target = followOverflow(m_image.version(), m_table->m_definitionPage, page.bytes(*slot),
                                                    [this](std::uint32_t p) { return m_image.page(p); });
                 if (!target) {
-                    lost(number, index, u"it was moved, but not to a row of this table"_s);
+                    lost(number, index, basic::Fault::WordMovedAway);
+                    continue;
+                }
+                if (!m_movedTo.insert(target->page << 8 | target->index).second) {
+                    lost(number, index, basic::Fault::WordRecordTaken);
                     continue;
                 }
                 record = *target;
             }
             if ((slot->flags & Slot::Unknown) != 0) {
-                lost(number, index, u"its slot has an unknown flag"_s);
+                lost(number, index, basic::Fault::WordUnknownFlag);
                 continue;
             }
             addRow(number, static_cast<std::uint8_t>(index), record);
@@ -174,7 +187,7 @@ private:
         const auto bytes = m_image.page(at.page).subspan(at.slot.start, at.slot.length);
         const Record record(m_table->m_layout, bytes);
         if (!record.isSound()) {
-            lost(firstPage, firstSlot, u"its counts and offsets do not fit together"_s);
+            lost(firstPage, firstSlot, basic::Fault::WordOffsets);
             return;
         }
         if (m_fixedEnd > at.slot.length)
@@ -183,9 +196,13 @@ private:
         m_table->m_rows.push_back({firstPage, at.page, at.slot.start, at.slot.length, firstSlot, at.index});
     }
 
-    void lost(std::uint32_t page, std::uint32_t slot, const QString &why)
+    void note(qint64 page, basic::Fault fault, std::vector<basic::Argument> arguments)
     {
-        m_table->warn(u"page %1: row %2 is left out: %3"_s.arg(page).arg(slot).arg(why));
+        m_table->note(page, fault, std::move(arguments));
+    }
+    void lost(std::uint32_t page, std::uint32_t slot, basic::Fault why)
+    {
+        note(page, basic::Fault::RowLeftOut, {slot, why});
     }
 
     /// Fields that a short record cannot have are noted here once, as reading them later gives null.
@@ -194,7 +211,7 @@ private:
         for (const Column &column : m_table->m_columns) {
             if (column.type != ColumnType::Boolean && column.isFixed() && record.bit(column.number) &&
                 !record.field(column))
-                m_table->warn(u"page %1: row %2 has no room for its column %3"_s.arg(page).arg(slot).arg(column.name));
+                note(page, basic::Fault::FieldBeyondRow, {slot, column.name});
         }
     }
     void findFixedEnd()
@@ -209,6 +226,7 @@ private:
 
     std::shared_ptr<Table> m_table;
     const Image &m_image;
+    std::unordered_set<std::uint32_t> m_movedTo; ///< page and slot of the records that overflow pointers led to
     std::size_t m_fixedEnd = 0; ///< a record as long as this has room for all fixed columns and the largest mask
 };
 
@@ -230,17 +248,23 @@ int Table::columnOf(QStringView name) const
     return found == m_columns.end() ? -1 : static_cast<int>(found - m_columns.begin());
 }
 
-void Table::warn(const QString &warning) const
+void Table::note(qint64 page, basic::Fault fault, std::vector<basic::Argument> arguments) const
 {
-    if (m_warnings.size() < MaxWarnings && !m_warnings.contains(warning))
-        m_warnings.append(warning);
+    m_damage.note({.file = m_image->file(), .table = m_name}, page, fault, std::move(arguments));
 }
 
-void Table::warnAt(std::uint32_t row, int column, const QString &problem) const
+/// Values outside their records can be shared, in a file that was made for it.
+void Table::countLongValue(std::uint32_t row, int column, std::size_t bytes) const
 {
-    warn(u"page %1: row %2, column %3: %4"_s.arg(m_rows[row].recordPage)
-             .arg(m_rows[row].recordSlot)
-             .arg(m_columns[static_cast<std::size_t>(column)].name, problem));
+    LongValues &read = m_longValues[column];
+    read.rows.resize(m_rows.size());
+    if (read.rows[row])
+        return;
+    read.rows[row] = true;
+    read.bytes += bytes;
+    if (read.bytes > std::size_t{m_image->pageCount()} * m_image->pageSize())
+        throw basic::Error(basic::Fault::LongValuesShared, {.file = m_image->file(), .table = m_name},
+                           {m_columns[static_cast<std::size_t>(column)].name});
 }
 
 // Values
@@ -251,7 +275,8 @@ Table::Field Table::field(std::uint32_t row, int index) const
     const Field bytes = Record(m_layout, record(row)).field(column);
     const std::size_t ofType = sizeOf(column.type);
     if (bytes && ofType != 0 && bytes->size() != ofType) {
-        warnAt(row, index, u"the value has %1 bytes instead of %2"_s.arg(bytes->size()).arg(ofType));
+        note(m_rows[row].recordPage, basic::Fault::ValueSize,
+             {m_rows[row].recordSlot, column.name, bytes->size(), ofType});
         return std::nullopt;
     }
     return column.type == ColumnType::Unreadable ? std::nullopt : bytes;
@@ -262,10 +287,13 @@ Table::Field Table::content(std::uint32_t row, int index, std::vector<std::uint8
     const Field bytes = field(row, index);
     if (!bytes || !isLong(m_columns[static_cast<std::size_t>(index)].type))
         return bytes;
-    QString problem;
+    basic::Fault problem = basic::Fault::None;
     const Field whole = longValue(*m_image, *bytes, scratch, &problem);
-    if (!problem.isEmpty())
-        warnAt(row, index, problem);
+    if (problem != basic::Fault::None)
+        note(m_rows[row].recordPage, basic::Fault::LongValueDamaged,
+             {m_rows[row].recordSlot, m_columns[static_cast<std::size_t>(index)].name, problem});
+    if (whole && whole->size() > bytes->size()) // else it lies in the record
+        countLongValue(row, index, whole->size());
     return whole;
 }
 

@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/jet/reader/damage.h"
 #include "platform/jet/reader/format.h"
 #include "platform/jet/reader/image.h"
 #include "platform/jet/reader/record.h"
+#include <map>
 #include <memory>
 #include <optional>
 #include <QString>
-#include <QStringList>
 #include <QVariant>
 #include <vector>
 
@@ -25,8 +26,9 @@ struct RowPlace {
 };
 
 /// A read-only column view over the image; no row is copied. Rows count from 0 in page order, columns from 0 in the
-/// order of their numbers. Values that the damage of a file makes unreadable are null and noted in warnings(). For one
-/// thread.
+/// order of their numbers. Values that the damage of a file makes unreadable are null and noted in damage(). A record
+/// is that of one row only, and where the long values of a column add up to more than the file, because rows share
+/// them, reading them throws Error(Damaged): what a table costs is bounded by the size of its file. For one thread.
 class Table {
 public:
     /// Reads the definition at `definitionPage` and locates all rows. Throws Error(Damaged).
@@ -105,11 +107,16 @@ public:
     /// null.
     QVariant value(std::uint32_t row, int column) const;
 
-    /// What damage was passed over while rows were located and values read, one line each naming the page (at most
-    /// some dozens are kept).
-    const QStringList &warnings() const
+    /// What damage was passed over while rows were located and values read.
+    const std::vector<Damage> &damage() const
     {
-        return m_warnings;
+        return m_damage.kinds();
+    }
+    /// How many pages the file must have for what this table lost with its end; 0 where nothing is lost. A table may
+    /// own pages behind the end that it has not used yet.
+    std::uint32_t pagesNeeded() const
+    {
+        return m_pagesNeeded;
     }
 
 private:
@@ -120,8 +127,8 @@ private:
     Field field(std::uint32_t row, int column) const;
     /// Text, Memo, Binary and Ole: their own bytes.
     Field content(std::uint32_t row, int column, std::vector<std::uint8_t> &scratch) const;
-    void warn(const QString &warning) const;
-    void warnAt(std::uint32_t row, int column, const QString &problem) const;
+    void note(qint64 page, basic::Fault fault, std::vector<basic::Argument> arguments) const;
+    void countLongValue(std::uint32_t row, int column, std::size_t bytes) const;
 
     std::shared_ptr<const Image> m_image;
     QString m_name;
@@ -131,7 +138,14 @@ private:
     std::vector<std::uint16_t> m_indexedColumns;
     RecordLayout m_layout;
     std::vector<RowPlace> m_rows;
-    mutable QStringList m_warnings;
+    std::uint32_t m_pagesNeeded = 0;
+    /// The long values read so far of a column, each row's once, and their bytes.
+    struct LongValues {
+        std::vector<bool> rows;
+        std::size_t bytes = 0;
+    };
+    mutable std::map<int, LongValues> m_longValues;
+    mutable DamageLog m_damage;
 };
 
 } // namespace kalvenor::jet

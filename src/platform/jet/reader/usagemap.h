@@ -9,16 +9,16 @@
 
 namespace kalvenor::jet {
 
+/// No file has more: 2 GiB at 2 KiB each. A number beyond it is nonsense.
+constexpr std::uint32_t MostPages = 1U << 20;
+
 /// The pages a usage map names.
 struct UsageMap {
     std::vector<std::uint32_t> pages; ///< ascending, each once; only pages the file has
-    bool goesBeyondEnd = false;       ///< it also names pages the file does not have, as maps of sound files may
+    std::uint32_t end = 0;            ///< behind the last page it names or needs, which the file may not have
     bool isThere = true;              ///< else there are no pages
 };
 
 UsageMap readUsageMap(const Image &image, std::uint32_t rowPointer);
-
-/// True where the file's own map of free pages says that pages beyond its end are in use: it was cut short.
-bool isCutShort(const Image &image);
 
 } // namespace kalvenor::jet
