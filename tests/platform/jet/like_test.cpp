@@ -68,6 +68,7 @@ TEST(Like, matches)
         {u"[a-c-e]", u"-", true},
         {u"[a-c-e]", u"d", false},
         {u"[--a]", u"b", false},
+        {u"[--a]", u"5", false}, // - begins no range
         {u"[]", u"", true},
         {u"a[]b", u"ab", true},
         {u"[]", u"x", false},

@@ -85,6 +85,8 @@ TEST_F(Profile, Read)
     }
     put("[S\xC4]\r\nKey=1\r\n");
     EXPECT_EQ(read("S\xE4", "Key"), "dflt") << "only ASCII letters are alike";
+    put("[Sec]\r\n#Key=1\r\n");
+    EXPECT_EQ(read("Sec", "#Key"), "1") << "only ; begins a comment";
 }
 
 TEST_F(Profile, DefaultAndSize)
