@@ -271,6 +271,7 @@ TEST_F(BerichtTest, HtmlHasItsNamesTagsAndLinks)
         html.contains("<td>" + personLink("1-D.html", "1-D.JPG", text(Text::ToPersonsPage)) + "Hans Adler</td>"));
     EXPECT_TRUE(html.contains("<td>Bär<i>, Eva</td><td>Eva Bär<i></td>")) << "brackets of names come back, too";
     EXPECT_FALSE(html.contains("&lt;") || html.contains("&gt;"));
+    EXPECT_FALSE(html.contains("data:image")) << "the chart is the file beside the page, not in it as well";
 }
 
 TEST_F(BerichtTest, HoldsTheSameTextsInEachFormat)
