@@ -229,7 +229,8 @@ Checker::Table Checker::table(jet::Database &database, const QString &name)
         report(found->damage());
         return found;
     } catch (const basic::Error &error) {
-        report(error);
+        if (error.fault() != basic::Fault::FileCutShort) // that was said of the file already
+            report(error);
         return nullptr;
     }
 }
