@@ -51,6 +51,7 @@ bool isFrontmost(const QWidget *window)
 }
 
 struct OnTop : testing::Test, test::Installation {
+    OnTop() : Installation({{.counter = 1, .listname = "A", .marked = true}}) {}
     void SetUp() override
     {
         if (QGuiApplication::platformName() != u"xcb" || QStandardPaths::findExecutable("xprop").isEmpty())
@@ -121,6 +122,7 @@ TEST_F(OnTop, HoldsForEveryWindowAndDialogsComeBeforeIt)
         if (window->report().preview() == nullptr)
             expectOnTopAndActive(*window);
     }
+    ASSERT_NE(window->report().preview(), nullptr);
     settings::Druckvorschau &preview = *window->report().preview();
     expectOnTopAndActive(preview);
     for (const char *command : {"save", "INI", "INITVorgaben", "drucker"}) {
