@@ -8,6 +8,8 @@
 #include "platform/jet/reader/record.h"
 #include <bit>
 #include <cstdlib>
+#include <QDataStream>
+#include <QIODevice>
 
 using namespace kalvenor;
 using namespace Qt::StringLiterals;
@@ -22,14 +24,15 @@ int firstOf(const jet::Table &table, jet::ColumnType type)
     return found == table.columns().end() ? -1 : static_cast<int>(found - table.columns().begin());
 }
 
-/// All values but the marks.
-std::vector<QVariant> otherValues(const jet::Table &table, int mark)
+/// All values but the marks, in bytes: some number is not equal to itself.
+QByteArray otherValues(const jet::Table &table, int mark)
 {
-    std::vector<QVariant> values;
+    QByteArray values;
+    QDataStream stream(&values, QIODevice::WriteOnly);
     for (std::uint32_t row = 0; row < table.rowCount(); ++row) {
         for (int column = 0; column < static_cast<int>(table.columns().size()); ++column) {
             if (column != mark)
-                values.push_back(table.value(row, column));
+                stream << table.value(row, column);
         }
     }
     return values;
