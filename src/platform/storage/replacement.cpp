@@ -14,13 +14,36 @@ namespace {
 constexpr qsizetype BytesAWrite = 64 * 1024;
 
 /// A file beside another one that nobody has written to for so long belongs to a run that was killed.
-constexpr qint64 LeftBehindAfterSeconds = 24 * 60 * 60;
+constexpr qint64 LeftBehindAfterSeconds = 60 * 60;
 
-bool isLeftBehind(const QString &file)
+constexpr int NamesBeside = 20;
+
+QString nameBeside(const QString &target, int number)
 {
-    const QFileInfo info(file);
-    return info.isFile() && !info.isSymLink() &&
-           info.lastModified().secsTo(QDateTime::currentDateTime()) > LeftBehindAfterSeconds;
+    return u"%1.kalvenor%2"_s.arg(target).arg(number);
+}
+
+/// Removes what killed runs left beside the target. Where every name is still taken, the oldest file gives way, as so
+/// many programs never write one file at once; if one does, its own renaming fails and is told.
+void removeLeftBehind(const QString &target)
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    QFileInfo oldest;
+    int taken = 0;
+    for (int i = 1; i <= NamesBeside; ++i) {
+        const QFileInfo info(nameBeside(target, i));
+        if (!info.isFile() || info.isSymLink())
+            continue;
+        if (info.lastModified().secsTo(now) > LeftBehindAfterSeconds) {
+            currentStorage().remove(info.filePath()); // where that fails, another name is taken
+            continue;
+        }
+        ++taken;
+        if (oldest.filePath().isEmpty() || info.lastModified() < oldest.lastModified())
+            oldest = info;
+    }
+    if (taken == NamesBeside)
+        currentStorage().remove(oldest.filePath());
 }
 
 } // namespace
@@ -52,15 +75,13 @@ Replacement::~Replacement()
     drop();
 }
 
-/// Beside the target, under the first free of a few names: what a killed run left there is found again and removed.
+/// Beside the target, under the first free of a few names.
 bool Replacement::create()
 {
-    constexpr int names = 20;
+    removeLeftBehind(m_target);
     SystemError error = 0;
-    for (int i = 1; i <= names; ++i) {
-        const QString name = u"%1.kalvenor%2"_s.arg(m_target).arg(i);
-        if (isLeftBehind(name))
-            currentStorage().remove(name); // where that fails, the next name is tried
+    for (int i = 1; i <= NamesBeside; ++i) {
+        const QString name = nameBeside(m_target, i);
         Opened opened = currentStorage().create(name, m_target);
         if (opened.file) {
             m_file = std::move(opened.file);

@@ -113,19 +113,25 @@ TEST_F(Gate, LinksCountAsWhatTheyLeadTo)
 
 TEST_F(Gate, WhatAKilledRunLeftIsCollectedButNothingElse)
 {
-    const auto age = [this](const QString &name, int hours) {
+    const auto putOld = [this](const QString &name, int minutes) {
+        put(name, "half");
         QFile file(path(name));
         ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-        ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(-3600 * hours), QFile::FileModificationTime));
+        ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(-60 * minutes), QFile::FileModificationTime));
     };
-    put("a.pdf.kalvenor1", "half");
-    put("a.pdf.kalvenor2", "half");
-    put("a.pdf.old", "mine");
-    age("a.pdf.kalvenor1", 25);
-    age("a.pdf.kalvenor2", 23); // may be at work
-    age("a.pdf.old", 1000);
+    putOld("a.pdf.kalvenor1", 61);
+    putOld("a.pdf.kalvenor2", 59); // may be at work
+    putOld("a.pdf.kalvenor4", 1000);
+    putOld("a.pdf.old", 10000);
     EXPECT_TRUE(replaceFileSafely(path("a.pdf"), "new", nullptr));
     EXPECT_EQ(files(), (QStringList{"a.pdf", "a.pdf.kalvenor2", "a.pdf.old"}));
+
+    for (int i = 1; i <= 20; ++i) // as many killed runs within the hour as there are names
+        putOld(u"a.pdf.kalvenor%1"_s.arg(i), i == 7 ? 30 : 20);
+    EXPECT_TRUE(replaceFileSafely(path("a.pdf"), "newer", nullptr));
+    EXPECT_EQ(get("a.pdf"), "newer");
+    EXPECT_FALSE(files().contains("a.pdf.kalvenor7"));
+    EXPECT_TRUE(files().contains("a.pdf.kalvenor1"));
 }
 
 TEST_F(Gate, ALockKeepsOthersOutAndOutlivesNobody)
