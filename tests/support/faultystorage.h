@@ -10,7 +10,7 @@
 
 namespace kalvenor::test {
 
-enum class Call { None, Open, Create, State, Read, Write, Sync, Rename, Remove, SyncFolder, Lock };
+enum class Call { None, Open, State, Read, Lock, Create, Write, Sync, Rename, Remove, SyncFolder };
 enum class Fault {
     Fails,       ///< the call answers an I/O error
     FailsFromOn, ///< it and all that follow do
@@ -34,6 +34,8 @@ public:
         m_other = std::move(other);
         m_struck = Call::None;
     }
+    /// Calls that change nothing on the disk are neither counted nor wrong.
+    void strikeOnlyChanges() { m_onlyChanges = true; }
     /// From here on all goes well. Says which call went wrong; None where there were fewer calls.
     Call disarm()
     {
@@ -123,7 +125,8 @@ private:
     /// Whether the call at hand goes wrong.
     bool strikes(Call call)
     {
-        if (m_otherActs)
+        const bool changes = call >= Call::Create;
+        if (m_otherActs || (m_onlyChanges && !changes))
             return false;
         if (m_failing)
             return true;
@@ -147,6 +150,7 @@ private:
     Fault m_fault = Fault::Fails;
     Call m_struck = Call::None;
     int m_left = 0; ///< calls to go until it strikes; 0: not armed
+    bool m_onlyChanges = false;
     bool m_failing = false;
     bool m_otherActs = false;
 };

@@ -121,7 +121,9 @@ basic::WindowsPath Bericht::auswahldrucken(const ReportContent &content, print::
     case print::ExportFormat::Html: {
         const print::PrintDocument document = compose(content, target, progress);
         showHint();
-        print::writeHtmlFile(document, host.native(rawPage(target.file)), progress);
+        const basic::NativePath raw = host.native(rawPage(target.file));
+        const auto removeRaw = qScopeGuard([&raw] { QFile::remove(raw); }); // also where its writing fails at the end
+        print::writeHtmlFile(document, raw, progress);
         htmlnachbearbeiten(host, target.file);
         break;
     }

@@ -15,6 +15,7 @@
 #include <QFileInfo>
 #include <QImageWriter>
 #include <QPainter>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -95,6 +96,7 @@ void Bildumwandlung::bildkonvertieren(const PictureControl &control, basic::Wind
     if (!m_host.dir(bmp).isEmpty())
         QFile::remove(m_host.native(bmp)); // where that fails, writing says so
     const basic::NativePath nativeBmp = m_host.native(bmp);
+    auto removeBmp = qScopeGuard([&nativeBmp] { QFile::remove(nativeBmp); });
     writeBmp(control.Image, nativeBmp);
     file = base + type;
 
@@ -104,6 +106,7 @@ void Bildumwandlung::bildkonvertieren(const PictureControl &control, basic::Wind
         file = base + u"BMP"_s;
         if (!renameTo(nativeBmp, nameOf(file)))
             throw basic::Error(basic::Fault::NotRenamed, {.file = nativeBmp});
+        removeBmp.dismiss();
         return;
     }
 
@@ -115,7 +118,6 @@ void Bildumwandlung::bildkonvertieren(const PictureControl &control, basic::Wind
         else
             renameTo(output, nameOf(file)); // an old picture's name could differ in case, and links would miss it
     }
-    QFile::remove(nativeBmp);
 }
 
 bool Bildumwandlung::findComponent()
