@@ -55,7 +55,7 @@ public:
 #else
         const timespec &time = status.st_mtim;
 #endif
-        now = {status.st_size, static_cast<qint64>(time.tv_sec) * 1'000'000'000 + time.tv_nsec};
+        now = {status.st_size, static_cast<qint64>(time.tv_sec) * 1'000'000'000 + time.tv_nsec, status.st_ino};
         return 0;
     }
 

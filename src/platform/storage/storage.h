@@ -26,6 +26,7 @@ inline constexpr SystemError LockedElsewhere = -1;
 struct FileState {
     qint64 size = -1;       ///< bytes
     qint64 modifiedNs = -1; ///< last change in nanoseconds since 1970 (UTC), as fine as the file system keeps it
+    quint64 identity = 0;   ///< another file, that has taken the name meanwhile, has another one
 };
 
 /// An open file; closed with the object, which gives up its locks.

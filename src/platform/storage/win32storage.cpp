@@ -72,11 +72,14 @@ public:
     {
         LARGE_INTEGER size;
         FILETIME time;
-        if (!GetFileSizeEx(m_handle, &size) || !GetFileTime(m_handle, nullptr, nullptr, &time))
+        BY_HANDLE_FILE_INFORMATION file;
+        if (!GetFileSizeEx(m_handle, &size) || !GetFileTime(m_handle, nullptr, nullptr, &time) ||
+            !GetFileInformationByHandle(m_handle, &file))
             return lastError();
         // 100 ns since 1601.
         const qint64 ticks = (static_cast<qint64>(time.dwHighDateTime) << 32) | time.dwLowDateTime;
-        now = {size.QuadPart, (ticks - 116444736000000000LL) * 100};
+        now = {size.QuadPart, (ticks - 116444736000000000LL) * 100,
+               static_cast<quint64>(file.nFileIndexHigh) << 32 | file.nFileIndexLow};
         return 0;
     }
 

@@ -188,6 +188,27 @@ TEST_F(Faults, AnotherProgramMayWriteBeforeAnyCall)
         });
 }
 
+TEST_F(Faults, AnotherFileMayTakeItsPlaceBeforeAnyCall)
+{
+    std::optional<basic::ErrorKind> error;
+    const auto work = [&] {
+        error = errorOf([&] { (void)database->execute(u"Update Daten SET Markierung = -1 ;"_s); });
+    };
+    const auto check = [&](Call struck) { // unnoticed only where it comes behind the last look
+        EXPECT_TRUE(error || inFile().size() == 120 || struck == Call::State) << int(struck);
+        database->refresh();
+        EXPECT_EQ(marked(), inFile());
+    };
+    atEachCall(
+        storage, Fault::OtherFirst, [&] { restoreAndOpen(); }, work, check,
+        [&] {
+            QFile copy(file + u".new"_s);
+            ASSERT_TRUE(copy.open(QIODevice::WriteOnly) && copy.write(original) == original.size());
+            copy.close();
+            ASSERT_EQ(std::rename(qPrintable(copy.fileName()), qPrintable(file)), 0);
+        });
+}
+
 TEST_F(Faults, AnOpenedFileIsOneStateOfIt)
 {
     for (const Fault fault : {Fault::OtherFirst, Fault::CutShort, Fault::Fails}) {

@@ -79,6 +79,13 @@ storage::File openForWriting(const QString &name)
     throw readOnly(basic::Fault::NotOpenedForWriting, {reason});
 }
 
+/// False where another file has that name now.
+bool isInItsPlace(const storage::File &file, const basic::NativePath &name)
+{
+    const storage::File now = storage::File::open(name, storage::File::Mode::Read, nullptr);
+    return now.isOpen() && now.state().identity == file.state().identity;
+}
+
 /// The keys that occur more than once, ascending.
 std::vector<std::int32_t> repeatedKeys(const Table &table, int keyColumn)
 {
@@ -468,6 +475,9 @@ MarksWritten MarkWriter::write(std::span<const Mark> marks, const basic::Progres
         const Stamp after = Image::stampOf(m_database->file(), file);
         const bool alone = after.size == before.size && after.counters == before.counters && run.wroteAlone();
         image.setStamp(alone ? after : Stamp());
+        // A compacted one, with the old marks, can have come meanwhile.
+        if (!isInItsPlace(file, basic::NativePath(m_database->file())))
+            run.fail(basic::Fault::FileChanged);
     }
     afterFailure.dismiss();
     if (progress)
