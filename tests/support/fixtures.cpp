@@ -160,16 +160,21 @@ void writeTexts(const QString &file)
 
 } // namespace
 
+void addOtherTables(jet::Creator &creator, const QString &without)
+{
+    for (const TestTable &table : otherFamilyTables()) {
+        if (table.name != without)
+            addTable(creator, table);
+    }
+}
+
 void writeFamily(const QString &file, const std::vector<TestPerson> &persons, std::uint32_t encodingKey,
                  const QString &without)
 {
     jet::Creator creator;
     if (without != u"Daten")
         addPersons(creator, persons);
-    for (const TestTable &table : otherFamilyTables()) {
-        if (table.name != without)
-            addTable(creator, table);
-    }
+    addOtherTables(creator, without);
     creator.write(file, encodingKey);
 }
 
@@ -193,9 +198,10 @@ void writeHost(const QString &folder, const std::vector<TestPerson> &persons)
     writeTexts(host.filePath(u"ADD-IN-LANGUAGE.MDB"_s));
     writeTexts(host.filePath(u"language.mdb"_s));
 
-    const QString settings = u"[Ansicht]\r\nSprache=Deutsch\r\nKurzhilfe=1\r\nAddInonTop=0\r\n"
-                             "[QV-Files]\r\n0=%1\r\n[Verzeichnisse]\r\nPrints=%2\r\n"_s.arg(
-                                 basic::windowsPath(family).text(), basic::windowsPath(host.filePath(u"Ausgabe"_s)).text());
+    const QString settings =
+        u"[Ansicht]\r\nSprache=Deutsch\r\nKurzhilfe=1\r\nAddInonTop=0\r\n"
+        "[QV-Files]\r\n0=%1\r\n[Verzeichnisse]\r\nPrints=%2\r\n"_s.arg(
+            basic::windowsPath(family).text(), basic::windowsPath(host.filePath(u"Ausgabe"_s)).text());
     QFile file(host.filePath(u"programm.ini"_s));
     const QByteArray bytes = basic::encodeAnsi(settings);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())

@@ -7,6 +7,10 @@
 #include <QString>
 #include <vector>
 
+namespace kalvenor::jet {
+class Creator;
+}
+
 // Small databases and host installations for tests, made by the program's own creator.
 namespace kalvenor::test {
 
@@ -29,6 +33,9 @@ struct TestPerson {
 /// `without` names a table that is left out.
 void writeFamily(const QString &file, const std::vector<TestPerson> &persons, std::uint32_t encodingKey = 0,
                  const QString &without = {});
+
+/// The tables of a family database beside the persons.
+void addOtherTables(jet::Creator &creator, const QString &without = {});
 
 /// Makes a host installation: folder/QV with its settings, texts, side databases and folder/QV/Familie/familie.mdb, and
 /// the program's own folder folder/QV/Kalvenor. `folder` is native and absolute.
