@@ -294,6 +294,7 @@ enum class ErrorKind {
 /// What went wrong, as exactly as a person is told.
 enum class Fault : qint16 {
     None = 0,
+// NOLINTNEXTLINE(bugprone-macro-parentheses): an enumerator takes none
 #define F(name, number, kind) name = number,
     KALVENOR_FAULTS(F)
 #undef F
