@@ -290,7 +290,7 @@ TEST(Damage, OtherFilesAreRefusedByName)
     EXPECT_EQ(kindOf(folder.path()), basic::ErrorKind::FileUnreadable);
 }
 
-TEST(Damage, EveryPrefixEndsInAnErrorOrInAWarning)
+TEST(Damage, EveryPrefixAndEveryHoleEndInAnErrorOrInAWarning)
 {
     for (const Bytes &whole : {persons(), jet3()}) {
         const std::size_t pageSize = whole[0x14] == 0 ? 2048 : 4096;
@@ -299,6 +299,12 @@ TEST(Damage, EveryPrefixEndsInAnErrorOrInAWarning)
             const Outcome outcome = readAllOf(Bytes(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)));
             EXPECT_TRUE(outcome.error == 3343 || !outcome.text.isEmpty()) << size;
             EXPECT_LE(outcome.rows, rows);
+        }
+        for (std::size_t page = 1; page < whole.size() / pageSize; ++page) {
+            Bytes holed = whole;
+            std::fill_n(holed.begin() + static_cast<std::ptrdiff_t>(page * pageSize), pageSize, std::uint8_t{0});
+            const Outcome outcome = readAllOf(holed);
+            EXPECT_TRUE(outcome.rows == rows || outcome.error == 3343 || !outcome.text.isEmpty()) << "hole " << page;
         }
     }
 }
@@ -315,12 +321,14 @@ TEST(Damage, AMapOfFreePagesMayRunAheadOfTheEnd)
 TEST(Damage, AFileThatWasCutSaysHowMuchIsMissing)
 {
     const std::size_t pages = persons().size() / 4096;
-    for (std::size_t left = pages - 1; left > 3; --left) {
+    for (std::size_t i = 2 * (pages - 1); i > 7; --i) {
+        const std::size_t left = i / 2;
         SCOPED_TRACE(left);
         std::shared_ptr<Database> database;
         try {
-            database = Database::open(Image::fromBytes(
-                {}, Bytes(persons().begin(), persons().begin() + static_cast<std::ptrdiff_t>(left * 4096))));
+            Bytes bytes(persons().begin(), persons().begin() + static_cast<std::ptrdiff_t>(left * 4096));
+            bytes.resize(i % 2 == 0 ? bytes.size() : persons().size()); // a broken copy may keep the size
+            database = Database::open(Image::fromBytes({}, bytes));
         } catch (const basic::Error &) {
             continue; // not even a catalogue
         }

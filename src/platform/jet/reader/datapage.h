@@ -12,6 +12,11 @@
 namespace kalvenor::jet {
 
 enum class PageType : std::uint8_t { Header = 0, Data = 1, Definition = 2, IndexNode = 3, IndexLeaf = 4, UsageMap = 5 };
+/// What a page's first byte may be; a page of zeros was never written.
+constexpr bool isPageType(std::uint8_t byte)
+{
+    return byte >= static_cast<std::uint8_t>(PageType::Data) && byte <= static_cast<std::uint8_t>(PageType::UsageMap);
+}
 
 /// The owner field of pages that hold long values: "LVAL".
 constexpr std::uint32_t LongValueOwner = 0x4c41564c;

@@ -33,6 +33,11 @@ constexpr std::chrono::milliseconds CoarseTick{2100};
 constexpr qint64 Young = 3'000'000'000; ///< ns; a file changed before that is not in its tick any more
 constexpr std::size_t CompareAtOnce = 1 << 20;
 
+bool isZero(std::span<const std::uint8_t> bytes)
+{
+    return std::ranges::all_of(bytes, [](std::uint8_t byte) { return byte == 0; });
+}
+
 std::uint32_t pageSizeOf(std::span<const std::uint8_t> head)
 {
     return head.size() > 0x14 && head[0x14] == 0 ? 2048 : 4096;
@@ -194,6 +199,9 @@ void Image::takeBytes(std::unique_ptr<std::uint8_t[]> bytes, std::size_t size)
         throw basic::Error(basic::Fault::FileTooShort, {.file = m_file}, {size});
 
     std::uint8_t *const raw = m_bytes.get();
+    std::uint32_t end = m_pageCount;
+    while (end > 3 && isZero({raw + std::size_t{end - 1} * m_pageSize, m_pageSize}))
+        --end;
     std::array<std::uint8_t, HeaderRoom> header{};
     std::copy_n(raw, m_pageSize, header.begin());
     maskHeader(header, m_version == Version::Jet4);
@@ -203,11 +211,11 @@ void Image::takeBytes(std::unique_ptr<std::uint8_t[]> bytes, std::size_t size)
         m_characters = charactersOf(m_codePage);
     else
         std::iota(m_characters.begin(), m_characters.end(), u'\0');
-    if (m_encodingKey == 0)
-        return;
-    for (std::uint32_t number = 1; number < m_pageCount; ++number)
+    for (std::uint32_t number = 1; m_encodingKey != 0 && number < m_pageCount; ++number)
         encodePage({raw + std::size_t{number} * m_pageSize, m_pageSize}, m_encodingKey, number);
-    if (page(2)[0] != static_cast<std::uint8_t>(PageType::Definition))
+    // Pages of zeros at the end were never written: a copy that was broken off keeps the size. They count as missing.
+    m_pageCount = end;
+    if (m_encodingKey != 0 && page(2)[0] != static_cast<std::uint8_t>(PageType::Definition))
         throw basic::Error(basic::Fault::NotDecoded, {.file = m_file});
 }
 

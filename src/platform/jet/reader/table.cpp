@@ -125,7 +125,8 @@ private:
         m_table->m_rows.reserve(std::min<std::size_t>(definition.rowCount, map.pages.size() * MaxSlots));
         for (const std::uint32_t page : map.pages)
             locateRowsOf(page);
-        const bool lacksRows = map.end > m_image.pageCount() && m_table->m_rows.size() < definition.rowCount;
+        const bool lacksRows =
+            (m_unknownPage || map.end > m_image.pageCount()) && m_table->m_rows.size() < definition.rowCount;
         if (lacksRows)
             note(-1, basic::Fault::RowsMissing, {m_table->m_rows.size(), definition.rowCount});
         const auto needs = [this](std::uint32_t end) {
@@ -145,8 +146,10 @@ private:
     void locateRowsOf(std::uint32_t number)
     {
         const DataPage page(m_image.version(), m_image.page(number));
-        if (!page.isDataOf(m_table->m_definitionPage))
+        if (!page.isDataOf(m_table->m_definitionPage)) {
+            m_unknownPage = m_unknownPage || !isPageType(m_image.page(number)[0]);
             return;
+        }
         if (!page.slotTableFits() || page.statedSlots() > MaxSlots)
             note(number, basic::Fault::TooManyRows, {page.statedSlots()});
         if (!page.slotTableFits())
@@ -226,6 +229,7 @@ private:
 
     std::shared_ptr<Table> m_table;
     const Image &m_image;
+    bool m_unknownPage = false;                  ///< one that the table owns is no page of a database
     std::unordered_set<std::uint32_t> m_movedTo; ///< page and slot of the records that overflow pointers led to
     std::size_t m_fixedEnd = 0; ///< a record as long as this has room for all fixed columns and the largest mask
 };
