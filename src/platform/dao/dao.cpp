@@ -141,12 +141,14 @@ Execution Database::writeMarks(const std::function<UpdateResult(SqlSession &)> &
         } catch (const basic::Error &error) {
             if (error.kind() != basic::ErrorKind::ChangedElsewhere)
                 throw;
-            if (again)
-                throw basic::Error(basic::Fault::ChangedAgain, error.place());
             for (const jet::Mark &mark : update.marks) {
                 const auto key = table.integer(mark.row, keyColumn);
                 if (key && old.test(mark.row) != table.boolean(mark.row, markColumn) && before.insert(*key).second)
                     execution.changedKeys.push_back(*key);
+            }
+            if (again) {
+                const basic::Error refused(basic::Fault::ChangedAgain, error.place());
+                throw before.empty() ? refused : refused.with(basic::Fault::RowsChangedBefore, {before.size()});
             }
             d->reload();
         }

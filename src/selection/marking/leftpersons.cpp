@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/marking/leftpersons.h"
 
+#include <algorithm>
 #include <array>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -34,15 +36,24 @@ QString leftPersons(language::Sprachmodul &texts, data::Datenbankmodul &database
     QStringList sentences;
     for (const auto &[why, text] : reasons) {
         qsizetype count = 0;
+        qsizetype unnamed = 0;
         QStringList names;
+        std::vector<qint32> named; // many rows may share a number
         for (const dao::LeftRow &row : left) {
             if (row.why != why)
                 continue;
-            if (++count <= NamesShown && row.key)
-                names << nameOf(*databases.Datentabelle, *row.key);
+            ++count;
+            if (row.key && std::ranges::find(named, *row.key) != named.end())
+                continue;
+            if (!row.key || names.size() == NamesShown) {
+                ++unnamed;
+                continue;
+            }
+            named.push_back(*row.key);
+            names << nameOf(*databases.Datentabelle, *row.key);
         }
-        if (count > NamesShown && !names.isEmpty())
-            names << texts.text(Text::AndMore).arg(count - NamesShown);
+        if (unnamed > 0 && !names.isEmpty())
+            names << texts.text(Text::AndMore).arg(unnamed);
         if (count > 0)
             sentences << texts.text(text).arg(QString::number(count), names.join(u"; "_s));
     }
