@@ -6,7 +6,6 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QTabWidget>
 
 using namespace kalvenor;
@@ -52,7 +51,7 @@ TEST(Accessible, AListHasRowsWithNamesSelectionAndPosition)
     EXPECT_EQ(table->selectedRows(), QList<int>{2});
     EXPECT_TRUE(table->selectRow(4));
     EXPECT_TRUE(table->unselectRow(2));
-    EXPECT_EQ(view.selectedCounters(), std::vector<qint32>{5});
+    EXPECT_EQ(view.selectedCounters(), Counters{5});
     list.child(0)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
     EXPECT_EQ(view.selectedCount(), 2);
 

@@ -4,9 +4,7 @@
 #include "statistics/panel/statisticspanel.h"
 #include "support/openwindow.h"
 #include <map>
-#include <QAction>
 #include <QApplication>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -15,7 +13,6 @@
 
 using namespace kalvenor;
 using namespace kalvenor::test;
-using Counters = std::vector<qint32>;
 
 namespace {
 

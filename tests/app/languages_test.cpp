@@ -3,11 +3,8 @@
 #include "language/texts/catalogue.h"
 #include "support/openwindow.h"
 #include <QAbstractButton>
-#include <QAction>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QTabBar>
 #include <QTextEdit>
 #include <set>

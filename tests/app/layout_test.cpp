@@ -26,14 +26,6 @@ struct LargerText {
     const QFont before = QApplication::font();
 };
 
-std::vector<TestPerson> manyPersons(int count)
-{
-    std::vector<TestPerson> persons;
-    for (qint32 i = 1; i <= count; ++i)
-        persons.push_back({.counter = i, .listname = QString("Person %1").arg(i)});
-    return persons;
-}
-
 std::map<QString, QRect> places(const QWidget &window)
 {
     std::map<QString, QRect> found;

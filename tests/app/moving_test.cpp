@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/openwindow.h"
-#include <QAction>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QGuiApplication>
@@ -11,7 +10,6 @@
 
 using namespace kalvenor;
 using namespace kalvenor::test;
-using Counters = std::vector<qint32>;
 
 namespace {
 
@@ -23,63 +21,60 @@ void drop(OpenWindow &open, PersonList from, PersonList on)
     QCoreApplication::processEvents();
 }
 
-void withBox(OpenWindow &open, int relatives)
-{
-    open.click<QCheckBox>(QString("quellenpincl_%1").arg(relatives));
-    open.click<QToolButton>("RM");
-}
-
 } // namespace
 
 TEST(Moving, EachWayMovesAndWritesTheMark)
 {
     const PersonList left = PersonList::Unmarked;
     const PersonList right = PersonList::Marked;
+    using Act = std::function<void(OpenWindow &)>;
+    const auto key = [](PersonList list, Qt::Key pressed) -> Act {
+        return [=](OpenWindow &open) {
+            QTest::keyClick(&open.view(list), pressed);
+        };
+    };
+    const auto button = [](const char *name, const char *relatives = nullptr) -> Act {
+        return [=](OpenWindow &open) {
+            if (relatives != nullptr)
+                open.click<QCheckBox>(relatives);
+            open.click<QToolButton>(name);
+        };
+    };
+    const auto menu = [](const char *action) -> Act {
+        return [=](OpenWindow &open) {
+            open.trigger(action);
+        };
+    };
+    const auto doubleClick = [](OpenWindow &open) {
+        auto &view = open.view(PersonList::Unmarked);
+        const QPoint first = view.visualRect(view.model()->index(0, 0)).center();
+        QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, first);
+    };
+    const auto all = [](OpenWindow &open) {
+        QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_Return);
+    };
     const struct {
         const char *way;
         PersonList from;
         std::initializer_list<qint32> selected;
-        std::function<void(OpenWindow &)> act;
+        Act act;
         Counters markedAfter; ///< 4 and 5 are marked before
     } rows[] = {
-        {"double click",
-         left,
-         {1},
-         [](OpenWindow &open) {
-             auto &view = open.view(PersonList::Unmarked);
-             const QPoint first = view.visualRect(view.model()->index(0, 0)).center();
-             QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, first);
-         },
-         {1, 4, 5}},
-        {"Return",
-         left,
-         {2, 7},
-         [](OpenWindow &open) { QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_Return); },
-         {2, 4, 5, 7}},
-        {"Del",
-         right,
-         {4},
-         [](OpenWindow &open) { QTest::keyClick(&open.view(PersonList::Marked), Qt::Key_Delete); },
-         {5}},
-        {"button", left, {3}, [](OpenWindow &open) { open.click<QToolButton>("RM"); }, {3, 4, 5}},
-        {"button, with children", left, {1}, [=](OpenWindow &open) { withBox(open, 0); }, {1, 3, 4, 5, 6}},
-        {"button, with parents", left, {3}, [=](OpenWindow &open) { withBox(open, 1); }, {1, 2, 3, 4, 5}},
-        {"button back", right, {5}, [](OpenWindow &open) { open.click<QToolButton>("RM2"); }, {4}},
-        {"all", left, {1}, [](OpenWindow &open) { open.click<QToolButton>("RMA"); }, {1, 2, 3, 4, 5, 6, 7}},
-        {"all back", right, {4}, [](OpenWindow &open) { open.click<QToolButton>("RM2A"); }, {}},
-        {"menu", left, {6}, [](OpenWindow &open) { open.control<QAction>("Markieren").trigger(); }, {4, 5, 6}},
-        {"menu back", right, {4, 5}, [](OpenWindow &open) { open.control<QAction>("Aufheben").trigger(); }, {}},
+        {"double click", left, {1}, doubleClick, {1, 4, 5}},
+        {"Return", left, {2, 7}, key(left, Qt::Key_Return), {2, 4, 5, 7}},
+        {"Del", right, {4}, key(right, Qt::Key_Delete), {5}},
+        {"Ctrl+A, Return", left, {1}, all, {1, 2, 3, 4, 5, 6, 7}},
+        {"button, with children", left, {1}, button("RM", "quellenpincl_0"), {1, 3, 4, 5, 6}},
+        {"button, with parents", left, {3}, button("RM", "quellenpincl_1"), {1, 2, 3, 4, 5}},
+        {"button back", right, {5}, button("RM2"), {4}},
+        {"all", left, {1}, button("RMA"), {1, 2, 3, 4, 5, 6, 7}},
+        {"all back", right, {4}, button("RM2A"), {}},
+        {"menu", left, {6}, menu("Markieren"), {4, 5, 6}},
+        {"menu back", right, {4, 5}, menu("Aufheben"), {}},
         {"drop", left, {1, 3}, [=](OpenWindow &open) { drop(open, left, right); }, {1, 3, 4, 5}},
         {"drop back", right, {5}, [=](OpenWindow &open) { drop(open, right, left); }, {4}},
         {"drop on its own list", left, {1}, [=](OpenWindow &open) { drop(open, left, left); }, {4, 5}},
-        {"Ctrl+A, Return",
-         left,
-         {1},
-         [](OpenWindow &open) {
-             QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_A, Qt::ControlModifier);
-             QTest::keyClick(&open.view(PersonList::Unmarked), Qt::Key_Return);
-         },
-         {1, 2, 3, 4, 5, 6, 7}},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.way);
@@ -111,10 +106,7 @@ TEST(Moving, SaysWhereTheWalkEndedAtTheLimit)
 
 TEST(Moving, TheNextPersonIsInHandAndTheMovedOneIsShown)
 {
-    std::vector<TestPerson> persons;
-    for (qint32 i = 1; i <= 500; ++i)
-        persons.push_back({.counter = i, .listname = QString("Person %1").arg(i, 4, 10, QChar(u'0'))});
-    OpenWindow open(persons);
+    OpenWindow open(manyPersons(500));
     auto &left = open.view(PersonList::Unmarked);
     open.select(PersonList::Unmarked, {250, 251});
     left.scrollTo(left.currentIndex(), QAbstractItemView::PositionAtTop);
@@ -156,7 +148,7 @@ TEST(Moving, FiguresAndNamesOfTheSelection)
     OpenWindow open(smallFamily());
     open.select(PersonList::Unmarked, {2, 7});
     EXPECT_EQ(open.control<QLabel>("Zahl_0").text(), "2 ausgewählt · 7 von 7");
-    open.control<QAction>("Kopieren").trigger();
+    open.trigger("Kopieren");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "Bär, Eva\nMüller, O'Neil\n");
     open.click<QToolButton>("RM");
     EXPECT_EQ(open.control<QLabel>("Zahl_1").text(), "2 ausgewählt · 2 von 7");

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/preview/druckvorschau.h"
 #include "settings/preview/pageview.h"
+#include "support/files.h"
 #include "support/openwindow.h"
-#include <QAction>
 #include <QDialog>
 #include <QPushButton>
 #include <QToolButton>
@@ -21,7 +21,7 @@ struct Report : testing::Test, OpenWindow {
     {
         select(PersonList::Unmarked, {1, 2, 3, 4});
         click<QToolButton>("RM");
-        control<QAction>("Seitenansicht").trigger();
+        trigger("Seitenansicht");
     }
     settings::Druckvorschau &preview() { return *window->report().preview(); }
     std::shared_ptr<const print::PageLayout> pages() { return preview().pageView().pages(); }
@@ -62,14 +62,12 @@ TEST_F(Report, IsSavedFromThePreviewInEveryFormat)
         command("save");
         EXPECT_EQ(preview().statusBar()->currentMessage(), "Gespeichert: " + folder.filePath(row.written))
             << desktop.messages.back().text.toStdString();
-        QFile file(folder.filePath(row.written));
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        EXPECT_TRUE(file.readAll().startsWith(row.beginning));
+        EXPECT_TRUE(contentOf(folder.filePath(row.written)).startsWith(row.beginning));
     }
     EXPECT_EQ(pages(), before) << "saving shows no other pages";
     EXPECT_EQ(computed, 0) << "nor computes what is known";
     EXPECT_EQ(desktop.fileQuestions.back().folder, hostFolder() + "/Ausgabe");
-    control<QAction>("Seitenansicht").trigger();
+    trigger("Seitenansicht");
     EXPECT_NE(pages(), before);
     EXPECT_EQ(computed, 2);
     EXPECT_EQ(desktop.messages.size(), 1u) << "the hint comes once";
@@ -118,12 +116,12 @@ TEST_F(Report, ClosingAWindowCancelsTheComposition)
     bool closeMain = false;
     whileComposing([&] { closeMain ? window->close() : preview().close(); });
     command("INI"); // nothing is composed
-    control<QAction>("Seitenansicht").trigger();
+    trigger("Seitenansicht");
     EXPECT_EQ(pages(), before);
     EXPECT_TRUE(QTest::qWaitFor([&] { return preview().isHidden(); }));
     EXPECT_TRUE(window->isVisible());
     closeMain = true;
-    control<QAction>("Seitenansicht").trigger();
+    trigger("Seitenansicht");
     EXPECT_TRUE(QTest::qWaitFor([&] { return window->isHidden(); }));
     EXPECT_EQ(desktop.messages.size(), 1u) << "only the hint";
     EXPECT_TRUE(desktop.errors.empty());
@@ -138,12 +136,7 @@ TEST_F(Report, IsNotShownAnyMoreOnceAnotherDatabaseIsOpen)
     EXPECT_TRUE(preview().isVisible()) << "the database is the same";
 
     ASSERT_TRUE(QFile::copy(family(), hostFolder() + "/Familie/familiX.mdb"));
-    QFile saved(file);
-    ASSERT_TRUE(saved.open(QIODevice::ReadWrite));
-    const QByteArray content = saved.readAll().replace("familie.mdb", "familiX.mdb");
-    saved.seek(0);
-    saved.write(content);
-    saved.close();
+    writeFile(file, contentOf(file).replace("familie.mdb", "familiX.mdb"));
     ASSERT_TRUE(window->templates().openFile(file));
     EXPECT_TRUE(program.databases.Familiendatenbank->file().endsWith("familiX.mdb"));
     EXPECT_TRUE(preview().isHidden());

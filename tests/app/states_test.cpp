@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/preview/druckvorschau.h"
 #include "support/openwindow.h"
-#include <QAction>
 #include <QCheckBox>
 #include <QElapsedTimer>
 #include <QPushButton>
@@ -11,7 +10,6 @@
 
 using namespace kalvenor;
 using namespace kalvenor::test;
-using Counters = std::vector<qint32>;
 
 TEST(States, AReadOnlyDatabaseDisablesMarkingAndSaysWhyOnce)
 {
@@ -103,20 +101,21 @@ TEST(States, AllKeysAreListedFromTheActions)
         keys = dialog.findChild<QTextBrowser *>("Tastenliste")->toPlainText();
         return true;
     };
-    open.control<QAction>("Tastenkuerzel").trigger();
+    open.trigger("Tastenkuerzel");
     for (const QAction *action : open.window->findChildren<QAction *>()) {
         const QString key =
             action->text().isEmpty() ? QString() : action->shortcut().toString(QKeySequence::NativeText);
         EXPECT_TRUE(keys.contains(key)) << action->text().toStdString();
     }
-    EXPECT_TRUE(keys.contains("Strg+A") || keys.contains("Ctrl+A"));
+    for (const char *key : {"Ctrl+A", "Ctrl+Q", "F5"})
+        EXPECT_TRUE(keys.contains(key) || keys.contains(QString(key).replace("Ctrl", "Strg"))) << key;
 }
 
 TEST(States, ProgressIsShownByTheWindowInFrontAlone)
 {
     OpenWindow open(smallFamily());
     open.controller().moveAll(PersonList::Unmarked);
-    open.control<QAction>("Seitenansicht").trigger();
+    open.trigger("Seitenansicht");
     settings::Druckvorschau *preview = open.window->report().preview();
     ASSERT_NE(preview, nullptr);
     preview->activateWindow();

@@ -91,8 +91,7 @@ TEST(Statistic, EachControlComputesWhatHangsOnIt)
     const statistics::Statistik left = open.window->statisticsPanel().options();
     EXPECT_EQ(left.geschlechtalter, (statistics::GeschlechtAlter{0, 0, 0, 1}));
     ASSERT_TRUE(open.window->close());
-    open.program.Main(
-        [&open] { return open.window = std::make_unique<app::Auswahl>(open.program), open.window.get(); });
+    open.show();
     EXPECT_TRUE(open.window->statisticsPanel().options() == left);
 }
 
@@ -115,7 +114,7 @@ TEST(Statistic, FollowsTheMarksAndLeadsBackToThem)
     const QPoint first = list.visualRect(list.model()->index(0, 0)).center();
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, first);
     QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, first);
-    EXPECT_EQ(open.view(PersonList::Marked).selectedCounters(), std::vector<qint32>{3});
+    EXPECT_EQ(open.view(PersonList::Marked).selectedCounters(), Counters{3});
 
     open.controller().moveAll(PersonList::Marked);
     open.showTab(StatisticsPanel::Chart);
@@ -153,7 +152,7 @@ TEST(Statistic, ABarLeadsToItsPersonsAndCanLeaveJustThemMarked)
     QTest::keyClick(&figures, Qt::Key_Return);
     EXPECT_EQ(open.lines(), (QStringList{"109.5  Bär, Eva ", " 66.0  Dorn, Ida "}));
     open.click<QPushButton>("NurDiese_markieren");
-    EXPECT_EQ(open.marked(), (std::vector<qint32>{2, 4}));
+    EXPECT_EQ(open.marked(), (Counters{2, 4}));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !open.control<QWidget>("NurDiese").isVisible(); }));
     open.controller().undo();
     EXPECT_EQ(open.marked().size(), 7U);
@@ -180,7 +179,7 @@ TEST(Statistic, TellsWhoIsLeftOutAndWhatToDoWhereNothingIsShown)
                                  "Eck, Emil: Sterbedatum nicht bekannt, oder die Person lebt",
                                  "Falk, Rosa: Sterbedatum nicht bekannt, oder die Person lebt",
                                  "Müller, O'Neil: Sterbedatum nicht bekannt, oder die Person lebt"}));
-    EXPECT_EQ(open.view(PersonList::Marked).selectedCounters(), std::vector<qint32>{5});
+    EXPECT_EQ(open.view(PersonList::Marked).selectedCounters(), Counters{5});
 
     auto &way = open.control<QPushButton>("Weiter_Grafik");
     for (const char *sex : {"geschlechtalter_2", "geschlechtalter_3"}) {

@@ -5,14 +5,11 @@
 #include "statistics/panel/statisticspanel.h"
 #include "support/files.h"
 #include "support/openwindow.h"
-#include <QAction>
 #include <QCloseEvent>
-#include <QLineEdit>
 #include <QMimeData>
 
 using namespace kalvenor;
 using namespace kalvenor::test;
-using Counters = std::vector<qint32>;
 
 namespace {
 
@@ -25,10 +22,8 @@ struct Templates : OpenWindow, testing::Test {
         panel().title().selectAll();
         QTest::keyClicks(&panel().title(), title);
     }
-    void trigger(const QString &action) { control<QAction>(action).trigger(); }
     bool isEnabled(const QString &action) { return control<QAction>(action).isEnabled(); }
     QString file(const char *name) const { return folder.filePath(name); }
-    void write(const QString &name, const QByteArray &bytes) { test::writeFile(name, bytes); }
     /// Everything that a statistic shows, in one text.
     QString statistic()
     {
@@ -98,14 +93,12 @@ TEST_F(Templates, FailureLeavesMarksAndControls)
     trigger("Markieren");
     panel().title().setText("Bleibt");
     const QString before = statistic();
-    write(file("foreign.kvl"), "\x89PNG\r\n");
-    write(file("short.kvl"), "\"\\nowhere.mdb\"\r\n\"T\"\r\n");
+    writeFile(file("foreign.kvl"), "\x89PNG\r\n");
+    writeFile(file("short.kvl"), "\"\\nowhere.mdb\"\r\n\"T\"\r\n");
     ASSERT_TRUE(window->templates().saveAs() == false); // cancelled
     desktop.fileAnswers = {file("elsewhere.kvl")};
     ASSERT_TRUE(window->templates().saveAs());
-    QFile saved(file("elsewhere.kvl"));
-    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
-    write(file("gone.kvl"), saved.readAll().replace("familie.mdb", "weg.mdb"));
+    writeFile(file("gone.kvl"), contentOf(file("elsewhere.kvl")).replace("familie.mdb", "weg.mdb"));
     desktop.answers = {desktop::ResultOk, desktop::ResultOk, desktop::ResultOk, desktop::ResultCancel};
     for (const char *name : {"foreign.kvl", "short.kvl", "missing.kvl", "gone.kvl"}) {
         const std::size_t messages = desktop.messages.size();
@@ -146,7 +139,7 @@ TEST_F(Templates, NothingUnsavedIsLostWithoutAQuestion)
 TEST_F(Templates, TheDefaultOneLeavesTheMarks)
 {
     const QString standard = program.host.native(program.host.programFolder() + "\\Standart.kvl");
-    write(standard, "\"\\nowhere.mdb\"\r\n\"T\"\r\n\"I\"\r\n9\r\n0\r\n1\r\n0\r\n0\r\n1\r\n#FALSE#\r\n1\r\n2\r\n");
+    writeFile(standard, "\"\\nowhere.mdb\"\r\n\"T\"\r\n\"I\"\r\n9\r\n0\r\n1\r\n0\r\n0\r\n1\r\n#FALSE#\r\n1\r\n2\r\n");
     select(PersonList::Unmarked, {3});
     trigger("Markieren");
     window->templates().openDefault();
@@ -165,8 +158,8 @@ TEST_F(Templates, AnotherFamilyDatabaseOrTheFormerOne)
     writeFamily(other, {{.counter = 8, .listname = "Gans, Ida", .marked = true}});
     select(PersonList::Unmarked, {1});
     trigger("Markieren");
-    write(file("text.mdb"), "not a database at all");
-    write(file("old.mdb"), QByteArray("\0\1\0\0Standard ACE DB\0\2", 21) + QByteArray(4096, '\0'));
+    writeFile(file("text.mdb"), "not a database at all");
+    writeFile(file("old.mdb"), QByteArray("\0\1\0\0Standard ACE DB\0\2", 21) + QByteArray(4096, '\0'));
     writeFamily(file("part.mdb"), {}, 0, "Baum");
     const std::pair<const char *, const char *> refused[] = {{"text.mdb", "keine Familiendatenbank"},
                                                              {"old.mdb", "ein Format, das nicht gelesen werden kann"},
@@ -193,16 +186,6 @@ TEST_F(Templates, AnotherFamilyDatabaseOrTheFormerOne)
     ASSERT_TRUE(QFile::setPermissions(other, QFile::ReadOwner));
     controller().reloadLists();
     EXPECT_TRUE(control<QLabel>("PanelNurlesen").isVisible());
-}
-
-TEST_F(Templates, WhatClosingStoresIsWhatResettingGives)
-{
-    panel().setOptions({.grafiktyp = 9, .legende = false, .geschlechtalter = {0, 0, 0, 1}, .nachGeburtsjahr = false});
-    window->close();
-    const statistics::Statistik statistik = selection::vorlageclear(program.host);
-    EXPECT_EQ(statistik, (statistics::Statistik{.grafiktyp = 9, .legende = false, .nachGeburtsjahr = false}))
-        << "the boxes have another key";
-    EXPECT_EQ(program.host.inilesen(program.host.ownSettingsFile(), "Geschlecht", "2", {}), "0");
 }
 
 } // namespace

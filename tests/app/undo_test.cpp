@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/openwindow.h"
-#include <QAction>
 #include <QToolButton>
 #include <random>
 
 using namespace kalvenor;
 using namespace kalvenor::test;
-using Counters = std::vector<qint32>;
 
 TEST(Undo, RestoresExactlyWhatChanged)
 {
@@ -38,9 +36,9 @@ TEST(Undo, RestoresExactlyWhatChanged)
 
 TEST(Undo, ACancelledActionLeavesListsAsTheFileIs)
 {
-    std::vector<TestPerson> persons;
-    for (qint32 i = 1; i <= 3000; ++i)
-        persons.push_back({.counter = i, .listname = QString("Person %1").arg(i), .marked = i % 3 == 0});
+    auto persons = manyPersons(3000);
+    for (std::size_t i = 0; i < persons.size(); i += 3)
+        persons[i].marked = true;
     OpenWindow open(persons);
     const Counters before = open.marked();
     desktop::Work &work = open.controller().work();

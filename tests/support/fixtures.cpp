@@ -6,6 +6,7 @@
 #include "platform/basic/error.h"
 #include "platform/basic/path.h"
 #include "platform/jet/creator/creator.h"
+#include "platform/jet/reader/database.h"
 #include <QDir>
 #include <QFile>
 #include <set>
@@ -176,6 +177,14 @@ void writeFamily(const QString &file, const std::vector<TestPerson> &persons, st
         addPersons(creator, persons);
     addOtherTables(creator, without);
     creator.write(file, encodingKey);
+}
+
+void damageFamily(const QString &file)
+{
+    const qint64 page = jet::Database::open(file)->table(u"Daten"_s)->place(0).firstPage;
+    QFile bytes(file);
+    if (!bytes.open(QIODevice::ReadWrite) || !bytes.seek(page * 4096 + 12) || bytes.write("\xff\xff", 2) != 2)
+        throw basic::Error(basic::Fault::NotWritten, {.file = file}, {bytes.errorString()});
 }
 
 void writeHost(const QString &folder, const std::vector<TestPerson> &persons)

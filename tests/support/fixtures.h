@@ -37,6 +37,9 @@ void writeFamily(const QString &file, const std::vector<TestPerson> &persons, st
 /// The tables of a family database beside the persons.
 void addOtherTables(jet::Creator &creator, const QString &without = {});
 
+/// Damages the first page of the persons: it says that it has more rows than a page can have.
+void damageFamily(const QString &file);
+
 /// Makes a host installation: folder/QV with its settings, texts, side databases and folder/QV/Familie/familie.mdb, and
 /// the program's own folder folder/QV/Kalvenor. `folder` is native and absolute.
 void writeHost(const QString &folder, const std::vector<TestPerson> &persons);

@@ -10,8 +10,10 @@
 #include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
+#include <QAction>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QStatusBar>
 #include <QTest>
 #include <stdexcept>
@@ -21,6 +23,7 @@ namespace kalvenor::test {
 using namespace Qt::StringLiterals;
 
 using selection::PersonList;
+using Counters = std::vector<qint32>;
 
 /// The main window over a host installation of its own.
 struct OpenWindow : Installation {
@@ -29,13 +32,19 @@ struct OpenWindow : Installation {
     {
         if (prepare)
             prepare(*this);
+        show();
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get())); // a real desktop takes its time
+    }
+
+    /// Starts the program with a new window.
+    void show()
+    {
         program.Main([this] {
             window = std::make_unique<app::Auswahl>(program);
             window->show();
             return window.get();
         });
-        window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get())); // a real desktop takes its time
     }
 
     /// The named control of the window.
@@ -52,20 +61,29 @@ struct OpenWindow : Installation {
     {
         control<Control>(name).click();
     }
+    void trigger(const QString &action) { control<QAction>(action).trigger(); }
+    /// Types into the named field, from its beginning on.
+    void type(const QString &name, const QString &text)
+    {
+        auto &field = control<QLineEdit>(name);
+        field.setFocus();
+        field.setCursorPosition(0);
+        QTest::keyClicks(&field, text);
+    }
     selection::PersonListView &view(PersonList list) { return window->selectionPanel().listPanel(list).view(); }
     selection::SelectionController &controller() { return window->controller(); }
 
     /// Counters of the persons that the list shows.
-    std::vector<qint32> shown(PersonList list)
+    Counters shown(PersonList list)
     {
-        std::vector<qint32> counters;
+        Counters counters;
         const auto &model = controller().model(list);
         for (int row = 0; row < model.rowCount(); ++row)
             counters.push_back(model.counterAt(row));
         return counters;
     }
-    std::vector<qint32> inFile(const QString &query) const { return countersIn(family(), query); }
-    std::vector<qint32> marked() { return inFile(selection::plainListQuery(PersonList::Marked)); }
+    Counters inFile(const QString &query) const { return countersIn(family(), query); }
+    Counters marked() { return inFile(selection::plainListQuery(PersonList::Marked)); }
     QString family() const { return hostFolder() + u"/Familie/familie.mdb"_s; }
 
     void select(PersonList list, std::initializer_list<qint32> counters)
@@ -88,6 +106,15 @@ struct OpenWindow : Installation {
 };
 
 inline std::vector<TestPerson> smallFamily();
+
+/// "Person 0001" and so on; their order is that of their counters.
+inline std::vector<TestPerson> manyPersons(qint32 count)
+{
+    std::vector<TestPerson> persons;
+    for (qint32 i = 1; i <= count; ++i)
+        persons.push_back({.counter = i, .listname = u"Person %1"_s.arg(i, 4, 10, QChar(u'0'))});
+    return persons;
+}
 
 /// The window with the program's own texts in one of their languages.
 struct TranslatedWindow : OpenWindow {
