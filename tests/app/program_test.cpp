@@ -82,10 +82,3 @@ TEST_F(Start, NamesTheSettingThatDoesNotFit)
     EXPECT_TRUE(error->place().file.endsWith("programm.ini"));
     EXPECT_EQ(error->arguments(), QStringList({"Kurzhilfe", "40000", "Ansicht"}));
 }
-
-TEST_F(Start, LeavesErrorsOfTheLanguageDatabaseToTheCaller)
-{
-    ASSERT_TRUE(QFile::remove(hostFolder() + "/ADD-IN-LANGUAGE.MDB"));
-    EXPECT_THROW(program.Main(), basic::Error);
-    EXPECT_TRUE(desktop.messages.empty());
-}
