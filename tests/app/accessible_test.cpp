@@ -1,12 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/filter/filterpanel.h"
-#include "statistics/panel/statisticspanel.h"
 #include "support/openwindow.h"
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QComboBox>
-#include <QTabWidget>
 
 using namespace kalvenor;
 using namespace kalvenor::test;

@@ -16,13 +16,6 @@ namespace {
 const std::vector<test::TestPerson> Persons{{.counter = 1, .listname = "A"},
                                             {.counter = 2, .listname = "B", .marked = true}};
 
-QString familyFile(const test::Installation &installation)
-{
-    test::FakeDesktop desktop;
-    const host::Host host(installation.programFolder(), desktop);
-    return host.native(host.readPath(installation.settings(), "QV-Files", "0", {}));
-}
-
 } // namespace
 
 TEST(Check, FindsAWholeInstallationSound)
@@ -54,46 +47,40 @@ TEST(Check, NamesWhatIsWrongWithEachPart)
                                                   {.name = "Listname", .type = ColumnType::Text},
                                                   {.name = "Markierung", .type = ColumnType::Boolean}});
         persons.addRow({1, QString("A"), false});
-        family.write(familyFile(it));
+        family.write(it.family());
+    };
+    const Spoil noDatabase = [](const test::Installation &it) {
+        test::writeFile(it.hostFolder() + "/namen.mdb", "no database at all");
+    };
+    const Spoil readOnly = [](const test::Installation &it) {
+        QFile::setPermissions(it.family(), QFile::ReadOwner);
+    };
+    const Spoil damaged = [](const test::Installation &it) {
+        test::damageFamily(it.family());
+    };
+    const Spoil twice = [](const test::Installation &it) {
+        test::writeFamily(it.family(), {{.counter = 1, .listname = "A"}, {.counter = 1, .listname = "B"}});
     };
     const struct {
-        const char *what;
         Spoil spoil;
-        QStringList words; ///< all of them in one line, which begins with the first
-        QString unsaid;    ///< in no line
+        QStringList words;   ///< all of them in one line, which begins with the first
+        QString unsaid = {}; ///< in no line
     } rows[] = {
-        {"no settings", remove("programm.ini"), {"fehlt", "programm.ini"}, "\"\""},
-        {"no host texts", remove("language.mdb"), {"fehlt", "language.mdb"}, {}},
-        {"no texts", remove("ADD-IN-LANGUAGE.MDB"), {"fehlt", "ADD-IN-LANGUAGE.MDB"}, {}},
-        {"no database",
-         [](const test::Installation &it) { test::writeFile(it.hostFolder() + "/namen.mdb", "no database at all"); },
-         {"beschädigt", "namen.mdb"},
-         {}},
-        {"no output folder", setting("Verzeichnisse", "Prints", "\\nirgends"), {"fehlt", "/nirgends"}, {}},
-        {"no path", setting("QV-Files", "0", ""), {"fehlt", "QV-Files"}, {}},
-        {"unmapped drive",
-         setting("QV-Files", "0", "C:\\Daten\\f.mdb"),
-         {"fehlt", "C:\\Daten\\f.mdb", "Laufwerke"},
-         "/dev/null"},
-        {"other language", setting("Ansicht", "Sprache", "Suomi"), {"missing", "Ereignis.mdb", "Suomi"}, {}},
-        {"read-only database",
-         [](const test::Installation &it) { QFile::setPermissions(familyFile(it), QFile::ReadOwner); },
-         {"gesperrt", "familie.mdb", "schreibgeschützt"},
-         "können markiert werden"},
-        {"damaged page",
-         [](const test::Installation &it) { test::damageFamily(familyFile(it)); },
-         {"beschädigt", "familie.mdb", "Tabelle Daten", "Seite"},
-         {}},
-        {"persons twice",
-         [](const test::Installation &it) {
-             test::writeFamily(familyFile(it), {{.counter = 1, .listname = "A"}, {.counter = 1, .listname = "B"}});
-         },
-         {"beschädigt", "familie.mdb", "1 Personen haben einen Counter"},
-         "können markiert werden"},
-        {"no tables", bare, {"fehlt", "Baum_DS"}, {}},
-        {"nor one in whose name a space stands", bare, {"fehlt", "Adressen_DS "}, {}},
-        {"no column", bare, {"fehlt", "Daten", "Geburtsdatum"}, {}},
-        {"no index", bare, {"fehlt", "Daten", "Index", "Counter"}, {}},
+        {remove("programm.ini"), {"fehlt", "programm.ini"}, "\"\""},
+        {remove("language.mdb"), {"fehlt", "language.mdb"}},
+        {remove("ADD-IN-LANGUAGE.MDB"), {"fehlt", "ADD-IN-LANGUAGE.MDB"}},
+        {setting("Verzeichnisse", "Prints", "\\nirgends"), {"fehlt", "/nirgends"}},
+        {setting("QV-Files", "0", ""), {"fehlt", "QV-Files"}},
+        {setting("QV-Files", "0", "C:\\D\\f.mdb"), {"fehlt", "C:\\D\\f.mdb", "Laufwerke"}, "/dev/null"},
+        {setting("Ansicht", "Sprache", "Suomi"), {"missing", "Ereignis.mdb", "Suomi"}},
+        {noDatabase, {"beschädigt", "namen.mdb"}},
+        {readOnly, {"gesperrt", "familie.mdb", "schreibgeschützt"}, "können markiert werden"},
+        {damaged, {"beschädigt", "familie.mdb", "Tabelle Daten", "Seite"}},
+        {twice, {"beschädigt", "familie.mdb", "1 Personen haben einen Counter"}, "können markiert werden"},
+        {bare, {"fehlt", "Baum_DS"}},
+        {bare, {"fehlt", "Adressen_DS "}},
+        {bare, {"fehlt", "Daten", "Geburtsdatum"}},
+        {bare, {"fehlt", "Daten", "Index", "Counter"}},
     };
     for (const auto &row : rows) {
         const test::Installation installation(Persons);
@@ -105,10 +92,10 @@ TEST(Check, NamesWhatIsWrongWithEachPart)
                                [&](const QString &word) { return line.contains(word); });
         };
         EXPECT_TRUE(std::any_of(result.problems.begin(), result.problems.end(), isSaid))
-            << row.what << ":\n"
+            << row.words.join(' ').toStdString() << ":\n"
             << result.problems.join('\n').toStdString();
         if (!row.unsaid.isEmpty()) {
-            EXPECT_FALSE((result.good + result.problems).join('\n').contains(row.unsaid)) << row.what;
+            EXPECT_FALSE((result.good + result.problems).join('\n').contains(row.unsaid)) << row.unsaid.toStdString();
         }
     }
 }

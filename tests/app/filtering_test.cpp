@@ -1,11 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/filter/filterpanel.h"
 #include "support/openwindow.h"
-#include <QCheckBox>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QToolButton>
 
 using namespace kalvenor;
 using namespace kalvenor::test;

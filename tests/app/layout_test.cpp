@@ -1,11 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "selection/filter/filterpanel.h"
-#include "statistics/panel/statisticspanel.h"
 #include "support/openwindow.h"
 #include <QApplication>
 #include <QSplitter>
-#include <QTabWidget>
 
 using namespace kalvenor;
 using namespace kalvenor::test;

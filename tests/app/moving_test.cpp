@@ -1,12 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/openwindow.h"
-#include <QCheckBox>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QScrollBar>
-#include <QToolButton>
 
 using namespace kalvenor;
 using namespace kalvenor::test;

@@ -5,8 +5,6 @@
 #include "support/files.h"
 #include "support/openwindow.h"
 #include <QDialog>
-#include <QPushButton>
-#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 

@@ -2,11 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settings/preview/druckvorschau.h"
 #include "support/openwindow.h"
-#include <QCheckBox>
 #include <QElapsedTimer>
-#include <QPushButton>
 #include <QTextBrowser>
-#include <QToolButton>
 
 using namespace kalvenor;
 using namespace kalvenor::test;

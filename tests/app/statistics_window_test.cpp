@@ -1,16 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/chart/chartcontrol.h"
-#include "statistics/panel/statisticspanel.h"
 #include "support/openwindow.h"
-#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
-#include <QTabWidget>
-#include <QToolButton>
 
 using namespace kalvenor;
 using namespace kalvenor::test;

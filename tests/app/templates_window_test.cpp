@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/templates/vorlagespeichern.h"
 #include "statistics/introduction/texteditor.h"
-#include "statistics/panel/statisticspanel.h"
 #include "support/files.h"
 #include "support/openwindow.h"
 #include <QCloseEvent>

@@ -3,9 +3,7 @@
 #include "support/faultystorage.h"
 #include "support/openwindow.h"
 #include <QDateTime>
-#include <QPushButton>
 #include <QSplitter>
-#include <QToolButton>
 
 using namespace kalvenor;
 using namespace kalvenor::test;

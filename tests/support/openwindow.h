@@ -4,18 +4,24 @@
 
 #include "app/window/auswahl.h"
 #include "demo/host/sidedatabases.h"
+#include "selection/filter/filterpanel.h"
 #include "selection/panel/personlistpanel.h"
 #include "selection/panel/selectionpanel.h"
+#include "statistics/panel/statisticspanel.h"
 #include "support/startedprogram.h"
 #include <algorithm>
 #include <functional>
 #include <gtest/gtest.h>
 #include <QAction>
+#include <QCheckBox>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStatusBar>
+#include <QTabWidget>
 #include <QTest>
+#include <QToolButton>
 #include <stdexcept>
 
 namespace kalvenor::test {
@@ -84,7 +90,6 @@ struct OpenWindow : Installation {
     }
     Counters inFile(const QString &query) const { return countersIn(family(), query); }
     Counters marked() { return inFile(selection::plainListQuery(PersonList::Marked)); }
-    QString family() const { return hostFolder() + u"/Familie/familie.mdb"_s; }
 
     void select(PersonList list, std::initializer_list<qint32> counters)
     {

@@ -16,6 +16,7 @@ using namespace Qt::StringLiterals;
 struct Installation {
     explicit Installation(const std::vector<TestPerson> &persons = {}) { writeHost(folder.path(), persons); }
     QString hostFolder() const { return folder.path() + u"/QV"_s; }
+    QString family() const { return hostFolder() + u"/Familie/familie.mdb"_s; }
     basic::WindowsPath programFolder() const { return basic::windowsPath(hostFolder() + u"/Kalvenor"_s); }
     basic::WindowsPath settings() const { return basic::windowsPath(hostFolder() + u"/programm.ini"_s); }
     QTemporaryDir folder;
