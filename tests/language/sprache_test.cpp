@@ -3,44 +3,19 @@
 #include "language/texts/sprache.h"
 
 #include "language/texts.h"
-#include "platform/jet/creator/creator.h"
 #include "support/startedprogram.h"
 #include <gtest/gtest.h>
 
 using namespace kalvenor;
 
-namespace {
-
-void writeTexts(const QString &file)
-{
-    using jet::ColumnType;
-    jet::Creator creator;
-    auto &languages = creator.addTable("Languages",
-                                       {{.name = "Counter"},
-                                        {.name = "Deutsch", .type = ColumnType::Text},
-                                        {.name = "English", .type = ColumnType::Text}},
-                                       {{.name = "Counter", .columns = {"Counter"}}});
-    languages.addRow({1, QString("Datei öffnen"), QString("Open file")});
-    languages.addRow({2, QString("in #PROGNAME# und #APPNAME##PROGNAME# #progname#"), QString("#")});
-    languages.addRow({3, {}, QString("Only English")});
-    languages.addRow({-4, QString("negativ"), QString("negative")});
-    creator.write(file);
-}
-
-} // namespace
-
 TEST(Sprachtext, LooksUpByIdentifierAndLanguage)
 {
-    QTemporaryDir folder;
-    writeTexts(folder.filePath("ADD-IN-LANGUAGE.MDB"));
-    test::FakeDesktop desktop;
-    host::Host host(basic::windowsPath(folder.filePath("Kalvenor")), desktop);
-    dao::Engine engine;
-    language::Sprachmodul texts(host, engine);
-    host.Sprache = "Deutsch";
-    EXPECT_EQ(texts.sprachtext(1), "????") << "nothing is open yet";
-
-    texts.spracheoeffnen(basic::windowsPath(folder.filePath("ADD-IN-LANGUAGE.MDB")));
+    test::Texts open({{1, "Datei öffnen", "Open file"},
+                      {2, "in #PROGNAME# und #APPNAME##PROGNAME# #progname#", "#"},
+                      {3, {}, "Only English"},
+                      {-4, "negativ", "negative"}});
+    language::Sprachmodul &texts = open.module;
+    EXPECT_EQ(language::Sprachmodul(open.host, open.engine).sprachtext(1), "????") << "nothing is open yet";
     const struct {
         QString language;
         qint16 id;
@@ -57,10 +32,10 @@ TEST(Sprachtext, LooksUpByIdentifierAndLanguage)
         {"Deutsch", -4, "negativ"},
     };
     for (const auto &row : rows) {
-        host.Sprache = row.language;
+        open.host.Sprache = row.language;
         EXPECT_EQ(texts.sprachtext(row.id).toString(), row.text) << row.language.toStdString() << row.id;
     }
-    host.Sprache = "Deutsch";
+    open.host.Sprache = "Deutsch";
     EXPECT_TRUE(texts.sprachtext(3).isNull());
 }
 

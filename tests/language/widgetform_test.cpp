@@ -248,6 +248,7 @@ TEST(WidgetForm, ShowsTheTextsOfTheLanguageOrItsOwn)
             expectTexts(window, row.expected);
         }
         EXPECT_EQ(window.cursor().shape(), Qt::WaitCursor);
+        EXPECT_FALSE(window.toolButton(window.chart)->text().contains('&')) << "only menus have access keys";
         // What has no identifier stays, whatever digits it begins with.
         EXPECT_EQ(window.count->text(), "3 von 7");
         EXPECT_EQ(window.count->toolTip(), "3 Personen");
@@ -287,17 +288,4 @@ TEST(WidgetForm, RemovesTooltipsWhereShortHelpIsOff)
     EXPECT_EQ(container.check->toolTip(), "Mark person!");
     EXPECT_EQ(container.panel->toolTip(), "Marked persons!");
     EXPECT_EQ(container.toolButton(container.chart)->toolTip(), "") << "its tool bar buttons are not excepted";
-}
-
-TEST(WidgetForm, SharesAnActionBetweenMenuAndToolBar)
-{
-    test::Texts texts(hostRows(), "English");
-    QMainWindow window;
-    QAction *action = window.menuBar()->addMenu("Datei")->addAction("x");
-    QToolBar *tools = window.addToolBar("x");
-    tools->addAction(action);
-    setDesignText(action, Text::MenuSaveTemplate);
-    formuebersetzen(window, texts.module, texts.host);
-    EXPECT_EQ(action->text(), "&Save template!");
-    EXPECT_FALSE(qobject_cast<QToolButton *>(tools->widgetForAction(action))->text().contains(u'&'));
 }
