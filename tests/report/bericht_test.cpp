@@ -343,22 +343,6 @@ TEST_F(BerichtTest, NothingGoesThroughALinkThatNobodyNamed)
     EXPECT_EQ(read(demo.familyDatabase), family);
 }
 
-TEST_F(BerichtTest, NonsenseInTheSettingsBreaksNothing)
-{
-    QString nonsense;
-    for (const char *section :
-         {"Titel", "Kriterien", "Altersliste", "Footer", "Grafik", "Druckrand", "Format", "Spalten"})
-        nonsense += u"[%1]\r\nFontname=@\r\nFontsize=@\r\nFontbold=@\r\nFontcolor=@\r\nBackcolor=@\r\n"
-                    "Abstand=@\r\nLinks=@\r\nOben=@\r\nUnten=@\r\nAusrichtung=@\r\n1=@\r\n2=@\r\n4=@\r\n"
-                    "Fontfaktor=@\r\nBildgroesse=@\r\n"_s.arg(section);
-    for (const char *value : {"", "x", "-1", "0", "1e300", "-99999999999", "12.5,7", "32767"}) {
-        settings(QString(nonsense).replace(u'@', value));
-        run(print::ExportFormat::Pages, {});
-        EXPECT_GE(print.layout()->pages().size(), 2U) << value;
-        EXPECT_FALSE(run(print::ExportFormat::Rtf, folder.filePath("n.rtf")).isEmpty());
-    }
-}
-
 TEST_F(BerichtTest, SavingComposesOnlyWhatIsNotShown)
 {
     const auto saved = [&](print::ExportFormat format, const char *name) {

@@ -7,7 +7,6 @@
 #include "support/fakedesktop.h"
 #include "support/files.h"
 #include <gtest/gtest.h>
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -121,15 +120,6 @@ TEST(Druckvorgaben, ReadsWhatAHandWroteIntoTheFile)
     EXPECT_EQ(settings.vorgaben, before);
     ASSERT_TRUE(settings.save());
     EXPECT_EQ(settings.bytes(), once);
-}
-
-TEST(Druckvorgaben, SaysWhenTheFileCannotBeWritten)
-{
-    Settings settings;
-    ASSERT_TRUE(QDir().mkdir(settings.path)); // a folder in the file's place, which stops root as well
-    settings.load();
-    EXPECT_EQ(settings.vorgaben, defaultVorgaben());
-    EXPECT_FALSE(settings.save());
 }
 
 TEST(Druckvorgaben, FontTextsBecomeAStyleThatAPageCanTake)

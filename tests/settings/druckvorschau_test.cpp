@@ -9,6 +9,7 @@
 #include "settings/preview/savequestion.h"
 #include "settings/previewfixture.h"
 #include "support/fakemainform.h"
+#include "support/files.h"
 #include <functional>
 #include <gtest/gtest.h>
 #include <QAction>
@@ -71,9 +72,7 @@ struct Preview : testing::Test, test::Texts {
     }
     static int pagesOfPdf(const QString &file)
     {
-        QFile pdf(file);
-        EXPECT_TRUE(pdf.open(QIODevice::ReadOnly));
-        return static_cast<int>(pdf.readAll().count("/Type /Page\n"));
+        return static_cast<int>(test::contentOf(file).count("/Type /Page\n"));
     }
 
     QWidget mainWindow;
@@ -120,9 +119,6 @@ TEST_F(Preview, KeepsItsSizeAndZoomAndFitsTheScreen)
 TEST_F(Preview, ShowsTextsAndPages)
 {
     EXPECT_EQ(child<QMenu>("MD").title(), "&Drucken");
-    EXPECT_EQ(child<QAction>("MDINI").text(), "&Druckvorlage");
-    EXPECT_EQ(child<QAction>("MHH").text(), "&Hilfe");
-    EXPECT_EQ(child<QAction>("INITVorgaben").text(), "Druckeinstellungen");
     EXPECT_EQ(window->controlTexts().device, "auf %s an %s");
     EXPECT_EQ(child<QDialog>("Druckanzeige").windowTitle(), "Drucken...");
     EXPECT_EQ(child<QComboBox>("Zoom").itemText(1), "Seitenbreite");
@@ -137,15 +133,6 @@ TEST_F(Preview, ShowsTextsAndPages)
     EXPECT_EQ(child<QComboBox>("Zoom").currentText(), "100 %");
     control.setDocument(test::pagesOf(3));
     EXPECT_EQ(page.text(), "Seite 3 von 3") << "a new document is shown at once";
-}
-
-TEST_F(Preview, CallsTheMainWindow)
-{
-    window->toolbarbuttonclick("INITVorgaben");
-    child<QAction>("MHH").trigger();
-    window->toolbarbuttonclick("nothing of that name");
-    EXPECT_EQ(main.calls, (QStringList{"init", "panelaufruf Hilfe"}));
-    EXPECT_TRUE(desktop.messages.empty());
 }
 
 TEST_F(Preview, TakesItselfOffTheTopForDialogs)
@@ -220,11 +207,6 @@ TEST_F(Preview, SetsThePageUp)
     print::PageSetup &page = control.page;
     page.left = 1001; // no whole number of tenths of a millimetre
     const print::PageSetup before = page;
-    desktop.dialogAnswer = [](QDialog &) {
-        return false;
-    };
-    window->toolbarbuttonclick("INI");
-    EXPECT_TRUE(main.calls.isEmpty());
     desktop.dialogAnswer = [](QDialog &dialog) {
         dialog.findChild<QAbstractButton *>("Ausrichtung_1")->click();
         auto *paper = dialog.findChild<QComboBox *>("Papier");

@@ -4,12 +4,12 @@
 
 #include "language/forms/widgetform.h"
 #include "language/texts.h"
+#include "support/files.h"
 #include <gtest/gtest.h>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QFile>
 #include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
@@ -34,9 +34,8 @@ protected:
     bool writes(const char *part) const { return editor.rtf().contains(part); }
     QString put(const QByteArray &content)
     {
-        QFile file(texts.folder.filePath(u"a.rtf"_s));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-        return file.fileName();
+        test::writeFile(texts.folder.filePath(u"a.rtf"_s), content);
+        return texts.folder.filePath(u"a.rtf"_s);
     }
     void paste(const QString &html, const QByteArray &rtf = {})
     {
@@ -93,7 +92,6 @@ TEST_F(TextEditorTest, ToolsAndKeysFormat)
     size->setEditText(u"8,5"_s);
     Q_EMIT size->textActivated(size->currentText());
     EXPECT_TRUE(writes("\\fs17"));
-    editor.findChild<QAction *>(u"Textmenue"_s);
     for (QAction *color : editor.findChild<QWidget *>(u"Schriftfarbe"_s)->findChild<QMenu *>()->actions()) {
         color->trigger();
         EXPECT_EQ(writes("\\cf1"), color->text() != u"Automatisch"_s) << color->text().toStdString();
@@ -174,9 +172,7 @@ TEST_F(TextEditorTest, OpensAndSavesFiles)
     const QString target = texts.folder.filePath(u"b.rtf"_s);
     texts.desktop.fileAnswers = {target, texts.folder.filePath(u"no/such/folder.rtf"_s)};
     trigger("Textspeichern");
-    QFile saved(target);
-    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
-    EXPECT_EQ(saved.readAll(), original);
+    EXPECT_EQ(test::contentOf(target), original);
     EXPECT_EQ(messages.count(), 1);
     trigger("Textspeichern");
     EXPECT_EQ(texts.desktop.messages.size(), 1U);
