@@ -11,7 +11,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSettings>
-#include <QTest>
 
 using namespace kalvenor;
 using namespace kalvenor::test;

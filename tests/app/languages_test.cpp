@@ -2,11 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "language/texts/catalogue.h"
 #include "support/openwindow.h"
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QGroupBox>
 #include <QTabBar>
-#include <QTextEdit>
 #include <set>
 
 using namespace kalvenor;

@@ -90,9 +90,9 @@ TEST(Moving, EachWayMovesAndWritesTheMark)
 
 TEST(Moving, SaysWhereTheWalkEndedAtTheLimit)
 {
-    std::vector<TestPerson> persons{{.counter = 1, .listname = "Vater"}};
-    for (qint32 child = 2; child <= 1200; ++child)
-        persons.push_back({.counter = child, .listname = QString("Kind %1").arg(child), .father = 1});
+    auto persons = manyPersons(1200);
+    for (std::size_t child = 1; child < persons.size(); ++child)
+        persons[child].father = 1;
     OpenWindow open(persons);
     open.control<QCheckBox>("quellenpincl_0").setChecked(true);
     open.controller().move(PersonList::Unmarked, {1}, open.window->selectionPanel().relatives());

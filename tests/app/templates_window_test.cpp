@@ -4,8 +4,6 @@
 #include "statistics/introduction/texteditor.h"
 #include "support/files.h"
 #include "support/openwindow.h"
-#include <QCloseEvent>
-#include <QMimeData>
 
 using namespace kalvenor;
 using namespace kalvenor::test;

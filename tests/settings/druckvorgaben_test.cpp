@@ -7,7 +7,6 @@
 #include "support/fakedesktop.h"
 #include "support/files.h"
 #include <gtest/gtest.h>
-#include <QFile>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
