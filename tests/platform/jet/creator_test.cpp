@@ -311,26 +311,6 @@ TEST_F(CreatorTest, writesTheSystemTables)
     EXPECT_EQ(part(0xe00, 6), "010100010001");
 }
 
-TEST_F(CreatorTest, givesTheSameBytesEachTime)
-{
-    const std::vector<test::TestPerson> persons{{.counter = 1, .listname = "Müller, Anna", .marked = true},
-                                                {.counter = 2, .listname = "Weiß, Otto", .birth = -40000}};
-    const QString other = folder.filePath("other.mdb");
-    const QString encoded = folder.filePath("encoded.mdb");
-    test::writeFamily(file, persons);
-    test::writeFamily(other, persons);
-    test::writeFamily(encoded, persons, 0x1234);
-    const auto plain = readAll(file);
-    EXPECT_EQ(plain, readAll(other));
-
-    auto decoded = readAll(encoded);
-    ASSERT_EQ(decoded.size(), plain.size());
-    EXPECT_NE(decoded, plain);
-    for (std::uint32_t page = 1; page < decoded.size() / 4096; ++page)
-        encodePage(std::span(decoded).subspan(std::size_t{page} * 4096, 4096), 0x1234, page);
-    EXPECT_TRUE(std::equal(decoded.begin() + 4096, decoded.end(), plain.begin() + 4096));
-}
-
 TEST_F(CreatorTest, refusesWhatTheFormatCannotHold)
 {
     using basic::Fault;
@@ -361,7 +341,7 @@ TEST_F(CreatorTest, refusesWhatTheFormatCannotHold)
     for (const auto &row : tables) {
         Creator creator;
         creator.addTable("T", {{"A"}});
-        EXPECT_EQ(kalvenor::test::faultOf([&] { creator.addTable(row.name, row.columns, row.indexes); }), row.fault)
+        EXPECT_EQ(test::faultOf([&] { creator.addTable(row.name, row.columns, row.indexes); }), row.fault)
             << row.name.toStdString();
     }
 
@@ -392,9 +372,9 @@ TEST_F(CreatorTest, refusesWhatTheFormatCannotHold)
     for (const auto &row : values) {
         Creator creator;
         auto &table = creator.addTable("T", {row.column});
-        EXPECT_EQ(kalvenor::test::faultOf([&] { table.addRow({row.value}); }), Fault::ValueUnsuited)
+        EXPECT_EQ(test::faultOf([&] { table.addRow({row.value}); }), Fault::ValueUnsuited)
             << static_cast<int>(row.column.type);
-        EXPECT_EQ(kalvenor::test::faultOf([&] { table.addRow({}); }), Fault::Misuse);
+        EXPECT_EQ(test::faultOf([&] { table.addRow({}); }), Fault::Misuse);
         EXPECT_EQ(table.rowCount(), 0U);
     }
 
@@ -405,12 +385,12 @@ TEST_F(CreatorTest, refusesWhatTheFormatCannotHold)
         texts.push_back({QString(name), ColumnType::Text});
     auto &table = creator.addTable("T", texts);
     std::vector<NewValue> row(8, wide);
-    EXPECT_EQ(kalvenor::test::faultOf([&] { table.addRow(row); }), Fault::RowTooLong);
+    EXPECT_EQ(test::faultOf([&] { table.addRow(row); }), Fault::RowTooLong);
     row.back() = {};
     table.addRow(row);
     EXPECT_EQ(rowsOf(*written(creator), "T").size(), 1U);
-    EXPECT_EQ(kalvenor::test::faultOf([&] { table.addRow(row); }), Fault::Misuse) << "after the file was written";
-    EXPECT_EQ(kalvenor::test::faultOf([&] { creator.write(folder.filePath("none/x.mdb")); }), Fault::NotWritten);
+    EXPECT_EQ(test::faultOf([&] { table.addRow(row); }), Fault::Misuse) << "after the file was written";
+    EXPECT_EQ(test::faultOf([&] { creator.write(folder.filePath("none/x.mdb")); }), Fault::NotWritten);
 }
 
 std::string outputOf(const QString &program, const QStringList &arguments)

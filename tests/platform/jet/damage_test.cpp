@@ -4,6 +4,7 @@
 #include "jet3fixture.h"
 #include "platform/basic/error.h"
 #include "platform/jet/marks/markwriter.h"
+#include "support/errors.h"
 #include <array>
 #include <chrono>
 #include <QTemporaryDir>
@@ -57,38 +58,56 @@ Bytes jet3()
 
 /// The places of a sound database that the cases below damage.
 struct Places {
-    std::uint32_t definition, map, mapRow;
+    struct Spot {
+        std::size_t page, offset;
+    };
+    Spot catalogue{2, 0}, definition, map, firstPage, firstRecord, firstEnd, memo;
     RowPlace first, second, longChain;
 
     explicit Places(Pages &pages)
     {
         const auto table = Database::open(Image::fromBytes({}, pages.bytes()))->table(u"Daten"_s);
-        definition = table->definitionPage();
-        const std::uint32_t pointer = pages.get(definition, 55, 4);
-        map = pointer >> 8;
-        mapRow = pages.get(map, pages.slotAt(pointer & 0xff), 2) & 0x1fff;
+        definition = {table->definitionPage(), 0};
+        const std::uint32_t pointer = pages.get(definition.page, 55, 4);
+        map = {pointer >> 8, pages.get(pointer >> 8, pages.slotAt(pointer & 0xff), 2) & 0x1fff};
         first = table->place(0);
         second = table->place(1);
         longChain = table->place(9); // the tenth row has a memo over several rows
+        firstPage = {first.firstPage, 0};
+        firstRecord = {first.firstPage, first.recordStart};
+        firstEnd = {first.firstPage, std::size_t{first.recordStart} + first.recordLength};
+        memo = memoOf(pages, longChain);
+    }
+    static Spot memoOf(Pages &pages, const RowPlace &row)
+    {
+        return {row.firstPage, row.recordStart + pages.get(row.firstPage, row.recordStart + row.recordLength - 7U, 2)};
     }
 };
+
+using Damaging = std::function<void(Pages &, const Places &)>;
+
+Damaging put(Places::Spot Places::*spot, int offset, int size, std::uint32_t value)
+{
+    return [=](Pages &pages, const Places &at) {
+        pages.put((at.*spot).page, (at.*spot).offset + static_cast<std::size_t>(offset), size, value);
+    };
+}
 
 TEST(Damage, EachCaseEndsInItsErrorOrWarning)
 {
     const std::size_t all = readAllOf(persons()).rows;
     ASSERT_GT(all, 60U);
-    struct Case {
+    constexpr int secondColumn = 63 + 12 + 25;
+    constexpr int firstSlot = 14;
+    using P = Places;
+    const struct {
         const char *name;
         int error;        ///< 0: read with a warning
         int lost;         ///< rows
         const char *text; ///< a part of the error or the warnings
-        std::function<void(Pages &, const Places &)> damage;
-    };
-    const std::array<Case, 29> cases{{
-        {"catalogue page", 3343, 0, "page 2: DefinitionDamaged",
-         [](Pages &p, const Places &) {
-             p.at(2, 0) = 1;
-         }},
+        Damaging damage;
+    } cases[] = {
+        {"catalogue page", 3343, 0, "page 2: DefinitionDamaged", put(&P::catalogue, 0, 1, 1)},
         {"catalogue column", 3343, 0, "CatalogueDamaged",
          [](Pages &p, const Places &) {
              for (std::size_t at = 500; at < 2000; ++at) {
@@ -96,74 +115,26 @@ TEST(Damage, EachCaseEndsInItsErrorOrWarning)
                      p.at(2, at) = 'J';
              }
          }},
-        {"definition page kind", 3343, 0, "WordOtherPage",
-         [](Pages &p, const Places &at) {
-             p.at(at.definition, 0) = 1;
-         }},
+        {"definition page kind", 3343, 0, "WordOtherPage", put(&P::definition, 0, 1, 1)},
         {"definition loop", 3343, 0, "WordPageCircle",
          [](Pages &p, const Places &at) {
-             p.put(at.definition, 4, 4, at.definition);
+             p.put(at.definition.page, 4, 4, static_cast<std::uint32_t>(at.definition.page));
          }},
-        {"definition beyond the end", 3343, 0, "WordPageBeyondEnd",
-         [](Pages &p, const Places &at) {
-             p.put(at.definition, 4, 4, 99999);
-         }},
-        {"content length 0", 3343, 0, "WordLength",
-         [](Pages &p, const Places &at) {
-             p.put(at.definition, 8, 4, 0);
-         }},
-        {"content length", 3343, 0, "WordLength",
-         [](Pages &p, const Places &at) {
-             p.put(at.definition, 8, 4, 0xffffffff);
-         }},
-        {"content short", 3343, 0, "WordColumnsCut",
-         [](Pages &p, const Places &at) {
-             p.put(at.definition, 8, 4, 130);
-         }},
-        {"columns", 3343, 0, "WordColumnCount",
-         [](Pages &p, const Places &at) {
-             p.put(at.definition, 45, 2, 256);
-         }},
-        {"variable columns", 3343, 0, "WordVariableColumns",
-         [](Pages &p, const Places &at) {
-             p.put(at.definition, 43, 2, 200);
-         }},
-        {"indexes", 3343, 0, "WordIndexCount",
-         [](Pages &p, const Places &at) {
-             p.put(at.definition, 51, 4, 0x7fffffff);
-         }},
-        {"column type", 0, 0, "TypeUnknown (1, 14)",
-         [](Pages &p, const Places &at) {
-             p.at(at.definition, 63 + 12 + 25) = 14;
-         }},
-        {"column twice", 0, 0, "ColumnTwice",
-         [](Pages &p, const Places &at) {
-             p.at(at.definition, 63 + 12 + 25 + 5) = 0;
-         }},
-        {"fixed offset", 0, 0, "FieldBeyondRow",
-         [](Pages &p, const Places &at) {
-             p.put(at.definition, 63 + 12 + 21, 2, 0xfff0);
-         }},
-        {"map pointer", 3343, 0, "UsageMapMissing",
-         [](Pages &p, const Places &at) {
-             p.put(at.definition, 55, 4, 0xffffff00);
-         }},
-        {"map kind", 3343, 0, "UsageMapMissing",
-         [](Pages &p, const Places &at) {
-             p.at(at.map, at.mapRow) = 2;
-         }},
-        {"map first page", 0, 60, "RowsMissing (0, 60)",
-         [](Pages &p, const Places &at) {
-             p.put(at.map, at.mapRow + 1, 4, 0xfffffff8);
-         }},
-        {"slot count", 0, 14, "TooManyRows",
-         [](Pages &p, const Places &at) {
-             p.put(at.first.firstPage, 12, 2, 0xffff);
-         }},
-        {"slot in the slot table", 0, 14, "RowsWithoutPlace (0)",
-         [](Pages &p, const Places &at) {
-             p.put(at.first.firstPage, p.slotAt(0), 2, 15);
-         }},
+        {"definition beyond the end", 3343, 0, "WordPageBeyondEnd", put(&P::definition, 4, 4, 99999)},
+        {"content length 0", 3343, 0, "WordLength", put(&P::definition, 8, 4, 0)},
+        {"content length", 3343, 0, "WordLength", put(&P::definition, 8, 4, 0xffffffff)},
+        {"content short", 3343, 0, "WordColumnsCut", put(&P::definition, 8, 4, 130)},
+        {"columns", 3343, 0, "WordColumnCount", put(&P::definition, 45, 2, 256)},
+        {"variable columns", 3343, 0, "WordVariableColumns", put(&P::definition, 43, 2, 200)},
+        {"indexes", 3343, 0, "WordIndexCount", put(&P::definition, 51, 4, 0x7fffffff)},
+        {"column type", 0, 0, "TypeUnknown (1, 14)", put(&P::definition, secondColumn, 1, 14)},
+        {"column twice", 0, 0, "ColumnTwice", put(&P::definition, secondColumn + 5, 1, 0)},
+        {"fixed offset", 0, 0, "FieldBeyondRow", put(&P::definition, 63 + 12 + 21, 2, 0xfff0)},
+        {"map pointer", 3343, 0, "UsageMapMissing", put(&P::definition, 55, 4, 0xffffff00)},
+        {"map kind", 3343, 0, "UsageMapMissing", put(&P::map, 0, 1, 2)},
+        {"map first page", 0, 60, "RowsMissing (0, 60)", put(&P::map, 1, 4, 0xfffffff8)},
+        {"slot count", 0, 14, "TooManyRows", put(&P::firstPage, 12, 2, 0xffff)},
+        {"slot in the slot table", 0, 14, "RowsWithoutPlace (0)", put(&P::firstPage, firstSlot, 2, 15)},
         {"slot flag", 0, 1, "WordUnknownFlag",
          [](Pages &p, const Places &at) {
              p.put(at.first.firstPage, p.slotAt(1), 2, at.second.recordStart | 0x2000U);
@@ -177,7 +148,7 @@ TEST(Damage, EachCaseEndsInItsErrorOrWarning)
          [](Pages &p, const Places &at) {
              testing::makeOverflow(p, at.first, at.second);
              p.put(at.second.firstPage, p.slotAt(1), 2, at.second.recordStart);
-             p.put(at.first.firstPage, at.first.recordStart, 4, at.map << 8);
+             p.put(at.first.firstPage, at.first.recordStart, 4, static_cast<std::uint32_t>(at.map.page << 8));
          }},
         {"two rows with one record", 0, 2, "WordRecordTaken",
          [](Pages &p, const Places &at) {
@@ -186,49 +157,25 @@ TEST(Damage, EachCaseEndsInItsErrorOrWarning)
          }},
         {"one long value for all", 3343, 0, "LongValuesShared",
          [](Pages &p, const Places &at) {
-             const auto memoOf = [&p](const RowPlace &row) {
-                 return row.recordStart + p.get(row.firstPage, row.recordStart + row.recordLength - 7U, 2);
-             };
              const auto table = Database::open(Image::fromBytes({}, p.bytes()))->table(u"Daten"_s);
-             const std::size_t head = memoOf(at.longChain);
              for (std::uint32_t row = 0; row < table->rowCount(); ++row) {
+                 const Places::Spot memo = Places::memoOf(p, table->place(row));
                  for (std::size_t i = 0; i < 12; ++i)
-                     p.at(table->place(row).firstPage, memoOf(table->place(row)) + i) =
-                         p.at(at.longChain.firstPage, head + i);
+                     p.at(memo.page, memo.offset + i) = p.at(at.memo.page, at.memo.offset + i);
              }
          }},
-        {"record count", 0, 1, "WordOffsets",
-         [](Pages &p, const Places &at) {
-             p.put(at.first.firstPage, at.first.recordStart, 2, 7777);
-         }},
-        {"offsets descend", 0, 1, "WordOffsets",
-         [](Pages &p, const Places &at) {
-             const std::size_t end = at.first.recordStart + at.first.recordLength;
-             p.put(at.first.firstPage, end - 5, 2, 0x0fff);
-         }},
-        {"long value kind 3", 0, 0, "WordLongKind",
-         [](Pages &p, const Places &at) {
-             const std::size_t end = at.longChain.recordStart + at.longChain.recordLength;
-             const std::size_t memo = at.longChain.recordStart + p.get(at.longChain.firstPage, end - 7, 2);
-             p.at(at.longChain.firstPage, memo + 3) |= 0xc0;
-         }},
-        {"long value length", 0, 0, "WordLongTooShort",
-         [](Pages &p, const Places &at) {
-             const std::size_t end = at.longChain.recordStart + at.longChain.recordLength;
-             const std::size_t memo = at.longChain.recordStart + p.get(at.longChain.firstPage, end - 7, 2);
-             p.put(at.longChain.firstPage, memo, 4, 0x3fffffff);
-         }},
+        {"record count", 0, 1, "WordOffsets", put(&P::firstRecord, 0, 2, 7777)},
+        {"offsets descend", 0, 1, "WordOffsets", put(&P::firstEnd, -5, 2, 0x0fff)},
+        {"long value kind 3", 0, 0, "WordLongKind", put(&P::memo, 3, 1, 0xc0)},
+        {"long value length", 0, 0, "WordLongTooShort", put(&P::memo, 0, 4, 0x3fffffff)},
         {"long value loop", 0, 0, "WordLongCircle",
          [](Pages &p, const Places &at) {
-             const std::size_t end = at.longChain.recordStart + at.longChain.recordLength;
-             const std::size_t memo = at.longChain.recordStart + p.get(at.longChain.firstPage, end - 7, 2);
-             p.put(at.longChain.firstPage, memo, 4, 0x3fffffff);
-             const std::uint32_t row = p.get(at.longChain.firstPage, memo + 4, 4);
-             const std::size_t start = p.get(row >> 8, p.slotAt(row & 0xff), 2);
-             p.put(row >> 8, start, 4, row);
+             p.put(at.memo.page, at.memo.offset, 4, 0x3fffffff);
+             const std::uint32_t row = p.get(at.memo.page, at.memo.offset + 4, 4);
+             p.put(row >> 8, p.get(row >> 8, p.slotAt(row & 0xff), 2), 4, row);
          }},
-    }};
-    for (const Case &damaged : cases) {
+    };
+    for (const auto &damaged : cases) {
         SCOPED_TRACE(damaged.name);
         Pages pages(persons(), 4096);
         const Places places(pages);
@@ -251,43 +198,30 @@ TEST(Damage, OtherFilesAreRefusedByName)
             bytes[at] = static_cast<std::uint8_t>(value);
         return bytes;
     };
-    const Bytes text(20000, 'x');
     const struct {
         const char *name;
         Bytes bytes;
-        int error;
         const char *part;
     } cases[] = {
-        {"empty", {}, 3343, "FileTooShort (0)"},
-        {"two pages", Bytes(persons().begin(), persons().begin() + 8192), 3343, "FileTooShort (8192)"},
-        {"text", text, 3343, "OtherKindOfFile"},
-        {"ACE name", withHead({{13, 'A'}, {14, 'C'}, {15, 'E'}, {16, ' '}, {17, 'D'}, {18, 'B'}}), 3343, "AceFormat"},
-        {"version 2", withHead({{0x14, 2}}), 3343, "AceFormat"},
-        {"encoded without being it", withHead({{0x3e, persons()[0x3e] ^ 0x55}}), 3343, "NotDecoded"},
+        {"empty", {}, "FileTooShort (0)"},
+        {"two pages", Bytes(persons().begin(), persons().begin() + 8192), "FileTooShort (8192)"},
+        {"text", Bytes(20000, 'x'), "OtherKindOfFile"},
+        {"ACE name", withHead({{13, 'A'}, {14, 'C'}, {15, 'E'}, {16, ' '}, {17, 'D'}, {18, 'B'}}), "AceFormat"},
+        {"version 2", withHead({{0x14, 2}}), "AceFormat"},
+        {"encoded without being it", withHead({{0x3e, persons()[0x3e] ^ 0x55}}), "NotDecoded"},
     };
-    for (const auto &[name, bytes, error, part] : cases) {
+    for (const auto &[name, bytes, part] : cases) {
         SCOPED_TRACE(name);
         const QString file = folder.filePath(u"a.mdb"_s);
         testing::writeAll(file, bytes);
-        try {
-            Database::open(file);
-            ADD_FAILURE() << "was opened";
-        } catch (const basic::Error &found) {
-            EXPECT_EQ(found.number(), error);
-            EXPECT_EQ(found.place().file, file);
-            EXPECT_TRUE(QString(found.what()).contains(QLatin1String(part))) << found.what();
-        }
+        const auto found = test::thrownBy([&] { Database::open(file); });
+        ASSERT_TRUE(found) << "was opened";
+        EXPECT_EQ(found->number(), 3343);
+        EXPECT_EQ(found->place().file, file);
+        EXPECT_TRUE(QString(found->what()).contains(QLatin1String(part))) << found->what();
     }
-    const auto kindOf = [](const QString &file) {
-        try {
-            Database::open(file);
-        } catch (const basic::Error &error) {
-            return error.kind();
-        }
-        return basic::ErrorKind::Overflow;
-    };
-    EXPECT_EQ(kindOf(folder.filePath(u"none.mdb"_s)), basic::ErrorKind::FileNotFound);
-    EXPECT_EQ(kindOf(folder.path()), basic::ErrorKind::FileUnreadable);
+    EXPECT_EQ(test::kindOf([&] { Database::open(folder.filePath(u"none.mdb"_s)); }), basic::ErrorKind::FileNotFound);
+    EXPECT_EQ(test::kindOf([&] { Database::open(folder.path()); }), basic::ErrorKind::FileUnreadable);
 }
 
 TEST(Damage, EveryPrefixAndEveryHoleEndInAnErrorOrInAWarning)
@@ -324,25 +258,19 @@ TEST(Damage, AFileThatWasCutSaysHowMuchIsMissing)
     for (std::size_t i = 2 * (pages - 1); i > 7; --i) {
         const std::size_t left = i / 2;
         SCOPED_TRACE(left);
+        Bytes cut(persons().begin(), persons().begin() + static_cast<std::ptrdiff_t>(left * 4096));
+        cut.resize(i % 2 == 0 ? cut.size() : persons().size()); // a broken copy may keep the size
         std::shared_ptr<Database> database;
-        try {
-            Bytes bytes(persons().begin(), persons().begin() + static_cast<std::ptrdiff_t>(left * 4096));
-            bytes.resize(i % 2 == 0 ? bytes.size() : persons().size()); // a broken copy may keep the size
-            database = Database::open(Image::fromBytes({}, bytes));
-        } catch (const basic::Error &) {
+        if (test::thrownBy([&] { database = Database::open(Image::fromBytes({}, cut)); }))
             continue; // not even a catalogue
-        }
         EXPECT_GT(database->missingPages(), 0U);
         EXPECT_LE(database->missingPages(), pages - left);
-        try {
+        const basic::Fault refusal = test::faultOf([&] {
             const auto table = database->table(u"Daten"_s);
-            jet::MarkWriter(database, table, table->columnOf(u"Markierung"), 0);
-            ADD_FAILURE() << "would be written to";
-        } catch (const basic::Error &error) {
-            EXPECT_TRUE(error.fault() == basic::Fault::FileCutShort ||
-                        error.fault() == basic::Fault::IncompleteNotMarked)
-                << error.what();
-        }
+            MarkWriter(database, table, table->columnOf(u"Markierung"), 0);
+        });
+        EXPECT_TRUE(refusal == basic::Fault::FileCutShort || refusal == basic::Fault::IncompleteNotMarked)
+            << basic::nameOf(refusal);
     }
 }
 

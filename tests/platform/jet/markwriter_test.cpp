@@ -6,6 +6,7 @@
 #include "platform/jet/creator/creator.h"
 #include "platform/jet/marks/markwriter.h"
 #include "platform/jet/marks/pagelock.h"
+#include "support/errors.h"
 #include "support/faultystorage.h"
 #include <array>
 #include <bit>
@@ -58,13 +59,7 @@ int differentBits(const std::vector<std::uint8_t> &a, const std::vector<std::uin
 
 basic::Error errorOf(const std::function<void()> &action)
 {
-    try {
-        action();
-    } catch (const basic::Error &error) {
-        return error;
-    }
-    ADD_FAILURE() << "no error";
-    return basic::Error(basic::Fault::None);
+    return test::thrownBy(action).value_or(basic::Error(basic::Fault::None));
 }
 
 class MarkWriterTest : public ::testing::Test {
@@ -75,44 +70,32 @@ protected:
 
 TEST_F(MarkWriterTest, ChangesOneBitARowAndBackAgain)
 {
-    const auto persons = [this](std::uint32_t key, bool overflow) {
-        makePersons(m_file, 200, key);
-        if (!overflow)
-            return;
-        const Opened opened(m_file);
-        Pages pages = Pages::of(m_file, key);
-        testing::makeOverflow(pages, opened.table->place(0), opened.table->place(150));
-        testing::makeOverflow(pages, opened.table->place(199), opened.table->place(3));
-        pages.save(m_file);
-    };
-    const std::array<std::pair<const char *, std::function<void()>>, 5> cases{{
-        {"plain",
-         [&] {
-             persons(0, false);
-         }},
-        {"encoded",
-         [&] {
-             persons(Key, false);
-         }},
-        {"overflow",
-         [&] {
-             persons(0, true);
-         }},
-        {"overflow, encoded",
-         [&] {
-             persons(Key, true);
-         }},
-        {"Jet 3",
-         [&] {
-             testing::Jet3File file(1252);
-             for (int i = 1; i <= 5; ++i)
-                 file.addRow({i, i % 3 == 0, QByteArray(100 * i % 255, 'n'), QByteArray(70 * i % 255, 'o')});
-             testing::writeAll(m_file, file.bytes());
-         }},
-    }};
-    for (const auto &[name, make] : cases) {
+    const struct {
+        const char *name;
+        std::uint32_t key;
+        bool overflow;
+        bool isJet3;
+    } cases[] = {{"plain", 0, false, false},
+                 {"encoded", Key, false, false},
+                 {"overflow", 0, true, false},
+                 {"overflow, encoded", Key, true, false},
+                 {"Jet 3", 0, false, true}};
+    for (const auto &[name, key, overflow, isJet3] : cases) {
         SCOPED_TRACE(name);
-        make();
+        makePersons(m_file, 200, key);
+        if (overflow) {
+            const Opened opened(m_file);
+            Pages pages = Pages::of(m_file, key);
+            testing::makeOverflow(pages, opened.table->place(0), opened.table->place(150));
+            testing::makeOverflow(pages, opened.table->place(199), opened.table->place(3));
+            pages.save(m_file);
+        }
+        if (isJet3) {
+            testing::Jet3File file(1252);
+            for (int i = 1; i <= 5; ++i)
+                file.addRow({i, i % 3 == 0, QByteArray(100 * i % 255, 'n'), QByteArray(70 * i % 255, 'o')});
+            testing::writeAll(m_file, file.bytes());
+        }
         const auto before = readAll(m_file);
         const Opened opened(m_file);
         const std::uint32_t last = opened.table->rowCount() - 1;
@@ -141,62 +124,31 @@ TEST_F(MarkWriterTest, ChangesOneBitARowAndBackAgain)
 
 TEST_F(MarkWriterTest, RefusesWhatItMustNotWrite)
 {
-    const std::array<std::pair<basic::Fault, std::function<basic::Error()>>, 7> cases{{
-        {basic::Fault::NoYesNoColumn,
-         [&] {
-             makePersons(m_file, 3);
-             const Opened o(m_file);
-             return errorOf([&] { MarkWriter(o.database, o.table, o.counter, o.counter); });
-         }},
-        {basic::Fault::MarkColumnMissing,
-         [&] {
-             makePersons(m_file, 3);
-             const Opened o(m_file);
-             return errorOf([&] { MarkWriter(o.database, o.table, -1, o.counter); });
-         }},
-        {basic::Fault::KeyNotLong,
-         [&] {
-             makePersons(m_file, 3);
-             const Opened o(m_file);
-             return errorOf([&] { MarkWriter(o.database, o.table, o.mark, o.table->columnOf(u"Listname")); });
-         }},
-        {basic::Fault::MarkCalculated,
-         [&] {
-             makePersons(m_file, 3);
-             Pages pages = Pages::of(m_file);
-             const auto definition = Opened(m_file).table->definitionPage();
-             pages.at(definition, 63 + 12 + 2 * 25 + 16) = 0xc0;
-             pages.save(m_file);
-             return errorOf([&] { Opened(m_file).writer(); });
-         }},
-        {basic::Fault::ReadOnlyFile,
-         [&] {
-             makePersons(m_file, 3);
-             QFile::setPermissions(m_file, QFile::ReadOwner);
-             const basic::Error error = errorOf([&] { Opened(m_file).write({{0, true}}); });
-             QFile::setPermissions(m_file, QFile::ReadOwner | QFile::WriteOwner);
-             return error;
-         }},
-        {basic::Fault::ReadOnlyFolder,
-         [&] {
-             makePersons(m_file, 3);
-             QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::ExeOwner);
-             const basic::Error error = errorOf([&] { Opened(m_file).write({{0, true}}); });
-             QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-             return error;
-         }},
-        {basic::Fault::RowMissing,
-         [&] {
-             makePersons(m_file, 3);
-             return errorOf([&] { Opened(m_file).write({{0, true}, {3, true}}); });
-         }},
-    }};
-    for (const auto &[expected, refuse] : cases) {
-        const basic::Error error = refuse();
+    makePersons(m_file, 3);
+    const auto expect = [this](basic::Fault expected, const std::function<void()> &action) {
+        const basic::Error error = errorOf(action);
         EXPECT_EQ(error.fault(), expected) << basic::nameOf(expected) << ": " << error.what();
         EXPECT_TRUE(error.place().file.startsWith(m_file));
         EXPECT_FALSE(Opened(m_file).marks()[0]);
-    }
+    };
+    const auto columns = [this](int mark, int key) {
+        const Opened opened(m_file);
+        MarkWriter(opened.database, opened.table, mark, key);
+    };
+    expect(basic::Fault::NoYesNoColumn, [&] { columns(0, 0); });
+    expect(basic::Fault::MarkColumnMissing, [&] { columns(-1, 0); });
+    expect(basic::Fault::KeyNotLong, [&] { columns(2, 1); });
+    expect(basic::Fault::RowMissing, [&] { Opened(m_file).write({{0, true}, {3, true}}); });
+    QFile::setPermissions(m_file, QFile::ReadOwner);
+    expect(basic::Fault::ReadOnlyFile, [&] { Opened(m_file).write({{0, true}}); });
+    QFile::setPermissions(m_file, QFile::ReadOwner | QFile::WriteOwner);
+    QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::ExeOwner);
+    expect(basic::Fault::ReadOnlyFolder, [&] { Opened(m_file).write({{0, true}}); });
+    QFile::setPermissions(m_folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    Pages pages = Pages::of(m_file);
+    pages.at(Opened(m_file).table->definitionPage(), 63 + 12 + 2 * 25 + 16) = 0xc0;
+    pages.save(m_file);
+    expect(basic::Fault::MarkCalculated, [&] { Opened(m_file).writer(); });
 }
 
 TEST_F(MarkWriterTest, LeavesRowsThatCannotTakeAMark)
@@ -293,47 +245,19 @@ TEST_F(MarkWriterTest, RefusesAFileThatChangedSinceItWasRead)
 
 TEST_F(MarkWriterTest, ComparesEachPageWithTheFileBeforeItWrites)
 {
-    struct Case {
+    // The row to be marked is an overflow row whose record lies elsewhere. Bits of one byte are turned.
+    enum From { Page, Slot, Record, RecordEnd, OwnPlace };
+    const struct {
         const char *name;
-        std::function<void(Pages &, const RowPlace &, const RowPlace &)> tamper;
-    };
-    // The row to be marked is an overflow row; `first` is its own place, `record` that of its record.
-    const std::array<Case, 8> cases{{
-        {"page of another kind",
-         [](Pages &p, const RowPlace &, const RowPlace &r) {
-             p.at(r.firstPage, 0) = 5;
-         }},
-        {"page of another table",
-         [](Pages &p, const RowPlace &, const RowPlace &r) {
-             p.put(r.firstPage, 4, 4, 3);
-         }},
-        {"record moved",
-         [](Pages &p, const RowPlace &, const RowPlace &r) {
-             p.put(r.firstPage, p.slotAt(r.firstSlot), 2, (r.recordStart + 1U) | 0x8000U);
-         }},
-        {"record deleted",
-         [](Pages &p, const RowPlace &, const RowPlace &r) {
-             p.put(r.firstPage, p.slotAt(r.firstSlot), 2, r.recordStart | 0xc000U);
-         }},
-        {"another key",
-         [](Pages &p, const RowPlace &, const RowPlace &r) {
-             p.at(r.firstPage, r.recordStart + 2U) ^= 1;
-         }},
-        {"another mark",
-         [](Pages &p, const RowPlace &, const RowPlace &r) {
-             p.at(r.firstPage, r.recordStart + r.recordLength - 1U) ^= 4;
-         }},
-        {"another count",
-         [](Pages &p, const RowPlace &, const RowPlace &r) {
-             p.at(r.firstPage, r.recordStart) -= 1;
-         }},
-        {"overflow pointer changed",
-         [](Pages &p, const RowPlace &f, const RowPlace &) {
-             p.at(f.firstPage, f.recordStart) ^= 1;
-         }},
-    }};
+        From from;
+        std::size_t offset;
+        std::uint8_t bits;
+    } cases[] = {{"page of another kind", Page, 0, 4}, {"page of another table", Page, 4, 7},
+                 {"record moved", Slot, 0, 1},         {"record deleted", Slot, 1, 0x40},
+                 {"another key", Record, 2, 1},        {"another mark", RecordEnd, 0, 4},
+                 {"another count", Record, 0, 1},      {"overflow pointer changed", OwnPlace, 0, 1}};
     for (const std::uint32_t key : {0U, Key}) {
-        for (const Case &tampered : cases) {
+        for (const auto &tampered : cases) {
             SCOPED_TRACE(tampered.name);
             makePersons(m_file, 100, key);
             const Opened made(m_file);
@@ -344,7 +268,14 @@ TEST_F(MarkWriterTest, ComparesEachPageWithTheFileBeforeItWrites)
             pages.save(m_file);
             const Opened opened(m_file);
             ASSERT_EQ(opened.table->rowCount(), 99U);
-            tampered.tamper(pages, first, record);
+            const std::pair<std::size_t, std::size_t> starts[] = {
+                {record.firstPage, 0},
+                {record.firstPage, pages.slotAt(record.firstSlot)},
+                {record.firstPage, record.recordStart},
+                {record.firstPage, std::size_t{record.recordStart} + record.recordLength - 1},
+                {first.firstPage, first.recordStart}};
+            const auto &[page, start] = starts[tampered.from];
+            pages.at(page, start + tampered.offset) ^= tampered.bits;
             pages.save(m_file);
             // Without this the stamp alone would show the change.
             opened.database->image()->setStamp(Image::stampOf(m_file));
