@@ -7,6 +7,7 @@
 #include "platform/jet/marks/markwriter.h"
 #include "platform/jet/order/sortkey.h"
 #include "platform/jet/reader/database.h"
+#include "support/errors.h"
 #include "support/fixtures.h"
 #include <gtest/gtest.h>
 #include <QDateTime>
@@ -25,20 +26,6 @@ inline void PrintTo(basic::ErrorKind kind, std::ostream *out)
 } // namespace kalvenor
 
 namespace kalvenor::test {
-
-/// The kind of error that the work ends with, and what it says in logs for those who ask.
-template <class Work>
-std::optional<basic::ErrorKind> errorOf(Work work, QString *message = nullptr)
-{
-    try {
-        work();
-        return {};
-    } catch (const basic::Error &error) {
-        if (message != nullptr)
-            *message = QString::fromUtf8(error.what());
-        return error.kind();
-    }
-}
 
 /// A fresh family database for each test. In General order: Ärmel, Armin, Müller A, MÜLLER B, Muth, O'Brien, Weiß, zu
 /// Berg.

@@ -4,6 +4,7 @@
 #include "family.h"
 #include "platform/jet/reader/record.h"
 #include "support/faultystorage.h"
+#include "support/files.h"
 #include <algorithm>
 #include <array>
 #include <QDeadlineTimer>
@@ -25,9 +26,7 @@ protected:
             persons.push_back({.counter = i, .listname = u"Person %1"_s.arg(i), .marked = i % 10 != 0});
         file = folder.filePath(u"familie.mdb"_s);
         writeFamily(file, persons);
-        QFile in(file);
-        ASSERT_TRUE(in.open(QIODevice::ReadOnly));
-        original = in.readAll();
+        original = contentOf(file);
         const auto state = jet::Database::open(file);
         const auto table = state->table(u"Daten"_s);
         const jet::Column &mark = table->columns()[static_cast<std::size_t>(table->columnOf(u"Markierung"))];
@@ -47,8 +46,7 @@ protected:
     void restore()
     {
         engine.close();
-        QFile out(file);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly) && out.write(original) == original.size());
+        writeFile(file, original);
     }
     void restoreAndOpen()
     {
@@ -80,9 +78,7 @@ protected:
 
     void expectOnlyMarksDiffer() const
     {
-        QFile in(file);
-        ASSERT_TRUE(in.open(QIODevice::ReadOnly));
-        const QByteArray now = in.readAll();
+        const QByteArray now = contentOf(file);
         ASSERT_EQ(now.size(), original.size());
         for (qsizetype i = 0; i < now.size(); ++i) {
             if (now[i] != original[i]) {
@@ -149,7 +145,7 @@ TEST_F(Faults, MarksAreWholeOrAnErrorIsTold)
                 EXPECT_EQ(marked(), now) << "what is in memory is what the file says";
             };
             atEachCall(
-                storage, fault, [&] { restoreAndOpen(); }, [&] { error = errorOf(row.work); }, check);
+                storage, fault, [&] { restoreAndOpen(); }, [&] { error = kindOf(row.work); }, check);
         }
     }
 }
@@ -159,7 +155,7 @@ TEST_F(Faults, AnotherProgramMayWriteBeforeAnyCall)
     std::optional<basic::ErrorKind> error;
     dao::Execution done;
     const auto work = [&] {
-        error = errorOf([&] { done = database->execute(u"Update Daten SET Markierung = -1 ;"_s); });
+        error = kindOf([&] { done = database->execute(u"Update Daten SET Markierung = -1 ;"_s); });
     };
     const auto check = [&](Call) {
         expectOnlyMarksDiffer();
@@ -170,10 +166,8 @@ TEST_F(Faults, AnotherProgramMayWriteBeforeAnyCall)
             return;
         }
         QList<int> missing;
-        for (int i = 1; i <= 120; ++i) {
-            if (!now.contains(i))
-                missing << i;
-        }
+        for (int i = 1; i <= 120; ++i)
+            missing << (now.contains(i) ? QList<int>{} : QList<int>{i});
         // Its own two, where it came last.
         EXPECT_TRUE(missing.isEmpty() || missing == QList<int>{119} || missing == (QList<int>{10, 119}));
         EXPECT_EQ(std::ranges::adjacent_find(done.changedKeys), done.changedKeys.end()) << "nobody is told twice";
@@ -192,7 +186,7 @@ TEST_F(Faults, AnotherFileMayTakeItsPlaceBeforeAnyCall)
 {
     std::optional<basic::ErrorKind> error;
     const auto work = [&] {
-        error = errorOf([&] { (void)database->execute(u"Update Daten SET Markierung = -1 ;"_s); });
+        error = kindOf([&] { (void)database->execute(u"Update Daten SET Markierung = -1 ;"_s); });
     };
     const auto check = [&](Call struck) { // unnoticed only where it comes behind the last look
         EXPECT_TRUE(error || inFile().size() == 120 || struck == Call::State) << int(struck);
@@ -214,7 +208,7 @@ TEST_F(Faults, AnOpenedFileIsOneStateOfIt)
     for (const Fault fault : {Fault::OtherFirst, Fault::CutShort, Fault::Fails}) {
         std::optional<basic::ErrorKind> error;
         const auto open = [&] {
-            error = errorOf([&] { database = engine.openDatabase(file); });
+            error = kindOf([&] { database = engine.openDatabase(file); });
         };
         const auto check = [&](Call struck) {
             EXPECT_EQ(error.has_value(), fault == Fault::Fails && struck != Call::None);

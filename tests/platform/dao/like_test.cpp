@@ -3,7 +3,6 @@
 #include "family.h"
 #include "platform/jet/creator/creator.h"
 #include "platform/jet/order/like.h"
-#include <QFile>
 #include <random>
 
 using namespace Qt::StringLiterals;
@@ -36,36 +35,14 @@ protected:
                 text.emplace(u""_s);
                 for (auto length = random() % 5; length > 0; --length)
                     *text += pieces[random() % std::size(pieces)];
-                if (i % 100 == 50)
-                    text = Placeholder;
             }
             const jet::NewValue value = text ? jet::NewValue(*text) : jet::NewValue();
             table.addRow({jet::NewValue(i), value, value, value, jet::NewValue(i % 3 == 0)});
-            texts.push_back(text == Placeholder ? Switching : text);
+            texts.push_back(text);
         }
         const QString file = folder.filePath(u"namen.mdb"_s);
         creator.write(file);
-        switchModes(file);
         database = engine.openDatabase(file);
-    }
-
-    /// Puts text that changes between one and two bytes a character, which is never written so, in place of a
-    /// compressed text of the same size.
-    static void switchModes(const QString &name)
-    {
-        QFile file(name);
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-        QByteArray bytes = file.readAll();
-        ASSERT_GE(bytes.count("\xff\xfe"
-                              "QQQQQQQ"),
-                  Count / 100);
-        bytes.replace("\xff\xfe"
-                      "QQQQQQQ",
-                      QByteArray("\xff\xfe"
-                                 "M\0\x16\x04\0ox",
-                                 9));
-        file.seek(0);
-        file.write(bytes);
     }
 
     QList<int> numbers(const QString &condition) const
@@ -77,8 +54,6 @@ protected:
         return found;
     }
 
-    const QString Placeholder = u"QQQQQQQ"_s;
-    const QString Switching = u"MЖox"_s;
     QTemporaryDir folder;
     dao::Engine engine;
     std::shared_ptr<dao::Database> database;
@@ -87,12 +62,12 @@ protected:
 
 TEST_F(Names, AnswerLikeAsSqliteItselfWould)
 {
-    const QStringView patterns[] = {
-        u"*",     u"**",    u"",      u"?",       u"*?*",   u"#",        u"*#*",     u"müller*", u"*SCHMIDT*",
-        u"*o",    u"*[?]*", u"*[*]*", u"*[[]x]*", u"[!m]*", u"*[é-ë]*",  u"*[!a-z]", u"*ß*",     u"*αθ*",
-        u"*ж*",   u"*’*",   u"?ж*x",  u"mж[op]x", u"*%",    u"*''*",     u"????",    u"*😀*",     u"*Ā",
-        u"* , *", u"*e*e*", u"[]",    u"*ÿÿ?",    u"m*r*",  u"QQQQQQQ*", u"*[0-9]*", u"*[А-Я]*",
-    };
+    const QString tooLong(64, u'?'); // for the quick scan
+    const QStringView patterns[] = {u"*",       u"**",        u"",     u"?",     u"*?*",     u"#",       u"*#*",
+                                    u"müller*", u"*SCHMIDT*", u"*o",   u"*[?]*", u"*[*]*",   u"*[[]x]*", u"[!m]*",
+                                    u"*[é-ë]*", u"*[!a-z]",   u"*ß*",  u"*αθ*",  u"*ж*",     u"*’*",     u"?ж*",
+                                    u"*ж?ков",  u"*%",        u"*''*", u"????",  u"*😀*",     u"*Ā",      u"* , *",
+                                    u"*e*e*",   u"[]",        u"*ÿÿ?", u"m*r*",  u"*[0-9]*", u"*[А-Я]*", tooLong};
     int found = 0;
     for (const QStringView pattern : patterns) {
         QList<int> expected;

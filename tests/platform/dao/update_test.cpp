@@ -3,20 +3,13 @@
 #include "family.h"
 #include "platform/dao/sqltext.h"
 #include "platform/jet/creator/creator.h"
-#include <QFile>
+#include "support/files.h"
 
 using namespace Qt::StringLiterals;
 
 namespace kalvenor::test {
 
 namespace {
-
-QByteArray bytesOf(const QString &name)
-{
-    QFile in(name);
-    EXPECT_TRUE(in.open(QIODevice::ReadOnly));
-    return in.readAll();
-}
 
 TEST_F(Family, SetsMarksByStatement)
 {
@@ -110,7 +103,7 @@ TEST(SqlText, KnowsAnUpdateToOneValue)
 
 TEST_F(Family, ChangesNothingElse)
 {
-    const QByteArray before = bytesOf(file);
+    const QByteArray before = contentOf(file);
     const struct {
         const char *sql;
         basic::ErrorKind kind;
@@ -141,9 +134,9 @@ TEST_F(Family, ChangesNothingElse)
         {"VACUUM INTO '/tmp/x'", basic::ErrorKind::Refused},
     };
     for (const auto &row : cases) {
-        EXPECT_EQ(errorOf([&] { (void)database->execute(QString::fromUtf8(row.sql)); }), row.kind) << row.sql;
+        EXPECT_EQ(kindOf([&] { (void)database->execute(QString::fromUtf8(row.sql)); }), row.kind) << row.sql;
     }
-    EXPECT_EQ(bytesOf(file), before);
+    EXPECT_EQ(contentOf(file), before);
 }
 
 TEST_F(Family, EditsOneRow)
@@ -152,11 +145,11 @@ TEST_F(Family, EditsOneRow)
     const QString mark = u"markierung"_s;
     table->setIndex(u"Counter"_s);
     table->seekEqual(20);
-    EXPECT_EQ(errorOf([&] { table->setValue(mark, true); }), basic::ErrorKind::Refused);
-    EXPECT_EQ(errorOf([&] { (void)table->update(); }), basic::ErrorKind::Refused);
+    EXPECT_EQ(kindOf([&] { table->setValue(mark, true); }), basic::ErrorKind::Refused);
+    EXPECT_EQ(kindOf([&] { (void)table->update(); }), basic::ErrorKind::Refused);
     table->edit();
-    EXPECT_EQ(errorOf([&] { table->setValue(u"Vater"_s, true); }), basic::ErrorKind::Refused);
-    EXPECT_EQ(errorOf([&] { table->setValue(u"Nichts"_s, true); }), basic::ErrorKind::ColumnNotFound);
+    EXPECT_EQ(kindOf([&] { table->setValue(u"Vater"_s, true); }), basic::ErrorKind::Refused);
+    EXPECT_EQ(kindOf([&] { table->setValue(u"Nichts"_s, true); }), basic::ErrorKind::ColumnNotFound);
     table->setValue(mark, true);
     EXPECT_TRUE(table->update());
     EXPECT_EQ(marked(), (QList<int>{10, 20, 40, 60}));
@@ -167,10 +160,10 @@ TEST_F(Family, EditsOneRow)
     table->edit();
     table->setValue(mark, false);
     table->moveFirst(); // gives the edit up
-    EXPECT_EQ(errorOf([&] { (void)table->update(); }), basic::ErrorKind::Refused);
+    EXPECT_EQ(kindOf([&] { (void)table->update(); }), basic::ErrorKind::Refused);
     EXPECT_EQ(marked(), (QList<int>{10, 20, 40, 60}));
     table->seekEqual(99);
-    EXPECT_EQ(errorOf([&] { table->edit(); }), basic::ErrorKind::NoCurrentRow);
+    EXPECT_EQ(kindOf([&] { table->edit(); }), basic::ErrorKind::NoCurrentRow);
 }
 
 TEST_F(Family, WritesTheRightRowAfterAnotherProgramMovedIt)
@@ -191,7 +184,7 @@ TEST_F(Family, WritesTheRightRowAfterAnotherProgramMovedIt)
     table->setValue(u"Markierung"_s, false);
     persons.erase(persons.begin());
     writeFamily(file, persons);
-    EXPECT_EQ(errorOf([&] { (void)table->update(); }), basic::ErrorKind::ChangedElsewhere);
+    EXPECT_EQ(kindOf([&] { (void)table->update(); }), basic::ErrorKind::ChangedElsewhere);
     EXPECT_EQ(marked(), (QList<int>{60}));
 }
 
@@ -214,18 +207,18 @@ TEST_F(Family, RunsAnewWhereAnotherProgramCameBetween)
         markElsewhere(30, on = !on);
         return true;
     };
-    EXPECT_EQ(errorOf([&] { (void)database->execute(u"Update Daten SET Markierung = -1 ;"_s, alwaysBetween); }),
+    EXPECT_EQ(kindOf([&] { (void)database->execute(u"Update Daten SET Markierung = -1 ;"_s, alwaysBetween); }),
               basic::ErrorKind::ChangedElsewhere);
 }
 
 TEST_F(Family, StopsWritingWhereTheWatcherWishes)
 {
-    const QByteArray before = bytesOf(file);
-    EXPECT_EQ(errorOf([&] {
+    const QByteArray before = contentOf(file);
+    EXPECT_EQ(kindOf([&] {
                   (void)database->execute(u"Update Daten SET Markierung = 0 ;"_s, [](qint64, qint64) { return false; });
               }),
               basic::ErrorKind::Cancelled);
-    EXPECT_EQ(bytesOf(file), before);
+    EXPECT_EQ(contentOf(file), before);
     EXPECT_EQ(marked(), (QList<int>{10, 40, 60}));
 }
 
@@ -246,7 +239,7 @@ TEST(Update, NeedsAKeyOfWholeNumbers)
     for (int i = 0; i < 2; ++i)
         twice.addRow({jet::NewValue(1), jet::NewValue(false)});
     creator.write(file);
-    const QByteArray before = bytesOf(file);
+    const QByteArray before = contentOf(file);
     dao::Engine engine;
     const auto database = engine.openDatabase(file);
     const dao::Execution left = database->execute(u"UPDATE Twice SET Markierung = -1"_s);
@@ -254,14 +247,13 @@ TEST(Update, NeedsAKeyOfWholeNumbers)
     ASSERT_EQ(left.left.size(), 2U);
     EXPECT_TRUE(left.left[1].why == basic::Fault::KeyRepeated && left.left[1].key == 1);
     for (const char *table : {"NoKey", "TextKey", "NoMark"}) {
-        QString message;
         const QString name = QString::fromUtf8(table);
-        EXPECT_EQ(errorOf([&] { (void)database->execute(u"UPDATE %1 SET Markierung = -1"_s.arg(name)); }, &message),
-                  basic::ErrorKind::NotMarkable)
-            << table;
-        EXPECT_TRUE(message.contains(name) && message.contains(file)) << message.toStdString();
+        const auto error = thrownBy([&] { (void)database->execute(u"UPDATE %1 SET Markierung = -1"_s.arg(name)); });
+        ASSERT_TRUE(error) << table;
+        EXPECT_EQ(error->kind(), basic::ErrorKind::NotMarkable) << table;
+        EXPECT_TRUE(QString(error->what()).contains(name) && error->place().file == file) << error->what();
     }
-    EXPECT_EQ(bytesOf(file), before);
+    EXPECT_EQ(contentOf(file), before);
 }
 
 } // namespace
