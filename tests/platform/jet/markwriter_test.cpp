@@ -149,6 +149,13 @@ TEST_F(MarkWriterTest, RefusesWhatItMustNotWrite)
     pages.at(Opened(m_file).table->definitionPage(), 63 + 12 + 2 * 25 + 16) = 0xc0;
     pages.save(m_file);
     expect(basic::Fault::MarkCalculated, [&] { Opened(m_file).writer(); });
+
+    Creator creator;
+    const QString mark = u"Markierung"_s;
+    creator.addTable(u"Daten"_s, {{u"Counter"_s}, {mark, ColumnType::Boolean}}, {{mark, {mark}, false}})
+        .addRow({1, false});
+    creator.write(m_file);
+    expect(basic::Fault::MarkIndexed, [&] { Opened(m_file).writer(); });
 }
 
 TEST_F(MarkWriterTest, LeavesRowsThatCannotTakeAMark)
@@ -209,38 +216,6 @@ TEST_F(MarkWriterTest, LeavesRowsThatCannotTakeAMark)
         EXPECT_EQ(again.write({{1, false}}).size(), 1U);
         EXPECT_EQ(Opened(m_file).marks(), std::vector<bool>(3));
     }
-}
-
-TEST_F(MarkWriterTest, RefusesAnIndexedColumn)
-{
-    Creator creator;
-    const QString mark = u"Markierung"_s;
-    creator
-        .addTable(u"Daten"_s, {{.name = u"Counter"_s}, {.name = mark, .type = ColumnType::Boolean}},
-                  {{.name = mark, .columns = {mark}, .unique = false}})
-        .addRow({1, false});
-    creator.write(m_file);
-    const auto refused = [](const QString &file) {
-        const Opened opened(file);
-        const basic::Error error = errorOf([&] { opened.writer(); });
-        EXPECT_EQ(error.fault(), basic::Fault::MarkIndexed) << error.what();
-    };
-    refused(m_file);
-    SKIP_WITHOUT_SAMPLES();
-    refused(testing::sample(u"boolIndexJackcess.mdb"_s));
-}
-
-TEST_F(MarkWriterTest, RefusesAFileThatChangedSinceItWasRead)
-{
-    makePersons(m_file, 40);
-    const Opened first(m_file);
-    const Opened second(m_file);
-    EXPECT_EQ(first.write({{0, true}}).size(), 1U);
-    EXPECT_TRUE(second.database->isStale());
-    const auto before = readAll(m_file);
-    const basic::Error error = errorOf([&] { second.write({{1, true}}); });
-    EXPECT_EQ(error.kind(), basic::ErrorKind::ChangedElsewhere);
-    EXPECT_EQ(readAll(m_file), before);
 }
 
 TEST_F(MarkWriterTest, ComparesEachPageWithTheFileBeforeItWrites)

@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "support/files.h"
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <QByteArray>
 #include <QDir>
-#include <QFile>
 #include <QString>
 #include <QStringList>
 #include <span>
@@ -31,18 +30,13 @@ inline QStringList sampleDatabases()
 
 inline std::vector<std::uint8_t> readAll(const QString &file)
 {
-    QFile in(file);
-    EXPECT_TRUE(in.open(QIODevice::ReadOnly)) << file.toStdString();
-    const QByteArray bytes = in.readAll();
+    const QByteArray bytes = test::contentOf(file);
     return {bytes.begin(), bytes.end()};
 }
 
 inline void writeAll(const QString &file, std::span<const std::uint8_t> bytes)
 {
-    QFile out(file);
-    ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-    ASSERT_EQ(out.write(reinterpret_cast<const char *>(bytes.data()), static_cast<qint64>(bytes.size())),
-              static_cast<qint64>(bytes.size()));
+    test::writeFile(file, {reinterpret_cast<const char *>(bytes.data()), static_cast<qsizetype>(bytes.size())});
 }
 
 } // namespace kalvenor::testing
