@@ -29,13 +29,9 @@ constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 bool isUniform(const QImage &image)
 {
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != image.pixel(0, 0))
-                return false;
-        }
-    }
-    return true;
+    QImage other = image;
+    other.fill(image.pixelColor(0, 0));
+    return other == image;
 }
 
 /// Share of the pixels in which two pictures clearly differ.
