@@ -9,23 +9,6 @@
 
 using namespace kalvenor;
 
-TEST(Datenbankoeffnen, OpensFiveDatabasesAndAllTables)
-{
-    test::StartedProgram started({{.counter = 7, .listname = "Abel, Anna"}});
-    const auto &open = started.program.engine.databases();
-    QStringList files;
-    for (const auto &database : open)
-        files << QFileInfo(database->file()).fileName();
-    EXPECT_EQ(files.mid(2), QStringList({"Ereignis.mdb", "Geschichte.mdb", "namen.mdb", "orte.mdb"}));
-    EXPECT_EQ(open[1], started.program.databases.Familiendatenbank);
-
-    dao::Recordset &persons = *started.program.databases.Datentabelle;
-    persons.setIndex("Counter");
-    persons.seekEqual(7);
-    ASSERT_FALSE(persons.noMatch());
-    EXPECT_EQ(persons.value("LISTNAME").toString(), "Abel, Anna");
-}
-
 namespace {
 
 /// What the start says of an installation, and of which kind it is.

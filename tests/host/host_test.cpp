@@ -59,14 +59,6 @@ TEST_F(HostTest, ReadsSettings)
     EXPECT_EQ(host.inilesen(path("PROGRAMM.INI"), "Ansicht", "Sprache", "Deutsch"), "English");
 }
 
-TEST_F(HostTest, WritesSettingsAndIsSilentWhereItCannot)
-{
-    const Host host(path("Kalvenor"), desktop);
-    EXPECT_TRUE(host.inischreiben(path("neu.ini"), "Titel", "Fontname", u"Größe"_s));
-    EXPECT_EQ(host.inilesen(path("neu.ini"), "Titel", "Fontname", ""), u"Größe"_s);
-    EXPECT_FALSE(host.inischreiben(path("fehlt\\neu.ini"), "Titel", "Fontname", "Arial"));
-}
-
 TEST_F(HostTest, MapsDriveLetters)
 {
     const QString windows = folder.filePath(u"jürgen/windows"_s);

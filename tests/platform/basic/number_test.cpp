@@ -8,25 +8,12 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/basic/error.h"
 #include "platform/basic/text.h"
+#include "support/errors.h"
 
 using namespace kalvenor::basic;
 
-namespace {
-
-template <typename Work>
-std::optional<ErrorKind> errorOf(Work work)
-{
-    try {
-        work();
-    } catch (const Error &error) {
-        return error.kind();
-    }
-    return std::nullopt;
-}
-
-} // namespace
+using kalvenor::test::kindOf;
 
 TEST(Number, LeadingNumber)
 {
@@ -129,17 +116,17 @@ TEST(Number, Rounding)
         if (row.rounded)
             EXPECT_EQ(toInteger16(row.value), *row.rounded) << row.value;
         else
-            EXPECT_EQ(errorOf([&] { toInteger16(row.value); }), ErrorKind::Overflow) << row.value;
+            EXPECT_EQ(kindOf([&] { toInteger16(row.value); }), ErrorKind::Overflow) << row.value;
     }
     EXPECT_EQ(toLong32(2147483647.4), 2147483647);
-    EXPECT_EQ(errorOf([] { toLong32(2147483647.5); }), ErrorKind::Overflow);
+    EXPECT_EQ(kindOf([] { toLong32(2147483647.5); }), ErrorKind::Overflow);
     EXPECT_EQ(toLong32(-2147483648.5), std::numeric_limits<qint32>::min());
 
     EXPECT_EQ(toCurrency(.03125), .0312);
     EXPECT_EQ(toCurrency(.09375), .0938);
     EXPECT_EQ(toCurrency(-2.71828), -2.7183);
-    EXPECT_EQ(errorOf([] { toCurrency(922337203685478); }), ErrorKind::Overflow);
-    EXPECT_EQ(errorOf([] { toCurrency(std::nan("")); }), ErrorKind::Overflow);
+    EXPECT_EQ(kindOf([] { toCurrency(922337203685478); }), ErrorKind::Overflow);
+    EXPECT_EQ(kindOf([] { toCurrency(std::nan("")); }), ErrorKind::Overflow);
 }
 
 TEST(Number, WholeTextMustBeANumber)
@@ -148,9 +135,9 @@ TEST(Number, WholeTextMustBeANumber)
     EXPECT_EQ(textToInteger16(u"-2.5"), -2);
     EXPECT_EQ(textToInteger16(u"&H10"), 16);
     for (const char16_t *text : {u"", u" ", u"4 2", u"42x", u"x42", u"1e", u"&", u"&H", u"&17"})
-        EXPECT_EQ(errorOf([&] { textToInteger16(text); }), ErrorKind::TypeMismatch)
+        EXPECT_EQ(kindOf([&] { textToInteger16(text); }), ErrorKind::TypeMismatch)
             << QStringView(text).toUtf8().constData();
-    EXPECT_EQ(errorOf([] { textToInteger16(u"40000"); }), ErrorKind::Overflow);
+    EXPECT_EQ(kindOf([] { textToInteger16(u"40000"); }), ErrorKind::Overflow);
 }
 
 TEST(Text, Cutting)
@@ -170,8 +157,8 @@ TEST(Text, Cutting)
     EXPECT_EQ(padRight(u"abcde", 4), u"abcde");
 
     const auto refused = ErrorKind::InvalidProcedureCall;
-    EXPECT_EQ(errorOf([] { leftPart(u"abc", -1); }), refused);
-    EXPECT_EQ(errorOf([] { rightPart(u"abc", -1); }), refused);
-    EXPECT_EQ(errorOf([] { midPart(u"abc", 0); }), refused);
-    EXPECT_EQ(errorOf([] { midPart(u"abc", 1, -1); }), refused);
+    EXPECT_EQ(kindOf([] { leftPart(u"abc", -1); }), refused);
+    EXPECT_EQ(kindOf([] { rightPart(u"abc", -1); }), refused);
+    EXPECT_EQ(kindOf([] { midPart(u"abc", 0); }), refused);
+    EXPECT_EQ(kindOf([] { midPart(u"abc", 1, -1); }), refused);
 }

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The Kalvenor authors
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "platform/desktop/appicon.h"
 #include "platform/desktop/lineicon.h"
 #include "platform/desktop/pathdata.h"
 
@@ -74,17 +73,6 @@ TEST(LineIcon, EachIsADrawingOfItsOwnThatFollowsPaletteAndSize)
     }
     EXPECT_EQ(lineIcon(LineIcon::TextColor, Qt::green).pixmap({48, 48}, 1).toImage().pixelColor(24, 40), Qt::green);
     QGuiApplication::setPalette(before);
-}
-
-TEST(ApplicationIcon, ShowsThreePersonsOnAField)
-{
-    const QImage image = applicationIcon().pixmap({64, 64}, 1).toImage();
-    ASSERT_EQ(image.size(), QSize(64, 64));
-    EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0); // a round corner
-    EXPECT_EQ(image.pixelColor(8, 20), QColor("#1d5c78"));
-    EXPECT_EQ(image.pixelColor(16, 34), Qt::white);
-    EXPECT_EQ(image.pixelColor(32, 40), QColor("#f5b942"));
-    EXPECT_EQ(image.pixelColor(48, 24), Qt::white);
 }
 
 } // namespace
