@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selection/filter/filtern.h"
 
-#include "support/startedprogram.h"
 #include <gtest/gtest.h>
 
 using namespace kalvenor;
@@ -94,37 +93,4 @@ TEST(Filtern, TakesTheMonthFirstInTheUsOrder)
     };
     for (const auto &row : rows)
         EXPECT_EQ(filtern(row.filter, basic::DateOrder::MonthDayYear).queries[0], All + row.where + Unmarked);
-}
-
-TEST(Filtern, SelectsWhomItSays)
-{
-    test::StartedProgram started({
-        {.counter = 1, .listname = "Müller, Eva", .sex = "W", .birth = 100, .death = 767011, .changed = 50},
-        {.counter = 2, .listname = "muller, Max", .sex = "M", .birth = 767011, .death = 900, .birthXX = "XXX_______"},
-        {.counter = 3, .listname = "Bauer, Kim", .sex = "", .birth = 500, .death = 900, .changed = 100},
-    });
-    const struct {
-        Filter filter;
-        std::vector<int> counters; ///< in list order
-    } rows[] = {
-        {{}, {3, 1, 2}},
-        {{.Presse = "MÜLLER"}, {1}},
-        {{.Presse = "m?ller"}, {1, 2}},
-        {{.Geschlechtfilter = {0, 1}}, {1}},
-        {{.Geschlechtfilter = {1, 1}}, {3, 1, 2}},
-        // 100 is 9 April 1900, 200 is 18 July 1900
-        {dates({1, 0, 0}, "01-01-1900", "18-07-1900"), {1}},
-        {dates({1, 0, 0}, Empty, "18-07-1900"), {1}},
-        {dates({1, 0, 0}, Empty, Empty), {3, 1, 2}},
-        {dates({0, 1, 0}, "01-01-1901", "31-12-1903"), {3, 2}},
-        {dates({0, 0, 1}, "31-12-1899", "09-04-1900"), {3, 1}},
-    };
-    for (const auto &row : rows) {
-        const QString query = filtern(row.filter, German).queries[0];
-        const auto persons = started.program.databases.Familiendatenbank->openQuery(query);
-        std::vector<int> counters;
-        for (; !persons->eof(); persons->moveNext())
-            counters.push_back(persons->value("Counter").toInt());
-        EXPECT_EQ(counters, row.counters) << query.toStdString();
-    }
 }

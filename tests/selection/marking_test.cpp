@@ -46,14 +46,7 @@ TEST(MarkPersons, ChangesThoseThatDiffer)
     const std::vector<qint32> wanted{9, 5, 77, 1};
     EXPECT_EQ(unknownPersons(databases, wanted), std::vector<qint32>{77});
     EXPECT_EQ(markPersons(databases, wanted, true).changed, (std::vector<qint32>{1, 9}));
-    const auto marked = databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked));
-    EXPECT_EQ(marked->recordCount(), 3);
-
-    // The marks lie in the file: another program sees them.
-    test::FakeDesktop desktop;
-    app::Program other(started.programFolder(), desktop);
-    ASSERT_TRUE(other.Main());
-    EXPECT_EQ(other.databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Unmarked))->recordCount(), 0);
+    EXPECT_EQ(databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked))->recordCount(), 3);
 }
 
 TEST(MarkPersons, NamesThoseWhoKeepTheirMark)
@@ -179,14 +172,4 @@ TEST(MarkHistory, RestoresExactlyTheRowsThatChanged)
     history.undo(databases);
     history.undo(databases);
     EXPECT_EQ(marked(), std::vector<qint32>{9}) << "the step that was taken back before is forgotten";
-}
-
-TEST(MarkPersons, StopsWhenAsked)
-{
-    test::StartedProgram started(family());
-    const std::vector<qint32> wanted{1, 2};
-    EXPECT_THROW(markPersons(started.program.databases, wanted, true, {}, [](qint64, qint64) { return false; }),
-                 basic::Error);
-    EXPECT_EQ(started.program.databases.Familiendatenbank->openQuery(plainListQuery(PersonList::Marked))->recordCount(),
-              0);
 }

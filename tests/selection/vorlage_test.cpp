@@ -167,6 +167,8 @@ TEST_F(VorlageFile, RefusalsNameTheLineAndWhatIsWrong)
     EXPECT_TRUE(refusal().contains("TemplateMissing"));
     file = basic::NativePath(folder.path());
     EXPECT_TRUE(refusal().contains("WordIsFolder"));
+    file = basic::NativePath(folder.filePath("no/such/folder.kvl"));
+    EXPECT_EQ(test::faultOf([&] { writeVorlage(file, wholeVorlage()); }), basic::Fault::TemplateNotSaved);
 }
 
 TEST_F(VorlageFile, KeepsEveryDatabasePath)
@@ -177,12 +179,6 @@ TEST_F(VorlageFile, KeepsEveryDatabasePath)
         writeVorlage(file, vorlage);
         EXPECT_EQ(readVorlage(file).familienpfad.text(), path);
     }
-}
-
-TEST_F(VorlageFile, SaysThatItCannotBeWritten)
-{
-    file = basic::NativePath(folder.filePath("no/such/folder.kvl"));
-    EXPECT_EQ(test::faultOf([&] { writeVorlage(file, wholeVorlage()); }), basic::Fault::TemplateNotSaved);
 }
 
 TEST_F(VorlageFile, StaysWholeWhereSavingFails)
