@@ -121,7 +121,6 @@ TEST_F(DemoPersonsTest, ParentsExistAreOlderAndOfTheRightSex)
 TEST_F(DemoPersonsTest, ListNamesSayNameAndYears)
 {
     int living = 0;
-    int fischer = 0;
     const auto year = [](int date) {
         return date == UnknownDay ? u"?"_s : basic::formatDate(date, u"yyyy");
     };
@@ -132,10 +131,8 @@ TEST_F(DemoPersonsTest, ListNamesSayNameAndYears)
         living += row.death == UnknownDay && shown == birth ? 1 : 0;
         EXPECT_TRUE(shown == birth || shown == birth + u" +"_s + year(row.death)) << qPrintable(row.listname);
         EXPECT_EQ(basic::decodeAnsi(basic::encodeAnsi(row.listname)), row.listname);
-        fischer += row.surname == u"Fischer" ? 1 : 0;
     }
     EXPECT_GT(living, 200);
-    EXPECT_GT(fischer, 15) << "a family to look for";
 }
 
 TEST_F(DemoPersonsTest, LivesChangeOverTheCenturies)
@@ -145,10 +142,7 @@ TEST_F(DemoPersonsTest, LivesChangeOverTheCenturies)
         double days = 0;
     };
     std::map<int, Shape> centuries;
-    int sexless = 0;
-    int stillborn = 0;
     for (const Row &row : persons()) {
-        sexless += row.sex.isEmpty() ? 1 : 0;
         if (row.birth == UnknownDay)
             continue;
         Shape &shape = centuries[basic::formatDate(row.birth, u"yyyy").left(2).toInt()];
@@ -158,20 +152,11 @@ TEST_F(DemoPersonsTest, LivesChangeOverTheCenturies)
         ++shape.died;
         shape.days += row.death - row.birth;
         shape.infants += row.death - row.birth < 365 ? 1 : 0;
-        stillborn += row.death == row.birth ? 1 : 0;
     }
     for (const int century : {15, 16, 17, 18, 19})
         EXPECT_GT(centuries[century].died, 40) << century;
-    const auto infantsPercent = [&](int century) {
-        return 100 * centuries[century].infants / centuries[century].born;
-    };
-    EXPECT_GT(infantsPercent(17), 14);
-    EXPECT_LT(infantsPercent(17), 30);
-    EXPECT_LT(infantsPercent(19), infantsPercent(17) * 2 / 3);
+    EXPECT_LT(centuries[19].infants * centuries[17].born, centuries[17].infants * centuries[19].born * 2 / 3);
     EXPECT_GT(centuries[19].days / centuries[19].died, 1.2 * centuries[17].days / centuries[17].died);
-    EXPECT_GT(sexless, 2);
-    EXPECT_LT(sexless, 60);
-    EXPECT_GT(stillborn, 10);
 }
 
 } // namespace
