@@ -3,6 +3,7 @@
 // What mdb-export of mdbtools reads from a database equals what we read.
 #include "demo/host/demohost.h"
 #include "platform/basic/date.h"
+#include "platform/jet/creator/creator.h"
 #include "platform/jet/reader/database.h"
 #include "platform/jet/samples.h"
 #include <algorithm>
@@ -23,17 +24,23 @@ namespace {
 
 const QString NullText = u"\\N"_s;
 
+QString outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished(60'000);
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
+
 /// What mdb-export writes of a table, a row of fields each; the first one are the names.
 std::vector<QStringList> exported(const QString &file, const QString &table)
 {
-    const QString fieldEnd = u"\x1f|\x1f"_s, rowEnd = u"\x1e|\x1e"_s; // no text has these
-    QProcess process;
-    process.start("mdb-export", {"-Q", "-d", fieldEnd, "-R", rowEnd, "-0", NullText, "-b", "hex", "-D",
-                                 "%Y-%m-%d %H:%M:%S", "-T", "%Y-%m-%d %H:%M:%S", file, table});
-    process.waitForFinished(60'000);
-    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    const QString fieldEnd = u"\x1f|\x1f"_s, rowEnd = u"\x1e|\x1e"_s, day = u"%Y-%m-%d %H:%M:%S"_s; // in no text
     std::vector<QStringList> rows;
-    for (const QString &row : QString::fromUtf8(process.readAllStandardOutput()).split(rowEnd, Qt::SkipEmptyParts))
+    for (const QString &row : outputOf("mdb-export", {"-Q", "-d", fieldEnd, "-R", rowEnd, "-0", NullText, "-b", "hex",
+                                                      "-D", day, "-T", day, file, table})
+                                  .split(rowEnd, Qt::SkipEmptyParts))
         rows.push_back(row.split(fieldEnd));
     return rows;
 }
@@ -127,6 +134,33 @@ TEST_F(Mdbtools, ReadsTheDemonstrationHostAsWeDo)
     for (; files.hasNext(); ++compared)
         compareFile(files.next());
     EXPECT_EQ(compared, 7) << "family, four side databases, two language databases";
+}
+
+TEST_F(Mdbtools, ReadsWhatWeCreateAsWeDo)
+{
+    jet::Creator creator;
+    auto &table = creator.addTable("Größen",
+                                   {{"Counter", ColumnType::Long, 0, true, true},
+                                    {"Name", ColumnType::Text, 40},
+                                    {"Ja", ColumnType::Boolean},
+                                    {"Tag", ColumnType::DateTime},
+                                    {"Maß", ColumnType::Double},
+                                    {"Notiz", ColumnType::Memo}},
+                                   {{"Counter", {"Counter"}, true, true}, {"Name", {"Name"}, false}});
+    table.addRow({1, QString("Müller €"), true, 36526.25, -0.5, QString(5000, u'ä')});
+    table.addRow({-2, {}, false, {}, {}, QString("kurz")});
+    creator.addTable("Leer ", {{"A"}});
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("new.mdb");
+    for (const std::uint32_t key : {0U, 77U}) {
+        creator.write(file, key);
+        compareFile(file);
+        EXPECT_EQ(outputOf("mdb-tables", {"-1", file}), "Größen\nLeer \n");
+        const QString schema = outputOf("mdb-schema", {"--indexes", file, "postgres"});
+        for (const char *words : {"\"counter\"\t\t\tSERIAL", "VARCHAR (40)", "PRIMARY KEY (\"counter\")",
+                                  "INDEX \"größen_name_idx\" ON \"größen\" (\"name\")"})
+            EXPECT_TRUE(schema.contains(QString::fromUtf8(words))) << words << " in " << schema.toStdString();
+    }
 }
 
 TEST_F(Mdbtools, ReadsFilesOfOtherMakersAsWeDo)

@@ -11,8 +11,6 @@
 #include "support/fixtures.h"
 #include <algorithm>
 #include <cmath>
-#include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QUuid>
 
@@ -391,45 +389,6 @@ TEST_F(CreatorTest, refusesWhatTheFormatCannotHold)
     EXPECT_EQ(rowsOf(*written(creator), "T").size(), 1U);
     EXPECT_EQ(test::faultOf([&] { table.addRow(row); }), Fault::Misuse) << "after the file was written";
     EXPECT_EQ(test::faultOf([&] { creator.write(folder.filePath("none/x.mdb")); }), Fault::NotWritten);
-}
-
-std::string outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    EXPECT_TRUE(process.waitForFinished());
-    EXPECT_EQ(process.exitCode(), 0);
-    const QByteArray output = process.readAllStandardOutput();
-    return output.toStdString();
-}
-
-TEST_F(CreatorTest, isReadByMdbtools)
-{
-    if (QStandardPaths::findExecutable("mdb-export").isEmpty())
-        GTEST_SKIP() << "mdb-export is missing (apt-get install mdbtools)";
-    Creator creator;
-    auto &table = creator.addTable("Größen",
-                                   {{"Counter", ColumnType::Long, 0, true, true},
-                                    {"Name", ColumnType::Text, 40},
-                                    {"Ja", ColumnType::Boolean},
-                                    {"Tag", ColumnType::DateTime},
-                                    {"Maß", ColumnType::Double},
-                                    {"Notiz", ColumnType::Memo}},
-                                   {{"Counter", {"Counter"}, true, true}, {"Name", {"Name"}, false}});
-    table.addRow({1, QString("Müller €"), true, 36526.25, -0.5, QString(5000, u'ä')});
-    table.addRow({-2, {}, false, {}, {}, QString("kurz")});
-    creator.addTable("Leer ", {{"A"}});
-    for (const std::uint32_t key : {0U, 77U}) {
-        creator.write(file, key);
-        EXPECT_EQ(outputOf("mdb-tables", {"-1", file}), "Größen\nLeer \n");
-        EXPECT_EQ(outputOf("mdb-export", {"-T", "%Y-%m-%d %H:%M:%S", file, "Größen"}),
-                  "Counter,Name,Ja,Tag,Maß,Notiz\n1,\"Müller €\",1,\"2000-01-01 06:00:00\",-0.5,\"" +
-                      QString(5000, u'ä').toStdString() + "\"\n-2,,0,,,\"kurz\"\n");
-        const std::string schema = outputOf("mdb-schema", {"--indexes", file, "postgres"});
-        for (const char *words : {"\"counter\"\t\t\tSERIAL", "VARCHAR (40)", "PRIMARY KEY (\"counter\")",
-                                  "INDEX \"größen_name_idx\" ON \"größen\" (\"name\")"})
-            EXPECT_NE(schema.find(words), std::string::npos) << words << " in " << schema;
-    }
 }
 
 } // namespace
