@@ -5,8 +5,6 @@
 #include "demo/demofixture.h"
 #include "language/texts/catalogue.h"
 #include "platform/basic/error.h"
-#include "platform/basic/path.h"
-#include "platform/profile/profile.h"
 #include "support/errors.h"
 #include "support/files.h"
 #include <map>
@@ -108,20 +106,6 @@ TEST(DemoHost, AnyNumberOfPersonsMakesAWholeDatabase)
         EXPECT_EQ(table->rowCount(), static_cast<std::uint32_t>(persons));
         EXPECT_EQ(host.persons, persons);
     }
-}
-
-TEST_F(DemoTest, SettingsLeadToTheFiles)
-{
-    const QString settings = host().hostFolder + u"/programm.ini"_s;
-    const auto value = [&settings](const char *section, const char *key) {
-        return profile::getPrivateProfileString(section, key, "?", 256, settings);
-    };
-    EXPECT_EQ(value("Ansicht", "Sprache"), "Deutsch");
-    EXPECT_EQ(value("QV-Files", "0"), basic::windowsPath(host().familyDatabase).text().toLatin1());
-    EXPECT_EQ(value("Verzeichnisse", "Prints"),
-              basic::windowsPath(host().hostFolder + u"/Ausdrucke"_s).text().toLatin1());
-    EXPECT_TRUE(QDir(host().programFolder).exists());
-    EXPECT_EQ(kalvenor::test::contentOf(settings).count('\n'), kalvenor::test::contentOf(settings).count("\r\n"));
 }
 
 TEST_F(DemoTest, AllTablesOfAHostAreThere)
