@@ -134,7 +134,7 @@ TEST(Statistic, ABarLeadsToItsPersonsAndCanLeaveJustThemMarked)
     QTest::mouseClick(&chart, Qt::LeftButton, {}, bar);
     EXPECT_EQ(open.control<QTabWidget>("statistiktab").currentIndex(), StatisticsPanel::AgeList);
     EXPECT_EQ(open.lines(), (QStringList{" 71.2  Adler, Hans ", " 73.9  Claus, Ernst "}));
-    EXPECT_EQ(open.label("NurDiese_Text"), "Männer · Jahrhundert der Geburt 1800-99: 2 Personen");
+    EXPECT_EQ(open.label("NurDiese_Text"), "Männer · Jahrhundert der Geburt 1800-99: 2 Personen.");
     EXPECT_EQ(open.statistics().list().size(), 4U) << "what is printed stays whole";
     open.click<QPushButton>("GanzeListe");
     EXPECT_EQ(open.lines().size(), 4);
@@ -146,6 +146,9 @@ TEST(Statistic, ABarLeadsToItsPersonsAndCanLeaveJustThemMarked)
     figures.setCurrentIndex(figures.model()->index(0, 1));
     QTest::keyClick(&figures, Qt::Key_Return);
     EXPECT_EQ(open.lines(), (QStringList{"109.5  Bär, Eva ", " 66.0  Dorn, Ida "}));
+    open.window->statisticsPanel().setReadOnly(true);
+    EXPECT_FALSE(open.control<QPushButton>("NurDiese_markieren").isEnabled());
+    open.window->statisticsPanel().setReadOnly(false);
     open.click<QPushButton>("NurDiese_markieren");
     EXPECT_EQ(open.marked(), (Counters{2, 4}));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !open.control<QWidget>("NurDiese").isVisible(); }));
@@ -159,9 +162,10 @@ TEST(Statistic, TellsWhoIsLeftOutAndWhatToDoWhereNothingIsShown)
     persons[0].sex = "?";
     MarkedFamily open(persons);
     open.showTab(StatisticsPanel::Chart);
-    EXPECT_EQ(open.label("Ausgelassen"), "1 ohne Angabe des Geschlechts");
+    EXPECT_EQ(open.label("Ausgelassen"), "1 ohne Angabe des Geschlechts (nur bei „Alle“)");
     QStringList rows;
     open.desktop.dialogAnswer = [&](QDialog &dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Nicht berücksichtigt: 3, 1 ohne Angabe des Geschlechts (nur bei „Alle“)");
         auto &list = *dialog.findChild<QTableView *>("Ausgelassene");
         for (int row = 0; row < list.model()->rowCount(); ++row)
             rows << list.model()->index(row, 0).data().toString() + ": " +

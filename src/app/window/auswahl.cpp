@@ -38,8 +38,8 @@ using selection::PersonList;
 namespace {
 
 constexpr int SayMs = 8000;
-constexpr QSize FirstSize(1280, 760);
-constexpr int ListsShare = 52; ///< per cent of the width
+constexpr QSize FirstSize(80, 46); ///< in lines of text, so that names have room in any font
+constexpr int ListsShare = 52;     ///< per cent of the width
 constexpr int StackedShare = 42;
 const QString ListsKey = u"Listen"_s;
 const QString PanelsKey = u"Teiler"_s;
@@ -75,7 +75,7 @@ Auswahl::Auswahl(data::Session &session, QWidget *parent)
 
     m_controller.reloadLists();
     m_selection->listPanel(PersonList::Unmarked).view().setFocus();
-    resize(FirstSize);
+    resize(FirstSize * fontMetrics().height());
     restoreWindow(*this, session.host);
     giveFirstSizes();
     m_selection->setListSizes(keptSizes(ListsKey, m_selection->listSplitter().count(), session.host));
@@ -293,6 +293,7 @@ void Auswahl::updateState()
     actions.unmark->setEnabled(writable && m_selection->hasSelection(PersonList::Marked));
     actions.markAll->setEnabled(writable && count(PersonList::Unmarked) > 0);
     actions.unmarkAll->setEnabled(writable && count(PersonList::Marked) > 0);
+    m_statisticsPanel->setReadOnly(!writable);
     updateReportActions();
     m_panels.update(m_session, m_controller);
 }

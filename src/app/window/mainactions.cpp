@@ -78,7 +78,7 @@ void MainActions::makeStatistic()
     giveToolButton(preview, desktop::LineIcon::Preview, Text::PrintPreview, Text::ToolPreviewTip);
     giveToolButton(print, desktop::LineIcon::Print, Text::ToolPrint, Text::ToolPrintTip);
     giveToolButton(settings, desktop::LineIcon::Sliders, Text::PrintSettings, Text::ToolSettingsTip);
-    giveToolButton(exportFile, desktop::LineIcon::Save, Text::ToolExport, Text::ToolExportTip);
+    giveToolButton(exportFile, desktop::LineIcon::Export, Text::ToolExport, Text::ToolExportTip);
     quit->setIcon(desktop::lineIcon(desktop::LineIcon::Quit));
 
     QMenu *menu = makeMenu(Text::MenuStatistic, {openTemplate});

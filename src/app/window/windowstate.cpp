@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/window/windowstate.h"
 
+#include "host/windowplace.h"
 #include <algorithm>
 #include <array>
 #include <QGuiApplication>
@@ -15,8 +16,6 @@ namespace kalvenor::app {
 
 namespace {
 
-/// What a window manager puts around a window, at most.
-constexpr QSize WindowFrame(16, 48);
 const QString Section = u"Fenster"_s;
 const QString Maximized = u"Maximiert"_s;
 const std::array<QString, 4> Place{u"Links"_s, u"Oben"_s, u"Breite"_s, u"Hoehe"_s};
@@ -46,17 +45,15 @@ void restoreWindow(QMainWindow &window, const host::Host &host)
         numbers[i] = read(host, Place[i]).toInt(&isNumber);
         complete = complete && isNumber;
     }
-    if (complete) {
-        const QRect wanted(numbers[0], numbers[1], std::max(numbers[2], 1), std::max(numbers[3], 1));
-        const QScreen *screen = QGuiApplication::screenAt(wanted.center());
-        const QRect space = (screen != nullptr ? screen : window.screen())->availableGeometry();
-        window.resize(wanted.size().boundedTo(space.size()).expandedTo(window.minimumSizeHint()));
-        if (screen != nullptr)
-            window.move(wanted.topLeft());
-    } else {
-        const QSize room = window.screen()->availableSize() - WindowFrame;
-        window.resize(window.size().boundedTo(room));
-    }
+    const QRect kept(numbers[0], numbers[1], std::max(numbers[2], 1), std::max(numbers[3], 1));
+    const QScreen *screen = complete ? QGuiApplication::screenAt(kept.center()) : nullptr;
+    const QRect space = (screen != nullptr ? screen : window.screen())->availableGeometry();
+    QRect wanted = complete ? kept : QRect(space.topLeft(), window.size());
+    wanted.setSize(wanted.size().expandedTo(window.minimumSizeHint()));
+    const QRect place = host::fittedPlace(wanted, space);
+    window.resize(place.size().expandedTo(window.minimumSizeHint()));
+    if (screen != nullptr) // else where the window manager finds it best
+        window.move(place.topLeft());
     if (read(host, Maximized) == u"1")
         window.setWindowState(window.windowState() | Qt::WindowMaximized);
 }

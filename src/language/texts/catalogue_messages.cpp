@@ -68,16 +68,16 @@ constexpr CatalogueText Texts[] = {
      u"No folder is known for the drive %1. Name it in %2, section [Laufwerke]."},
     {Text::HostFolderTip, u"Der Ordner, in dem programm.ini liegt", u"The folder that holds programm.ini"},
     {Text::ChooseFamilyTip, u"Nur für diesmal; das Hauptprogramm behält seine eigene",
-     u"For this time only; the main program keeps its own"},
+     u"Just this once; the main program keeps its own"},
     {Text::MakeDemoTip, u"Ein Hauptprogramm mit einer erfundenen Familie, zum Ausprobieren",
      u"A main program with an invented family, to try things out"},
     {Text::WelcomeText,
      u"Wie alt sind sie geworden? Kalvenor liest die Familiendatenbank Ihres Genealogieprogramms. Sie wählen Personen "
      u"aus; daraus entstehen eine Grafik der Lebensalter, eine Altersliste und ein Bericht zum Drucken.",
-     u"How old did they grow? Kalvenor reads the family database of your genealogy program. You choose persons; from "
-     u"them come a chart of ages at death, an age list and a report to print."},
+     u"How long did they live? Kalvenor reads the family database of your genealogy program. Choose persons, and "
+     u"Kalvenor makes a chart, a list of ages and a report of them."},
     {Text::WelcomeSafe, u"In der Datenbank ändert Kalvenor nur, wer markiert ist.",
-     u"In the database Kalvenor changes nothing but who is marked."},
+     u"Kalvenor changes nothing in the database except which persons are marked."},
     {Text::HostsUsedLast, u"Zuletzt benutzt", u"Used recently"},
     {Text::WelcomeHeading, u"Willkommen bei Kalvenor", u"Welcome to Kalvenor"},
     // Help
@@ -118,7 +118,7 @@ constexpr CatalogueText Texts[] = {
     {Text::DateReadAs, u"%1 %2 wird als %3 gelesen, weil ein Datum auf diesem System %4 geschrieben wird",
      u"%1 %2 is read as %3, because dates on this system are %4"},
     {Text::LookedFor, u"Gesucht wurde %1.", u"Looked for %1."},
-    {Text::SeeCheck, u"Was vorhanden ist, sagt kalvenor check.", u"kalvenor check tells what is there."},
+    {Text::SeeCheck, u"Was vorhanden ist, sagt kalvenor check.", u"kalvenor check shows what was found."},
     {Text::PersonsUnknown, u"%1: Eine Person mit dem Counter %2 gibt es nicht; nichts wurde geändert.",
      u"%1: no person with Counter %2; nothing was changed."},
     {Text::NoWindowPossible, u"Es kann kein Fenster geöffnet werden: %1", u"No window can be opened: %1"},

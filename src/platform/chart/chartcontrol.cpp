@@ -158,7 +158,7 @@ QSize ChartControl::sizeHint() const
 
 QSize ChartControl::minimumSizeHint() const
 {
-    return QSize(14, 7) * fontMetrics().height();
+    return QSize(14, 4) * fontMetrics().height();
 }
 
 void ChartControl::paintEvent(QPaintEvent *)

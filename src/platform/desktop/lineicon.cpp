@@ -75,6 +75,7 @@ constexpr Drawing Drawings[] = {
     {LineIcon::AllDown, "M6 6L12 12L18 6M6 13L12 19L18 13"},
     {LineIcon::AllUp, "M6 18L12 12L18 18M6 11L12 5L18 11"},
     {LineIcon::Funnel, "M4 5H20L14 12.5V19L10 17V12.5Z"},
+    {LineIcon::Export, "M8 9H5V20H19V9H16M12 15V3M8 7L12 3L16 7"},
 };
 // clang-format on
 
@@ -85,7 +86,7 @@ constexpr bool inOrder()
         if (drawing.icon != static_cast<LineIcon>(place++))
             return false;
     }
-    return place == static_cast<std::size_t>(LineIcon::Funnel) + 1;
+    return place == static_cast<std::size_t>(LineIcon::Export) + 1;
 }
 static_assert(inOrder());
 

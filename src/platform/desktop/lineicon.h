@@ -51,6 +51,7 @@ enum class LineIcon {
     AllDown,
     AllUp,
     Funnel,
+    Export,
 };
 
 /// A line drawing, sharp at any size, in the colour that the palette gives to texts of buttons at that moment.

@@ -9,6 +9,7 @@
 #include "selection/panel/selectioncontroller.h"
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -41,8 +42,8 @@ QToolButton *headButton(QWidget *parent, const char *name, PersonList list)
 PersonListPanel::PersonListPanel(SelectionController &controller, PersonList list, QWidget *parent)
     : QWidget(parent), m_controller(controller), m_list(list), m_load(headButton(this, "Ladepersonenliste", list)),
       m_lift(headButton(this, "Filterloesen", list)), m_view(new PersonListView(controller.model(list), this)),
-      m_figures(new desktop::ElidedLabel(this)), m_empty(new QWidget(m_view->viewport())), m_why(new QLabel(m_empty)),
-      m_wayOn(new QPushButton(m_empty))
+      m_figures(new desktop::ElidedLabel(this)), m_empty(new QScrollArea(m_view->viewport())),
+      m_why(new QLabel(m_empty)), m_wayOn(new QPushButton(m_empty))
 {
     controller.model(list).setObjectName(numbered("Data", list));
     m_view->setObjectName(numbered("liste", list));
@@ -97,14 +98,21 @@ void PersonListPanel::makeEmptyState()
     m_why->setTextFormat(Qt::PlainText);
     m_why->setWordWrap(true);
     m_why->setAlignment(Qt::AlignCenter);
-    m_why->setForegroundRole(QPalette::PlaceholderText);
+    m_why->setForegroundRole(QPalette::Text); // on the ground of a list
     m_wayOn->setObjectName(numbered("Weiter", m_list));
     m_wayOn->setAutoDefault(false);
     m_wayOn->setCursor(Qt::ArrowCursor);
-    auto *column = new QVBoxLayout(m_empty);
+    auto *content = new QWidget;
+    auto *column = new QVBoxLayout(content);
     column->addWidget(m_why);
     column->addWidget(m_wayOn, 0, Qt::AlignHCenter);
     column->addStretch(1);
+    m_empty->setWidget(content);
+    m_empty->setWidgetResizable(true);
+    m_empty->setFrameShape(QFrame::NoFrame);
+    m_empty->setFocusPolicy(Qt::NoFocus);
+    for (QWidget *ground : {content, m_empty->viewport()})
+        ground->setAutoFillBackground(false); // the list's own shows
     auto *all = new QVBoxLayout(m_view->viewport());
     all->setContentsMargins(0, 0, 0, 0);
     all->addWidget(m_empty);

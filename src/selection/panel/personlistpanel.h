@@ -7,6 +7,7 @@
 
 class QLabel;
 class QPushButton;
+class QScrollArea;
 class QToolButton;
 
 namespace kalvenor::desktop {
@@ -51,7 +52,7 @@ private:
     QToolButton *m_load, *m_lift;
     PersonListView *m_view;
     desktop::ElidedLabel *m_figures;
-    QWidget *m_empty;
+    QScrollArea *m_empty; ///< low lists scroll it
     QLabel *m_why;
     QPushButton *m_wayOn;
 };

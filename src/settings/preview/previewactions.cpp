@@ -16,6 +16,7 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QToolBar>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -147,6 +148,10 @@ void PreviewActions::makeToolBars(QMainWindow &window)
     m_pages->addAction(larger);
     m_pages->addSeparator();
     m_pages->addAction(find);
+    for (const QToolBar *bar : {m_tools, m_pages}) {
+        for (QToolButton *button : bar->findChildren<QToolButton *>())
+            button->setFocusPolicy(Qt::TabFocus);
+    }
 }
 
 void PreviewActions::fitInto(int width)

@@ -237,6 +237,8 @@ void TextTools::arrange()
     addActions({m_undo, m_redo});
     addSeparator();
     addActions({m_open, m_save});
+    for (QWidget *button : {static_cast<QWidget *>(m_color), widgetForAction(m_open), widgetForAction(m_save)})
+        button->setFocusPolicy(Qt::TabFocus); // no key of their own
 }
 
 void TextTools::makeMenu()

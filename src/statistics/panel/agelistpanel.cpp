@@ -148,10 +148,24 @@ void AgeListPanel::showOnly(const QString &what, const Saeule &persons)
     if (const qint64 absent = count - m_model->rowCount(); absent > 0)
         text += u' ' + session.language.text(Text::NotInListCount).arg(locale.toString(absent));
     m_onlyWhat->setText(text);
-    m_markOnly->setEnabled(!m_others.empty());
+    updateMarkOnly();
     m_onlyBar->show();
     m_empty->showView();
     updateFigures();
+}
+
+void AgeListPanel::setReadOnly(bool readOnly)
+{
+    m_readOnly = readOnly;
+    updateMarkOnly();
+}
+
+void AgeListPanel::updateMarkOnly()
+{
+    m_markOnly->setEnabled(!m_readOnly && !m_others.empty());
+    data::Session &session = m_controller.session();
+    if (session.host.Kurzhilfe == 1)
+        m_markOnly->setToolTip(session.language.text(m_readOnly ? Text::ReadOnlyTip : Text::MarkOnlyTheseTip));
 }
 
 void AgeListPanel::focusFirst()

@@ -29,6 +29,8 @@ public:
     /// and ways to mark just them and to show the whole list again.
     void showOnly(const QString &what, const Saeule &persons);
     void focusFirst();
+    /// Nobody can be unmarked.
+    void setReadOnly(bool readOnly);
 
 Q_SIGNALS:
     /// A sex box was clicked.
@@ -45,6 +47,7 @@ private:
     QWidget *makeOnlyBar();
     /// How many lines there are, or why there are none.
     void updateFigures();
+    void updateMarkOnly();
     void showState();
 
     StatisticsController &m_controller;
@@ -55,6 +58,7 @@ private:
     QWidget *m_onlyBar; ///< visible while not the whole list is shown
     QLabel *m_onlyWhat;
     QPushButton *m_markOnly;
+    bool m_readOnly = false;
     std::vector<qint32> m_others; ///< marked, but not of the figure
     EmptyState *m_empty;
 };

@@ -4,6 +4,7 @@
 
 #include "language/forms/widgetform.h"
 #include "language/texts/sprache.h"
+#include "platform/desktop/elidedlabel.h"
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -24,7 +25,7 @@ constexpr int WideHeading = 2; ///< columns, where one figure stands for all gro
 } // namespace
 
 FiguresTable::FiguresTable(data::Session &session, QWidget *parent)
-    : QFrame(parent), m_session(session), m_who(new QPushButton(this))
+    : QFrame(parent), m_session(session), m_leftOut(new desktop::ElidedLabel(this)), m_who(new QPushButton(this))
 {
     language::setDesignText(this, Text::FiguresTip);
     setFrameShape(QFrame::StyledPanel);
@@ -46,11 +47,13 @@ FiguresTable::FiguresTable(data::Session &session, QWidget *parent)
     m_range = addFigure(*grid, Range, WideHeading, u"Altersspanne"_s, Text::FiguresRange);
     addHeading(*grid, LeftOut, 0, Text::FiguresLeftOut, WideHeading);
     m_withoutDate = addFigure(*grid, LeftOut, WideHeading, u"OhneDatum"_s, Text::FiguresLeftOut);
-    m_leftOut = addFigure(*grid, LeftOut + 1, 1, u"Ausgelassen"_s, Text::FiguresLeftOut);
-    m_leftOut->setWordWrap(true);
+    m_leftOut->setObjectName(u"Ausgelassen"_s);
+    m_leftOut->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_leftOut->setAccessibleDescription(session.language.text(Text::FiguresLeftOut));
+    grid->addWidget(m_leftOut, LeftOut + 1, 1, 1, GroupColumns);
     m_who->setObjectName(u"Auslassungen"_s);
     language::setDesignText(m_who, Text::LeftOutWho);
-    grid->addWidget(m_who, LeftOut + 1, 0, Qt::AlignLeft | Qt::AlignTop);
+    grid->addWidget(m_who, LeftOut + 1, 0, Qt::AlignLeft | Qt::AlignVCenter);
     for (int column = 0; column <= GroupColumns; ++column)
         grid->setColumnStretch(column, column == 0 ? 2 : 1);
     connect(m_who, &QPushButton::clicked, this, &FiguresTable::leftOutWanted);

@@ -11,6 +11,10 @@ class QGridLayout;
 class QLabel;
 class QPushButton;
 
+namespace kalvenor::desktop {
+class ElidedLabel;
+}
+
 namespace kalvenor::statistics {
 
 /// The figures below the chart: number and average of men, women and all, lowest and highest age, who is left out.
@@ -35,7 +39,7 @@ private:
     std::array<QLabel *, 3> m_averages{}; ///< the same
     QLabel *m_range;
     QLabel *m_withoutDate;
-    QLabel *m_leftOut; ///< the others who are left out, and how many of all are of unknown sex
+    desktop::ElidedLabel *m_leftOut; ///< the others who are left out, and how many of all are of unknown sex
     QPushButton *m_who;
 };
 

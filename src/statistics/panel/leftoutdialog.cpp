@@ -7,6 +7,7 @@
 #include "language/forms/widgetform.h"
 #include "language/texts/sprache.h"
 #include "statistics/panel/selectedlines.h"
+#include <algorithm>
 #include <array>
 #include <QAbstractTableModel>
 #include <QAction>
@@ -107,7 +108,7 @@ LeftOutDialog::LeftOutDialog(data::Session &session, const std::vector<Ausgelass
     language::formuebersetzen(*this, session.language, session.host);
     language::giveAccessKeys(*this);
     unsetCursor();
-    setWindowTitle(u"%1: %2"_s.arg(windowTitle(), language::anzeigesprache(session.host).toString(persons.size())));
+    setWindowTitle(titleText(session));
     connect(copy, &QAction::triggered, this, &LeftOutDialog::copy);
     connect(show, &QPushButton::clicked, this, &QDialog::accept);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
@@ -116,6 +117,18 @@ LeftOutDialog::LeftOutDialog(data::Session &session, const std::vector<Ausgelass
     m_view->selectRow(0);
     m_view->setFocus();
     new host::WindowPlace(*this, session.host, u"Auslassungen"_s, QSize(44, 26) * fontMetrics().height());
+}
+
+/// How many are not counted; who is counted under "all" alone is told apart, as among the figures.
+QString LeftOutDialog::titleText(data::Session &session) const
+{
+    const QLocale locale = language::anzeigesprache(session.host);
+    const auto all = static_cast<qint64>(m_persons.size());
+    const qint64 onlyUnderAll = std::ranges::count(m_persons, Auslassung::Geschlecht, &Ausgelassener::grund);
+    QString title = u"%1: %2"_s.arg(windowTitle(), locale.toString(all - onlyUnderAll));
+    if (onlyUnderAll > 0)
+        title += u", "_s + session.language.text(Text::UnknownSexCount).arg(locale.toString(onlyUnderAll));
+    return title;
 }
 
 qint32 LeftOutDialog::chosen() const

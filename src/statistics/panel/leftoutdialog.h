@@ -20,6 +20,7 @@ public:
     qint32 chosen() const;
 
 private:
+    QString titleText(data::Session &session) const;
     void copy() const;
 
     const std::vector<Ausgelassener> &m_persons;

@@ -214,6 +214,11 @@ void StatisticsPanel::personsChanged()
         m_notice->show();
 }
 
+void StatisticsPanel::setReadOnly(bool readOnly)
+{
+    m_list->setReadOnly(readOnly);
+}
+
 void StatisticsPanel::tabChosen()
 {
     if (m_tabs->currentIndex() == AgeList)

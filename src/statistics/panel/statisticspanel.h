@@ -47,6 +47,8 @@ public:
     bool computeOutdated();
     /// Marks or persons have changed: what is shown is computed soon.
     void personsChanged();
+    /// Nobody can be unmarked.
+    void setReadOnly(bool readOnly);
 
 Q_SIGNALS:
     void said(const QString &text);
